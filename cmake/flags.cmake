@@ -1,0 +1,32 @@
+# The compiler's and linker's options, carried by the interface target quilltune_flags.
+add_library(quilltune_flags INTERFACE)
+
+# Includes are written from the project's folder.
+target_include_directories(quilltune_flags INTERFACE ${CMAKE_SOURCE_DIR})
+
+# A catalogue row names only the fields it sets; the others have their defaults, which is the point of such a row.
+target_compile_options(quilltune_flags INTERFACE -Wall -Wextra -Werror -Wno-missing-field-initializers)
+
+if(WIN32)
+    # Windows 2000 is the oldest system: its headers hide whatever came later.
+    target_compile_definitions(quilltune_flags INTERFACE
+        UNICODE _UNICODE WINVER=0x0500 _WIN32_WINNT=0x0500 _WIN32_IE=0x0500 NOMINMAX)
+    target_compile_options(quilltune_flags INTERFACE -ffunction-sections -fdata-sections)
+
+    # The oldest x86_64 Windows reports 5.2.
+    if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+        set(MinorVersion 2)
+    else()
+        set(MinorVersion 0)
+    endif()
+    target_link_options(quilltune_flags INTERFACE
+        -static
+        -Wl,--gc-sections
+        -Wl,--major-os-version=5,--minor-os-version=${MinorVersion}
+        -Wl,--major-subsystem-version=5,--minor-subsystem-version=${MinorVersion}
+        -Wl,--dynamicbase,--nxcompat)
+else()
+    target_compile_options(quilltune_flags INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(quilltune_flags INTERFACE -fsanitize=address,undefined)
+endif()
