@@ -1,0 +1,149 @@
+#include "ui/controls.h"
+
+#include "ui/containers.h"
+#include "ui/design.h"
+#include "ui/form.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A form with one group of controls whose events are written down.
+class TControls : public testing::Test {
+  protected:
+    TControls() : Form(L"Form", L"TForm") {
+        Form.Build(Form, Group(L"Group", L"", {
+            CheckBox(L"Box", L"Box"),
+            RadioButton(L"First", L"First"),
+            RadioButton(L"Second", L"Second").Checked(),
+            Edit(L"Edit", L"x"),
+            UpDown(L"UpDown", L"Edit", 1, 100, 10),
+            TrackBar(L"Track", 0, 10, 5),
+            ComboBox(L"Combo", {L"a", L"b", L"c"}),
+        }));
+        Form.Build(Form, Group(L"Other", L"", {RadioButton(L"Elsewhere", L"Elsewhere").Checked()}));
+        const TNotifyEvent note = [this](TComponent& sender) { Fired.push_back(sender.Name()); };
+        Get<TCheckBox>(L"Box").OnClick = note;
+        for (const wchar_t* radio : {L"First", L"Second", L"Elsewhere"}) Get<TRadioButton>(radio).OnClick = note;
+        Get<TEdit>(L"Edit").OnChange = note;
+        Get<TUpDown>(L"UpDown").OnChange = note;
+        Get<TTrackBar>(L"Track").OnChange = note;
+        Get<TComboBox>(L"Combo").OnChange = note;
+    }
+
+    template <typename T>
+    T& Get(const wchar_t* name) {
+        return *Form.Find<T>(name);
+    }
+
+    std::vector<std::wstring> TakeFired() { return std::exchange(Fired, {}); }
+
+    using TNames = std::vector<std::wstring>;
+    TForm Form;
+    TNames Fired;
+};
+
+TEST_F(TControls, FireWhenTheStateChangesAndOnlyThen) {
+    Get<TCheckBox>(L"Box").SetChecked(false);
+    Get<TTrackBar>(L"Track").SetPosition(5);
+    Get<TComboBox>(L"Combo").SetItemIndex(-1);
+    EXPECT_EQ(TakeFired(), TNames{});
+
+    Get<TCheckBox>(L"Box").SetChecked(true);
+    Get<TTrackBar>(L"Track").SetPosition(99);
+    Get<TComboBox>(L"Combo").SetItemIndex(2);
+    EXPECT_EQ(TakeFired(), (TNames{L"Box", L"Track", L"Combo"}));
+    EXPECT_EQ(Get<TTrackBar>(L"Track").Position(), 10);
+
+    Get<TTrackBar>(L"Track").SetPosition(11);  // still the upper bound
+    EXPECT_EQ(TakeFired(), TNames{});
+}
+
+TEST_F(TControls, RadioButtonsClearTheirSiblingsSilently) {
+    Get<TRadioButton>(L"First").SetChecked(true);
+    EXPECT_EQ(TakeFired(), TNames{L"First"});
+    EXPECT_FALSE(Get<TRadioButton>(L"Second").Checked());
+    EXPECT_TRUE(Get<TRadioButton>(L"Elsewhere").Checked()) << "a button of another parent is no sibling";
+}
+
+TEST_F(TControls, AnUpDownAndItsEditFollowEachOther) {
+    EXPECT_EQ(Get<TEdit>(L"Edit").Text(), L"10") << "the edit shows the position from the start";
+
+    Get<TUpDown>(L"UpDown").SetPosition(20);
+    EXPECT_EQ(Get<TEdit>(L"Edit").Text(), L"20");
+    EXPECT_EQ(TakeFired(), (TNames{L"Edit", L"UpDown"}));
+
+    struct TCase {
+        const wchar_t* Text;
+        int Position;
+    };
+    for (const TCase& c : {TCase{L"35", 35}, {L"", 35}, {L"0", 35}, {L"101", 35}, {L"4x", 35},
+                           {L"99999999999999999999", 35}, {L"007", 7}}) {
+        Get<TEdit>(L"Edit").SetText(c.Text);
+        EXPECT_EQ(Get<TUpDown>(L"UpDown").Position(), c.Position) << testing::PrintToString(c.Text);
+        EXPECT_EQ(Get<TEdit>(L"Edit").Text(), c.Text) << "what the user typed stays";
+        EXPECT_EQ(TakeFired(), TNames{L"Edit"}) << "only the edit's own event";
+    }
+}
+
+TEST_F(TControls, ListsKeepTheirSelectionWhenItemsAreRenamed) {
+    auto& combo = Get<TComboBox>(L"Combo");
+    combo.SetItemIndex(1);
+    TakeFired();
+    combo.SetItem(1, L"B");
+    combo.SetItem(9, L"nowhere");
+    EXPECT_EQ(combo.ItemIndex(), 1);
+    EXPECT_EQ(combo.Items()[1], L"B");
+    combo.Reinitialise();
+    EXPECT_EQ(combo.ItemIndex(), 0);
+    EXPECT_EQ(TakeFired(), TNames{});
+    combo.SetItemIndex(3);
+    EXPECT_EQ(combo.ItemIndex(), -1) << "no item, no choice";
+}
+
+TEST_F(TControls, AnEditFiresItsExitWhenTheFocusLeaves) {
+    auto& edit = Get<TEdit>(L"Edit");
+    int exits = 0;
+    edit.OnExit = [&](TComponent&) { ++exits; };
+    edit.OnKeyPress = [](wchar_t key) { return key == L'1'; };
+    edit.SetFocused(true);
+    edit.SetFocused(true);
+    edit.SetFocused(false);
+    edit.SetFocused(false);
+    EXPECT_EQ(exits, 1);
+    EXPECT_TRUE(edit.AcceptsKey(L'1'));
+    EXPECT_FALSE(edit.AcceptsKey(L'x'));
+}
+
+TEST(TFormTest, RefusesTwoComponentsOfOneName) {
+    TForm form(L"Form", L"TForm");
+    form.Build(form, CheckBox(L"Box", L""));
+    EXPECT_THROW(form.Build(form, CheckBox(L"Box", L"")), std::logic_error);
+    EXPECT_EQ(form.Find<TRadioButton>(L"Box"), nullptr) << "found by name, but of another type";
+}
+
+TEST(TFormTest, NotebooksAndTabsShowOneOfTheirs) {
+    TForm form(L"Form", L"TForm");
+    form.Build(form, Notebook(L"Book", {
+        NotebookPage(1, {}),
+        NotebookPage(2, {PageControl(L"Tabs", {Sheet(L"A", L"A", {}), Sheet(L"B", L"B", {})})}),
+    }));
+    auto& book = *form.Find<TNotebook>(L"Book");
+    book.ShowPage(L"1");
+    book.ShowPage(L"2");
+    book.ShowPage(L"3");
+    EXPECT_FALSE(form.Find(L"1")->Visible());
+    EXPECT_TRUE(form.Find(L"2")->Visible());
+
+    auto& tabs = *form.Find<TPageControl>(L"Tabs");
+    auto& a = *form.Find<TTabSheet>(L"A");
+    auto& b = *form.Find<TTabSheet>(L"B");
+    EXPECT_EQ(tabs.ActiveSheet(), &a);
+    tabs.SetActiveSheet(b);
+    tabs.SetTabVisible(b, false);
+    EXPECT_EQ(tabs.ActiveSheet(), &a) << "a sheet without a tab cannot be the chosen one";
+    tabs.SetTabVisible(a, false);
+    EXPECT_EQ(tabs.ActiveSheet(), nullptr);
+}
+
+}  // namespace

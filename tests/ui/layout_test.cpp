@@ -1,0 +1,126 @@
+#include "ui/layout.h"
+
+#include "ui/design.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace {
+
+/// Letters of 6 by 13 pixels at 96 dots per inch, wrapped anywhere.
+class TFixedMetrics : public TLayoutMetrics {
+  public:
+    explicit TFixedMetrics(int dotsPerInch) : FDotsPerInch(dotsPerInch) {}
+
+    TSize TextSize(const std::wstring& caption, int maxWidth) const override {
+        const int width = static_cast<int>(caption.size()) * Scale(6);
+        const int lines = maxWidth > 0 ? (width + maxWidth - 1) / maxWidth : 1;
+        return {std::min(width, maxWidth), std::max(1, lines) * Scale(13)};
+    }
+    int Scale(int distance) const override { return distance * FDotsPerInch / 96; }
+
+  private:
+    int FDotsPerInch;
+};
+
+class TLaidOut {
+  public:
+    TLaidOut(TDesigns designs, const TRect& area, int dotsPerInch = 96) : FForm(L"Form", L"TForm") {
+        for (const TControlDesign& design : designs) FForm.Build(FForm, design);
+        const TFixedMetrics metrics(dotsPerInch);
+        TLayout(FForm, metrics).Arrange(FForm, area, [this](TControl& control, const TRect& place) {
+            EXPECT_TRUE(FPlaces.emplace(control.Name(), place).second) << "placed twice";
+        });
+    }
+
+    const TRect& operator[](const std::wstring& name) const { return FPlaces.at(name); }
+    bool Has(const std::wstring& name) const { return FPlaces.contains(name); }
+
+    static int Right(const TRect& rect) { return rect.Left + rect.Width; }
+    static int Bottom(const TRect& rect) { return rect.Top + rect.Height; }
+
+    /// No control may touch another one, but for a group box, which contains its own.
+    void ExpectNoOverlap() const {
+        for (const auto& [name, a] : FPlaces) {
+            for (const auto& [other, b] : FPlaces) {
+                if (name >= other || IsGroup(name) || IsGroup(other)) continue;
+                const bool apart = Right(a) <= b.Left || Right(b) <= a.Left || Bottom(a) <= b.Top || Bottom(b) <= a.Top;
+                EXPECT_TRUE(apart) << testing::PrintToString(name) << " and " << testing::PrintToString(other);
+            }
+        }
+    }
+
+  private:
+    bool IsGroup(const std::wstring& name) const { return FForm.Find(name)->Kind() == TComponentKind::GroupBox; }
+
+    TForm FForm;
+    std::map<std::wstring, TRect> FPlaces;
+};
+
+TDesigns SettingsSheet() {
+    return {
+        Group(L"Group", L"A group", {
+            CheckBox(L"Short", L"Short"),
+            CheckBox(L"Long", std::wstring(120, L'x')),
+            Indent({RadioButton(L"Inner", L"Depends on the box above")}),
+            Fields({
+                Row({Label(L"LabelA", L"A"), Edit(L"EditA").Width(5), UpDown(L"UpDownA", L"EditA", 0, 9, 0)}),
+                Row({Label(L"LabelB", L"A longer label"), ComboBox(L"ComboB", {L"one", L"two"})}),
+            }),
+        }),
+        CheckBox(L"Hidden", L"Hidden").Hidden(),
+        Buttons({Button(L"Default", L"Default")}),
+    };
+}
+
+TEST(TLayoutTest, KeepsControlsApartAndInside) {
+    for (const int dotsPerInch : {96, 120, 144, 192}) {
+        for (const int width : {300, 520}) {
+            const TRect area{11, 11, width * dotsPerInch / 96, 400 * dotsPerInch / 96};
+            const TLaidOut laidOut(SettingsSheet(), area, dotsPerInch);
+            laidOut.ExpectNoOverlap();
+            const TRect& group = laidOut[L"Group"];
+            EXPECT_EQ(group.Width, area.Width);
+            for (const wchar_t* name : {L"Short", L"Long", L"Inner", L"LabelA", L"UpDownA", L"ComboB"}) {
+                const TRect& place = laidOut[name];
+                EXPECT_GT(place.Left, group.Left);
+                EXPECT_LT(TLaidOut::Right(place), TLaidOut::Right(group)) << testing::PrintToString(name);
+                EXPECT_LT(TLaidOut::Bottom(place), TLaidOut::Bottom(group)) << testing::PrintToString(name);
+            }
+            EXPECT_FALSE(laidOut.Has(L"Hidden"));
+        }
+    }
+}
+
+TEST(TLayoutTest, LinesUpWhatBelongsTogether) {
+    const TLaidOut laidOut(SettingsSheet(), {0, 0, 400, 400});
+    EXPECT_EQ(laidOut[L"EditA"].Left, laidOut[L"ComboB"].Left) << "fields begin in one column";
+    EXPECT_EQ(laidOut[L"UpDownA"].Left, TLaidOut::Right(laidOut[L"EditA"])) << "arrows cling to their edit";
+    EXPECT_GT(laidOut[L"Inner"].Left, laidOut[L"Long"].Left) << "what depends on a box is set in";
+    EXPECT_EQ(TLaidOut::Right(laidOut[L"Default"]), 400) << "buttons stand at the right";
+    EXPECT_GT(laidOut[L"Long"].Height, laidOut[L"Short"].Height) << "long captions wrap";
+}
+
+TEST(TLayoutTest, GivesTheSpareRoomToTheNotebookAndCoversItWithThePanel) {
+    const TRect area{8, 8, 700, 480};
+    const TLaidOut laidOut({Row({
+                               CategoryBar(L"Bar", {CategoryGroup(L"G", L"Group", {CategoryItem(L"I", L"Item", 1, L"")})}),
+                               Column({
+                                   Overlay({Notebook(L"Book", {}), Panel(L"Panel", {Label(L"Wait", L"Wait")})}),
+                                   Buttons({Button(L"Ok", L"OK"), Button(L"Cancel", L"Cancel")}),
+                               }),
+                           })},
+                           area);
+    const TRect& bar = laidOut[L"Bar"];
+    const TRect& book = laidOut[L"Book"];
+    EXPECT_EQ(bar.Height, area.Height);
+    EXPECT_GT(book.Left, TLaidOut::Right(bar));
+    EXPECT_EQ(TLaidOut::Right(book), TLaidOut::Right(area));
+    EXPECT_EQ(book.Top, area.Top);
+    EXPECT_LT(TLaidOut::Bottom(book), laidOut[L"Ok"].Top);
+    EXPECT_EQ(TLaidOut::Bottom(laidOut[L"Cancel"]), TLaidOut::Bottom(area));
+    EXPECT_EQ(laidOut[L"Panel"], book);
+}
+
+}  // namespace

@@ -1,0 +1,246 @@
+// The kinds of controls that forms are made of.
+//
+// A control fires its event whenever its state changes, whoever changed it: the user, a loader, a Default button.
+// Setting a state that it already has fires nothing.
+#pragma once
+
+#include "ui/component.h"
+#include "ui/dialogs.h"
+
+class TLabel : public TControl {
+  public:
+    explicit TLabel(std::wstring name) : TControl(TComponentKind::Label, std::move(name)) {}
+};
+
+class TGroupBox : public TControl {
+  public:
+    explicit TGroupBox(std::wstring name) : TControl(TComponentKind::GroupBox, std::move(name)) {}
+};
+
+class TPanel : public TControl {
+  public:
+    explicit TPanel(std::wstring name) : TControl(TComponentKind::Panel, std::move(name)) {}
+};
+
+class TButton : public TControl {
+  public:
+    explicit TButton(std::wstring name) : TControl(TComponentKind::Button, std::move(name)) {}
+
+    /// What a user's press does; a disabled button does nothing.
+    void Click() {
+        if (Enabled()) Fire(OnClick);
+    }
+
+    TNotifyEvent OnClick;
+    bool Default = false;  ///< pressed by Enter
+    bool Cancel = false;   ///< pressed by Escape
+};
+
+class TCheckBox : public TControl {
+  public:
+    explicit TCheckBox(std::wstring name) : TControl(TComponentKind::CheckBox, std::move(name)) {}
+
+    [[nodiscard]] bool Checked() const { return FChecked; }
+    void SetChecked(bool checked);
+
+    TNotifyEvent OnClick;
+
+  private:
+    bool FChecked = false;
+};
+
+class TRadioButton : public TControl {
+  public:
+    explicit TRadioButton(std::wstring name) : TControl(TComponentKind::RadioButton, std::move(name)) {}
+
+    [[nodiscard]] bool Checked() const { return FChecked; }
+    /// Checking clears the other radio buttons of the same parent without firing their events.
+    void SetChecked(bool checked);
+
+    TNotifyEvent OnClick;
+
+  private:
+    void ClearSiblings();
+
+    bool FChecked = false;
+};
+
+class TUpDown;
+
+class TEdit : public TControl {
+  public:
+    explicit TEdit(std::wstring name) : TControl(TComponentKind::Edit, std::move(name)) {}
+
+    [[nodiscard]] const std::wstring& Text() const { return FText; }
+    /// An up-down paired with the edit follows a text that is a number within its bounds, without firing.
+    void SetText(const std::wstring& text);
+
+    [[nodiscard]] bool Focused() const { return FFocused; }
+    /// Called by the peer when the input focus comes or goes; losing it fires OnExit.
+    void SetFocused(bool focused);
+
+    /// Called by the peer for a typed character; false when the edit discards it.
+    [[nodiscard]] bool AcceptsKey(wchar_t key) const { return !OnKeyPress || OnKeyPress(key); }
+    /// Called by the peer when a key is released in the edit.
+    void KeyUp() { Fire(OnKeyUp); }
+
+    TNotifyEvent OnChange;  ///< every change of the text
+    TNotifyEvent OnExit;    ///< the focus left the edit
+    TNotifyEvent OnKeyUp;
+    std::function<bool(wchar_t key)> OnKeyPress;  ///< whether a typed character passes
+    bool DigitsOnly = false;
+    bool Password = false;
+    int WidthInCharacters = 0;  ///< 0 = as wide as the row lets it be
+
+  private:
+    friend class TUpDown;
+
+    std::wstring FText;
+    bool FFocused = false;
+    TUpDown* FUpDown = nullptr;
+};
+
+/// A number with bounds. Positions outside the bounds are moved to the nearer one.
+class TRangeControl : public TControl {
+  public:
+    TRangeControl(TComponentKind kind, std::wstring name, int min, int max, int position);
+
+    [[nodiscard]] int Min() const { return FMin; }
+    [[nodiscard]] int Max() const { return FMax; }
+    [[nodiscard]] int Position() const { return FPosition; }
+    void SetPosition(int position);
+
+    TNotifyEvent OnChange;
+
+  protected:
+    /// Told of every new position before the event fires.
+    virtual void PositionChanged() {}
+    int FPosition;
+
+  private:
+    int FMin;
+    int FMax;
+};
+
+class TTrackBar : public TRangeControl {
+  public:
+    TTrackBar(std::wstring name, int min, int max, int position)
+        : TRangeControl(TComponentKind::TrackBar, std::move(name), min, max, position) {}
+};
+
+/// A pair of arrows beside an edit that shows the position.
+class TUpDown : public TRangeControl {
+  public:
+    TUpDown(std::wstring name, int min, int max, int position)
+        : TRangeControl(TComponentKind::UpDown, std::move(name), min, max, position) {}
+
+    /// Pairs the up-down with the edit, which then shows the position.
+    void SetAssociate(TEdit* edit);
+    [[nodiscard]] TEdit* Associate() const { return FAssociate; }
+
+  private:
+    friend class TEdit;
+
+    void PositionChanged() override;
+    void FollowText(const std::wstring& text);
+
+    TEdit* FAssociate = nullptr;
+};
+
+/// A drop-down list.
+class TComboBox : public TControl {
+  public:
+    TComboBox(std::wstring name, std::vector<std::wstring> items)
+        : TControl(TComponentKind::ComboBox, std::move(name)), FItems(std::move(items)) {}
+
+    [[nodiscard]] const std::vector<std::wstring>& Items() const { return FItems; }
+    /// Replaces an item's text; the selection stays.
+    void SetItem(std::size_t index, const std::wstring& text);
+
+    /// The chosen item, -1 when none is.
+    [[nodiscard]] int ItemIndex() const { return FItemIndex; }
+    /// An index that is no item's chooses none.
+    void SetItemIndex(int index);
+    /// Chooses the first item without firing, as a list does whose items were just replaced.
+    void Reinitialise();
+
+    TNotifyEvent OnChange;
+
+  private:
+    std::vector<std::wstring> FItems;
+    int FItemIndex = -1;
+};
+
+/// A field that shows one colour.
+class TColorSwatch : public TControl {
+  public:
+    explicit TColorSwatch(std::wstring name) : TControl(TComponentKind::ColorSwatch, std::move(name)) {}
+
+    [[nodiscard]] TColor Color() const { return FColor; }
+    void SetColor(TColor color);
+
+  private:
+    TColor FColor = 0;
+};
+
+/// A picture of the program's resources, or one frame of a series of them.
+class TImage : public TControl {
+  public:
+    /// `picture` is the picture's base name; the frames of a series are called picture_0, picture_1, ….
+    TImage(std::wstring name, std::wstring picture, int frames)
+        : TControl(TComponentKind::Image, std::move(name)), FPicture(std::move(picture)), FFrames(frames) {}
+
+    [[nodiscard]] const std::wstring& Picture() const { return FPicture; }
+    [[nodiscard]] int Frames() const { return FFrames; }
+    [[nodiscard]] int Frame() const { return FFrame; }
+    void SetFrame(int frame);
+
+  private:
+    std::wstring FPicture;
+    int FFrames;
+    int FFrame = 0;
+};
+
+/// A list with columns and a check box before each row.
+class TListView : public TControl {
+  public:
+    struct TRow {
+        std::vector<std::wstring> Cells;  ///< one text per column
+        bool Checked = false;
+    };
+
+    TListView(std::wstring name, std::vector<std::wstring> columns)
+        : TControl(TComponentKind::ListView, std::move(name)), FColumns(std::move(columns)) {}
+
+    [[nodiscard]] const std::vector<std::wstring>& Columns() const { return FColumns; }
+    void SetColumn(std::size_t index, const std::wstring& caption);
+    [[nodiscard]] const std::vector<TRow>& Rows() const { return FRows; }
+    void SetRows(std::vector<TRow> rows);
+    void SetRowChecked(std::size_t index, bool checked);
+
+    TNotifyEvent OnChange;  ///< a row was checked or cleared
+
+  private:
+    std::vector<std::wstring> FColumns;
+    std::vector<TRow> FRows;
+};
+
+/// Repeats an event while it is enabled. It has no place in the window, only a peer that ticks.
+class TTimer : public TControl {
+  public:
+    TTimer(std::wstring name, unsigned interval)
+        : TControl(TComponentKind::Timer, std::move(name)), FInterval(interval) {
+        SetEnabled(false);
+    }
+
+    [[nodiscard]] unsigned Interval() const { return FInterval; }  ///< milliseconds
+    /// Called by the peer.
+    void Tick() {
+        if (Enabled()) Fire(OnTimer);
+    }
+
+    TNotifyEvent OnTimer;
+
+  private:
+    unsigned FInterval;
+};

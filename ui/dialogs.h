@@ -1,0 +1,28 @@
+// Questions and choosers that interrupt the user. An interface, so that tests can answer them.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+/// A colour as 0x00BBGGRR, the layout of the Windows COLORREF.
+using TColor = std::uint32_t;
+
+enum class TMessageButtons { Ok, YesNo };
+enum class TMessageIcon { None, Question };
+enum class TMessageAnswer { Ok, Yes, No };
+
+class TDialogs {
+  public:
+    virtual ~TDialogs() = default;
+
+    /// A standard message box over the active window.
+    virtual TMessageAnswer Message(const std::wstring& title, const std::wstring& text, TMessageButtons buttons,
+                                   TMessageIcon icon) = 0;
+
+    /// The system's open-file dialog. `filter` is "caption|patterns|caption|patterns". Nothing when cancelled.
+    [[nodiscard]] virtual std::optional<std::wstring> OpenFile(const std::wstring& filter) = 0;
+
+    /// The system's colour dialog, `initial` chosen at first. Nothing when cancelled.
+    [[nodiscard]] virtual std::optional<TColor> PickColor(TColor initial) = 0;
+};

@@ -1,0 +1,62 @@
+// A form: the window, and the owner of every component on it.
+#pragma once
+
+#include "ui/component.h"
+#include "ui/layout_box.h"
+
+#include <unordered_map>
+
+struct TControlDesign;
+
+/// What only the native window of a form can do.
+class TFormPeer : public TPeer {
+  public:
+    /// Closes the window, which ends in TForm::Destroyed.
+    virtual void Close() = 0;
+};
+
+class TForm : public TControl {
+  public:
+    /// `name` is the component name, `className` the window class that the outside world finds the form by.
+    TForm(std::wstring name, std::wstring className);
+    ~TForm() override;
+
+    [[nodiscard]] const std::wstring& ClassName() const { return FClassName; }
+
+    /// Creates the controls that the design describes and puts them into `parent`, after those it has already.
+    void Build(TControl& parent, const TControlDesign& design);
+
+    /// Every component of the form, in the order of creation.
+    [[nodiscard]] const std::vector<std::unique_ptr<TComponent>>& Components() const { return FComponents; }
+
+    /// The control of that name, or null.
+    [[nodiscard]] TControl* Find(const std::wstring& name) const;
+
+    /// The control of that name and type; null when there is none or it is of another type.
+    template <typename T>
+    [[nodiscard]] T* Find(const std::wstring& name) const {
+        return dynamic_cast<T*>(Find(name));
+    }
+
+    /// How the controls of a container stand in it.
+    [[nodiscard]] const TLayoutBox& Layout(const TControl& container) const;
+
+    /// Closes the window. Without a native window only the mark is set.
+    void Close();
+    [[nodiscard]] bool Closed() const { return FClosed; }
+
+    TNotifyEvent OnShow;  ///< runs once, just before the window becomes visible
+
+    /// Called by the native window.
+    void Show() { Fire(OnShow); }
+
+  private:
+    TControl& Create(TControl& parent, const TControlDesign& design);
+    void Populate(TControl& container, const std::vector<TControlDesign>& designs, TLayoutBox& box);
+
+    std::wstring FClassName;
+    std::vector<std::unique_ptr<TComponent>> FComponents;
+    std::unordered_map<std::wstring, TControl*> FByName;
+    std::unordered_map<const TControl*, TLayoutBox> FLayouts;
+    bool FClosed = false;
+};

@@ -1,0 +1,297 @@
+#include "ui/layout.h"
+
+#include "ui/containers.h"
+#include "ui/controls.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+// Distances at 96 dots per inch.
+constexpr int kGap = 7;           // between controls that stand together
+constexpr int kGroupGap = 11;     // before and after a group box
+constexpr int kGroupPadding = 11;  // between a group box's frame and its controls
+constexpr int kIndent = 18;       // below the text of a check box
+constexpr int kGlyph = 18;        // a check mark or radio circle with the space before its text
+constexpr int kBoxHeight = 17;    // the least height of a check box or radio button
+constexpr int kButtonWidth = 75;
+constexpr int kButtonHeight = 23;
+constexpr int kButtonPadding = 12;  // at each side of a button's text
+constexpr int kFieldPadding = 4;    // above and below the text of an edit or combo box
+constexpr int kArrowWidth = 17;     // the arrow of a combo box or an up-down
+constexpr int kTrackBarWidth = 150;
+constexpr int kTrackBarHeight = 30;
+constexpr int kEditWidth = 120;
+constexpr int kSwatchWidth = 40;
+constexpr int kListHeight = 140;
+constexpr int kPictureSize = 32;
+constexpr int kCategoryBarFrame = 60;  // what a category item needs beside its text: picture, margins
+constexpr int kUnlimited = 1 << 20;
+
+/// Kinds that take the space that the others of their row or column leave.
+bool Stretches(const TLayoutBox& box) {
+    if (box.Kind == TLayoutKind::Overlay) return true;
+    if (box.Kind == TLayoutKind::Column || box.Kind == TLayoutKind::Row)
+        return std::any_of(box.Boxes.begin(), box.Boxes.end(), Stretches);
+    if (box.Kind != TLayoutKind::Control) return false;
+    switch (box.Control->Kind()) {
+        case TComponentKind::Notebook:
+        case TComponentKind::PageControl:
+        case TComponentKind::ListView: return true;
+        default: return false;
+    }
+}
+
+/// Kinds that grow with their row, though they never take height.
+bool StretchesInRow(const TLayoutBox& box) {
+    if (Stretches(box)) return true;
+    if (box.Kind != TLayoutKind::Control) return false;
+    switch (box.Control->Kind()) {
+        case TComponentKind::TrackBar: return true;
+        case TComponentKind::Edit: return static_cast<const TEdit*>(box.Control)->WidthInCharacters == 0;
+        default: return false;
+    }
+}
+
+/// A control that is hidden takes no place; a timer never has one.
+bool IsAbsent(const TLayoutBox& box) {
+    if (box.Kind == TLayoutKind::Control)
+        return box.Control->Kind() == TComponentKind::Timer || !box.Control->Visible();
+    return std::all_of(box.Boxes.begin(), box.Boxes.end(), IsAbsent);
+}
+
+bool IsKind(const TLayoutBox& box, TComponentKind kind) {
+    return box.Kind == TLayoutKind::Control && box.Control->Kind() == kind;
+}
+
+}  // namespace
+
+TSize TLayout::ContentSize(const TControl& container, int width) const {
+    return Measure(FForm.Layout(container), width);
+}
+
+void TLayout::Arrange(const TControl& container, const TRect& area, const TPlace& place) const {
+    Put(FForm.Layout(container), area, place);
+}
+
+/// The distance between a box and the one before it in the same column or row.
+int TLayout::GapBefore(const TLayoutBox& box, std::size_t index) const {
+    if (index == 0) return 0;
+    const TLayoutBox& here = box.Boxes[index];
+    const TLayoutBox& before = box.Boxes[index - 1];
+    if (IsKind(here, TComponentKind::UpDown)) return 0;  // it clings to its edit
+    const bool grouped = IsKind(here, TComponentKind::GroupBox) || IsKind(before, TComponentKind::GroupBox) ||
+                         here.Kind == TLayoutKind::Buttons;
+    return FMetrics.Scale(grouped && box.Kind == TLayoutKind::Column ? kGroupGap : kGap);
+}
+
+TSize TLayout::Measure(const TLayoutBox& box, int width) const {
+    if (IsAbsent(box)) return {};
+    switch (box.Kind) {
+        case TLayoutKind::Control: return MeasureControl(*box.Control, width);
+        case TLayoutKind::Row:
+        case TLayoutKind::Buttons: return MeasureRow(box, width, 0);
+        case TLayoutKind::Fields: return MeasureFields(box, width);
+        case TLayoutKind::Indent: {
+            const int indent = FMetrics.Scale(kIndent);
+            TSize size = MeasureColumn(box, width - indent);
+            size.Width += indent;
+            return size;
+        }
+        case TLayoutKind::Column:
+        case TLayoutKind::Center: return MeasureColumn(box, width);
+        case TLayoutKind::Overlay: break;
+    }
+    TSize size;
+    for (const TLayoutBox& inner : box.Boxes) {
+        const TSize part = Measure(inner, width);
+        size = {std::max(size.Width, part.Width), std::max(size.Height, part.Height)};
+    }
+    return size;
+}
+
+TSize TLayout::MeasureColumn(const TLayoutBox& box, int width) const {
+    TSize size;
+    bool any = false;
+    for (std::size_t i = 0; i < box.Boxes.size(); ++i) {
+        if (IsAbsent(box.Boxes[i])) continue;
+        const TSize part = Measure(box.Boxes[i], width);
+        if (std::exchange(any, true)) size.Height += GapBefore(box, i);
+        size.Height += part.Height;
+        size.Width = std::max(size.Width, part.Width);
+    }
+    return size;
+}
+
+TSize TLayout::MeasureRow(const TLayoutBox& box, int width, int firstWidth) const {
+    TSize size;
+    bool any = false;
+    for (std::size_t i = 0; i < box.Boxes.size(); ++i) {
+        if (IsAbsent(box.Boxes[i])) continue;
+        if (std::exchange(any, true)) size.Width += GapBefore(box, i);
+        TSize part = Measure(box.Boxes[i], std::max(width - size.Width, 0));
+        if (i == 0) part.Width = std::max(part.Width, firstWidth);
+        size.Width += part.Width;
+        size.Height = std::max(size.Height, part.Height);
+    }
+    return size;
+}
+
+int TLayout::FirstWidth(const TLayoutBox& fields, int width) const {
+    int first = 0;
+    for (const TLayoutBox& row : fields.Boxes) {
+        if (!row.Boxes.empty() && !IsAbsent(row)) first = std::max(first, Measure(row.Boxes[0], width).Width);
+    }
+    return first;
+}
+
+TSize TLayout::MeasureFields(const TLayoutBox& box, int width) const {
+    const int first = FirstWidth(box, width);
+    TSize size;
+    bool any = false;
+    for (std::size_t i = 0; i < box.Boxes.size(); ++i) {
+        if (IsAbsent(box.Boxes[i])) continue;
+        const TSize part = MeasureRow(box.Boxes[i], width, first);
+        size.Height += part.Height + (std::exchange(any, true) ? GapBefore(box, i) : 0);
+        size.Width = std::max(size.Width, part.Width);
+    }
+    return size;
+}
+
+/// A line (or several, when it must wrap) of text beside a check mark.
+TSize TLayout::TextLine(const TControl& control, int width) const {
+    const int glyph = FMetrics.Scale(kGlyph);
+    TSize size = FMetrics.TextSize(control.Caption(), std::max(width - glyph, 1));
+    return {size.Width + glyph, std::max(size.Height, FMetrics.Scale(kBoxHeight))};
+}
+
+TSize TLayout::MeasureControl(const TControl& control, int width) const {
+    const auto scale = [this](int distance) { return FMetrics.Scale(distance); };
+    const int line = FMetrics.TextSize(L"0", kUnlimited).Height;
+    const int fieldHeight = line + 2 * scale(kFieldPadding);
+    switch (control.Kind()) {
+        case TComponentKind::CheckBox:
+        case TComponentKind::RadioButton: return TextLine(control, width);
+        case TComponentKind::Label: return FMetrics.TextSize(control.Caption(), std::max(width, 1));
+        case TComponentKind::Button: {
+            const TSize text = FMetrics.TextSize(control.Caption(), kUnlimited);
+            return {std::max(text.Width + 2 * scale(kButtonPadding), scale(kButtonWidth)),
+                    std::max(line + 2 * scale(kFieldPadding + 1), scale(kButtonHeight))};
+        }
+        case TComponentKind::Edit: {
+            const int characters = static_cast<const TEdit&>(control).WidthInCharacters;
+            const int digit = FMetrics.TextSize(L"0", kUnlimited).Width;
+            return {characters > 0 ? characters * digit + 3 * scale(kFieldPadding) : scale(kEditWidth), fieldHeight};
+        }
+        case TComponentKind::UpDown: return {scale(kArrowWidth), fieldHeight};
+        case TComponentKind::ComboBox: {
+            int text = 0;
+            for (const std::wstring& item : static_cast<const TComboBox&>(control).Items())
+                text = std::max(text, FMetrics.TextSize(item, kUnlimited).Width);
+            return {std::min(text + scale(kArrowWidth) + 4 * scale(kFieldPadding), width), fieldHeight};
+        }
+        case TComponentKind::TrackBar: return {scale(kTrackBarWidth), scale(kTrackBarHeight)};
+        case TComponentKind::ColorSwatch: return {scale(kSwatchWidth), fieldHeight};
+        case TComponentKind::Image: return {scale(kPictureSize), scale(kPictureSize)};
+        case TComponentKind::ListView: return {width, scale(kListHeight)};
+        case TComponentKind::GroupBox: {
+            const int padding = scale(kGroupPadding);
+            const TSize content = ContentSize(control, width - 2 * padding);
+            const int caption = FMetrics.TextSize(control.Caption(), kUnlimited).Width;
+            return {std::max(content.Width, caption) + 2 * padding, line + content.Height + 3 * padding / 2};
+        }
+        case TComponentKind::Panel: return ContentSize(control, width);
+        case TComponentKind::CategoryBar: {
+            int text = 0;
+            for (const TControl* group : control.Children()) {
+                text = std::max(text, FMetrics.TextSize(group->Caption(), kUnlimited).Width);
+                for (const TControl* item : group->Children())
+                    text = std::max(text, FMetrics.TextSize(item->Caption(), kUnlimited).Width);
+            }
+            return {text + scale(kCategoryBarFrame), 0};
+        }
+        default: return {};
+    }
+}
+
+void TLayout::Put(const TLayoutBox& box, const TRect& area, const TPlace& place) const {
+    if (IsAbsent(box)) return;
+    switch (box.Kind) {
+        case TLayoutKind::Control: PutControl(*box.Control, area, place); return;
+        case TLayoutKind::Row: PutRow(box, area, 0, place); return;
+        case TLayoutKind::Buttons: {
+            const int width = MeasureRow(box, area.Width, 0).Width;
+            const int left = std::max(area.Left, area.Left + area.Width - width);
+            PutRow(box, {left, area.Top, width, area.Height}, 0, place);
+            return;
+        }
+        case TLayoutKind::Indent: {
+            const int indent = FMetrics.Scale(kIndent);
+            PutColumn(box, {area.Left + indent, area.Top, area.Width - indent, area.Height}, place);
+            return;
+        }
+        case TLayoutKind::Center: {
+            const TSize size = MeasureColumn(box, area.Width);
+            PutColumn(box,
+                      {area.Left + std::max(0, area.Width - size.Width) / 2,
+                       area.Top + std::max(0, area.Height - size.Height) / 2, size.Width, size.Height},
+                      place);
+            return;
+        }
+        case TLayoutKind::Column:
+        case TLayoutKind::Fields: PutColumn(box, area, place); return;
+        case TLayoutKind::Overlay:
+            for (const TLayoutBox& inner : box.Boxes) Put(inner, area, place);
+            return;
+    }
+}
+
+void TLayout::PutControl(TControl& control, const TRect& area, const TPlace& place) const {
+    place(control, area);
+    if (control.Kind() != TComponentKind::GroupBox) return;
+    const int padding = FMetrics.Scale(kGroupPadding);
+    const int line = FMetrics.TextSize(L"0", kUnlimited).Height;
+    const int top = line + padding / 2;
+    Arrange(control,
+            {area.Left + padding, area.Top + top, area.Width - 2 * padding, area.Height - top - padding}, place);
+}
+
+void TLayout::PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& place) const {
+    const int first = box.Kind == TLayoutKind::Fields ? FirstWidth(box, area.Width) : 0;
+    int spare = std::max(0, area.Height - MeasureColumn(box, area.Width).Height);
+    int top = area.Top;
+    bool any = false;
+    for (std::size_t i = 0; i < box.Boxes.size(); ++i) {
+        const TLayoutBox& inner = box.Boxes[i];
+        if (IsAbsent(inner)) continue;
+        if (std::exchange(any, true)) top += GapBefore(box, i);
+        int height = Measure(inner, area.Width).Height;
+        if (Stretches(inner)) height += std::exchange(spare, 0);
+        const TRect part{area.Left, top, area.Width, height};
+        if (box.Kind == TLayoutKind::Fields)
+            PutRow(inner, part, first, place);
+        else
+            Put(inner, part, place);
+        top += height;
+    }
+}
+
+void TLayout::PutRow(const TLayoutBox& box, const TRect& area, int firstWidth, const TPlace& place) const {
+    int spare = std::max(0, area.Width - MeasureRow(box, area.Width, firstWidth).Width);
+    int left = area.Left;
+    bool any = false;
+    for (std::size_t i = 0; i < box.Boxes.size(); ++i) {
+        const TLayoutBox& inner = box.Boxes[i];
+        if (IsAbsent(inner)) continue;
+        if (std::exchange(any, true)) left += GapBefore(box, i);
+        TSize size = Measure(inner, std::max(area.Left + area.Width - left, 0));
+        if (i == 0) size.Width = std::max(size.Width, firstWidth);
+        if (StretchesInRow(inner)) size.Width += std::exchange(spare, 0);
+        // Containers fill the height of their row; everything else is centred on its line.
+        const bool fills = Stretches(inner) || IsKind(inner, TComponentKind::CategoryBar);
+        const int height = fills ? area.Height : std::min(size.Height, area.Height);
+        Put(inner, {left, area.Top + (area.Height - height) / 2, size.Width, height}, place);
+        left += size.Width;
+    }
+}

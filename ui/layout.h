@@ -1,0 +1,66 @@
+// Computes where controls stand, from the size of their texts and a few distances. Portable: the native side only
+// measures texts and moves windows.
+#pragma once
+
+#include "ui/form.h"
+
+struct TSize {
+    int Width = 0;
+    int Height = 0;
+};
+
+struct TRect {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+
+    bool operator==(const TRect&) const = default;
+};
+
+/// What a layout has to know of the screen. All results are in pixels.
+class TLayoutMetrics {
+  public:
+    virtual ~TLayoutMetrics() = default;
+
+    /// Size of a caption in the window's font ("&" marks the access key), wrapped at words when it is wider
+    /// than `maxWidth`.
+    [[nodiscard]] virtual TSize TextSize(const std::wstring& caption, int maxWidth) const = 0;
+
+    /// A distance given for 96 dots per inch, in pixels of this screen.
+    [[nodiscard]] virtual int Scale(int distance) const = 0;
+};
+
+/// Lays out one container. Group boxes are frames only: their controls lie in the same coordinates. Every other
+/// container in the box is placed as a whole and lays out its own content.
+class TLayout {
+  public:
+    /// Told the place of each control.
+    using TPlace = std::function<void(TControl& control, const TRect& place)>;
+
+    TLayout(const TForm& form, const TLayoutMetrics& metrics) : FForm(form), FMetrics(metrics) {}
+
+    /// The size that the content of `container` needs when no more than `width` is there, without any margin.
+    /// The width may come out larger when a control cannot be that narrow.
+    [[nodiscard]] TSize ContentSize(const TControl& container, int width) const;
+
+    /// Places the content of `container` into `area`.
+    void Arrange(const TControl& container, const TRect& area, const TPlace& place) const;
+
+  private:
+    [[nodiscard]] TSize Measure(const TLayoutBox& box, int width) const;
+    [[nodiscard]] TSize MeasureControl(const TControl& control, int width) const;
+    [[nodiscard]] TSize MeasureColumn(const TLayoutBox& box, int width) const;
+    [[nodiscard]] TSize MeasureRow(const TLayoutBox& box, int width, int firstWidth) const;
+    [[nodiscard]] TSize MeasureFields(const TLayoutBox& box, int width) const;
+    [[nodiscard]] int FirstWidth(const TLayoutBox& fields, int width) const;
+    void Put(const TLayoutBox& box, const TRect& area, const TPlace& place) const;
+    void PutControl(TControl& control, const TRect& area, const TPlace& place) const;
+    void PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& place) const;
+    void PutRow(const TLayoutBox& box, const TRect& area, int firstWidth, const TPlace& place) const;
+    [[nodiscard]] int GapBefore(const TLayoutBox& box, std::size_t index) const;
+    [[nodiscard]] TSize TextLine(const TControl& control, int width) const;
+
+    const TForm& FForm;
+    const TLayoutMetrics& FMetrics;
+};

@@ -1,0 +1,23 @@
+// How controls stand inside a container: boxes within boxes, without any numbers.
+#pragma once
+
+#include <vector>
+
+class TControl;
+
+enum class TLayoutKind {
+    Control,  ///< a single control
+    Column,   ///< one below the other, as wide as the container
+    Row,      ///< side by side, in one line
+    Buttons,  ///< side by side, at the right end of the line
+    Fields,   ///< rows whose first controls share one width, so that the second ones line up
+    Indent,   ///< a column set in below the control it depends on
+    Center,   ///< a column in the middle of the container
+    Overlay,  ///< one over the other, all of them as large as the container
+};
+
+struct TLayoutBox {
+    TLayoutKind Kind = TLayoutKind::Column;
+    TControl* Control = nullptr;  ///< for kind Control
+    std::vector<TLayoutBox> Boxes;
+};

@@ -1,0 +1,54 @@
+#include "ui/win32/button_peers.h"
+
+namespace {
+
+/// Arrow keys stay within a group: each control begins one, but for the radio buttons that follow another.
+DWORD GroupStyle(const TRadioButton& button) {
+    const std::vector<TControl*>& siblings = button.Parent()->Children();
+    for (std::size_t i = 1; i < siblings.size(); ++i) {
+        if (siblings[i] == &button && siblings[i - 1]->Kind() == TComponentKind::RadioButton) return 0;
+    }
+    return WS_GROUP;
+}
+
+}  // namespace
+
+TPushButtonPeer::TPushButtonPeer(TFormWindow& form, TButton& button, HWND parent) : TWindowPeer(form, button) {
+    const DWORD look = button.Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+    Create(parent, WC_BUTTONW, look | WS_TABSTOP | WS_GROUP);
+}
+
+void TPushButtonPeer::OnCommand(WORD code) {
+    if (code == BN_CLICKED) static_cast<TButton&>(Control()).Click();
+}
+
+TCheckBoxPeer::TCheckBoxPeer(TFormWindow& form, TCheckBox& box, HWND parent) : TWindowPeer(form, box) {
+    Create(parent, WC_BUTTONW, BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP | WS_GROUP);
+}
+
+void TCheckBoxPeer::OnCommand(WORD code) {
+    if (code == BN_CLICKED) static_cast<TCheckBox&>(Control()).SetChecked(Send(BM_GETCHECK) == BST_CHECKED);
+}
+
+void TCheckBoxPeer::ShowState() {
+    Send(BM_SETCHECK, static_cast<TCheckBox&>(Control()).Checked() ? BST_CHECKED : BST_UNCHECKED);
+}
+
+TRadioButtonPeer::TRadioButtonPeer(TFormWindow& form, TRadioButton& button, HWND parent)
+    : TWindowPeer(form, button) {
+    Create(parent, WC_BUTTONW, BS_AUTORADIOBUTTON | BS_MULTILINE | WS_TABSTOP | GroupStyle(button));
+}
+
+void TRadioButtonPeer::OnCommand(WORD code) {
+    // Windows reports a click also when an unchecked button merely gets the focus; only a real one checks it.
+    if (code == BN_CLICKED && Send(BM_GETCHECK) == BST_CHECKED)
+        static_cast<TRadioButton&>(Control()).SetChecked(true);
+}
+
+void TRadioButtonPeer::ShowState() {
+    Send(BM_SETCHECK, static_cast<TRadioButton&>(Control()).Checked() ? BST_CHECKED : BST_UNCHECKED);
+}
+
+TGroupBoxPeer::TGroupBoxPeer(TFormWindow& form, TGroupBox& group, HWND parent) : TWindowPeer(form, group) {
+    Create(parent, WC_BUTTONW, BS_GROUPBOX | WS_GROUP, WS_EX_TRANSPARENT);
+}

@@ -1,0 +1,183 @@
+#include "ui/win32/category_item_peer.h"
+
+#include <algorithm>
+
+#include "ui/win32/category_look.h"
+#include "ui/win32/form_window.h"
+#include "ui/win32/paint_buffer.h"
+
+namespace {
+
+constexpr unsigned kDisabledOpacity = 110;
+
+/// The windows of all items of the bar, in order of display.
+std::vector<HWND> ItemWindows(const TControl& item) {
+    std::vector<HWND> windows;
+    for (const TControl* group : item.Parent()->Parent()->Children()) {
+        for (const TControl* sibling : group->Children()) {
+            if (auto* peer = dynamic_cast<TWindowPeer*>(sibling->Peer())) windows.push_back(peer->Handle());
+        }
+    }
+    return windows;
+}
+
+void SetTabStop(HWND window, bool isStop) {
+    const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE) & ~static_cast<LONG_PTR>(WS_TABSTOP);
+    SetWindowLongPtrW(window, GWL_STYLE, isStop ? style | WS_TABSTOP : style);
+}
+
+}  // namespace
+
+TCategoryItemPeer::TCategoryItemPeer(TFormWindow& form, TCategoryItem& item, HWND parent)
+    : TWindowPeer(form, item) {
+    Create(parent, WC_BUTTONW, BS_OWNERDRAW | WS_TABSTOP | WS_GROUP);
+    SetWindowLongPtrW(Handle(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    FBaseProc = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ButtonProc)));
+}
+
+TCategoryItemPeer::~TCategoryItemPeer() {
+    if (Handle() != nullptr) SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(FBaseProc));
+}
+
+void TCategoryItemPeer::OnCommand(WORD code) {
+    if (code == BN_CLICKED && Control().Enabled()) static_cast<TCategoryItem&>(Control()).Click();
+}
+
+void TCategoryItemPeer::ShowState() {
+    // Until one item is selected, all of them are tab stops.
+    if (static_cast<const TCategoryItem&>(Control()).Selected()) TakeTabStop();
+    InvalidateRect(Handle(), nullptr, FALSE);
+}
+
+void TCategoryItemPeer::TakeTabStop() {
+    for (const HWND window : ItemWindows(Control())) SetTabStop(window, window == Handle());
+}
+
+void TCategoryItemPeer::ScrollIntoSight() {
+    // An item must not move away from the pointer that is about to click it.
+    if (GetKeyState(VK_LBUTTON) < 0) return;
+    if (auto* bar = dynamic_cast<TContainerPeer*>(Control().Parent()->Parent()->Peer()))
+        bar->ScrollTo(Handle());
+}
+
+void TCategoryItemPeer::SetHot(bool hot) {
+    if (hot == FHot) return;
+    FHot = hot;
+    InvalidateRect(Handle(), nullptr, FALSE);
+    if (!hot) return;
+    TRACKMOUSEEVENT tracking{};
+    tracking.cbSize = sizeof tracking;
+    tracking.dwFlags = TME_LEAVE;
+    tracking.hwndTrack = Handle();
+    TrackMouseEvent(&tracking);
+}
+
+bool TCategoryItemPeer::MoveFocus(WPARAM key) {
+    std::vector<HWND> windows = ItemWindows(Control());
+    std::erase_if(windows, [](HWND window) { return !IsWindowVisible(window) || !IsWindowEnabled(window); });
+    const auto here = std::find(windows.begin(), windows.end(), Handle());
+    if (here == windows.end()) return false;
+    auto target = here;
+    switch (key) {
+        case VK_UP:
+        case VK_LEFT:
+            if (here != windows.begin()) target = here - 1;
+            break;
+        case VK_DOWN:
+        case VK_RIGHT:
+            if (here + 1 != windows.end()) target = here + 1;
+            break;
+        case VK_HOME:
+            target = windows.begin();
+            break;
+        case VK_END:
+            target = windows.end() - 1;
+            break;
+        default:
+            return false;
+    }
+    if (target != here) SetFocus(*target);
+    return true;
+}
+
+LRESULT CALLBACK TCategoryItemPeer::ButtonProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* peer = reinterpret_cast<TCategoryItemPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (peer->Handle() == nullptr) return CallWindowProcW(peer->FBaseProc, window, message, wParam, lParam);
+    TFormWindow& form = peer->FForm;
+    try {
+        return peer->OnMessage(message, wParam, lParam);
+    } catch (...) {
+        form.Fault(std::current_exception());
+        return 0;
+    }
+}
+
+LRESULT TCategoryItemPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto base = [&](UINT passed) {
+        return CallWindowProcW(FBaseProc, Handle(), passed, wParam, lParam);
+    };
+    switch (message) {
+        case WM_ERASEBKGND:
+            return TRUE;  // OnDraw covers everything
+        // An owner-drawn button would report a second quick click as something else than a click.
+        case WM_LBUTTONDBLCLK:
+            return base(WM_LBUTTONDOWN);
+        case WM_MOUSEMOVE:
+            SetHot(true);
+            break;
+        case WM_MOUSELEAVE:
+            SetHot(false);
+            break;
+        // The arrow keys cross the bounds of groups, which a dialog's own handling would not.
+        case WM_GETDLGCODE:
+            return base(message) | DLGC_WANTARROWS;
+        case WM_KEYDOWN:
+            if (MoveFocus(wParam)) return 0;
+            break;
+        case WM_SETFOCUS:
+            TakeTabStop();
+            ScrollIntoSight();
+            break;
+        default:
+            break;
+    }
+    return base(message);
+}
+
+void TCategoryItemPeer::OnDraw(const DRAWITEMSTRUCT& drawing) {
+    const auto& item = static_cast<const TCategoryItem&>(Control());
+    const RECT& area = drawing.rcItem;
+    if (IsRectEmpty(&area)) return;
+    const TCategoryMetrics metrics(FForm.Screen());
+    const TCategoryColors::TItem colors =
+        TCategoryColors().Item(item, FHot, (drawing.itemState & ODS_SELECTED) != 0);
+    TPaintBuffer buffer(drawing.hDC, area);
+    const HDC target = buffer.Handle();
+
+    FillArea(target, area, colors.Frame);
+    RECT inner = area;
+    InflateRect(&inner, -1, -1);
+    FillArea(target, inner, colors.Ground);
+    if (item.Selected())
+        FillArea(target, {area.left, area.top, area.left + metrics.MarkWidth, area.bottom}, colors.Text);
+
+    if (const TPicture* picture = FForm.Pictures().Find(item.Picture(), metrics.PictureSize)) {
+        const int top = area.top + (area.bottom - area.top - picture->Height()) / 2;
+        picture->Draw(target, area.left + metrics.PictureLeft, top,
+                      item.Enabled() ? kOpaque : kDisabledOpacity);
+    }
+
+    SelectObject(target, FForm.Screen().Font());
+    SetBkMode(target, TRANSPARENT);
+    SetTextColor(target, colors.Text);
+    RECT text{area.left + metrics.TextLeft, area.top, area.right - metrics.TextRight, area.bottom};
+    UINT format = DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS;
+    if ((drawing.itemState & ODS_NOACCEL) != 0) format |= DT_HIDEPREFIX;
+    DrawTextW(target, item.Caption().c_str(), static_cast<int>(item.Caption().size()), &text, format);
+
+    if ((drawing.itemState & ODS_FOCUS) == 0 || (drawing.itemState & ODS_NOFOCUSRECT) != 0) return;
+    SetBkColor(target, RGB(255, 255, 255));
+    SetTextColor(target, RGB(0, 0, 0));
+    DrawFocusRect(target, &inner);
+}

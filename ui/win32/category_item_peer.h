@@ -1,0 +1,30 @@
+// The native side of an item of the category bar: a button that draws itself.
+#pragma once
+
+#include "ui/containers.h"
+#include "ui/win32/window_peer.h"
+
+class TCategoryItemPeer : public TWindowPeer {
+  public:
+    TCategoryItemPeer(TFormWindow& form, TCategoryItem& item, HWND parent);
+    ~TCategoryItemPeer() override;
+
+    void OnCommand(WORD code) override;
+    void OnDraw(const DRAWITEMSTRUCT& drawing) override;
+
+  protected:
+    void ShowState() override;
+
+  private:
+    static LRESULT CALLBACK ButtonProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    /// Moves the focus along the bar; false when the key does not do that.
+    bool MoveFocus(WPARAM key);
+    /// Makes this the one item that the Tab key stops at.
+    void TakeTabStop();
+    void ScrollIntoSight();
+    void SetHot(bool hot);
+
+    WNDPROC FBaseProc = nullptr;
+    bool FHot = false;  ///< the pointer is on the item
+};

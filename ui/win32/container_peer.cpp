@@ -1,0 +1,192 @@
+#include "ui/win32/container_peer.h"
+
+#include "ui/win32/form_window.h"
+#include "ui/win32/peer_factory.h"
+
+#include <algorithm>
+
+namespace {
+
+/// The template of an empty dialog of a window class, as CreateDialogIndirectParamW wants it.
+std::vector<WORD> EmptyDialog(const wchar_t* windowClass, DWORD style, DWORD extendedStyle) {
+    std::vector<WORD> words{LOWORD(style), HIWORD(style), LOWORD(extendedStyle), HIWORD(extendedStyle)};
+    words.insert(words.end(), 5, 0);  // number of controls, left, top, width, height
+    words.push_back(0);               // no menu
+    for (const wchar_t* c = windowClass; *c != 0; ++c) words.push_back(static_cast<WORD>(*c));
+    words.push_back(0);
+    words.push_back(0);  // no title
+    return words;
+}
+
+}  // namespace
+
+TContainerPeer::~TContainerPeer() {
+    if (Handle() != nullptr) SetWindowLongPtrW(Handle(), GWLP_USERDATA, 0);
+}
+
+void TContainerPeer::CreateContainer(HWND parent, const wchar_t* windowClass, DWORD style, DWORD extendedStyle) {
+    WNDCLASSEXW description{};
+    description.cbSize = sizeof description;
+    if (!GetClassInfoExW(FForm.Instance(), windowClass, &description)) {
+        description.lpfnWndProc = WindowProc;
+        description.cbWndExtra = DLGWINDOWEXTRA;
+        description.hInstance = FForm.Instance();
+        description.hIcon = LoadIconW(FForm.Instance(), MAKEINTRESOURCEW(1));
+        description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+        description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_3DFACE + 1);
+        description.lpszClassName = windowClass;
+        RegisterClassExW(&description);
+    }
+    if (IsShown() && parent != nullptr) style |= WS_VISIBLE;
+    const std::vector<WORD> dialog = EmptyDialog(windowClass, style, extendedStyle | WS_EX_CONTROLPARENT);
+    const HWND window = CreateDialogIndirectParamW(
+        FForm.Instance(), reinterpret_cast<const DLGTEMPLATE*>(dialog.data()), parent, nullptr, 0);
+    if (window == nullptr) return;
+    SetWindowTextW(window, WindowText().c_str());
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    Adopt(window);
+}
+
+LRESULT CALLBACK TContainerPeer::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* peer = reinterpret_cast<TContainerPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (peer == nullptr || peer->Handle() != window) return DefDlgProcW(window, message, wParam, lParam);
+    TFormWindow& form = peer->FForm;
+    try {
+        return peer->OnMessage(message, wParam, lParam);
+    } catch (...) {
+        // No exception may cross Windows' own frames.
+        form.Fault(std::current_exception());
+        return 0;
+    }
+}
+
+LRESULT TContainerPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND window = Handle();
+    switch (message) {
+        case WM_SIZE: LayOut(); break;
+        case WM_MOUSEWHEEL: {
+            UINT lines = 3;
+            SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+            const int line = FForm.Screen().Scale(20);
+            ScrollBy(-GET_WHEEL_DELTA_WPARAM(wParam) * static_cast<int>(lines) * line / WHEEL_DELTA);
+            return 0;
+        }
+        case WM_VSCROLL:
+            if (lParam == 0) {
+                Scroll(wParam);
+                return 0;
+            }
+            [[fallthrough]];
+        case WM_HSCROLL:
+        case WM_COMMAND:
+        case WM_NOTIFY:
+        case WM_DRAWITEM: return Reflect(message, wParam, lParam);
+        default: break;
+    }
+    return DefDlgProcW(window, message, wParam, lParam);
+}
+
+/// Hands a message of one of the container's windows to that window's own peer.
+LRESULT TContainerPeer::Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
+    HWND from = reinterpret_cast<HWND>(lParam);
+    if (message == WM_NOTIFY) from = reinterpret_cast<NMHDR*>(lParam)->hwndFrom;
+    if (message == WM_DRAWITEM) from = reinterpret_cast<DRAWITEMSTRUCT*>(lParam)->hwndItem;
+    TWindowPeer* peer = FForm.PeerOf(from);
+    if (peer == nullptr || peer == this) return DefDlgProcW(Handle(), message, wParam, lParam);
+    switch (message) {
+        case WM_COMMAND: peer->OnCommand(HIWORD(wParam)); return 0;
+        case WM_NOTIFY: return peer->OnNotify(*reinterpret_cast<NMHDR*>(lParam));
+        case WM_DRAWITEM: peer->OnDraw(*reinterpret_cast<DRAWITEMSTRUCT*>(lParam)); return TRUE;
+        default: peer->OnScroll(); return 0;
+    }
+}
+
+void TContainerPeer::CreateContent() {
+    for (TControl* child : Control().Children()) CreatePeer(FForm, *child, Handle());
+}
+
+int TContainerPeer::Margin() const { return FForm.Screen().Scale(FMargin); }
+
+RECT TContainerPeer::ContentArea() const {
+    RECT area{};
+    GetClientRect(Handle(), &area);
+    InflateRect(&area, -Margin(), -Margin());
+    return area;
+}
+
+int TContainerPeer::ContentHeight(int width) const {
+    return TLayout(FForm.Form(), FForm.Screen()).ContentSize(Control(), width).Height;
+}
+
+void TContainerPeer::LayOut() {
+    if (FLayingOut || Handle() == nullptr) return;
+    FLayingOut = true;
+    RECT area = ContentArea();
+    SetScrollRange(ContentHeight(area.right - area.left) + 2 * Margin(), area.bottom - area.top + 2 * Margin());
+    area = ContentArea();  // a scroll bar may have come or gone
+    const int width = std::max(0L, area.right - area.left);
+    const int height = std::max(static_cast<int>(area.bottom - area.top), ContentHeight(width));
+    const int offset = GetScrollPos(Handle(), SB_VERT);
+    PlaceContent({area.left, area.top - offset, width, height});
+    FLayingOut = false;
+}
+
+void TContainerPeer::PlaceContent(const TRect& area) {
+    TLayout(FForm.Form(), FForm.Screen()).Arrange(Control(), area, [](TControl& control, const TRect& place) {
+        if (auto* peer = dynamic_cast<TWindowPeer*>(control.Peer())) peer->Place(place);
+    });
+}
+
+void TContainerPeer::SetScrollRange(int content, int visible) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_RANGE | SIF_PAGE;
+    info.nMax = std::max(0, content - 1);
+    info.nPage = static_cast<UINT>(std::max(0, visible));
+    SetScrollInfo(Handle(), SB_VERT, &info, TRUE);
+}
+
+void TContainerPeer::Scroll(WPARAM request) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_ALL;
+    GetScrollInfo(Handle(), SB_VERT, &info);
+    const int page = static_cast<int>(info.nPage);
+    const int line = FForm.Screen().Scale(20);
+    switch (LOWORD(request)) {
+        case SB_LINEUP: ScrollBy(-line); break;
+        case SB_LINEDOWN: ScrollBy(line); break;
+        case SB_PAGEUP: ScrollBy(-page); break;
+        case SB_PAGEDOWN: ScrollBy(page); break;
+        case SB_THUMBTRACK: ScrollBy(info.nTrackPos - info.nPos); break;
+        case SB_TOP: ScrollBy(-info.nPos); break;
+        case SB_BOTTOM: ScrollBy(info.nMax); break;
+        default: break;
+    }
+}
+
+void TContainerPeer::ScrollBy(int distance) {
+    const int before = GetScrollPos(Handle(), SB_VERT);
+    SetScrollPos(Handle(), SB_VERT, before + distance, TRUE);
+    if (GetScrollPos(Handle(), SB_VERT) == before) return;
+    LayOut();
+    InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+void TContainerPeer::ScrollTo(HWND inner) {
+    RECT place{};
+    RECT view{};
+    GetWindowRect(inner, &place);
+    MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&place), 2);
+    GetClientRect(Handle(), &view);
+    const int margin = Margin();
+    if (place.top < margin)
+        ScrollBy(place.top - margin);
+    else if (place.bottom > view.bottom - margin)
+        ScrollBy(std::min(place.bottom - view.bottom + margin, place.top - margin));
+}
+
+TPlainContainerPeer::TPlainContainerPeer(TFormWindow& form, TControl& control, HWND parent, int margin)
+    : TContainerPeer(form, control, margin) {
+    CreateContainer(parent, kContainerClass, WS_CHILD | WS_CLIPSIBLINGS | DS_CONTROL, 0);
+}

@@ -1,0 +1,57 @@
+// Peers of the controls that hold others: they lay out their content, scroll it when it is taller than they are,
+// and hand the messages of the windows in them back to those windows' peers.
+#pragma once
+
+#include "ui/layout.h"
+#include "ui/win32/window_peer.h"
+
+/// The window class of containers that have none of their own.
+inline constexpr const wchar_t* kContainerClass = L"TQuilltune_Container";
+
+class TContainerPeer : public TWindowPeer {
+  public:
+    /// `margin` is the distance between the edges and the content at 96 dots per inch.
+    TContainerPeer(TFormWindow& form, TControl& control, int margin) : TWindowPeer(form, control), FMargin(margin) {}
+
+    ~TContainerPeer() override;
+
+    /// Places the content anew.
+    virtual void LayOut();
+
+    /// Handles a message of the container's window.
+    virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    /// Creates the peers of the controls in the container.
+    void CreateContent();
+
+    /// Scrolls so that an inner window is in sight.
+    void ScrollTo(HWND inner);
+
+  protected:
+    /// Creates a window that is a dialog to Windows: keyboard navigation passes through it, and themes paint
+    /// its background.
+    void CreateContainer(HWND parent, const wchar_t* windowClass, DWORD style, DWORD extendedStyle);
+
+    /// The part of the client area that the content may use.
+    [[nodiscard]] virtual RECT ContentArea() const;
+    [[nodiscard]] int Margin() const;
+    /// The height of the content at a width.
+    [[nodiscard]] virtual int ContentHeight(int width) const;
+    virtual void PlaceContent(const TRect& area);
+
+  private:
+    static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT Reflect(UINT message, WPARAM wParam, LPARAM lParam);
+    void Scroll(WPARAM request);
+    void ScrollBy(int distance);
+    void SetScrollRange(int content, int visible);
+
+    int FMargin;
+    bool FLayingOut = false;
+};
+
+/// A container without a look of its own.
+class TPlainContainerPeer : public TContainerPeer {
+  public:
+    TPlainContainerPeer(TFormWindow& form, TControl& control, HWND parent, int margin);
+};

@@ -1,0 +1,102 @@
+#include "ui/win32/field_peers.h"
+
+#include "ui/win32/form_window.h"
+
+namespace {
+
+std::wstring TextOf(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+}  // namespace
+
+TLabelPeer::TLabelPeer(TFormWindow& form, TLabel& label, HWND parent) : TWindowPeer(form, label) {
+    Create(parent, WC_STATICW, SS_LEFT | WS_GROUP);
+}
+
+TEditPeer::TEditPeer(TFormWindow& form, TEdit& edit, HWND parent) : TWindowPeer(form, edit) {
+    DWORD style = ES_AUTOHSCROLL | WS_TABSTOP | WS_GROUP;
+    if (edit.DigitsOnly) style |= ES_NUMBER;
+    if (edit.Password) style |= ES_PASSWORD;
+    Create(parent, WC_EDITW, style, WS_EX_CLIENTEDGE);
+    SetWindowLongPtrW(Handle(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    FBaseProc = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(KeyProc)));
+}
+
+TEditPeer::~TEditPeer() {
+    if (Handle() != nullptr) SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(FBaseProc));
+}
+
+std::wstring TEditPeer::WindowText() const { return static_cast<TEdit&>(Control()).Text(); }
+
+void TEditPeer::OnCommand(WORD code) {
+    auto& edit = static_cast<TEdit&>(Control());
+    switch (code) {
+        case EN_SETFOCUS: edit.SetFocused(true); break;
+        case EN_KILLFOCUS: edit.SetFocused(false); break;
+        case EN_CHANGE:
+            // Windows reports the program's own changes of the text too.
+            if (!FShowing) edit.SetText(TextOf(Handle()));
+            break;
+        default: break;
+    }
+}
+
+void TEditPeer::ShowState() {
+    const std::wstring& text = static_cast<TEdit&>(Control()).Text();
+    if (TextOf(Handle()) == text) return;  // leaves the caret where the user is typing
+    FShowing = true;
+    SetWindowTextW(Handle(), text.c_str());
+    FShowing = false;
+}
+
+/// Looks at the keys before the edit does.
+LRESULT CALLBACK TEditPeer::KeyProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* peer = reinterpret_cast<TEditPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    const WNDPROC base = peer->FBaseProc;
+    auto& edit = static_cast<TEdit&>(peer->Control());
+    TFormWindow& form = peer->FForm;
+    try {
+        if (message == WM_CHAR && !edit.AcceptsKey(static_cast<wchar_t>(wParam))) return 0;
+        const LRESULT result = CallWindowProcW(base, window, message, wParam, lParam);
+        if (message == WM_KEYUP) edit.KeyUp();
+        return result;
+    } catch (...) {
+        form.Fault(std::current_exception());
+        return 0;
+    }
+}
+
+TComboBoxPeer::TComboBoxPeer(TFormWindow& form, TComboBox& box, HWND parent) : TWindowPeer(form, box) {
+    Create(parent, WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP);
+}
+
+void TComboBoxPeer::OnCommand(WORD code) {
+    if (code == CBN_SELCHANGE) static_cast<TComboBox&>(Control()).SetItemIndex(static_cast<int>(Send(CB_GETCURSEL)));
+}
+
+void TComboBoxPeer::ShowItems() {
+    Send(CB_RESETCONTENT);
+    for (const std::wstring& item : static_cast<TComboBox&>(Control()).Items())
+        Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
+}
+
+void TComboBoxPeer::ShowState() {
+    Send(CB_SETCURSEL, static_cast<WPARAM>(static_cast<TComboBox&>(Control()).ItemIndex()));
+}
+
+/// The height of a combo box window is that of its dropped list; the closed box is sized by its item height.
+void TComboBoxPeer::Place(const TRect& place) {
+    constexpr int kMostItemsShown = 16;
+    const int items = std::min(static_cast<int>(static_cast<TComboBox&>(Control()).Items().size()), kMostItemsShown);
+    const int line = static_cast<int>(Send(CB_GETITEMHEIGHT));
+    TWindowPeer::Place({place.Left, place.Top, place.Width, place.Height + (items + 1) * line});
+    RECT closed{};
+    GetWindowRect(Handle(), &closed);
+    const int field = static_cast<int>(Send(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
+    const int surplus = static_cast<int>(closed.bottom - closed.top) - place.Height;
+    if (surplus != 0) Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), field - surplus);
+}

@@ -1,0 +1,38 @@
+// Peers of labels, edits and drop-down lists.
+#pragma once
+
+#include "ui/controls.h"
+#include "ui/win32/window_peer.h"
+
+class TLabelPeer : public TWindowPeer {
+  public:
+    TLabelPeer(TFormWindow& form, TLabel& label, HWND parent);
+};
+
+class TEditPeer : public TWindowPeer {
+  public:
+    TEditPeer(TFormWindow& form, TEdit& edit, HWND parent);
+    ~TEditPeer() override;
+    void OnCommand(WORD code) override;
+
+  protected:
+    void ShowState() override;
+    [[nodiscard]] std::wstring WindowText() const override;
+
+  private:
+    static LRESULT CALLBACK KeyProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    WNDPROC FBaseProc = nullptr;
+    bool FShowing = false;
+};
+
+class TComboBoxPeer : public TWindowPeer {
+  public:
+    TComboBoxPeer(TFormWindow& form, TComboBox& box, HWND parent);
+    void OnCommand(WORD code) override;
+    void Place(const TRect& place) override;
+
+  protected:
+    void ShowState() override;
+    void ShowItems() override;
+};

@@ -1,0 +1,92 @@
+// The native window of a form, and what all its peers share.
+#pragma once
+
+#include "ui/form.h"
+#include "ui/win32/container_peer.h"
+#include "ui/win32/picture_store.h"
+#include "ui/win32/screen.h"
+
+#include <exception>
+#include <set>
+#include <unordered_map>
+
+class TTimer;
+
+class TFormWindow : public TFormPeer {
+  public:
+    /// Told of every exception that an event handler lets out; the program then goes on.
+    using TFaultHandler = std::function<void(std::exception_ptr fault)>;
+    /// Messages of the program's own (WM_USER and above); true when it was one.
+    using TMessageHandler = std::function<bool(UINT message)>;
+
+    /// Creates the window, invisible and empty. See Attach.
+    TFormWindow(TForm& form, HINSTANCE instance, TFaultHandler faultHandler);
+
+    /// Makes the native window of a form, owned by the form.
+    static TFormWindow& Attach(TForm& form, HINSTANCE instance, TFaultHandler faultHandler);
+
+    /// Runs the form's OnShow, then creates its controls and shows the window.
+    void Show(int showCommand);
+    /// Handles messages until the window is closed. Creates hidden pages while there is nothing else to do.
+    int Run();
+    /// Restores the window when it is minimised, and brings it to the front.
+    void ComeForward();
+
+    void Close() override;
+    void Update(TControlAspect aspect) override;
+
+    TMessageHandler OnMessage;
+
+    [[nodiscard]] HWND Handle() const { return FWindow.Handle(); }
+    [[nodiscard]] HINSTANCE Instance() const { return FInstance; }
+    [[nodiscard]] const TForm& Form() const { return FForm; }
+    [[nodiscard]] const TScreen& Screen() const { return FScreen; }
+    [[nodiscard]] TPictureStore& Pictures() { return FPictures; }
+
+    // For the peers.
+    void Register(HWND window, TWindowPeer& peer) { FPeers[window] = &peer; }
+    void Unregister(HWND window) { FPeers.erase(window); }
+    [[nodiscard]] TWindowPeer* PeerOf(HWND window) const;
+    [[nodiscard]] int CommandId(const TControl& control);
+    /// Lays the control's container out anew once the present message is handled.
+    void LayOutLater(const TControl& control);
+    void Fault(std::exception_ptr fault) const;
+    /// Creates the content of a notebook page if it does not exist yet.
+    void CreatePage(TControl& page);
+    /// Lets the timer tick until StopTimer; the answer identifies it.
+    [[nodiscard]] unsigned StartTimer(TTimer& timer);
+    void StopTimer(unsigned id);
+
+  private:
+    /// The window itself.
+    class TWindow : public TContainerPeer {
+      public:
+        TWindow(TFormWindow& owner, TForm& form);
+        void Open();
+        LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+      private:
+        void SetInitialSize();
+
+        TFormWindow& FOwner;
+        SIZE FMinimum{};
+    };
+
+    bool CreateNextPage();
+    void FollowFocus(HWND focus) const;
+    void LayOutChanged();
+    void Destroyed();
+
+    TForm& FForm;
+    HINSTANCE FInstance;
+    TFaultHandler FFaultHandler;
+    TScreen FScreen;
+    TPictureStore FPictures;
+    std::unordered_map<HWND, TWindowPeer*> FPeers;
+    std::set<const TControl*> FChanged;       ///< containers to lay out
+    std::set<const TControl*> FCreatedPages;  ///< notebook pages whose content exists
+    std::unordered_map<unsigned, TTimer*> FTimers;
+    int FLastCommandId = 100;
+    unsigned FLastTimerId = 0;
+    TWindow FWindow;
+};

@@ -1,0 +1,117 @@
+#include "ui/win32/page_peers.h"
+
+#include "ui/win32/form_window.h"
+#include "ui/win32/late_bound.h"
+#include "ui/win32/peer_factory.h"
+
+namespace {
+
+constexpr int kSheetMargin = 11;
+
+TWindowPeer* PeerOf(const TControl& control) { return dynamic_cast<TWindowPeer*>(control.Peer()); }
+
+}  // namespace
+
+TNotebookPeer::TNotebookPeer(TFormWindow& form, TNotebook& notebook, HWND parent)
+    : TContainerPeer(form, notebook, 0) {
+    CreateContainer(parent, kContainerClass, WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | DS_CONTROL, 0);
+}
+
+void TNotebookPeer::PlaceContent(const TRect& area) {
+    for (const TControl* page : Control().Children()) {
+        if (TWindowPeer* peer = PeerOf(*page)) peer->Place(area);
+    }
+}
+
+TNotebookPagePeer::TNotebookPagePeer(TFormWindow& form, TNotebookPage& page, HWND parent)
+    : TPlainContainerPeer(form, page, parent, 0) {}
+
+void TNotebookPagePeer::Update(TControlAspect aspect) {
+    if (aspect == TControlAspect::Visible && Control().Visible()) FForm.CreatePage(Control());
+    TPlainContainerPeer::Update(aspect);
+}
+
+TPageControlPeer::TPageControlPeer(TFormWindow& form, TPageControl& tabs, HWND parent) : TWindowPeer(form, tabs) {
+    // The sheets come first in the tab order, above the control that they cover.
+    for (TControl* sheet : tabs.Children()) CreatePeer(form, *sheet, parent);
+    Create(parent, WC_TABCONTROLW, WS_CLIPSIBLINGS | WS_TABSTOP | WS_GROUP);
+}
+
+std::vector<TTabSheet*> TPageControlPeer::OfferedSheets() const {
+    std::vector<TTabSheet*> sheets;
+    for (TControl* child : Control().Children()) {
+        auto* sheet = static_cast<TTabSheet*>(child);
+        if (sheet->TabVisible()) sheets.push_back(sheet);
+    }
+    return sheets;
+}
+
+void TPageControlPeer::Update(TControlAspect aspect) {
+    TWindowPeer::Update(aspect);
+    if (aspect == TControlAspect::Items) PlaceSheets();  // the tabs may need another number of lines
+}
+
+void TPageControlPeer::ShowItems() {
+    Send(TCM_DELETEALLITEMS);
+    int index = 0;
+    for (const TTabSheet* sheet : OfferedSheets()) {
+        std::wstring caption = sheet->Caption();
+        TCITEMW item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = caption.data();
+        Send(TCM_INSERTITEMW, static_cast<WPARAM>(index++), reinterpret_cast<LPARAM>(&item));
+    }
+}
+
+void TPageControlPeer::ShowState() {
+    const TTabSheet* active = static_cast<TPageControl&>(Control()).ActiveSheet();
+    const std::vector<TTabSheet*> sheets = OfferedSheets();
+    for (std::size_t i = 0; i < sheets.size(); ++i) {
+        if (sheets[i] == active) Send(TCM_SETCURSEL, i);
+    }
+    for (TControl* sheet : Control().Children()) {
+        if (TWindowPeer* peer = PeerOf(*sheet)) peer->Update(TControlAspect::Visible);
+    }
+}
+
+LRESULT TPageControlPeer::OnNotify(NMHDR& header) {
+    if (header.code != static_cast<UINT>(TCN_SELCHANGE)) return 0;
+    const std::vector<TTabSheet*> sheets = OfferedSheets();
+    const auto chosen = static_cast<std::size_t>(Send(TCM_GETCURSEL));
+    if (chosen < sheets.size()) static_cast<TPageControl&>(Control()).SetActiveSheet(*sheets[chosen]);
+    return 0;
+}
+
+void TPageControlPeer::Place(const TRect& place) {
+    TWindowPeer::Place(place);
+    PlaceSheets();
+}
+
+void TPageControlPeer::PlaceSheets() {
+    RECT area{};
+    GetWindowRect(Handle(), &area);
+    MapWindowPoints(nullptr, GetParent(Handle()), reinterpret_cast<POINT*>(&area), 2);
+    Send(TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&area));
+    for (const TControl* sheet : Control().Children()) {
+        if (TWindowPeer* peer = PeerOf(*sheet))
+            peer->Place({area.left, area.top, area.right - area.left, area.bottom - area.top});
+    }
+}
+
+TTabSheetPeer::TTabSheetPeer(TFormWindow& form, TTabSheet& sheet, HWND parent)
+    : TContainerPeer(form, sheet, kSheetMargin) {
+    CreateContainer(parent, kContainerClass, WS_CHILD | WS_CLIPSIBLINGS | DS_CONTROL, 0);
+    EnableThemeTabTexture(Handle());
+}
+
+bool TTabSheetPeer::IsShown() const {
+    return static_cast<const TPageControl*>(Control().Parent())->ActiveSheet() == &Control();
+}
+
+void TTabSheetPeer::Update(TControlAspect aspect) {
+    // A sheet's caption is on its tab.
+    if (aspect == TControlAspect::Caption)
+        Control().Parent()->Peer()->Update(TControlAspect::Items);
+    else
+        TContainerPeer::Update(aspect);
+}

@@ -1,0 +1,71 @@
+#include "ui/win32/peer_factory.h"
+
+#include "ui/win32/button_peers.h"
+#include "ui/win32/category_peers.h"
+#include "ui/win32/color_swatch_peer.h"
+#include "ui/win32/field_peers.h"
+#include "ui/win32/form_window.h"
+#include "ui/win32/image_peer.h"
+#include "ui/win32/list_view_peer.h"
+#include "ui/win32/page_peers.h"
+#include "ui/win32/range_peers.h"
+
+namespace {
+
+/// A panel covers what lies beside it, so it is created above its siblings.
+class TPanelPeer : public TPlainContainerPeer {
+  public:
+    TPanelPeer(TFormWindow& form, TPanel& panel, HWND parent) : TPlainContainerPeer(form, panel, parent, 0) {
+        Update(TControlAspect::Front);
+    }
+};
+
+template <typename TPeerClass, typename TControlClass>
+std::unique_ptr<TPeer> Make(TFormWindow& form, TControl& control, HWND parent) {
+    return std::make_unique<TPeerClass>(form, static_cast<TControlClass&>(control), parent);
+}
+
+std::unique_ptr<TPeer> MakePeer(TFormWindow& form, TControl& control, HWND parent) {
+    switch (control.Kind()) {
+        case TComponentKind::Panel: return Make<TPanelPeer, TPanel>(form, control, parent);
+        case TComponentKind::Notebook: return Make<TNotebookPeer, TNotebook>(form, control, parent);
+        case TComponentKind::NotebookPage: return Make<TNotebookPagePeer, TNotebookPage>(form, control, parent);
+        case TComponentKind::PageControl: return Make<TPageControlPeer, TPageControl>(form, control, parent);
+        case TComponentKind::TabSheet: return Make<TTabSheetPeer, TTabSheet>(form, control, parent);
+        case TComponentKind::GroupBox: return Make<TGroupBoxPeer, TGroupBox>(form, control, parent);
+        case TComponentKind::Label: return Make<TLabelPeer, TLabel>(form, control, parent);
+        case TComponentKind::CheckBox: return Make<TCheckBoxPeer, TCheckBox>(form, control, parent);
+        case TComponentKind::RadioButton: return Make<TRadioButtonPeer, TRadioButton>(form, control, parent);
+        case TComponentKind::Edit: return Make<TEditPeer, TEdit>(form, control, parent);
+        case TComponentKind::UpDown: return Make<TUpDownPeer, TUpDown>(form, control, parent);
+        case TComponentKind::TrackBar: return Make<TTrackBarPeer, TTrackBar>(form, control, parent);
+        case TComponentKind::ComboBox: return Make<TComboBoxPeer, TComboBox>(form, control, parent);
+        case TComponentKind::Button: return Make<TPushButtonPeer, TButton>(form, control, parent);
+        case TComponentKind::ColorSwatch: return Make<TColorSwatchPeer, TColorSwatch>(form, control, parent);
+        case TComponentKind::Image: return Make<TImagePeer, TImage>(form, control, parent);
+        case TComponentKind::ListView: return Make<TListViewPeer, TListView>(form, control, parent);
+        case TComponentKind::CategoryBar: return Make<TCategoryBarPeer, TCategoryBar>(form, control, parent);
+        case TComponentKind::CategoryGroup: return Make<TCategoryGroupPeer, TCategoryGroup>(form, control, parent);
+        case TComponentKind::CategoryItem: return Make<TCategoryItemPeer, TCategoryItem>(form, control, parent);
+        case TComponentKind::Timer: return std::make_unique<TTimerPeer>(form, static_cast<TTimer&>(control));
+        case TComponentKind::Form: break;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+void CreatePeer(TFormWindow& form, TControl& control, HWND parent) {
+    control.SetPeer(MakePeer(form, control, parent));
+    switch (control.Kind()) {
+        case TComponentKind::NotebookPage:  // when it is first shown
+        case TComponentKind::PageControl: return;  // it must see its sheets before itself
+        case TComponentKind::GroupBox:
+            // A frame only: to Windows the controls in it are its siblings.
+            for (TControl* child : control.Children()) CreatePeer(form, *child, parent);
+            return;
+        default:
+            if (auto* container = dynamic_cast<TContainerPeer*>(control.Peer())) container->CreateContent();
+            return;
+    }
+}

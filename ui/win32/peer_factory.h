@@ -1,0 +1,11 @@
+// Gives controls their native side.
+#pragma once
+
+#include "ui/component.h"
+
+#include <windows.h>
+
+class TFormWindow;
+
+/// Creates the peer of a control, which then owns it, and the peers of the controls in it.
+void CreatePeer(TFormWindow& form, TControl& control, HWND parent);

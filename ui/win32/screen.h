@@ -1,0 +1,27 @@
+// The screen as layouts and peers need it: resolution, the window fonts, text sizes.
+#pragma once
+
+#include "ui/layout.h"
+
+#include <windows.h>
+
+class TScreen : public TLayoutMetrics {
+  public:
+    /// Takes the message font that the user has chosen in Windows.
+    TScreen();
+    ~TScreen() override;
+    TScreen(const TScreen&) = delete;
+    TScreen& operator=(const TScreen&) = delete;
+
+    [[nodiscard]] TSize TextSize(const std::wstring& caption, int maxWidth) const override;
+    [[nodiscard]] int Scale(int distance) const override { return MulDiv(distance, FDotsPerInch, 96); }
+
+    [[nodiscard]] HFONT Font() const { return FFont; }
+    [[nodiscard]] HFONT BoldFont() const { return FBoldFont; }
+
+  private:
+    int FDotsPerInch;
+    HFONT FFont;
+    HFONT FBoldFont;
+    HDC FMeasure;  ///< a memory device context that holds the font
+};

@@ -1,0 +1,66 @@
+#include "ui/win32/window_peer.h"
+
+#include "ui/win32/automation_name.h"
+#include "ui/win32/form_window.h"
+
+TWindowPeer::~TWindowPeer() {
+    const HWND handle = FHandle;
+    Detach();
+    if (handle != nullptr) DestroyWindow(handle);
+}
+
+void TWindowPeer::Create(HWND parent, const wchar_t* windowClass, DWORD style, DWORD extendedStyle) {
+    style |= WS_CHILD;
+    if (IsShown()) style |= WS_VISIBLE;
+    if (!FControl.Enabled()) style |= WS_DISABLED;
+    const auto id = reinterpret_cast<HMENU>(static_cast<INT_PTR>(FForm.CommandId(FControl)));
+    Adopt(CreateWindowExW(extendedStyle, windowClass, WindowText().c_str(), style, 0, 0, 0, 0, parent, id,
+                          FForm.Instance(), nullptr));
+}
+
+void TWindowPeer::Adopt(HWND handle) {
+    if (handle == nullptr) return;
+    FHandle = handle;
+    FForm.Register(handle, *this);
+    SetAutomationName(handle, FControl.Name());
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(FForm.Screen().Font()));
+    ShowItems();
+    ShowState();
+}
+
+void TWindowPeer::Place(const TRect& place) {
+    SetWindowPos(FHandle, nullptr, place.Left, place.Top, place.Width, place.Height,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
+
+void TWindowPeer::Detach() {
+    if (FHandle == nullptr) return;
+    RemoveAutomationName(FHandle);
+    FForm.Unregister(FHandle);
+    FHandle = nullptr;
+}
+
+void TWindowPeer::Update(TControlAspect aspect) {
+    if (FHandle == nullptr) return;
+    switch (aspect) {
+        case TControlAspect::Caption:
+            SetWindowTextW(FHandle, WindowText().c_str());
+            FForm.LayOutLater(FControl);
+            break;
+        case TControlAspect::Enabled: EnableWindow(FHandle, FControl.Enabled()); break;
+        case TControlAspect::Visible:
+            ShowWindow(FHandle, IsShown() ? SW_SHOWNA : SW_HIDE);
+            FForm.LayOutLater(FControl);
+            break;
+        case TControlAspect::State: ShowState(); break;
+        case TControlAspect::Items:
+            ShowItems();
+            ShowState();
+            break;
+        case TControlAspect::Front:
+        case TControlAspect::Back:
+            SetWindowPos(FHandle, aspect == TControlAspect::Front ? HWND_TOP : HWND_BOTTOM, 0, 0, 0, 0,
+                         SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+            break;
+    }
+}

@@ -1,0 +1,59 @@
+// The base of the native peers: one window that shows one control.
+#pragma once
+
+#include "ui/layout.h"
+
+#include <windows.h>
+// After windows.h, which it needs.
+#include <commctrl.h>
+
+class TFormWindow;
+
+class TWindowPeer : public TPeer {
+  public:
+    TWindowPeer(TFormWindow& form, TControl& control) : FForm(form), FControl(control) {}
+    ~TWindowPeer() override;
+    TWindowPeer(const TWindowPeer&) = delete;
+    TWindowPeer& operator=(const TWindowPeer&) = delete;
+
+    /// The window; null once it is destroyed.
+    [[nodiscard]] HWND Handle() const { return FHandle; }
+    [[nodiscard]] TControl& Control() const { return FControl; }
+
+    void Update(TControlAspect aspect) override;
+
+    // Messages that Windows sends to the parent and that the parent hands back to the window they are about.
+    virtual void OnCommand(WORD /*code*/) {}
+    virtual LRESULT OnNotify(NMHDR& /*header*/) { return 0; }
+    virtual void OnScroll() {}
+    virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
+
+    /// Moves the window to its place in the parent.
+    virtual void Place(const TRect& place);
+
+    /// Forgets the window, which is about to be destroyed, and withdraws its automation name.
+    void Detach();
+
+  protected:
+    /// Creates the window with the control's caption, name, enabled and visible marks. Called once.
+    void Create(HWND parent, const wchar_t* windowClass, DWORD style, DWORD extendedStyle = 0);
+    /// Takes over a window that was made otherwise.
+    void Adopt(HWND handle);
+
+    /// Shows the control's state; called on creation too.
+    virtual void ShowState() {}
+    virtual void ShowItems() {}
+    /// What the window's caption is to be.
+    [[nodiscard]] virtual std::wstring WindowText() const { return FControl.Caption(); }
+    [[nodiscard]] virtual bool IsShown() const { return FControl.Visible(); }
+
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return SendMessageW(FHandle, message, wParam, lParam);
+    }
+
+    TFormWindow& FForm;
+
+  private:
+    TControl& FControl;
+    HWND FHandle = nullptr;
+};
