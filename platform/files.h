@@ -1,0 +1,31 @@
+// Files as the program uses them: read whole, replaced whole, listed by pattern.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Nothing throws. Paths are Windows paths in UTF-16 (UTF-32 on other hosts).
+class TFiles {
+  public:
+    virtual ~TFiles() = default;
+
+    [[nodiscard]] virtual bool Exists(const std::wstring& path) const = 0;
+
+    /// The file's bytes, or nothing when it cannot be read whole.
+    [[nodiscard]] virtual std::optional<std::vector<std::uint8_t>> Read(const std::wstring& path) const = 0;
+
+    /// Puts `bytes` in the file's place: whatever interrupts it, the old or the new file is there whole.
+    [[nodiscard]] virtual bool Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) = 0;
+
+    /// Names (without folder) of the files in `folder` (no trailing delimiter) that match `pattern`, such as
+    /// "*.lng", whatever their attributes, in the order of the file system. Folders are not listed.
+    [[nodiscard]] virtual std::vector<std::wstring> List(const std::wstring& folder,
+                                                         const std::wstring& pattern) const = 0;
+
+    /// GetPrivateProfileStringW: a value of a Windows INI file, or `fallback`.
+    [[nodiscard]] virtual std::wstring ProfileString(const std::wstring& path, const std::wstring& section,
+                                                     const std::wstring& key,
+                                                     const std::wstring& fallback) const = 0;
+};

@@ -1,0 +1,72 @@
+#include "platform/service_control.h"
+
+namespace {
+
+constexpr std::uint32_t kManagerAllAccess = 0xF003F;  // SC_MANAGER_ALL_ACCESS
+constexpr std::uint32_t kServiceAllAccess = 0xF01FF;  // SERVICE_ALL_ACCESS
+constexpr std::uint32_t kGenericRead = 0x80000000;    // GENERIC_READ
+
+/// An opened service, released at the end of its scope. Either handle may be none; the calls then fail.
+class TOpenService {
+  public:
+    TOpenService(TServiceManager& services, const std::wstring& name, std::uint32_t access)
+        : FServices(services),
+          FManager(services.OpenManager(kManagerAllAccess)),
+          FService(services.OpenNamedService(FManager, name, access)) {}
+    ~TOpenService() {
+        FServices.Close(FService);
+        FServices.Close(FManager);
+    }
+    TOpenService(const TOpenService&) = delete;
+    TOpenService& operator=(const TOpenService&) = delete;
+
+    [[nodiscard]] TServiceHandle Handle() const { return FService; }
+
+  private:
+    TServiceManager& FServices;
+    TServiceHandle FManager;
+    TServiceHandle FService;
+};
+
+}  // namespace
+
+bool StartServiceByName(TSystem& system, const std::wstring& serviceName) {
+    constexpr std::uint32_t kWait = 500;
+    TServiceManager& services = system.Services;
+    const TOpenService service(services, serviceName, kServiceAllAccess);
+    (void)services.ChangeStartType(service.Handle(), TServiceStartType::Automatic);
+    if (!services.Start(service.Handle())) return false;
+    auto state = TServiceState::Stopped;
+    while (services.QueryState(service.Handle(), state)) {
+        system.Clock.Sleep(kWait);
+        system.Clock.ProcessMessages();
+        if (state != TServiceState::StartPending) break;
+        system.Clock.Sleep(kWait);
+    }
+    return state == TServiceState::Running;
+}
+
+bool StopServiceByName(TSystem& system, const std::wstring& serviceName) {
+    constexpr std::uint32_t kWait = 1000;
+    TServiceManager& services = system.Services;
+    const TOpenService service(services, serviceName, kServiceAllAccess);
+    (void)services.ChangeStartType(service.Handle(), TServiceStartType::Disabled);
+    auto state = TServiceState::Running;
+    if (!services.Control(service.Handle(), TServiceControl::Stop, state)) return false;
+    system.Clock.Sleep(kWait);
+    while (services.QueryState(service.Handle(), state)) {
+        system.Clock.ProcessMessages();
+        if (state != TServiceState::StopPending) break;
+        system.Clock.Sleep(kWait);
+    }
+    return state == TServiceState::Stopped;
+}
+
+TServiceAnswer QueryServiceRunning(TSystem& system, const std::wstring& serviceName) {
+    const TOpenService service(system.Services, serviceName, kGenericRead);
+    if (service.Handle() == TServiceHandle::None) return TServiceAnswer::Unknown;
+    auto state = TServiceState::Stopped;
+    if (!system.Services.Control(service.Handle(), TServiceControl::Interrogate, state))
+        return TServiceAnswer::Silent;
+    return state == TServiceState::Running ? TServiceAnswer::Running : TServiceAnswer::Unknown;
+}

@@ -1,0 +1,21 @@
+// Switching Windows services on and off. Failures show in the answers only; every handle is released.
+#pragma once
+
+#include "platform/system.h"
+
+/// What a service answers when it is asked for its state.
+enum class TServiceAnswer : int {
+    Silent = 0,   ///< it does not answer; stopped services do not
+    Unknown = 1,  ///< it cannot be opened, or it answers that it is neither running nor silent
+    Running = 2,
+};
+
+/// Sets the start type to automatic, starts the service and waits while it is starting, as long as that takes;
+/// window messages are handled meanwhile. True when it ends up running, false also when it ran already.
+bool StartServiceByName(TSystem& system, const std::wstring& serviceName);
+
+/// Sets the start type to disabled, stops the service and waits while it is stopping. True when it ends up
+/// stopped, false also when it was stopped already.
+bool StopServiceByName(TSystem& system, const std::wstring& serviceName);
+
+[[nodiscard]] TServiceAnswer QueryServiceRunning(TSystem& system, const std::wstring& serviceName);

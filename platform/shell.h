@@ -1,0 +1,28 @@
+// The Windows shell and session: change notifications, special folders, restart, debugger output.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+/// Shell folders the program asks for, with their documented CSIDL_… numbers.
+enum class TSpecialFolder : int {
+    AppData = 0x1A,        ///< CSIDL_APPDATA: the user's roaming application data
+    CommonAppData = 0x23,  ///< CSIDL_COMMON_APPDATA: application data of all users
+};
+
+class TShell {
+  public:
+    virtual ~TShell() = default;
+
+    /// SHChangeNotify without items; `event` is an SHCNE_… mask, `flags` SHCNF_….
+    virtual void NotifyChange(std::uint32_t event, std::uint32_t flags) = 0;
+
+    /// Path of a shell folder without trailing delimiter and without creating it; empty when unknown.
+    [[nodiscard]] virtual std::wstring FolderPath(TSpecialFolder folder) const = 0;
+
+    /// Enables SeShutdownPrivilege and asks Windows to reboot. A refusal is not reported.
+    virtual void RestartWindows() = 0;
+
+    /// OutputDebugStringW.
+    virtual void DebugOutput(const std::wstring& text) = 0;
+};

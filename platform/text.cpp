@@ -1,0 +1,175 @@
+#include "platform/text.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace {
+
+using TByteSpan = std::span<const std::uint8_t>;
+
+constexpr char32_t kReplacement = 0xFFFD;
+
+void Append(std::wstring& text, char32_t code) {
+    if constexpr (sizeof(wchar_t) == 2) {
+        if (code > 0xFFFF) {
+            code -= 0x10000;
+            text.push_back(static_cast<wchar_t>(0xD800 + (code >> 10)));
+            code = 0xDC00 + (code & 0x3FF);
+        }
+    }
+    text.push_back(static_cast<wchar_t>(code));
+}
+
+/// Every longest beginning of a sequence that goes wrong becomes one U+FFFD, as Unicode recommends.
+std::wstring FromUtf8(TByteSpan bytes) {
+    std::wstring text;
+    text.reserve(bytes.size());
+    for (std::size_t i = 0; i < bytes.size();) {
+        const std::uint8_t lead = bytes[i++];
+        if (lead < 0x80) {
+            text.push_back(lead);
+            continue;
+        }
+        int trails = 0;
+        if (lead >= 0xC2 && lead <= 0xDF) trails = 1;
+        if (lead >= 0xE0 && lead <= 0xEF) trails = 2;
+        if (lead >= 0xF0 && lead <= 0xF4) trails = 3;
+        bool whole = trails > 0;
+        char32_t code = lead & (0x3FU >> trails);
+        // The byte after some leads has narrower bounds: they exclude longer forms than needed, surrogates and
+        // what lies beyond U+10FFFF.
+        std::uint8_t low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+        std::uint8_t high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+        for (; whole && trails > 0; --trails) {
+            whole = i < bytes.size() && bytes[i] >= low && bytes[i] <= high;
+            if (whole) code = code << 6 | (bytes[i++] & 0x3FU);
+            low = 0x80;
+            high = 0xBF;
+        }
+        Append(text, whole ? code : kReplacement);
+    }
+    return text;
+}
+
+/// `highByte` is the place of the high byte in a unit, 0 or 1.
+std::wstring FromUtf16(TByteSpan bytes, std::size_t highByte) {
+    const std::size_t count = bytes.size() / 2;
+    const auto unit = [&](std::size_t i) -> char32_t {
+        return static_cast<char32_t>(bytes[2 * i + highByte] << 8 | bytes[2 * i + 1 - highByte]);
+    };
+    const auto isHigh = [](char32_t code) { return code >= 0xD800 && code <= 0xDBFF; };
+    const auto isLow = [](char32_t code) { return code >= 0xDC00 && code <= 0xDFFF; };
+    std::wstring text;
+    text.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        char32_t code = unit(i);
+        if (isHigh(code) && i + 1 < count && isLow(unit(i + 1)))
+            code = 0x10000 + ((code - 0xD800) << 10) + (unit(++i) - 0xDC00);
+        else if (isHigh(code) || isLow(code))
+            code = kReplacement;
+        Append(text, code);
+    }
+    return text;
+}
+
+bool StartsWith(TByteSpan bytes, std::initializer_list<std::uint8_t> mark) {
+    return bytes.size() >= mark.size() && std::equal(mark.begin(), mark.end(), bytes.begin());
+}
+
+/// Capitals and how far their small letters are from them.
+struct TCapitals {
+    char32_t First;
+    char32_t Last;
+    char32_t Step;  ///< 2 where capitals and small letters alternate
+    int Distance;
+};
+
+constexpr auto kCapitals = std::to_array<TCapitals>({
+    // Basic Latin, and Latin-1 without the multiplication sign.
+    {0x0041, 0x005A, 1, 32},
+    {0x00C0, 0x00D6, 1, 32},
+    {0x00D8, 0x00DE, 1, 32},
+    // Latin Extended-A. The small letter of Y with diaeresis is in Latin-1.
+    {0x0100, 0x012E, 2, 1},
+    {0x0132, 0x0136, 2, 1},
+    {0x0139, 0x0147, 2, 1},
+    {0x014A, 0x0176, 2, 1},
+    {0x0178, 0x0178, 1, -121},
+    {0x0179, 0x017D, 2, 1},
+    // Greek: the letters with tonos, the alphabet, the final sigma as if it were a capital.
+    {0x0386, 0x0386, 1, 38},
+    {0x0388, 0x038A, 1, 37},
+    {0x038C, 0x038C, 1, 64},
+    {0x038E, 0x038F, 1, 63},
+    {0x0391, 0x03A1, 1, 32},
+    {0x03A3, 0x03AB, 1, 32},
+    {0x03C2, 0x03C2, 1, 1},
+    // Cyrillic.
+    {0x0400, 0x040F, 1, 80},
+    {0x0410, 0x042F, 1, 32},
+    {0x0460, 0x0480, 2, 1},
+    {0x048A, 0x04BE, 2, 1},
+    {0x04C0, 0x04C0, 1, 15},
+    {0x04C1, 0x04CD, 2, 1},
+    {0x04D0, 0x052E, 2, 1},
+});
+
+/// The small letter of a capital; any other character stays as it is.
+char32_t Fold(wchar_t character) {
+    const auto code = static_cast<char32_t>(character);
+    if (code > kCapitals.back().Last) return code;
+    for (const TCapitals& capitals : kCapitals) {
+        if (code < capitals.First) break;
+        if (code <= capitals.Last && (code - capitals.First) % capitals.Step == 0)
+            return static_cast<char32_t>(static_cast<int>(code) + capitals.Distance);
+    }
+    return code;
+}
+
+}  // namespace
+
+std::wstring DecodeText(std::span<const std::uint8_t> bytes, const TWindowsInfo& windows) {
+    if (StartsWith(bytes, {0xEF, 0xBB, 0xBF})) return FromUtf8(bytes.subspan(3));
+    if (StartsWith(bytes, {0xFF, 0xFE})) return FromUtf16(bytes.subspan(2), 1);
+    if (StartsWith(bytes, {0xFE, 0xFF})) return FromUtf16(bytes.subspan(2), 0);
+    return windows.FromAnsi(bytes);
+}
+
+bool TLineReader::Next(std::wstring_view& line) {
+    if (FRest.empty()) return false;
+    const auto isEnd = [](wchar_t c) { return c == L'\r' || c == L'\n'; };
+    const auto length = static_cast<std::size_t>(std::ranges::find_if(FRest, isEnd) - FRest.begin());
+    line = FRest.substr(0, length);
+    FRest.remove_prefix(length);
+    if (!FRest.empty()) FRest.remove_prefix(FRest.starts_with(L"\r\n") ? 2 : 1);
+    return true;
+}
+
+std::wstring_view Trim(std::wstring_view text) {
+    while (!text.empty() && text.front() <= L' ') text.remove_prefix(1);
+    while (!text.empty() && text.back() <= L' ') text.remove_suffix(1);
+    return text;
+}
+
+bool SameText(std::wstring_view a, std::wstring_view b) { return std::ranges::equal(a, b, {}, Fold, Fold); }
+
+std::optional<std::int32_t> ParseInteger(std::wstring_view text) {
+    const bool negative = text.starts_with(L'-');
+    if (negative || text.starts_with(L'+')) text.remove_prefix(1);
+    if (text.empty()) return std::nullopt;
+    constexpr std::int64_t kLimit = std::numeric_limits<std::int32_t>::max();
+    std::int64_t number = 0;
+    for (const wchar_t c : text) {
+        if (c < L'0' || c > L'9') return std::nullopt;
+        number = number * 10 + (c - L'0');
+        if (number > kLimit + (negative ? 1 : 0)) return std::nullopt;
+    }
+    return static_cast<std::int32_t>(negative ? -number : number);
+}
+
+std::size_t TTextHash::operator()(std::wstring_view text) const {
+    std::size_t hash = 2166136261U;  // FNV-1a, a character at a time
+    for (const wchar_t c : text) hash = (hash ^ Fold(c)) * 16777619U;
+    return hash;
+}

@@ -1,0 +1,13 @@
+// The time of Windows and the thread's message queue.
+#pragma once
+
+#include "platform/clock.h"
+
+class TWin32Clock : public TClock {
+  public:
+    [[nodiscard]] TTimeOfDay TimeOfDay() const override;
+    [[nodiscard]] std::wstring DateTimeText() const override;
+    void Sleep(std::uint32_t milliseconds) override;
+    /// Stops at the message that ends the program, and leaves it to the main loop.
+    void ProcessMessages() override;
+};

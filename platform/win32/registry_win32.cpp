@@ -1,0 +1,201 @@
+#include "platform/win32/registry_win32.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "platform/win32/handle.h"
+#include "platform/win32/late_bound.h"
+
+namespace {
+
+/// A value larger than that is none of ours and reads as one of unknown type.
+constexpr DWORD kLargestValue = 16 * 1024 * 1024;
+/// The longest name of a key, in characters.
+constexpr DWORD kLongestKeyName = 255;
+
+HKEY RootOf(TRootKey root) {
+    switch (root) {
+        case TRootKey::ClassesRoot:
+            return HKEY_CLASSES_ROOT;
+        case TRootKey::CurrentUser:
+            return HKEY_CURRENT_USER;
+        case TRootKey::LocalMachine:
+            return HKEY_LOCAL_MACHINE;
+    }
+    return nullptr;
+}
+
+/// Windows knows no backslash at either end.
+std::wstring Trimmed(const std::wstring& key) {
+    const std::size_t first = key.find_first_not_of(L'\\');
+    if (first == std::wstring::npos) return {};
+    return key.substr(first, key.find_last_not_of(L'\\') - first + 1);
+}
+
+/// For full access in the view; an invalid handle when the key cannot be opened.
+TKeyHandle Open(HKEY parent, const std::wstring& key, REGSAM view) {
+    HKEY handle = nullptr;
+    const LONG error = RegOpenKeyExW(parent, key.c_str(), 0, KEY_ALL_ACCESS | view, &handle);
+    return TKeyHandle(error == ERROR_SUCCESS ? handle : nullptr);
+}
+
+TKeyHandle Open(TRootKey root, const std::wstring& key, REGSAM view) {
+    return Open(RootOf(root), Trimmed(key), view);
+}
+
+/// The key's own names, taken down before anything changes them.
+std::vector<std::wstring> SubKeysOf(HKEY key) {
+    std::vector<std::wstring> names;
+    wchar_t name[kLongestKeyName + 1];
+    for (DWORD index = 0;; ++index) {
+        DWORD length = kLongestKeyName + 1;
+        if (RegEnumKeyExW(key, index, name, &length, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS)
+            break;
+        names.emplace_back(name, length);
+    }
+    return names;
+}
+
+/// The bytes of a value and its REG_… type; false when it cannot be read.
+bool QueryValue(HKEY key, const std::wstring& name, DWORD& type, TBytes& bytes) {
+    DWORD size = 0;
+    LONG error = RegQueryValueExW(key, name.c_str(), nullptr, &type, nullptr, &size);
+    while (error == ERROR_SUCCESS) {
+        if (size > kLargestValue) {
+            type = REG_NONE;
+            return true;
+        }
+        bytes.resize(size);
+        DWORD read = size;
+        error = RegQueryValueExW(key, name.c_str(), nullptr, &type, bytes.data(), &read);
+        if (error == ERROR_SUCCESS) {
+            // Without a buffer, as for a value without bytes, only the size is answered: it may have grown.
+            if (read <= size) {
+                bytes.resize(read);
+                return true;
+            }
+            size = read;
+        } else if (error == ERROR_MORE_DATA) {
+            size = std::max(read, size + 1);
+            error = ERROR_SUCCESS;
+        }
+    }
+    return false;
+}
+
+/// Anybody may have stored text without its NUL, or half a character at its end.
+std::wstring TextOf(const TBytes& bytes) {
+    std::wstring text(bytes.size() / sizeof(wchar_t), L'\0');
+    std::memcpy(text.data(), bytes.data(), text.size() * sizeof(wchar_t));
+    text.resize(std::min(text.find(L'\0'), text.size()));
+    return text;
+}
+
+TRegistryData Decode(DWORD type, TBytes bytes) {
+    switch (type) {
+        case REG_SZ:
+            return {TRegDataType::String, TextOf(bytes)};
+        case REG_EXPAND_SZ:
+            return {TRegDataType::ExpandString, TextOf(bytes)};
+        case REG_BINARY:
+            return {TRegDataType::Binary, std::move(bytes)};
+        case REG_DWORD:
+            if (std::int32_t number = 0; bytes.size() == sizeof(number)) {
+                std::memcpy(&number, bytes.data(), sizeof(number));
+                return {TRegDataType::Dword, number};
+            }
+            break;
+        default:
+            break;
+    }
+    return {};
+}
+
+bool SetValue(HKEY key, const std::wstring& name, DWORD type, const void* data, std::size_t size) {
+    return RegSetValueExW(key, name.c_str(), 0, type, static_cast<const BYTE*>(data),
+                          static_cast<DWORD>(size)) == ERROR_SUCCESS;
+}
+
+/// False when Windows refuses, and when the value is not of the type.
+bool SetValue(HKEY key, const std::wstring& name, const TRegistryData& data) {
+    const auto* text = std::get_if<std::wstring>(&data.Value);
+    const auto* number = std::get_if<std::int32_t>(&data.Value);
+    const auto* bytes = std::get_if<TBytes>(&data.Value);
+    switch (data.Type) {
+        case TRegDataType::Unknown:
+            return true;
+        case TRegDataType::String:
+        case TRegDataType::ExpandString: {
+            if (text == nullptr) return false;
+            const DWORD type = data.Type == TRegDataType::String ? REG_SZ : REG_EXPAND_SZ;
+            return SetValue(key, name, type, text->c_str(), (text->size() + 1) * sizeof(wchar_t));
+        }
+        case TRegDataType::Dword:
+            return number != nullptr && SetValue(key, name, REG_DWORD, number, sizeof(*number));
+        case TRegDataType::Binary:
+            return bytes != nullptr && SetValue(key, name, REG_BINARY, bytes->data(), bytes->size());
+    }
+    return false;
+}
+
+/// Windows deletes a key only when it has no subkeys.
+TWriteStatus DeleteTree(HKEY parent, const std::wstring& name, REGSAM view) {
+    TKeyHandle key = Open(parent, name, view);
+    if (!key.IsValid()) return TWriteStatus::KeyUnavailable;
+    for (const std::wstring& child : SubKeysOf(key.Get()))
+        if (DeleteTree(key.Get(), child, view) != TWriteStatus::Done) return TWriteStatus::Refused;
+    key.Close();
+    return DeleteKeyInView(parent, name.c_str(), view) == ERROR_SUCCESS ? TWriteStatus::Done
+                                                                        : TWriteStatus::Refused;
+}
+
+}  // namespace
+
+TWin32Registry::TWin32Registry() : FNativeView(ProcessIsWow64() ? KEY_WOW64_64KEY : 0) {}
+
+TReadStatus TWin32Registry::Check(const TRegistryPlace& place, TRegistryView view) const {
+    const TKeyHandle key = Open(place.Root, place.Key, view == TRegistryView::Native ? FNativeView : 0);
+    if (!key.IsValid()) return TReadStatus::KeyUnavailable;
+    if (place.ValueName.empty()) return TReadStatus::Found;
+    const LONG error =
+        RegQueryValueExW(key.Get(), place.ValueName.c_str(), nullptr, nullptr, nullptr, nullptr);
+    return error == ERROR_SUCCESS ? TReadStatus::Found : TReadStatus::ValueMissing;
+}
+
+TReadStatus TWin32Registry::Read(const TRegistryPlace& place, TRegistryData& data) const {
+    const TKeyHandle key = Open(place.Root, place.Key, FNativeView);
+    if (!key.IsValid()) return TReadStatus::KeyUnavailable;
+    DWORD type = REG_NONE;
+    TBytes bytes;
+    if (!QueryValue(key.Get(), place.ValueName, type, bytes)) return TReadStatus::ValueMissing;
+    data = Decode(type, std::move(bytes));
+    return TReadStatus::Found;
+}
+
+TWriteStatus TWin32Registry::Write(const TRegistryPlace& place, const TRegistryData& data) {
+    HKEY handle = nullptr;
+    if (RegCreateKeyExW(RootOf(place.Root), Trimmed(place.Key).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
+                        KEY_ALL_ACCESS | FNativeView, nullptr, &handle, nullptr) != ERROR_SUCCESS)
+        return TWriteStatus::KeyUnavailable;
+    const TKeyHandle key(handle);
+    return SetValue(key.Get(), place.ValueName, data) ? TWriteStatus::Done : TWriteStatus::Refused;
+}
+
+TWriteStatus TWin32Registry::DeleteValue(const TRegistryPlace& place) {
+    const TKeyHandle key = Open(place.Root, place.Key, FNativeView);
+    if (!key.IsValid()) return TWriteStatus::KeyUnavailable;
+    const LONG error = RegDeleteValueW(key.Get(), place.ValueName.c_str());
+    return error == ERROR_SUCCESS || error == ERROR_FILE_NOT_FOUND ? TWriteStatus::Done
+                                                                   : TWriteStatus::Refused;
+}
+
+TWriteStatus TWin32Registry::DeleteKey(TRootKey root, const std::wstring& key) {
+    const std::wstring path = Trimmed(key);
+    if (path.empty()) return TWriteStatus::Refused;  // a whole root
+    return DeleteTree(RootOf(root), path, FNativeView);
+}
+
+std::vector<std::wstring> TWin32Registry::SubKeys(TRootKey root, const std::wstring& key) const {
+    const TKeyHandle opened = Open(root, key, FNativeView);
+    return opened.IsValid() ? SubKeysOf(opened.Get()) : std::vector<std::wstring>();
+}

@@ -1,0 +1,49 @@
+#include "platform/win32/service_manager_win32.h"
+
+#include <windows.h>
+
+#include <bit>
+
+
+namespace {
+
+SC_HANDLE NativeHandle(TServiceHandle handle) { return std::bit_cast<SC_HANDLE>(handle); }
+
+}  // namespace
+
+TServiceHandle TWin32ServiceManager::OpenManager(std::uint32_t access) {
+    return std::bit_cast<TServiceHandle>(OpenSCManagerW(nullptr, nullptr, access));
+}
+
+TServiceHandle TWin32ServiceManager::OpenNamedService(TServiceHandle manager, const std::wstring& name,
+                                                 std::uint32_t access) {
+    return std::bit_cast<TServiceHandle>(OpenServiceW(NativeHandle(manager), name.c_str(), access));
+}
+
+void TWin32ServiceManager::Close(TServiceHandle handle) {
+    if (handle != TServiceHandle::None) CloseServiceHandle(NativeHandle(handle));
+}
+
+bool TWin32ServiceManager::QueryState(TServiceHandle service, TServiceState& state) {
+    SERVICE_STATUS status{};
+    if (!QueryServiceStatus(NativeHandle(service), &status)) return false;
+    state = TServiceState{static_cast<std::uint32_t>(status.dwCurrentState)};
+    return true;
+}
+
+bool TWin32ServiceManager::Control(TServiceHandle service, TServiceControl control, TServiceState& state) {
+    SERVICE_STATUS status{};
+    if (!ControlService(NativeHandle(service), static_cast<DWORD>(control), &status)) return false;
+    state = TServiceState{static_cast<std::uint32_t>(status.dwCurrentState)};
+    return true;
+}
+
+bool TWin32ServiceManager::Start(TServiceHandle service) {
+    return StartServiceW(NativeHandle(service), 0, nullptr);
+}
+
+bool TWin32ServiceManager::ChangeStartType(TServiceHandle service, TServiceStartType startType) {
+    return ChangeServiceConfigW(NativeHandle(service), SERVICE_NO_CHANGE, static_cast<DWORD>(startType),
+                                SERVICE_NO_CHANGE, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                nullptr);
+}

@@ -1,0 +1,40 @@
+#include "platform/win32/shell_win32.h"
+
+#include <windows.h>
+#include <shlobj.h>
+
+#include "platform/win32/handle.h"
+
+namespace {
+
+void EnableShutdownPrivilege() {
+    HANDLE opened = nullptr;
+    if (!OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES | TOKEN_QUERY, &opened)) return;
+    const TTokenHandle token(opened);
+    TOKEN_PRIVILEGES privileges{};
+    privileges.PrivilegeCount = 1;
+    privileges.Privileges[0].Attributes = SE_PRIVILEGE_ENABLED;
+    if (LookupPrivilegeValueW(nullptr, SE_SHUTDOWN_NAME, &privileges.Privileges[0].Luid))
+        AdjustTokenPrivileges(token.Get(), FALSE, &privileges, 0, nullptr, nullptr);
+}
+
+}  // namespace
+
+void TWin32Shell::NotifyChange(std::uint32_t event, std::uint32_t flags) {
+    SHChangeNotify(static_cast<LONG>(event), flags, nullptr, nullptr);
+}
+
+std::wstring TWin32Shell::FolderPath(TSpecialFolder folder) const {
+    wchar_t buffer[MAX_PATH + 1]{};
+    if (!SHGetSpecialFolderPathW(nullptr, buffer, static_cast<int>(folder), FALSE)) return {};
+    std::wstring path = buffer;
+    while (path.ends_with(L'\\')) path.pop_back();
+    return path;
+}
+
+void TWin32Shell::RestartWindows() {
+    EnableShutdownPrivilege();
+    ExitWindowsEx(EWX_REBOOT, 0);
+}
+
+void TWin32Shell::DebugOutput(const std::wstring& text) { OutputDebugStringW(text.c_str()); }

@@ -1,0 +1,12 @@
+// The shell and the session of Windows.
+#pragma once
+
+#include "platform/shell.h"
+
+class TWin32Shell : public TShell {
+  public:
+    void NotifyChange(std::uint32_t event, std::uint32_t flags) override;
+    [[nodiscard]] std::wstring FolderPath(TSpecialFolder folder) const override;
+    void RestartWindows() override;
+    void DebugOutput(const std::wstring& text) override;
+};

@@ -1,0 +1,47 @@
+// What kind of Windows and what program this is: version numbers, version resources, process, code page.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+/// The fields of OSVERSIONINFOW that the program looks at.
+struct TVersionNumbers {
+    std::uint32_t PlatformId = 0;  ///< 2 = VER_PLATFORM_WIN32_NT
+    std::uint32_t Major = 0;
+    std::uint32_t Minor = 0;
+};
+
+/// The loaded version resource of a file (VerQueryValueW).
+class TVersionResource {
+  public:
+    virtual ~TVersionResource() = default;
+
+    /// The text at a path such as "\StringFileInfo\040904B0\FileVersion".
+    [[nodiscard]] virtual std::optional<std::wstring> Text(const std::wstring& path) const = 0;
+    /// The bytes at a path such as "\" or "\VarFileInfo\Translation".
+    [[nodiscard]] virtual std::optional<std::vector<std::uint8_t>> Block(const std::wstring& path) const = 0;
+};
+
+class TWindowsInfo {
+  public:
+    virtual ~TWindowsInfo() = default;
+
+    /// GetVersionExW; all zero when it fails.
+    [[nodiscard]] virtual TVersionNumbers Version() const = 0;
+
+    /// Whether this is a 32-bit process on 64-bit Windows; false where Windows cannot tell.
+    [[nodiscard]] virtual bool IsWow64() const = 0;
+
+    /// Full path of the running program file.
+    [[nodiscard]] virtual std::wstring ProgramFile() const = 0;
+
+    /// The version resource of a file; null when it has none or cannot be read.
+    [[nodiscard]] virtual std::unique_ptr<TVersionResource> OpenVersionResource(const std::wstring& file) const = 0;
+
+    /// Text of the system's ANSI code page.
+    [[nodiscard]] virtual std::wstring FromAnsi(std::span<const std::uint8_t> bytes) const = 0;
+};

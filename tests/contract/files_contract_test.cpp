@@ -1,0 +1,89 @@
+#include <gmock/gmock.h>
+
+#include "tests/contract/subject.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+using TBytesOfFile = std::vector<std::uint8_t>;
+
+class TFilesContract : public TContractTest {
+  protected:
+    TFiles& Files() { return System().Files; }
+    std::wstring Path(const std::wstring& name) { return Folder() + L"\\" + name; }
+    void Put(const std::wstring& name, std::string_view text) {
+        ASSERT_TRUE(Files().Replace(Path(name), {text.begin(), text.end()}));
+    }
+};
+
+TEST_F(TFilesContract, ReplaceCreatesAndOverwritesWhole) {
+    TBytesOfFile large(1'000'000);
+    for (std::size_t i = 0; i < large.size(); ++i) large[i] = static_cast<std::uint8_t>(i * 7 + i / 256);
+    for (const TBytesOfFile& bytes :
+         {TBytesOfFile{0, 13, 10, 26, 255}, large, TBytesOfFile{}, TBytesOfFile{1}}) {
+        ASSERT_TRUE(Files().Replace(Path(L"File \u03C0.dat"), bytes));
+        EXPECT_EQ(Files().Read(Path(L"File \u03C0.dat")), bytes);
+        EXPECT_TRUE(Files().Exists(Path(L"FILE \u03C0.DAT")));
+    }
+    // No trace of how it was done.
+    EXPECT_THAT(Files().List(Folder(), L"*"), ElementsAre(L"File \u03C0.dat"));
+}
+
+TEST_F(TFilesContract, WhatCannotBeDoneLeavesNothingBehind) {
+    MakeFolder(Path(L"sub"));
+    Put(L"sub\\inner.txt", "x");
+    EXPECT_FALSE(Files().Replace(Path(L"none\\file"), {1}));
+    EXPECT_FALSE(Files().Replace(Path(L"sub"), {1}));
+    for (const std::wstring& path : {Path(L"missing"), Path(L"none\\file"), Path(L"sub"), std::wstring()}) {
+        EXPECT_FALSE(Files().Exists(path)) << path;
+        EXPECT_EQ(Files().Read(path), std::nullopt) << path;
+    }
+    EXPECT_THAT(Files().List(Folder(), L"*"), IsEmpty());
+    EXPECT_THAT(Files().List(Path(L"sub"), L"*"), ElementsAre(L"inner.txt"));
+}
+
+TEST_F(TFilesContract, ListTakesThePatternAtItsWord) {
+    for (const wchar_t* name :
+         {L"English.lng", L"Deutsch.LNG", L"x.lngx", L"y.lng.bak", L"lng", L"two.parts.lng"})
+        Put(name, "");
+    EXPECT_THAT(Files().List(Folder(), L"*.lng"),
+                UnorderedElementsAre(L"English.lng", L"Deutsch.LNG", L"two.parts.lng"));
+    EXPECT_THAT(Files().List(Folder(), L"?.lng*"), UnorderedElementsAre(L"x.lngx", L"y.lng.bak"));
+    EXPECT_THAT(Files().List(Folder(), L"LNG"), UnorderedElementsAre(L"lng"));
+    EXPECT_THAT(Files().List(Folder(), L"*.txt"), IsEmpty());
+    EXPECT_THAT(Files().List(Path(L"none"), L"*"), IsEmpty());
+}
+
+TEST_F(TFilesContract, ProfileStrings) {
+    Put(L"profiles.ini",
+        "Before=any section\r\n"
+        "[General]\r\nStartWithLastProfile=1\r\n\r\n"
+        "[Profile0]\r\nName=default\n Path = Profiles/ab c.default \r\nQuoted=\" x "
+        "\"\r\nEmpty=\r\nName=second\r\n"
+        "[Profile1]\r\nName=other=one");
+    const struct {
+        const wchar_t* Section;
+        const wchar_t* Key;
+        const wchar_t* Value;
+    } cases[] = {
+        {L"General", L"StartWithLastProfile", L"1"},
+        {L"PROFILE0", L"name", L"default"},  // the first of its name counts
+        {L"Profile0", L"Path", L"Profiles/ab c.default"},
+        {L"Profile0", L"Quoted", L" x "},
+        {L"Profile0", L"Empty", L""},
+        {L"Profile1", L"Name", L"other=one"},
+        {L"Profile1", L"Path", L"fallback"},
+        {L"Profile2", L"Name", L"fallback"},
+        {L"General", L"Before", L"fallback"},
+    };
+    for (const auto& each : cases)
+        EXPECT_EQ(Files().ProfileString(Path(L"profiles.ini"), each.Section, each.Key, L"fallback"),
+                  each.Value)
+            << each.Section << L"." << each.Key;
+    EXPECT_EQ(Files().ProfileString(Path(L"none.ini"), L"General", L"x", L""), L"");
+}
+
+}  // namespace

@@ -1,0 +1,59 @@
+// Files with attributes, sizes and locks.
+#include <windows.h>
+
+#include <gmock/gmock.h>
+
+#include "platform/win32/handle.h"
+#include "tests/contract/subject.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+
+class TFilesWin32 : public TContractTest {
+  protected:
+    TFiles& Files() { return System().Files; }
+    std::wstring Path(const std::wstring& name) { return Folder() + L"\\" + name; }
+};
+
+TEST_F(TFilesWin32, HiddenAndSystemFilesAreListed) {
+    ASSERT_TRUE(Files().Replace(Path(L"hidden.lng"), {}));
+    ASSERT_TRUE(Files().Replace(Path(L"system.lng"), {}));
+    ASSERT_TRUE(SetFileAttributesW(Path(L"hidden.lng").c_str(), FILE_ATTRIBUTE_HIDDEN));
+    ASSERT_TRUE(SetFileAttributesW(Path(L"system.lng").c_str(), FILE_ATTRIBUTE_SYSTEM));
+    EXPECT_THAT(Files().List(Folder(), L"*.lng"), UnorderedElementsAre(L"hidden.lng", L"system.lng"));
+}
+
+TEST_F(TFilesWin32, LockedAndHugeFilesAreNotRead) {
+    ASSERT_TRUE(Files().Replace(Path(L"a"), {1}));
+    TFileHandle file(
+        CreateFileW(Path(L"a").c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    ASSERT_TRUE(file.IsValid());
+    EXPECT_EQ(Files().Read(Path(L"a")), std::nullopt);
+    EXPECT_FALSE(Files().Replace(Path(L"a"), {2}));
+
+    constexpr LONG kLimit = 64 * 1024 * 1024;
+    for (const LONG size : {kLimit, kLimit + 1}) {
+        SetFilePointer(file.Get(), size, nullptr, FILE_BEGIN);
+        ASSERT_TRUE(SetEndOfFile(file.Get()));
+        file.Close();
+        EXPECT_EQ(Files().Read(Path(L"a")).has_value(), size <= kLimit) << size;
+        file = TFileHandle(
+            CreateFileW(Path(L"a").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    }
+    EXPECT_THAT(Files().List(Folder(), L"*"), ElementsAre(L"a"));
+}
+
+TEST_F(TFilesWin32, LongProfileStringsAreReadWhole) {
+    for (const std::size_t length : {254U, 255U, 256U, 5000U}) {
+        std::vector<std::uint8_t> bytes(length, 'x');
+        const std::string_view head = "[s]\r\nk=";
+        bytes.insert(bytes.begin(), head.begin(), head.end());
+        const std::wstring name = std::to_wstring(length);
+        ASSERT_TRUE(Files().Replace(Path(name), bytes));
+        EXPECT_EQ(Files().ProfileString(Path(name), L"s", L"k", L""), std::wstring(length, L'x'));
+    }
+}
+
+}  // namespace

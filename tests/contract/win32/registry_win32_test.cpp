@@ -1,0 +1,136 @@
+// What only the real registry can hold or refuse, put there behind the adapter's back.
+#include <windows.h>
+#include <aclapi.h>
+
+#include <gmock/gmock.h>
+
+#include "platform/win32/handle.h"
+#include "tests/contract/subject.h"
+
+namespace {
+
+class TRegistryWin32 : public TContractTest {
+  protected:
+    TRegistry& Registry() { return System().Registry; }
+
+    static TKeyHandle Key(const wchar_t* path = kUserKey.Path + 1, HKEY root = HKEY_CURRENT_USER,
+                          REGSAM view = 0) {
+        HKEY key = nullptr;
+        EXPECT_EQ(RegCreateKeyExW(root, path, 0, nullptr, 0, KEY_ALL_ACCESS | view, nullptr, &key, nullptr),
+                  0);
+        return TKeyHandle(key);
+    }
+};
+
+TEST_F(TRegistryWin32, ReadsWhateverIsStored) {
+    using enum TRegDataType;
+    const TKeyHandle key = Key();
+    const struct {
+        const char* What;
+        DWORD Type;
+        TBytes Bytes;
+        TRegistryData Expected;
+    } cases[] = {
+        {"text without NUL", REG_SZ, {'a', 0, 'b', 0}, {String, L"ab"}},
+        {"text with half a character", REG_SZ, {'a', 0, 'b', 0, 'c'}, {String, L"ab"}},
+        {"text of one byte", REG_SZ, {'a'}, {String, L""}},
+        {"text of no bytes", REG_SZ, {}, {String, L""}},
+        {"text that goes on after NUL", REG_EXPAND_SZ, {'a', 0, 0, 0, 'b', 0}, {ExpandString, L"a"}},
+        {"short number", REG_DWORD, {1, 0}, {}},
+        {"long number", REG_DWORD, {1, 0, 0, 0, 0, 0, 0, 0}, {}},
+        {"number without bytes", REG_DWORD, {}, {}},
+        {"big-endian number", REG_DWORD_BIG_ENDIAN, {0, 0, 0, 1}, {}},
+        {"number of 64 bits", REG_QWORD, {1, 0, 0, 0, 0, 0, 0, 0}, {}},
+        {"several texts", REG_MULTI_SZ, {'a', 0, 0, 0, 0, 0}, {}},
+        {"no type", REG_NONE, {'a', 0}, {}},
+        {"a type of somebody's own", 0x12345, {1, 2, 3}, {}},
+        {"huge text", REG_SZ, TBytes(2'000'002, 'x'), {String, std::wstring(1'000'001, L'\x7878')}},
+        {"huge bytes", REG_BINARY, TBytes(3'000'000, 7), {Binary, TBytes(3'000'000, 7)}},
+    };
+    for (const auto& each : cases) {
+        ASSERT_EQ(RegSetValueExW(key.Get(), L"v", 0, each.Type, each.Bytes.data(),
+                                 static_cast<DWORD>(each.Bytes.size())),
+                  ERROR_SUCCESS);
+        TRegistryData data{Binary, 1};
+        ASSERT_EQ(Registry().Read({kUserKey.Root, kUserKey.Path, L"v"}, data), TReadStatus::Found)
+            << each.What;
+        EXPECT_TRUE(data == each.Expected) << each.What;
+        EXPECT_EQ(Registry().Check({kUserKey.Root, kUserKey.Path, L"v"}, TRegistryView::Native),
+                  TReadStatus::Found);
+    }
+}
+
+TEST_F(TRegistryWin32, TextIsStoredWithItsNul) {
+    ASSERT_EQ(Registry().Write({kUserKey.Root, kUserKey.Path, L"v"}, {TRegDataType::String, L"ab"}),
+              TWriteStatus::Done);
+    wchar_t stored[8];
+    DWORD size = sizeof(stored);
+    ASSERT_EQ(RegQueryValueExW(Key().Get(), L"v", nullptr, nullptr, reinterpret_cast<BYTE*>(stored), &size),
+              0);
+    EXPECT_EQ(std::wstring(stored, size / sizeof(wchar_t)), std::wstring(L"ab\0", 3));
+}
+
+/// Leaves everybody the right to read the key, and to give back the other rights.
+void AllowReadingOnly(HKEY key, bool only) {
+    SID_IDENTIFIER_AUTHORITY world = SECURITY_WORLD_SID_AUTHORITY;
+    PSID everyone = nullptr;
+    ASSERT_TRUE(AllocateAndInitializeSid(&world, 1, SECURITY_WORLD_RID, 0, 0, 0, 0, 0, 0, 0, &everyone));
+    alignas(ACL) BYTE buffer[256];
+    const auto acl = reinterpret_cast<ACL*>(buffer);
+    ASSERT_TRUE(InitializeAcl(acl, sizeof(buffer), ACL_REVISION));
+    ASSERT_TRUE(
+        AddAccessAllowedAce(acl, ACL_REVISION, only ? KEY_READ | WRITE_DAC : KEY_ALL_ACCESS, everyone));
+    SECURITY_DESCRIPTOR descriptor;
+    ASSERT_TRUE(InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION));
+    ASSERT_TRUE(SetSecurityDescriptorDacl(&descriptor, TRUE, acl, FALSE));
+    EXPECT_EQ(RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, &descriptor), ERROR_SUCCESS);
+    FreeSid(everyone);
+}
+
+TEST_F(TRegistryWin32, AKeyForReadingOnlyIsUnavailable) {
+    const TRegistryPlace place{kUserKey.Root, kUserKey.Path + std::wstring(L"\\Guarded"), L"v"};
+    ASSERT_EQ(Registry().Write(place, {TRegDataType::Dword, 1}), TWriteStatus::Done);
+    const TKeyHandle key = Key((place.Key.c_str() + 1));
+    AllowReadingOnly(key.Get(), true);
+
+    TRegistryData data;
+    EXPECT_EQ(Registry().Read(place, data), TReadStatus::KeyUnavailable);
+    EXPECT_EQ(Registry().Check(place, TRegistryView::Native), TReadStatus::KeyUnavailable);
+    EXPECT_EQ(Registry().Write(place, {TRegDataType::Dword, 2}), TWriteStatus::KeyUnavailable);
+    EXPECT_EQ(Registry().DeleteValue(place), TWriteStatus::KeyUnavailable);
+    EXPECT_EQ(Registry().DeleteKey(place.Root, place.Key), TWriteStatus::KeyUnavailable);
+    EXPECT_EQ(Registry().DeleteKey(kUserKey.Root, kUserKey.Path), TWriteStatus::Refused);
+    EXPECT_THAT(Registry().SubKeys(place.Root, place.Key), testing::IsEmpty());
+
+    AllowReadingOnly(key.Get(), false);
+    ASSERT_EQ(Registry().Read(place, data), TReadStatus::Found);
+    EXPECT_EQ(data, (TRegistryData{TRegDataType::Dword, 1}));
+}
+
+/// A 32-bit process on 64-bit Windows works on the registry of Windows, not on its own part of it.
+TEST_F(TRegistryWin32, WorksOnTheNativeView) {
+    constexpr TRootKey kRoot = TRootKey::LocalMachine;
+    constexpr wchar_t kPath[] = L"Software\\Vandrel-View-Test";
+    const auto exists = [&](const wchar_t* path, REGSAM view) {
+        HKEY key = nullptr;
+        const LONG error = RegOpenKeyExW(HKEY_LOCAL_MACHINE, path, 0, KEY_READ | view, &key);
+        const TKeyHandle closes(error == ERROR_SUCCESS ? key : nullptr);
+        return closes.IsValid();
+    };
+    ASSERT_FALSE(exists(kPath, KEY_WOW64_64KEY));
+    ASSERT_EQ(Registry().Write({kRoot, kPath, L"v"}, {TRegDataType::Dword, 1}), TWriteStatus::Done);
+    ASSERT_EQ(Registry().Write({kRoot, kPath + std::wstring(L"\\Sub"), L"v"}, {}), TWriteStatus::Done);
+    EXPECT_TRUE(exists(kPath, KEY_WOW64_64KEY));
+    EXPECT_FALSE(exists(kPath, KEY_WOW64_32KEY));
+    EXPECT_FALSE(exists(L"Software\\Wow6432Node\\Vandrel-View-Test", KEY_WOW64_64KEY));
+
+    const bool redirected = System().Windows.IsWow64();
+    EXPECT_EQ(Registry().Check({kRoot, kPath, L"v"}, TRegistryView::Native), TReadStatus::Found);
+    EXPECT_EQ(Registry().Check({kRoot, kPath, L"v"}, TRegistryView::Process),
+              redirected ? TReadStatus::KeyUnavailable : TReadStatus::Found);
+    EXPECT_THAT(Registry().SubKeys(kRoot, kPath), testing::ElementsAre(L"Sub"));
+    EXPECT_EQ(Registry().DeleteKey(kRoot, kPath), TWriteStatus::Done);
+    EXPECT_FALSE(exists(kPath, KEY_WOW64_64KEY));
+}
+
+}  // namespace

@@ -1,0 +1,60 @@
+// A user who has made up his mind beforehand.
+#pragma once
+
+#include <deque>
+#include <vector>
+
+#include "ui/dialogs.h"
+
+/// A message box that was shown.
+struct TQuestion {
+    std::wstring Title;
+    std::wstring Text;
+    TMessageButtons Buttons = TMessageButtons::Ok;
+    TMessageIcon Icon = TMessageIcon::None;
+
+    bool operator==(const TQuestion&) const = default;
+};
+
+/// Answers are taken in the order in which they were queued. Without one a message is answered with Ok or No and a
+/// chooser is cancelled.
+class TFakeDialogs : public TDialogs {
+  public:
+    void Answer(TMessageAnswer answer) { FAnswers.push_back(answer); }
+    void AnswerFile(const std::optional<std::wstring>& path) { FFiles.push_back(path); }
+    void AnswerColor(std::optional<TColor> color) { FColors.push_back(color); }
+
+    [[nodiscard]] const std::vector<TQuestion>& Questions() const { return FQuestions; }
+    [[nodiscard]] const std::vector<std::wstring>& Filters() const { return FFilters; }
+    [[nodiscard]] const std::vector<TColor>& InitialColors() const { return FInitialColors; }
+
+    TMessageAnswer Message(const std::wstring& title, const std::wstring& text, TMessageButtons buttons,
+                           TMessageIcon icon) override {
+        FQuestions.push_back({title, text, buttons, icon});
+        return Take(FAnswers, buttons == TMessageButtons::Ok ? TMessageAnswer::Ok : TMessageAnswer::No);
+    }
+    [[nodiscard]] std::optional<std::wstring> OpenFile(const std::wstring& filter) override {
+        FFilters.push_back(filter);
+        return Take(FFiles, {});
+    }
+    [[nodiscard]] std::optional<TColor> PickColor(TColor initial) override {
+        FInitialColors.push_back(initial);
+        return Take(FColors, {});
+    }
+
+  private:
+    template <typename T>
+    static T Take(std::deque<T>& queue, T otherwise) {
+        if (queue.empty()) return otherwise;
+        T front = std::move(queue.front());
+        queue.pop_front();
+        return front;
+    }
+
+    std::deque<TMessageAnswer> FAnswers;
+    std::deque<std::optional<std::wstring>> FFiles;
+    std::deque<std::optional<TColor>> FColors;
+    std::vector<TQuestion> FQuestions;
+    std::vector<std::wstring> FFilters;
+    std::vector<TColor> FInitialColors;
+};

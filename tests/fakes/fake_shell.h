@@ -1,0 +1,39 @@
+// A shell that writes down what it is told.
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include "platform/shell.h"
+
+struct TShellNotification {
+    std::uint32_t Event = 0;
+    std::uint32_t Flags = 0;
+
+    bool operator==(const TShellNotification&) const = default;
+};
+
+class TFakeShell : public TShell {
+  public:
+    void PutFolder(TSpecialFolder folder, const std::wstring& path) { FFolders[folder] = path; }
+
+    [[nodiscard]] const std::vector<TShellNotification>& Notifications() const { return FNotifications; }
+    [[nodiscard]] int Restarts() const { return FRestarts; }
+    [[nodiscard]] const std::vector<std::wstring>& DebugTexts() const { return FDebugTexts; }
+
+    void NotifyChange(std::uint32_t event, std::uint32_t flags) override {
+        FNotifications.push_back({event, flags});
+    }
+    [[nodiscard]] std::wstring FolderPath(TSpecialFolder folder) const override {
+        const auto path = FFolders.find(folder);
+        return path == FFolders.end() ? std::wstring() : path->second;
+    }
+    void RestartWindows() override { ++FRestarts; }
+    void DebugOutput(const std::wstring& text) override { FDebugTexts.push_back(text); }
+
+  private:
+    std::map<TSpecialFolder, std::wstring> FFolders;
+    std::vector<TShellNotification> FNotifications;
+    std::vector<std::wstring> FDebugTexts;
+    int FRestarts = 0;
+};

@@ -1,0 +1,129 @@
+#include "platform/ext_ini_file.h"
+
+#include <chrono>
+
+#include <gmock/gmock.h>
+
+#include "tests/fakes/fake_system.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+TExtIniFile Parsed(std::wstring_view text) {
+    TExtIniFile ini;
+    ini.SetStrings(TLineReader(text));
+    return ini;
+}
+
+std::vector<std::wstring> LinesOf(const TNamedLines& lines) {
+    std::vector<std::wstring> all;
+    for (std::size_t i = 0; i < lines.Count(); ++i) all.emplace_back(lines.Line(i));
+    return all;
+}
+
+std::vector<std::wstring> LinesOf(const TExtIniFile& ini, std::wstring_view section) {
+    return LinesOf(ini.ReadSectionValues(section));
+}
+
+TEST(TExtIniFile, ParsesLinesOfEveryForm) {
+    const TExtIniFile ini = Parsed(
+        L"dropped=1\r\n"
+        L"  [ Main ]  \r\n"
+        L"\t Key \t=  a = b;c  \r\n"
+        L"; comment=1\r\n"
+        L"   ;comment\r\n"
+        L"\r\n"
+        L"  no value \r\n"
+        L"[open\r\n"
+        L"=nameless\r\n"
+        L"empty=\r\n"
+        L"[a=b]\r\n"
+        L"[]\r\n"
+        L"x=1");
+    EXPECT_THAT(ini.ReadSections(), ElementsAre(L"Main", L"a=b", L""));
+    EXPECT_THAT(LinesOf(ini, L"MAIN"),
+                ElementsAre(L"Key=a = b;c", L"no value", L"[open", L"=nameless", L"empty="));
+    EXPECT_THAT(ini.ReadSection(L"main"), ElementsAre(L"Key", L"", L"empty"));
+    EXPECT_THAT(LinesOf(ini, L"missing"), ElementsAre());
+    EXPECT_THAT(ini.ReadSection(L"missing"), ElementsAre());
+
+    EXPECT_EQ(ini.ReadString(L"mAIN", L"kEY", L"d"), L"a = b;c");
+    EXPECT_EQ(ini.ReadString(L"Main", L"no value", L"d"), L"d");
+    EXPECT_EQ(ini.ReadString(L"Main", L"empty", L"d"), L"");
+    EXPECT_EQ(ini.ReadString(L"Main", L"dropped", L"d"), L"d");
+    EXPECT_EQ(ini.ReadString(L"missing", L"Key", L"d"), L"d");
+    EXPECT_EQ(ini.ReadString(L"", L"x", L"d"), L"1");
+    EXPECT_TRUE(ini.ValueExists(L"Main", L"empty"));
+    EXPECT_FALSE(ini.ValueExists(L"Main", L"no value"));
+    EXPECT_FALSE(ini.ValueExists(L"missing", L"Key"));
+}
+
+TEST(TExtIniFile, FindsTheLastOfEqualNames) {
+    TExtIniFile ini = Parsed(L"[S]\nk=1\nonly=first\n[T]\n[s]\nK=2\nk=3\n");
+    EXPECT_THAT(ini.ReadSections(), ElementsAre(L"S", L"T", L"s"));
+    EXPECT_EQ(ini.ReadString(L"S", L"k", L""), L"3");
+    EXPECT_EQ(ini.ReadString(L"S", L"only", L"d"), L"d");
+
+    ini.DeleteKey(L"S", L"K");
+    EXPECT_EQ(ini.ReadString(L"S", L"k", L""), L"2");
+    ini.EraseSection(L"S");
+    EXPECT_THAT(ini.ReadSections(), ElementsAre(L"S", L"T"));
+    EXPECT_EQ(ini.ReadString(L"S", L"only", L"d"), L"first");
+    ini.EraseSection(L"missing");
+    ini.DeleteKey(L"missing", L"k");
+    ini.DeleteKey(L"S", L"missing");
+    EXPECT_THAT(LinesOf(ini, L"S"), ElementsAre(L"k=1", L"only=first"));
+}
+
+TEST(TExtIniFile, WritesInMemory) {
+    TExtIniFile ini = Parsed(L"[S]\na=1\nb=2\nc=3\n");
+    ini.WriteString(L"s", L"B", L"a longer value");
+    ini.WriteString(L"S", L"d", L"4");
+    ini.WriteString(L"new", L"k", L"v");
+    EXPECT_THAT(LinesOf(ini, L"S"), ElementsAre(L"a=1", L"B=a longer value", L"c=3", L"d=4"));
+    EXPECT_EQ(ini.ReadString(L"S", L"d", L""), L"4");
+    ini.DeleteKey(L"S", L"b");
+    EXPECT_THAT(LinesOf(ini, L"S"), ElementsAre(L"a=1", L"c=3", L"d=4"));
+    EXPECT_EQ(ini.ReadString(L"S", L"c", L""), L"3");
+    EXPECT_EQ(ini.ReadString(L"NEW", L"k", L""), L"v");
+    ini.Clear();
+    EXPECT_THAT(ini.ReadSections(), ElementsAre());
+    EXPECT_FALSE(ini.ValueExists(L"S", L"a"));
+}
+
+TEST(TExtIniFile, LoadsAFileOrKeepsWhatItHas) {
+    TFakeSystem fake;
+    fake.Files.Put(L"C:\\a.lng",
+                   {0xFF, 0xFE, '[', 0, 's', 0, ']', 0, '\n', 0, 'k', 0, 0, 0, '=', 0, 0xAC, 0x20, 7});
+    TExtIniFile ini = Parsed(L"[old]\n");
+    EXPECT_FALSE(ini.LoadFromFile(fake.System, L"C:\\missing.lng"));
+    EXPECT_THAT(ini.ReadSections(), ElementsAre(L"old"));
+    ASSERT_TRUE(ini.LoadFromFile(fake.System, L"C:\\A.lng"));
+    EXPECT_THAT(ini.ReadSections(), ElementsAre(L"s"));
+    EXPECT_EQ(ini.ReadString(L"s", L"k", L""), L"\u20AC");  // the NUL after the key is white space
+}
+
+/// Loading and looking up take as long per line in a huge file as in a small one; anything quadratic would take
+/// minutes here.
+TEST(TExtIniFile, HugeFilesTakeLinearTime) {
+    constexpr int kCount = 100'000;
+    std::wstring text;
+    for (int i = 0; i < kCount; ++i) text += L"[s" + std::to_wstring(i) + L"]\n";
+    text += L"[keys]\n";
+    for (int i = 0; i < kCount; ++i)
+        text += L"key" + std::to_wstring(i) + L"=" + std::wstring(90, L'v') + L"\n";
+
+    const auto start = std::chrono::steady_clock::now();
+    TExtIniFile ini = Parsed(text);
+    for (int i = 0; i < kCount; ++i) {
+        const std::wstring number = std::to_wstring(i);
+        ASSERT_TRUE(ini.ValueExists(L"keys", L"KEY" + number));
+        ASSERT_FALSE(ini.ValueExists(L"S" + number, L"key"));
+        ini.WriteString(L"keys", L"new" + number, L"");
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+    EXPECT_EQ(ini.ReadSection(L"keys").size(), 2U * kCount);
+}
+
+}  // namespace

@@ -1,0 +1,204 @@
+#include "platform/language.h"
+
+#include <stdexcept>
+
+#include <gmock/gmock.h>
+
+#include "tests/fakes/fake_system.h"
+#include "ui/controls.h"
+#include "ui/design.h"
+#include "ui/form.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+const std::wstring kProgram = L"C:\\Program Files\\Quilltune\\";
+const std::wstring kToolbox = kProgram + L"Toolbox_Language";
+
+class TLanguageTest : public testing::Test {
+  protected:
+    void PutLanguage(const std::wstring& folder, const std::wstring& name, const std::string& text) {
+        Fake.Files.PutText(kProgram + folder + L'\\' + name + L".lng", text);
+    }
+    /// A language whose text M/k tells which one is loaded.
+    void PutNamed(const std::wstring& folder, const std::wstring& name, const std::string& mark) {
+        PutLanguage(folder, name, "[M]\nk=" + mark + "\n[Scanner_M]\n" + mark + "=1\n");
+    }
+    static std::wstring Loaded(const TLanguage& language) { return language.ReadString(L"M", L"k", L"none"); }
+
+    TFakeSystem Fake;
+};
+
+TEST_F(TLanguageTest, ListsBothFolders) {
+    PutLanguage(L"Language", L"English", "[Main]\nDisplayName=English (old)\n");
+    PutLanguage(L"Language", L"Latin", "");
+    PutLanguage(L"Toolbox_Language", L"Deutsch", "\xEF\xBB\xBF[main]\ndisplayname = Hochdeutsch\n");
+    PutLanguage(L"Toolbox_Language", L"english", "[Main]\nDisplayName=English (new)\n");
+    PutLanguage(L"Toolbox_Language", L"Readme.txt", "");
+    Fake.Files.PutText(kToolbox + L"\\note.txt", "[Main]\n");
+
+    const TLanguage language(Fake.System, L"Scanner", kToolbox + L'\\');
+    EXPECT_EQ(language.Folder(), kToolbox);
+    EXPECT_THAT(language.FileNames(),
+                ElementsAre(L"English", L"Latin", L"Deutsch", L"english", L"Readme.txt"));
+    EXPECT_THAT(language.DisplayNames(),
+                ElementsAre(L"English (old)", L"Latin", L"Hochdeutsch", L"English (new)", L"Readme.txt"));
+}
+
+TEST_F(TLanguageTest, LoadsTheChosenLanguageElseEnglish) {
+    PutNamed(L"Language", L"English", "old English");
+    PutNamed(L"Language", L"Latin", "Latin");
+    PutNamed(L"Toolbox_Language", L"Deutsch", "Deutsch");
+    PutNamed(L"Toolbox_Language", L"English", "English");
+    PutNamed(L"Toolbox_Language", L"Locked", "Locked");
+    PutNamed(L"", L"Outside", "Outside");
+    Fake.Files.Lock(kToolbox + L"\\Locked.lng");
+    const struct {
+        const wchar_t* Name;
+        const wchar_t* Loaded;
+        int Index;
+    } kCases[] = {
+        {L"Deutsch", L"Deutsch", 2},
+        {L"dEUTSCH", L"Deutsch", 2},
+        {L"English", L"English", 0},  // listed first for the other folder
+        {L"Latin", L"English", 0},    // listed, but only the folder scanned last is looked in
+        {L"Locked", L"English", 0},
+        {L"Klingon", L"English", 0},
+        {L"", L"English", 0},
+        {L"..\\Outside", L"English", 0},
+        {L"..\\Toolbox_Language\\Deutsch", L"English", 0},
+        {L"Deutsch.lng", L"English", 0},
+    };
+    for (const auto& each : kCases) {
+        TLanguage language(Fake.System, L"Scanner", kToolbox);
+        language.LoadLanguage(each.Name);
+        EXPECT_EQ(Loaded(language), each.Loaded) << testing::PrintToString(std::wstring(each.Name));
+        EXPECT_EQ(language.Index(), each.Index);
+        ASSERT_EQ(language.ModuleStrings().Count(), 1U);
+        EXPECT_EQ(language.ModuleStrings().Line(0), std::wstring(each.Loaded) + L"=1");
+    }
+}
+
+TEST_F(TLanguageTest, WithoutEnglishKeepsWhatWasLoaded) {
+    TLanguage none(Fake.System, L"Scanner", kToolbox);
+    none.LoadLanguage(L"Deutsch");
+    EXPECT_EQ(none.Index(), -1);
+    EXPECT_EQ(Loaded(none), L"none");
+
+    PutNamed(L"Toolbox_Language", L"Deutsch", "Deutsch");
+    TLanguage german(Fake.System, L"Scanner", kToolbox);
+    german.LoadLanguage(L"Klingon");
+    EXPECT_EQ(german.Index(), 0);
+    EXPECT_EQ(Loaded(german), L"Deutsch");
+}
+
+/// A control's peer that fails as soon as it has to show anything.
+class TBrokenPeer : public TPeer {
+  public:
+    void Update(TControlAspect) override { throw std::runtime_error("broken"); }
+};
+
+class TTranslateTest : public TLanguageTest {
+  protected:
+    TTranslateTest() {
+        Form.SetCaption(L"form");
+        Form.Build(Form,
+                   Column({
+                       NotebookPage(
+                           1, {PageControl(L"Pages", {Sheet(L"Sheet1", L"sheet",
+                                                            {Group(L"Group1", L"group",
+                                                                   {CheckBox(L"Check1", L"check"),
+                                                                    RadioButton(L"Radio1", L"radio")})})})}),
+                       Panel(L"Panel1", {Label(L"Label1", L"label"), Label(L"Label2", L"label")}),
+                       Edit(L"Edit1", L"edit"),
+                       Button(L"Button1", L"button"),
+                       CategoryBar(L"Bar", {CategoryGroup(L"Cat1", L"category",
+                                                          {CategoryItem(L"Item1", L"item", 1, L"")})}),
+                       ComboBox(L"Combo1", {L"a", L"b", L"c"}),
+                       ListView(L"List1", {L"x", L"y", L"z"}),
+                   }));
+        Combo = Form.Find<TComboBox>(L"Combo1");
+        Combo->SetItemIndex(1);
+    }
+
+    /// Translates the form by a file with these lines in the form's section.
+    void Translate(const std::string& lines) {
+        PutLanguage(L"Toolbox_Language", L"English", "[Scanner_Main]\n" + lines);
+        TLanguage(Fake.System, L"Scanner", kToolbox).Translate(Form);
+    }
+    std::wstring Caption(const wchar_t* name) const { return Form.Find(name)->Caption(); }
+
+    TForm Form{L"Main", L"TMain"};
+    TComboBox* Combo;
+};
+
+TEST_F(TTranslateTest, TranslatesTheKindsThatHaveTexts) {
+    const std::pair<const wchar_t*, const wchar_t*> kCaptions[] = {
+        // Translated:
+        {L"Sheet1", L"SHEET"},
+        {L"Group1", L"GROUP"},
+        {L"Check1", L"CHECK"},
+        {L"Radio1", L"RADIO"},
+        {L"Label1", L"LABEL"},
+        {L"Button1", L"BUTTON"},
+        // Without a key, or of a kind that keeps its text:
+        {L"Label2", L"label"},
+        {L"Cat1", L"category"},
+        {L"Item1", L"item"},
+        {L"Panel1", L""},
+        {L"Pages", L""},
+    };
+    Translate(
+        "main.caption=FORM\nSheet1.Caption=SHEET\nGroup1.Caption=GROUP\nCheck1.Caption=CHECK\n"
+        "Radio1.Caption=RADIO\nLabel1.Caption=LABEL\nButton1.Caption=BUTTON\nCat1.Caption=no\nItem1.Caption="
+        "no\n"
+        "Panel1.Caption=no\nPages.Caption=no\nEdit1.Caption=no\n");
+    EXPECT_EQ(Form.Caption(), L"FORM");
+    for (const auto& [name, caption] : kCaptions) EXPECT_EQ(Caption(name), caption);
+    EXPECT_EQ(Form.Find<TEdit>(L"Edit1")->Text(), L"edit");
+}
+
+TEST_F(TTranslateTest, TranslatesListsAndKeepsTheSelection) {
+    int changes = 0;
+    Combo->OnChange = [&](TComponent&) { ++changes; };
+    Translate(
+        "Combo1.Items[0].Caption=A\nCombo1.Items[1].Caption=B\nCombo1.Items[3].Caption=D\n"
+        "List1.Columns[0].Caption=X\nList1.Columns[2].Caption=Z\n");
+    EXPECT_THAT(Combo->Items(), ElementsAre(L"A", L"B", L"c"));
+    EXPECT_THAT(Form.Find<TListView>(L"List1")->Columns(), ElementsAre(L"X", L"y", L"Z"));
+    Translate("Combo1.Items[1].Caption=B2\n");
+    EXPECT_THAT(Combo->Items(), ElementsAre(L"A", L"B2", L"c"));
+    EXPECT_EQ(Combo->ItemIndex(), 1);
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(TTranslateTest, FailureEndsTheWalkSilently) {
+    Form.Find(L"Label2")->SetPeer(std::make_unique<TBrokenPeer>());
+    Translate("Label1.Caption=LABEL\nLabel2.Caption=LABEL\nButton1.Caption=BUTTON\n");
+    EXPECT_EQ(Caption(L"Label1"), L"LABEL");
+    EXPECT_EQ(Caption(L"Button1"), L"button");
+}
+
+TEST_F(TTranslateTest, BinaryFilesChangeNothing) {
+    std::string noise;
+    for (unsigned i = 0; i < 100'000; ++i) noise.push_back(static_cast<char>(i * 2654435761U >> 24));
+    for (const char* mark : {"", "\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF"}) {
+        PutLanguage(L"Toolbox_Language", L"English", mark + noise);
+        TLanguage(Fake.System, L"Scanner", kToolbox).Translate(Form);
+        EXPECT_EQ(Form.Caption(), L"form");
+        EXPECT_THAT(Combo->Items(), ElementsAre(L"a", L"b", L"c"));
+    }
+}
+
+TEST(TTranslate, FormWithoutNameKeepsItsTexts) {
+    TFakeSystem fake;
+    fake.Files.PutText(kToolbox + L"\\English.lng", "[Scanner_]\n.Caption=no\nLabel1.Caption=no\n");
+    TForm form(L"", L"TForm");
+    form.Build(form, Label(L"Label1", L"label"));
+    TLanguage(fake.System, L"Scanner", kToolbox).Translate(form);
+    EXPECT_EQ(form.Caption(), L"");
+    EXPECT_EQ(form.Find(L"Label1")->Caption(), L"label");
+}
+
+}  // namespace
