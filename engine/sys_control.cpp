@@ -1,0 +1,93 @@
+#include "engine/sys_control.h"
+
+#include "engine/reg_value.h"
+#include "platform/text.h"
+
+#include <ranges>
+#include <string_view>
+
+namespace {
+
+TRegistryPlace PlaceOf(const TRegRecor& record) { return {record.RootKey, record.Key, record.ValueName}; }
+
+std::wstring_view TrimBackslashes(std::wstring_view key) {
+    const std::size_t first = key.find_first_not_of(L'\\');
+    if (first == std::wstring_view::npos) return {};
+    return key.substr(first, key.find_last_not_of(L'\\') - first + 1);
+}
+
+/// Whether a pending change decides what a read of the record's place will find.
+bool Concerns(const TRegRecor& change, const TRegRecor& record) {
+    return !change.IsSystemParameter && change.RootKey == record.RootKey &&
+           SameText(TrimBackslashes(change.Key), TrimBackslashes(record.Key)) &&
+           (change.Action == TRegAction::DeleteKey || SameText(change.ValueName, record.ValueName));
+}
+
+}  // namespace
+
+void TSysControl::Add(const TRegRecor& record) {
+    bool found = false;
+    for (TRegRecor& entry : FPending) {
+        if (entry.Name != record.Name) continue;
+        found = true;
+        if (entry.IsSystemParameter) {
+            entry.SpiAction = record.SpiAction;
+            entry.SpiParam = record.SpiParam;
+            entry.SpiData = record.SpiData;
+            entry.SpiWinIni = record.SpiWinIni;
+        } else {
+            entry.Value = record.Value;
+        }
+    }
+    if (!found) FPending.push_back(record);
+}
+
+void TSysControl::ReadCurrent(TRegRecor& record) const {
+    TRegistryData data;
+    record.ReadResult = FSystem.Registry.Read(PlaceOf(record), data);
+    if (record.ReadResult != TReadStatus::Found) return;
+    record.DataType = data.Type;
+    if (data.Type != TRegDataType::Unknown) record.Value = std::move(data.Value);
+}
+
+void TSysControl::ReadPending(TRegRecor& record) const {
+    for (const TRegRecor& change : std::views::reverse(FPending)) {
+        if (!Concerns(change, record)) continue;
+        if (change.Action == TRegAction::Write) {
+            record.ReadResult = TReadStatus::Found;
+            record.DataType = change.DataType;
+            record.Value = change.Value;
+        } else {
+            record.ReadResult = TReadStatus::ValueMissing;
+        }
+        return;
+    }
+    ReadCurrent(record);
+}
+
+TReadStatus TSysControl::CheckExists(const TRegRecor& record) const {
+    return FSystem.Registry.Check(PlaceOf(record), TRegistryView::Process);
+}
+
+void TSysControl::WriteAll() {
+    for (const TRegRecor& record : FPending) {
+        if (record.IsSystemParameter) {
+            // A parameter that Windows refuses is no reason to hold back the others.
+            (void)FSystem.Parameters.Set(record.SpiAction, record.SpiParam, record.SpiData, record.SpiWinIni);
+        } else if (Write(record) == TWriteStatus::Refused) {
+            return;
+        }
+    }
+    FPending.clear();
+}
+
+TWriteStatus TSysControl::Write(const TRegRecor& record) {
+    switch (record.Action) {
+        case TRegAction::DeleteKey: return FSystem.Registry.DeleteKey(record.RootKey, record.Key);
+        case TRegAction::DeleteValue: return FSystem.Registry.DeleteValue(PlaceOf(record));
+        case TRegAction::Write: break;
+    }
+    std::optional<TRegValue> value = ConvertTo(record.DataType, record.Value);
+    if (!value) return TWriteStatus::Refused;
+    return FSystem.Registry.Write(PlaceOf(record), {record.DataType, std::move(*value)});
+}

@@ -1,0 +1,43 @@
+// The list of pending changes, in the order in which their names were first recorded.
+#pragma once
+
+#include "engine/reg_recor.h"
+#include "platform/system.h"
+
+#include <span>
+
+class TSysControl {
+  public:
+    /// `system` outlives the object.
+    explicit TSysControl(TSystem& system) : FSystem(system) {}
+
+    /// Records a change. When its name is known already, only the value (for a system parameter: the four Spi
+    /// fields) of the known entry changes: it keeps its place, address, type and action. A recorder that means
+    /// a different operation for the same control therefore uses a name of its own.
+    void Add(const TRegRecor& record);
+
+    /// Reads the stored value that `record` addresses into it: ReadResult and, when found, DataType and Value
+    /// (Value stays as it was for types other than text, DWORD and binary). Never looks at the pending changes.
+    void ReadCurrent(TRegRecor& record) const;
+
+    /// Like ReadCurrent, but the last pending change of the same place answers first: a write with its value,
+    /// a deletion of the value or of exactly this key with "missing".
+    void ReadPending(TRegRecor& record) const;
+
+    /// Whether the key and, if `ValueName` is not empty, the value can be opened, in the process's own view of
+    /// the registry.
+    [[nodiscard]] TReadStatus CheckExists(const TRegRecor& record) const;
+
+    /// Carries out every change in order and empties the list. Keys that cannot be opened are skipped; a write
+    /// that the registry refuses ends the pass and keeps the whole list for the next one. Nothing is reported.
+    void WriteAll();
+
+    /// The changes not yet written.
+    [[nodiscard]] std::span<const TRegRecor> Pending() const { return FPending; }
+
+  private:
+    [[nodiscard]] TWriteStatus Write(const TRegRecor& record);
+
+    TSystem& FSystem;
+    std::vector<TRegRecor> FPending;
+};

@@ -1,0 +1,71 @@
+// The texts of the program that are no caption of a form's control, each looked up once in the language file.
+#pragma once
+
+#include <array>
+#include <string>
+
+class TLanguage;
+
+/// In the order in which they are looked up. The spellings of the language keys ("D_SystemInfomation") are older
+/// than these names and fixed.
+enum class TCaption {
+    General,
+    GeneralSettings,
+    Menu,
+    MenuFile,
+    MenuFolder,
+    MenuStartMenu,
+    MenuTaskbar,
+    Browser,
+    BrowserIE,
+    BrowserFF,
+    System,
+    SystemInfomation,
+    SystemInput,
+    SystemNetwork,
+    SystemDriver,
+    SystemMandC,
+    Security,
+    SecurityUserLogon,
+    SecurityCenter,
+    SecurityPrivacy,
+    Others,
+    OthersAnimations,
+    OthersStartAndM,
+    Desktop,
+    Drivers,
+    Loading,
+    ClearIEHistory,
+    OpenExplorer,
+    OpenCmd,
+    ExeFile,
+    AllFile,
+    Favorites,
+    RestartWindows,
+    RestartFirefox,
+    kCount,
+};
+
+struct TCaptionKey {
+    const wchar_t* Key;      ///< in the language section kCaptionSection
+    const wchar_t* English;  ///< what shows when the language file lacks the key
+};
+
+inline constexpr const wchar_t* kCaptionSection = L"Quilltune_M";
+inline constexpr std::size_t kCaptionCount = static_cast<std::size_t>(TCaption::kCount);
+extern const std::array<TCaptionKey, kCaptionCount> kCaptionKeys;
+
+class TCaptions {
+  public:
+    /// Holds the English texts until Load.
+    TCaptions();
+
+    void Load(const TLanguage& language);
+
+    [[nodiscard]] const std::wstring& operator[](TCaption caption) const {
+        return FTexts[static_cast<std::size_t>(caption)];
+    }
+
+  private:
+    std::array<std::wstring, kCaptionCount> FTexts;
+};

@@ -1,0 +1,52 @@
+// A page of settings: a form of named controls, and a catalogue that says what each control stands for.
+#pragma once
+
+#include "settings/page_context.h"
+#include "settings/rows.h"
+#include "ui/design.h"
+
+/// What a Default or preset button does to one control.
+struct TPresetState {
+    const wchar_t* Control;
+    std::int32_t State;  ///< 1 checked and 0 clear; the item index of a combo box; a position
+};
+
+/// A Default or preset button. It only sets control states; the controls' own events record the changes.
+struct TPreset {
+    const wchar_t* Button;
+    std::span<const TPresetState> States;
+};
+
+/// A page as data.
+struct TPageDefinition {
+    int Tag;                       ///< the number of its notebook page
+    const wchar_t* SharedHandler;  ///< the name of the page's change handler, which other units know it by
+    TControlDesign (*Design)();
+    std::span<const TLoader> Loaders;  ///< in the order in which they run
+    std::span<const TPreset> Presets;
+};
+
+/// Runs a page definition on a form.
+class TPage {
+  public:
+    /// Builds the page's controls into the notebook and listens to them. `definition` and `context` outlive the
+    /// page; `changed` is told after a control's change was recorded.
+    TPage(const TPageDefinition& definition, TPageContext& context, TControl& notebook,
+          std::function<void()> changed);
+
+    [[nodiscard]] int Tag() const { return FDefinition.Tag; }
+
+    /// Runs the loaders: shows the live system's state in the controls.
+    void Load();
+
+    /// The shared handler of the page's controls.
+    void Changed(TComponent& sender);
+
+  private:
+    void Listen(TControl& container);
+    void ApplyPreset(const TPreset& preset);
+
+    const TPageDefinition& FDefinition;
+    TPageContext& FContext;
+    std::function<void()> FChanged;
+};

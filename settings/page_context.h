@@ -1,0 +1,37 @@
+// What a settings page works with: the form's controls, the pending changes, the world outside, and the window's
+// marks that outlive a single click.
+#pragma once
+
+#include "engine/sys_control.h"
+#include "settings/captions.h"
+#include "ui/form.h"
+
+/// What Apply does with a Windows service.
+enum class TServiceAction : std::int32_t { Nothing = 0, Enable = 1, Disable = 2 };
+
+struct TPageContext {
+    TSystem& System;
+    TForm& Form;
+    TSysControl& Changes;
+    TCaptions Captions{};
+    int WindowsLevel = 0;  ///< 7 Windows 7, 6 Vista, 5 XP, 4 Windows 2000, 0 any other
+
+    bool Loading = false;  ///< a loader fills controls; their events record nothing
+    bool RestartNeeded = false;
+    bool FirefoxChanged = false;
+    bool AssociationsChanged = false;
+    TServiceAction SecurityCenterAction = TServiceAction::Nothing;
+    TServiceAction FirewallAction = TServiceAction::Nothing;
+};
+
+/// Sets the loading mark for a scope, so that no path out of a loader leaves it set.
+class TLoadingScope {
+  public:
+    explicit TLoadingScope(TPageContext& context) : FContext(context) { FContext.Loading = true; }
+    ~TLoadingScope() { FContext.Loading = false; }
+    TLoadingScope(const TLoadingScope&) = delete;
+    TLoadingScope& operator=(const TLoadingScope&) = delete;
+
+  private:
+    TPageContext& FContext;
+};
