@@ -1,0 +1,30 @@
+// The category bar as data: its groups, their items, and the page that each item leads to.
+#pragma once
+
+#include "settings/captions.h"
+#include "ui/design.h"
+
+#include <optional>
+#include <span>
+
+struct TCategoryItemRow {
+    const wchar_t* Caption;        ///< in the design; the window shows the text below
+    int Tag;                       ///< number of the notebook page
+    const wchar_t* Picture;        ///< base name of the icon
+    std::optional<TCaption> Text;  ///< absent for a hidden item, which keeps its caption
+};
+
+struct TCategoryGroupRow {
+    const wchar_t* Name;
+    TCaption Text;
+    std::span<const TCategoryItemRow> Items;
+};
+
+/// The groups in order of display.
+[[nodiscard]] std::span<const TCategoryGroupRow> CategoryTable();
+
+/// Component name of an item: the group's name and the item's index, hidden items counted.
+[[nodiscard]] std::wstring CategoryItemName(const std::wstring& group, std::size_t index);
+
+/// The category bar's controls.
+[[nodiscard]] TControlDesign CategoryBarDesign();

@@ -1,0 +1,268 @@
+#include "app/main_window.h"
+
+#include "app/category_table.h"
+#include "app/timing_log.h"
+#include "platform/service_control.h"
+#include "platform/suite_language.h"
+#include "platform/windows_version.h"
+
+#include <utility>
+
+namespace {
+
+constexpr TColor kPlainItemColor = 0xC56A31;
+constexpr TColor kSelectedItemColor = 0xC65D21;
+constexpr int kFrameCount = 7;
+constexpr int kTimerInterval = 100;
+
+// Shell notifications, as documented for SHChangeNotify.
+constexpr std::uint32_t kAllEvents = 0x7FFFFFFF;           // SHCNE_ALLEVENTS
+constexpr std::uint32_t kAssociationsChanged = 0x08000000;  // SHCNE_ASSOCCHANGED
+constexpr std::uint32_t kFlush = 0x1000;                   // SHCNF_FLUSH
+constexpr std::uint32_t kIdList = 0x0000;                  // SHCNF_IDLIST
+
+TControlDesign WindowDesign() {
+    return Row({
+        CategoryBarDesign(),
+        Column({
+            Overlay({
+                Notebook(L"Notebook_Main", {}),
+                Panel(L"Panel_Loading", {Center({Row({
+                    Image(L"ImageNote_Animate", L"loading", kFrameCount),
+                    Label(L"Label_Wait", L"Loading system settings......."),
+                })})}).Hidden(),
+            }),
+            Buttons({
+                Button(L"Button_OK", L"OK"),
+                Button(L"Button_Cancel", L"Cancel"),
+                Button(L"Button_Apply", L"&Apply"),
+            }),
+        }),
+        Timer(L"Timer_Click", kTimerInterval),
+        Timer(L"Timer_Loading", kTimerInterval),
+    });
+}
+
+}  // namespace
+
+TQuilltune_FormMain::TQuilltune_FormMain(TSystem& system)
+    : TForm(L"Quilltune_FormMain", L"TQuilltune_FormMain"),
+      FSystem(system),
+      FChanges(system),
+      FAppFrame(system),
+      FContext{.System = system, .Form = *this, .Changes = FChanges} {
+    SetCaption(L"Quilltune");
+    BuildControls();
+    BindEvents();
+    FormCreate();
+}
+
+void TQuilltune_FormMain::BuildControls() {
+    Build(*this, WindowDesign());
+    TControl& notebook = *Find(L"Notebook_Main");
+    for (const TPageDefinition* definition : PageDefinitions()) {
+        FPages.push_back(
+            std::make_unique<TPage>(*definition, FContext, notebook, [this] { EnableApply(); }));
+    }
+    for (int tag = 1; tag <= kPageCount; ++tag) {
+        if (Find(std::to_wstring(tag)) == nullptr) Build(notebook, NotebookPage(tag, {}));
+    }
+    Find<TButton>(L"Button_OK")->Default = true;
+    Find<TButton>(L"Button_Cancel")->Cancel = true;
+    // The items of this group bear the plain colour by design; FormCreate gives it to the other groups.
+    for (TControl* item : Find(L"RzGroup_Others")->Children())
+        static_cast<TCategoryItem*>(item)->SetColor(kPlainItemColor);
+}
+
+void TQuilltune_FormMain::BindEvents() {
+    OnShow = [this](TComponent&) { FormShow(); };
+    Find<TTimer>(L"Timer_Click")->OnTimer = [this](TComponent&) { Timer_ClickTimer(); };
+    Find<TTimer>(L"Timer_Loading")->OnTimer = [this](TComponent&) { Timer_LoadingTimer(); };
+    Find<TButton>(L"Button_OK")->OnClick = [this](TComponent&) { Button_OKClick(); };
+    Find<TButton>(L"Button_Cancel")->OnClick = [this](TComponent&) { Button_CancelClick(); };
+    Find<TButton>(L"Button_Apply")->OnClick = [this](TComponent&) { Button_ApplyClick(); };
+    for (const auto& component : Components()) {
+        if (component->Kind() == TComponentKind::CategoryItem)
+            static_cast<TCategoryItem&>(*component).OnClick = [this](TComponent& item) {
+                RzGroup1Items0Click(item);
+            };
+    }
+}
+
+void TQuilltune_FormMain::FormCreate() {
+    std::wstring osName;
+    GetOSName(FSystem, osName);
+    FSystem.Shell.DebugOutput(L"OsName:" + osName);
+    FContext.WindowsLevel = WindowsLevel(osName);
+    FFirefoxFolder = FAppFrame.AppDataPath + L"\\Mozilla\\Firefox\\";
+    if (FContext.WindowsLevel < 5) Find(CategoryItemName(L"RzGroup_Use", 1))->SetVisible(false);
+    for (const wchar_t* group : {L"RzGroup_CommonSettings", L"RzGroup_Display", L"RzGroup_Use",
+                                 L"RzGroup_Communication", L"RzGroup_Manage"}) {
+        for (TControl* item : Find(group)->Children())
+            static_cast<TCategoryItem*>(item)->SetColor(kPlainItemColor);
+    }
+}
+
+void TQuilltune_FormMain::FormShow() {
+    TTimingLog log(FSystem.Clock);
+    log.Add(L"Lan:");
+    FLanguage = std::make_unique<TLanguage>(FSystem, L"Scanner", FAppFrame.AppPath + L"Toolbox_Language");
+    FLanguage->LoadLanguage(GetSuiteLanguage(FSystem));
+    FContext.Captions.Load(*FLanguage);
+    FLanguage->Translate(*this);
+    ReinitialiseLists(log);
+    log.Add(L"Rz_Com:");
+    SetCategoryCaptions();
+    for (const wchar_t* button : {L"Button_OK", L"Button_Cancel", L"Button_Apply"}) Find(button)->SetEnabled(false);
+    FLoadingFinished = false;
+    TControl* panel = Find(L"Panel_Loading");
+    panel->BringToFront();
+    panel->SetVisible(true);
+    Find(L"Timer_Click")->SetEnabled(true);
+    Find(L"Timer_Loading")->SetEnabled(true);
+    log.Add(L"end:");
+}
+
+namespace {
+
+void ReinitialiseListsOf(TControl& container) {
+    for (TControl* control : container.Children()) {
+        if (control->Kind() == TComponentKind::ComboBox)
+            static_cast<TComboBox*>(control)->Reinitialise();
+        else
+            ReinitialiseListsOf(*control);
+    }
+}
+
+}  // namespace
+
+/// Pages whose drop-down lists start with their first item chosen until the page's loader chooses another.
+void TQuilltune_FormMain::ReinitialiseLists(TTimingLog& log) {
+    struct TPageLists {
+        const wchar_t* Label;
+        const wchar_t* Page;
+    };
+    constexpr TPageLists kPages[] = {
+        {L"CB_Com:", L"19"}, {L"CB_Dis:", L"1"},  {L"CB_FF:", L"9"},
+        {L"CB_Pri:", L"12"}, {L"CB_Sta:", L"16"}, {L"CB_Tas:", L"6"},
+    };
+    for (const TPageLists& page : kPages) {
+        log.Add(page.Label);
+        ReinitialiseListsOf(*Find(page.Page));
+    }
+}
+
+void TQuilltune_FormMain::SetCategoryCaptions() {
+    for (const TCategoryGroupRow& group : CategoryTable()) {
+        TControl* control = Find(group.Name);
+        control->SetCaption(FContext.Captions[group.Text]);
+        for (std::size_t i = 0; i < group.Items.size(); ++i) {
+            if (group.Items[i].Text) control->Children()[i]->SetCaption(FContext.Captions[*group.Items[i].Text]);
+        }
+    }
+}
+
+void TQuilltune_FormMain::Timer_ClickTimer() {
+    Find(L"Timer_Click")->SetEnabled(false);
+    RzGroup1Items0Click(*Find(CategoryItemName(L"RzGroup_CommonSettings", 0)));
+    FLoadingFinished = true;
+}
+
+void TQuilltune_FormMain::Timer_LoadingTimer() {
+    TControl* timer = Find(L"Timer_Loading");
+    timer->SetEnabled(false);
+    auto* animation = Find<TImage>(L"ImageNote_Animate");
+    animation->SetFrame((animation->Frame() + 1) % kFrameCount);
+    const auto dots = static_cast<std::size_t>(animation->Frame() + 1);
+    Find(L"Label_Wait")->SetCaption(FContext.Captions[TCaption::Loading] + std::wstring(dots, L'.'));
+    if (!FLoadingFinished) {
+        timer->SetEnabled(true);
+        return;
+    }
+    TControl* panel = Find(L"Panel_Loading");
+    panel->SendToBack();
+    panel->SetVisible(false);
+    Find(L"Button_OK")->SetEnabled(true);
+    Find(L"Button_Cancel")->SetEnabled(true);
+    Find(L"Button_Apply")->SetEnabled(false);
+}
+
+void TQuilltune_FormMain::RzGroup1Items0Click(TComponent& sender) {
+    if (sender.Kind() != TComponentKind::CategoryItem) return;
+    auto& item = static_cast<TCategoryItem&>(sender);
+    LoadPage(item.Tag());
+    Find<TNotebook>(L"Notebook_Main")->ShowPage(std::to_wstring(item.Tag()));
+    if (&item != FSelectedItem) SelectItem(item);
+}
+
+void TQuilltune_FormMain::LoadPage(int tag) {
+    if (!FVisitedPages.insert(tag).second) return;
+    for (const auto& page : FPages) {
+        if (page->Tag() == tag) page->Load();
+    }
+}
+
+void TQuilltune_FormMain::SelectItem(TCategoryItem& item) {
+    if (FSelectedItem != nullptr) {
+        FSelectedItem->SetColor(kPlainItemColor);
+        FSelectedItem->SetSelected(false);
+    }
+    FSelectedItem = &item;
+    item.SetSelected(true);
+    item.SetColor(kSelectedItemColor);
+}
+
+void TQuilltune_FormMain::EnableApply() { Find(L"Button_Apply")->SetEnabled(true); }
+
+void TQuilltune_FormMain::Button_OKClick() {
+    Button_ApplyClick();
+    Close();
+}
+
+void TQuilltune_FormMain::Button_CancelClick() { Close(); }
+
+void TQuilltune_FormMain::Button_ApplyClick() {
+    FChanges.WriteAll();
+    ApplyServices();
+    OfferRestart();
+    NotifyShell();
+    ApplyFirefox();
+    Find(L"Button_Apply")->SetEnabled(false);
+}
+
+void TQuilltune_FormMain::ApplyServices() {
+    // The mark is taken before the wait, which handles messages: another Apply meanwhile must not repeat it.
+    const auto carryOut = [this](TServiceAction& mark, const wchar_t* service) {
+        const TServiceAction action = std::exchange(mark, TServiceAction::Nothing);
+        if (action == TServiceAction::Enable) StartServiceByName(FSystem, service);
+        if (action == TServiceAction::Disable) StopServiceByName(FSystem, service);
+    };
+    carryOut(FContext.SecurityCenterAction, L"wscsvc");
+    // Older systems have no firewall service of this name.
+    if (FContext.WindowsLevel > 5) carryOut(FContext.FirewallAction, L"MpsSvc");
+}
+
+void TQuilltune_FormMain::OfferRestart() {
+    if (!FContext.RestartNeeded) return;
+    const TMessageAnswer answer =
+        FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartWindows], TMessageButtons::YesNo,
+                                TMessageIcon::Question);
+    if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartWindows();
+    FContext.RestartNeeded = false;
+}
+
+void TQuilltune_FormMain::NotifyShell() {
+    FSystem.Shell.NotifyChange(kAllEvents, kFlush);
+    if (!FContext.AssociationsChanged) return;
+    FSystem.Shell.NotifyChange(kAssociationsChanged, kIdList);
+    FContext.AssociationsChanged = false;
+}
+
+void TQuilltune_FormMain::ApplyFirefox() {
+    if (FContext.FirefoxChanged && SaveFirefoxPrefs) {
+        SaveFirefoxPrefs();
+        FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartFirefox], TMessageButtons::Ok,
+                                TMessageIcon::None);
+    }
+    FContext.FirefoxChanged = false;
+}

@@ -1,0 +1,59 @@
+// The main window: its life from creation to destruction, the category bar, and Apply.
+#pragma once
+
+#include "app/page_table.h"
+#include "platform/app_frame.h"
+#include "platform/language.h"
+#include "settings/page_context.h"
+#include "ui/containers.h"
+#include "ui/controls.h"
+
+#include <memory>
+#include <set>
+
+class TTimingLog;
+
+class TQuilltune_FormMain : public TForm {
+  public:
+    /// Creates the window's controls and asks what Windows this is. `system` outlives the window.
+    explicit TQuilltune_FormMain(TSystem& system);
+
+    [[nodiscard]] const TPageContext& Context() const { return FContext; }
+
+    /// Saves the Firefox preferences on Apply; absent while there is no preference store.
+    std::function<void()> SaveFirefoxPrefs;
+
+  private:
+    void FormCreate();
+    void FormShow();
+    void Timer_ClickTimer();
+    void Timer_LoadingTimer();
+    void Button_ApplyClick();
+    void Button_OKClick();
+    void Button_CancelClick();
+    /// The click handler of every category item.
+    void RzGroup1Items0Click(TComponent& sender);
+
+    void BuildControls();
+    void BindEvents();
+    void ReinitialiseLists(TTimingLog& log);
+    void SetCategoryCaptions();
+    void LoadPage(int tag);
+    void SelectItem(TCategoryItem& item);
+    void ApplyServices();
+    void OfferRestart();
+    void NotifyShell();
+    void ApplyFirefox();
+    void EnableApply();
+
+    TSystem& FSystem;
+    TSysControl FChanges;
+    TAppFrame FAppFrame;
+    std::wstring FFirefoxFolder;
+    TPageContext FContext;
+    std::unique_ptr<TLanguage> FLanguage;
+    std::vector<std::unique_ptr<TPage>> FPages;
+    std::set<int> FVisitedPages;  ///< tags of the pages whose loaders have run
+    TCategoryItem* FSelectedItem = nullptr;
+    bool FLoadingFinished = true;
+};

@@ -1,0 +1,34 @@
+// Program entry.
+#include "app/main_window.h"
+#include "app/win32/single_instance.h"
+#include "platform/win32/win32_system.h"
+#include "ui/win32/dialogs_win32.h"
+#include "ui/win32/form_window.h"
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandLine*/, int showCommand) {
+    constexpr const wchar_t* kMainWindowClass = L"TQuilltune_FormMain";
+    const TSingleInstance single;
+    if (single.AlreadyRunning()) {
+        TSingleInstance::BringOtherForward(kMainWindowClass);
+        return 0;
+    }
+    INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_TAB_CLASSES |
+                                                       ICC_UPDOWN_CLASS | ICC_LISTVIEW_CLASSES};
+    InitCommonControlsEx(&controls);
+
+    TWin32Dialogs dialogs;
+    TWin32System platform(dialogs);
+    TSystem& system = platform.System();
+    TQuilltune_FormMain form(system);
+    // Faults show no dialog and do not end the program.
+    TFormWindow& window = TFormWindow::Attach(form, instance, [&system](const std::exception_ptr&) {
+        system.Shell.DebugOutput(L"Quilltune: fault in an event handler");
+    });
+    window.OnMessage = [&window](UINT message) {
+        if (message != TSingleInstance::kComeForward) return false;
+        window.ComeForward();
+        return true;
+    };
+    window.Show(showCommand);
+    return window.Run();
+}

@@ -1,0 +1,135 @@
+// The delivered language files against the program: no text without a key, no key without a text.
+#include "app/main_window.h"
+
+#include "platform/text.h"
+#include "tests/fakes/fake_system.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cwctype>
+#include <fstream>
+#include <map>
+
+namespace {
+
+using TTexts = std::map<std::wstring, std::wstring>;
+
+/// Everything that the walk through the form translates, with its English text.
+TTexts FormTexts(const TForm& form) {
+    TTexts texts{{form.Name() + L".Caption", form.Caption()}};
+    for (const auto& component : form.Components()) {
+        const auto& control = static_cast<const TControl&>(*component);
+        switch (component->Kind()) {
+            case TComponentKind::Label:
+            case TComponentKind::Button:
+            case TComponentKind::GroupBox:
+            case TComponentKind::CheckBox:
+            case TComponentKind::RadioButton:
+            case TComponentKind::TabSheet: texts[control.Name() + L".Caption"] = control.Caption(); break;
+            case TComponentKind::ComboBox: {
+                const auto& items = static_cast<const TComboBox&>(control).Items();
+                for (std::size_t i = 0; i < items.size(); ++i)
+                    texts[control.Name() + L".Items[" + std::to_wstring(i) + L"].Caption"] = items[i];
+                break;
+            }
+            case TComponentKind::ListView: {
+                const auto& columns = static_cast<const TListView&>(control).Columns();
+                for (std::size_t i = 0; i < columns.size(); ++i)
+                    texts[control.Name() + L".Columns[" + std::to_wstring(i) + L"].Caption"] = columns[i];
+                break;
+            }
+            default: break;
+        }
+    }
+    return texts;
+}
+
+TTexts CaptionTexts() {
+    TTexts texts;
+    for (const TCaptionKey& key : kCaptionKeys) texts[key.Key] = key.English;
+    return texts;
+}
+
+TExtIniFile LoadDelivered(const std::string& language) {
+    std::ifstream file(QUILLTUNE_SOURCE_DIR "/languages/" + language + ".lng", std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_FALSE(bytes.empty()) << language;
+    TFakeSystem fake;
+    fake.Files.Put(L"C:\\language.lng", {bytes.begin(), bytes.end()});
+    TExtIniFile ini;
+    EXPECT_TRUE(ini.LoadFromFile(fake.System, L"C:\\language.lng"));
+    return ini;
+}
+
+void ExpectKeys(const TExtIniFile& ini, const wchar_t* section, const TTexts& texts, bool sameTexts) {
+    const std::vector<std::wstring> keys = ini.ReadSection(section);
+    for (const auto& [key, text] : texts) {
+        EXPECT_EQ(std::ranges::count(keys, key), 1) << "missing or twice: " << testing::PrintToString(key);
+        const std::wstring translated = ini.ReadString(section, key, L"");
+        if (sameTexts)
+            EXPECT_EQ(translated, text);
+        else
+            EXPECT_FALSE(translated.empty()) << testing::PrintToString(key);
+    }
+    for (const std::wstring& key : keys)
+        EXPECT_TRUE(texts.contains(key)) << "dead: " << testing::PrintToString(key);
+}
+
+TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
+    TFakeSystem fake;
+    const TQuilltune_FormMain window(fake.System);
+    for (const char* language : {"English", "German"}) {
+        SCOPED_TRACE(language);
+        const bool english = language == std::string("English");
+        const TExtIniFile ini = LoadDelivered(language);
+        ExpectKeys(ini, L"Scanner_Quilltune_FormMain", FormTexts(window), english);
+        ExpectKeys(ini, L"Quilltune_M", CaptionTexts(), english);
+        EXPECT_EQ(ini.ReadSections(),
+                  (std::vector<std::wstring>{L"Main", L"Scanner_Quilltune_FormMain", L"Quilltune_M"}));
+    }
+}
+
+using TAccessKeys = std::map<wchar_t, std::wstring>;  // with the control that each belongs to
+
+/// Adds the access keys of the controls in a container. Pages and sheets, which are not shown together, are put
+/// aside.
+void CollectAccessKeys(const TControl& container, TAccessKeys& keys, std::vector<const TControl*>& aside) {
+    for (const TControl* control : container.Children()) {
+        if (control->Kind() == TComponentKind::TabSheet || control->Kind() == TComponentKind::NotebookPage) {
+            aside.push_back(control);
+            continue;
+        }
+        const std::size_t mark = control->Caption().find(L'&');
+        if (mark != std::wstring::npos && mark + 1 < control->Caption().size()) {
+            const auto key = static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(control->Caption()[mark + 1])));
+            const auto [other, isNew] = keys.emplace(key, control->Name());
+            EXPECT_TRUE(isNew) << testing::PrintToString(control->Name()) << " and "
+                               << testing::PrintToString(other->second);
+        }
+        CollectAccessKeys(*control, keys, aside);
+    }
+}
+
+void ExpectAccessKeysDiffer(const TControl& container, TAccessKeys keys) {
+    std::vector<const TControl*> aside;
+    CollectAccessKeys(container, keys, aside);
+    for (const TControl* shown : aside) ExpectAccessKeysDiffer(*shown, keys);
+}
+
+TEST(TLanguageFiles, AccessKeysDifferOnEverySheet) {
+    for (const char* language : {"English", "German"}) {
+        SCOPED_TRACE(language);
+        TFakeSystem fake;
+        TQuilltune_FormMain window(fake.System);
+        const TExtIniFile ini = LoadDelivered(language);
+        for (const auto& component : window.Components()) {
+            auto& control = static_cast<TControl&>(*component);
+            control.SetCaption(
+                ini.ReadString(L"Scanner_Quilltune_FormMain", control.Name() + L".Caption", control.Caption()));
+        }
+        ExpectAccessKeysDiffer(window, {});
+    }
+}
+
+}  // namespace

@@ -1,0 +1,67 @@
+#include "tests/program/program.h"
+
+namespace {
+
+const TValuePlace kPlayedVersion{HKEY_CURRENT_USER, L"Software\\Wine\\AppDefaults\\Quilltune.exe",
+                                 L"Version"};
+
+}  // namespace
+
+std::wstring ProgramFolder() {
+    wchar_t folder[MAX_PATH];
+    const DWORD length = GetEnvironmentVariableW(L"QUILLTUNE_DIR", folder, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH)
+        throw TAutomationError(L"QUILLTUNE_DIR does not name the program's folder");
+    return {folder, length};
+}
+
+TProcess::TProcess() {
+    const std::wstring file = ProgramFolder() + L"\\Quilltune.exe";
+    std::wstring commandLine = L"\"" + file + L"\"";
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(file.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        &startup, &process))
+        throw TAutomationError(L"cannot start " + file);
+    CloseHandle(process.hThread);
+    FHandle = process.hProcess;
+    FId = process.dwProcessId;
+}
+
+TProcess::~TProcess() {
+    // The next copy must not find this one's window, so its end is waited for.
+    TerminateProcess(FHandle, 1);
+    WaitForSingleObject(FHandle, kPatience);
+    CloseHandle(FHandle);
+}
+
+DWORD TProcess::ExitCode() const {
+    if (WaitForSingleObject(FHandle, kPatience) != WAIT_OBJECT_0)
+        throw TAutomationError(L"the program does not end");
+    DWORD code = 0;
+    GetExitCodeProcess(FHandle, &code);
+    return code;
+}
+
+void TProgram::Apply() const {
+    FWindow.Click(L"Button_Apply");
+    const bool done = WaitUntil([this] { return !FWindow.Enabled(L"Button_Apply") || FWindow.Question(); });
+    if (const auto box = FWindow.Question()) throw TAutomationError(L"Apply asks: " + box->Text());
+    if (!done) throw TAutomationError(L"Apply does not end");
+}
+
+TProgram::TAsked TProgram::ApplyWithoutRestart() const {
+    FWindow.Click(L"Button_Apply");
+    const TMessageBox box = FWindow.WaitForQuestion();
+    if (!box.Offers(IDNO)) throw TAutomationError(L"no question to answer with No: " + box.Text());
+    TAsked asked{box.Title(), box.Text()};
+    box.Answer(IDNO);
+    if (!WaitUntil([this] { return !FWindow.Enabled(L"Button_Apply"); }))
+        throw TAutomationError(L"Apply does not end");
+    return asked;
+}
+
+TWindowsVersion::TWindowsVersion(const std::wstring& version) : FKeeper({kPlayedVersion}) {
+    Store(kPlayedVersion, Text(version));
+}
