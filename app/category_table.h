@@ -1,11 +1,11 @@
 // The category bar as data: its groups, their items, and the page that each item leads to.
 #pragma once
 
-#include "settings/captions.h"
-#include "ui/design.h"
-
 #include <optional>
 #include <span>
+
+#include "settings/captions.h"
+#include "ui/design.h"
 
 struct TCategoryItemRow {
     const wchar_t* Caption;        ///< in the design; the window shows the text below

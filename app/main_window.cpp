@@ -1,12 +1,12 @@
 #include "app/main_window.h"
 
+#include <utility>
+
 #include "app/category_table.h"
 #include "app/timing_log.h"
 #include "platform/service_control.h"
 #include "platform/suite_language.h"
 #include "platform/windows_version.h"
-
-#include <utility>
 
 namespace {
 
@@ -16,31 +16,21 @@ constexpr int kFrameCount = 7;
 constexpr int kTimerInterval = 100;
 
 // Shell notifications, as documented for SHChangeNotify.
-constexpr std::uint32_t kAllEvents = 0x7FFFFFFF;           // SHCNE_ALLEVENTS
+constexpr std::uint32_t kAllEvents = 0x7FFFFFFF;            // SHCNE_ALLEVENTS
 constexpr std::uint32_t kAssociationsChanged = 0x08000000;  // SHCNE_ASSOCCHANGED
-constexpr std::uint32_t kFlush = 0x1000;                   // SHCNF_FLUSH
-constexpr std::uint32_t kIdList = 0x0000;                  // SHCNF_IDLIST
+constexpr std::uint32_t kFlush = 0x1000;                    // SHCNF_FLUSH
+constexpr std::uint32_t kIdList = 0x0000;                   // SHCNF_IDLIST
 
 TControlDesign WindowDesign() {
-    return Row({
-        CategoryBarDesign(),
-        Column({
-            Overlay({
-                Notebook(L"Notebook_Main", {}),
-                Panel(L"Panel_Loading", {Center({Row({
-                    Image(L"ImageNote_Animate", L"loading", kFrameCount),
-                    Label(L"Label_Wait", L"Loading system settings......."),
-                })})}).Hidden(),
-            }),
-            Buttons({
-                Button(L"Button_OK", L"OK"),
-                Button(L"Button_Cancel", L"Cancel"),
-                Button(L"Button_Apply", L"&Apply"),
-            }),
-        }),
-        Timer(L"Timer_Click", kTimerInterval),
-        Timer(L"Timer_Loading", kTimerInterval),
-    });
+    return Row(CategoryBarDesign(),
+               Column(Overlay(Notebook(L"Notebook_Main", {}),
+                              Panel(L"Panel_Loading",
+                                    Center(Row(Image(L"ImageNote_Animate", L"loading", kFrameCount),
+                                               Label(L"Label_Wait", L"Loading system settings......."))))
+                                  .Hidden()),
+                      Buttons(Button(L"Button_OK", L"OK"), Button(L"Button_Cancel", L"Cancel"),
+                              Button(L"Button_Apply", L"&Apply"))),
+               Timer(L"Timer_Click", kTimerInterval), Timer(L"Timer_Loading", kTimerInterval));
 }
 
 }  // namespace
@@ -61,11 +51,10 @@ void TQuilltune_FormMain::BuildControls() {
     Build(*this, WindowDesign());
     TControl& notebook = *Find(L"Notebook_Main");
     for (const TPageDefinition* definition : PageDefinitions()) {
-        FPages.push_back(
-            std::make_unique<TPage>(*definition, FContext, notebook, [this] { EnableApply(); }));
+        FPages.push_back(std::make_unique<TPage>(*definition, FContext, notebook, [this] { EnableApply(); }));
     }
     for (int tag = 1; tag <= kPageCount; ++tag) {
-        if (Find(std::to_wstring(tag)) == nullptr) Build(notebook, NotebookPage(tag, {}));
+        if (Find(std::to_wstring(tag)) == nullptr) Build(notebook, NotebookPage(tag));
     }
     Find<TButton>(L"Button_OK")->Default = true;
     Find<TButton>(L"Button_Cancel")->Cancel = true;
@@ -113,7 +102,8 @@ void TQuilltune_FormMain::FormShow() {
     ReinitialiseLists(log);
     log.Add(L"Rz_Com:");
     SetCategoryCaptions();
-    for (const wchar_t* button : {L"Button_OK", L"Button_Cancel", L"Button_Apply"}) Find(button)->SetEnabled(false);
+    for (const wchar_t* button : {L"Button_OK", L"Button_Cancel", L"Button_Apply"})
+        Find(button)->SetEnabled(false);
     FLoadingFinished = false;
     TControl* panel = Find(L"Panel_Loading");
     panel->BringToFront();
@@ -157,7 +147,8 @@ void TQuilltune_FormMain::SetCategoryCaptions() {
         TControl* control = Find(group.Name);
         control->SetCaption(FContext.Captions[group.Text]);
         for (std::size_t i = 0; i < group.Items.size(); ++i) {
-            if (group.Items[i].Text) control->Children()[i]->SetCaption(FContext.Captions[*group.Items[i].Text]);
+            if (group.Items[i].Text)
+                control->Children()[i]->SetCaption(FContext.Captions[*group.Items[i].Text]);
         }
     }
 }
@@ -245,8 +236,8 @@ void TQuilltune_FormMain::ApplyServices() {
 void TQuilltune_FormMain::OfferRestart() {
     if (!FContext.RestartNeeded) return;
     const TMessageAnswer answer =
-        FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartWindows], TMessageButtons::YesNo,
-                                TMessageIcon::Question);
+        FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartWindows],
+                                TMessageButtons::YesNo, TMessageIcon::Question);
     if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartWindows();
     FContext.RestartNeeded = false;
 }

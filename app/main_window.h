@@ -1,15 +1,15 @@
 // The main window: its life from creation to destruction, the category bar, and Apply.
 #pragma once
 
+#include <memory>
+#include <set>
+
 #include "app/page_table.h"
 #include "platform/app_frame.h"
 #include "platform/language.h"
 #include "settings/page_context.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
-
-#include <memory>
-#include <set>
 
 class TTimingLog;
 

@@ -1,9 +1,9 @@
 #include "app/page_table.h"
 
+#include <array>
+
 #include "settings/shell/drives_page.h"
 #include "settings/shell/memory_page.h"
-
-#include <array>
 
 std::span<const TPageDefinition* const> PageDefinitions() {
     static const std::array kPages{&DrivesPage(), &MemoryPage()};

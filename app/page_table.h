@@ -1,9 +1,9 @@
 // The notebook's pages.
 #pragma once
 
-#include "settings/page.h"
-
 #include <span>
+
+#include "settings/page.h"
 
 /// Number of pages of the notebook; they are named "1" to this number.
 inline constexpr int kPageCount = 19;

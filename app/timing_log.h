@@ -1,10 +1,10 @@
 // When each step of showing the window began. Read in a debugger; never written anywhere.
 #pragma once
 
-#include "platform/clock.h"
-
 #include <string>
 #include <vector>
+
+#include "platform/clock.h"
 
 class TTimingLog {
   public:

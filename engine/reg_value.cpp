@@ -37,13 +37,16 @@ TBytes AsBytes(const TRegValue& value) {
 std::optional<TRegValue> ConvertTo(TRegDataType type, const TRegValue& value) {
     switch (type) {
         case TRegDataType::String:
-        case TRegDataType::ExpandString: return AsText(value);
+        case TRegDataType::ExpandString:
+            return AsText(value);
         case TRegDataType::Dword:
             if (std::holds_alternative<std::monostate>(value)) return std::int32_t{0};
             if (const auto number = AsInteger(value)) return *number;
             return std::nullopt;
-        case TRegDataType::Binary: return AsBytes(value);
-        case TRegDataType::Unknown: break;
+        case TRegDataType::Binary:
+            return AsBytes(value);
+        case TRegDataType::Unknown:
+            break;
     }
     return TRegValue{};
 }

@@ -2,9 +2,9 @@
 // Windows itself never writes (a number as text, a DWORD as four bytes); a page shows what they mean.
 #pragma once
 
-#include "platform/registry.h"
-
 #include <optional>
+
+#include "platform/registry.h"
 
 /// The value as a number: a DWORD, decimal text with an optional sign and blanks around it, or one to four bytes with the
 /// lowest first. Nothing when the value is absent or means no number.

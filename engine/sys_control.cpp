@@ -1,10 +1,10 @@
 #include "engine/sys_control.h"
 
-#include "engine/reg_value.h"
-#include "platform/text.h"
-
 #include <ranges>
 #include <string_view>
+
+#include "engine/reg_value.h"
+#include "platform/text.h"
 
 namespace {
 
@@ -83,9 +83,12 @@ void TSysControl::WriteAll() {
 
 TWriteStatus TSysControl::Write(const TRegRecor& record) {
     switch (record.Action) {
-        case TRegAction::DeleteKey: return FSystem.Registry.DeleteKey(record.RootKey, record.Key);
-        case TRegAction::DeleteValue: return FSystem.Registry.DeleteValue(PlaceOf(record));
-        case TRegAction::Write: break;
+        case TRegAction::DeleteKey:
+            return FSystem.Registry.DeleteKey(record.RootKey, record.Key);
+        case TRegAction::DeleteValue:
+            return FSystem.Registry.DeleteValue(PlaceOf(record));
+        case TRegAction::Write:
+            break;
     }
     std::optional<TRegValue> value = ConvertTo(record.DataType, record.Value);
     if (!value) return TWriteStatus::Refused;

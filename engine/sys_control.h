@@ -1,10 +1,10 @@
 // The list of pending changes, in the order in which their names were first recorded.
 #pragma once
 
+#include <span>
+
 #include "engine/reg_recor.h"
 #include "platform/system.h"
-
-#include <span>
 
 class TSysControl {
   public:

@@ -5,7 +5,7 @@ namespace {
 /// The text of a file, whose bytes are let go before anyone works on it.
 std::optional<std::wstring> ReadText(const TSystem& system, const std::wstring& fileName) {
     const auto bytes = system.Files.Read(fileName);
-    if (!bytes) return std::nullopt;
+    if (!bytes || bytes->size() > TExtIniFile::kMaxFileSize) return std::nullopt;
     return DecodeText(*bytes, system.Windows);
 }
 

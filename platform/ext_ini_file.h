@@ -10,6 +10,9 @@
 /// does not replace the earlier one, but look-ups find the last. Nothing is ever written to the disk.
 class TExtIniFile {
   public:
+    /// A file of more bytes is not read: no real one is nearly as long, and parsing it would hold up the start.
+    static constexpr std::size_t kMaxFileSize = std::size_t{16} << 20;
+
     /// Replaces the content by that of a text file. False, and nothing changed, when the file cannot be read.
     [[nodiscard]] bool LoadFromFile(const TSystem& system, const std::wstring& fileName);
 

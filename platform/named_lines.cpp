@@ -1,9 +1,10 @@
 #include "platform/named_lines.h"
 
 std::wstring_view TNamedLines::Line(std::size_t index) const {
+    const std::wstring_view text = FText;
     const std::size_t start = FStarts[index];
-    const std::size_t end = index + 1 < FStarts.size() ? FStarts[index + 1] : FText.size();
-    return std::wstring_view(FText).substr(start, end - start);
+    const std::size_t end = index + 1 < FStarts.size() ? FStarts[index + 1] : text.size();
+    return text.substr(start, end - start);
 }
 
 std::optional<std::wstring_view> TNamedLines::Name(std::size_t index) const {

@@ -21,34 +21,56 @@ void Append(std::wstring& text, char32_t code) {
     text.push_back(static_cast<wchar_t>(code));
 }
 
-/// Every longest beginning of a sequence that goes wrong becomes one U+FFFD, as Unicode recommends.
+/// A range of first bytes of a UTF-8 sequence, how many bytes follow, and the bounds of the first that does. The
+/// bounds leave out longer forms than needed, surrogates and what lies beyond U+10FFFF.
+struct TUtf8Lead {
+    std::uint8_t First;
+    std::uint8_t Last;
+    int Trails;
+    std::uint8_t Low;
+    std::uint8_t High;
+};
+
+constexpr auto kUtf8Leads = std::to_array<TUtf8Lead>({
+    {0xC2, 0xDF, 1, 0x80, 0xBF},
+    {0xE0, 0xE0, 2, 0xA0, 0xBF},
+    {0xE1, 0xEC, 2, 0x80, 0xBF},
+    {0xED, 0xED, 2, 0x80, 0x9F},
+    {0xEE, 0xEF, 2, 0x80, 0xBF},
+    {0xF0, 0xF0, 3, 0x90, 0xBF},
+    {0xF1, 0xF3, 3, 0x80, 0xBF},
+    {0xF4, 0xF4, 3, 0x80, 0x8F},
+});
+
+/// Takes a character off the beginning of `rest`. Of a sequence that goes wrong it takes as much as is right, but
+/// at least a byte, as Unicode recommends.
+char32_t TakeUtf8(TByteSpan& rest) {
+    const auto take = [&] {
+        const std::uint8_t byte = rest.front();
+        rest = rest.subspan(1);
+        return byte;
+    };
+    const std::uint8_t first = take();
+    if (first < 0x80) return first;
+    const auto lead = std::ranges::find_if(
+        kUtf8Leads, [&](const TUtf8Lead& each) { return first >= each.First && first <= each.Last; });
+    if (lead == kUtf8Leads.end()) return kReplacement;
+    char32_t code = first & (0x3FU >> lead->Trails);
+    std::uint8_t low = lead->Low;
+    std::uint8_t high = lead->High;
+    for (int i = 0; i < lead->Trails; ++i) {
+        if (rest.empty() || rest.front() < low || rest.front() > high) return kReplacement;
+        code = code << 6 | (take() & 0x3FU);
+        low = 0x80;
+        high = 0xBF;
+    }
+    return code;
+}
+
 std::wstring FromUtf8(TByteSpan bytes) {
     std::wstring text;
     text.reserve(bytes.size());
-    for (std::size_t i = 0; i < bytes.size();) {
-        const std::uint8_t lead = bytes[i++];
-        if (lead < 0x80) {
-            text.push_back(lead);
-            continue;
-        }
-        int trails = 0;
-        if (lead >= 0xC2 && lead <= 0xDF) trails = 1;
-        if (lead >= 0xE0 && lead <= 0xEF) trails = 2;
-        if (lead >= 0xF0 && lead <= 0xF4) trails = 3;
-        bool whole = trails > 0;
-        char32_t code = lead & (0x3FU >> trails);
-        // The byte after some leads has narrower bounds: they exclude longer forms than needed, surrogates and
-        // what lies beyond U+10FFFF.
-        std::uint8_t low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-        std::uint8_t high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-        for (; whole && trails > 0; --trails) {
-            whole = i < bytes.size() && bytes[i] >= low && bytes[i] <= high;
-            if (whole) code = code << 6 | (bytes[i++] & 0x3FU);
-            low = 0x80;
-            high = 0xBF;
-        }
-        Append(text, whole ? code : kReplacement);
-    }
+    while (!bytes.empty()) Append(text, TakeUtf8(bytes));
     return text;
 }
 

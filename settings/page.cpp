@@ -30,12 +30,22 @@ void TPage::Listen(TControl& container) {
     const TNotifyEvent changed = [this](TComponent& sender) { Changed(sender); };
     for (TControl* control : container.Children()) {
         switch (control->Kind()) {
-            case TComponentKind::CheckBox: static_cast<TCheckBox*>(control)->OnClick = changed; break;
-            case TComponentKind::RadioButton: static_cast<TRadioButton*>(control)->OnClick = changed; break;
-            case TComponentKind::ComboBox: static_cast<TComboBox*>(control)->OnChange = changed; break;
+            case TComponentKind::CheckBox:
+                static_cast<TCheckBox*>(control)->OnClick = changed;
+                break;
+            case TComponentKind::RadioButton:
+                static_cast<TRadioButton*>(control)->OnClick = changed;
+                break;
+            case TComponentKind::ComboBox:
+                static_cast<TComboBox*>(control)->OnChange = changed;
+                break;
             case TComponentKind::TrackBar:
-            case TComponentKind::UpDown: static_cast<TRangeControl*>(control)->OnChange = changed; break;
-            default: Listen(*control); break;
+            case TComponentKind::UpDown:
+                static_cast<TRangeControl*>(control)->OnChange = changed;
+                break;
+            default:
+                Listen(*control);
+                break;
         }
     }
 }
@@ -51,12 +61,15 @@ void TPage::ApplyPreset(const TPreset& preset) {
             case TComponentKind::RadioButton:
                 static_cast<TRadioButton*>(control)->SetChecked(state.State != 0);
                 break;
-            case TComponentKind::ComboBox: static_cast<TComboBox*>(control)->SetItemIndex(state.State); break;
+            case TComponentKind::ComboBox:
+                static_cast<TComboBox*>(control)->SetItemIndex(state.State);
+                break;
             case TComponentKind::TrackBar:
             case TComponentKind::UpDown:
                 static_cast<TRangeControl*>(control)->SetPosition(state.State);
                 break;
-            default: break;
+            default:
+                break;
         }
     }
 }

@@ -34,8 +34,12 @@ void Add(TPageContext& context, const std::wstring& changeName, const TPlace& pl
             record.DataType = TRegDataType::String;
             record.Value = std::wstring(datum.Characters);
             break;
-        case TDatum::TKind::DeleteValue: record.Action = TRegAction::DeleteValue; break;
-        case TDatum::TKind::DeleteKey: record.Action = TRegAction::DeleteKey; break;
+        case TDatum::TKind::DeleteValue:
+            record.Action = TRegAction::DeleteValue;
+            break;
+        case TDatum::TKind::DeleteKey:
+            record.Action = TRegAction::DeleteKey;
+            break;
     }
     context.Changes.Add(record);
 }
@@ -46,7 +50,8 @@ void Load(TPageContext& context, const TCheckBoxRow& row) {
     TBoxState state = row.Shows.Missing;
     if (const auto value = Stored(context, row.Value)) {
         const auto number = AsInteger(*value);
-        state = row.Shows.When && number == row.Shows.When->Value ? row.Shows.When->Shows : row.Shows.Otherwise;
+        state =
+            row.Shows.When && number == row.Shows.When->Value ? row.Shows.When->Shows : row.Shows.Otherwise;
     }
     if (state != kKeep) box->SetChecked(state == kChecked);
 }
@@ -54,7 +59,9 @@ void Load(TPageContext& context, const TCheckBoxRow& row) {
 void Record(TPageContext& context, const TCheckBoxRow& row, TComponent& sender) {
     if (sender.Name() != row.Control) return;
     const bool checked = static_cast<TCheckBox&>(sender).Checked();
-    const auto datum = [checked](const TBoxRecord& records) { return checked ? records.Checked : records.Clear; };
+    const auto datum = [checked](const TBoxRecord& records) {
+        return checked ? records.Checked : records.Clear;
+    };
     Add(context, sender.Name(), row.Value, datum(row.Records));
     if (row.Further) {
         Add(context, sender.Name() + row.Further->Suffix, row.Further->Value, datum(row.Further->Records));

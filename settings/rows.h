@@ -4,11 +4,11 @@
 // How a value shows and what a state records are separate on purpose: many settings are not symmetric.
 #pragma once
 
-#include "settings/datum.h"
-
 #include <optional>
 #include <span>
 #include <variant>
+
+#include "settings/datum.h"
 
 class TComponent;
 struct TPageContext;

@@ -2,24 +2,11 @@
 
 namespace {
 
-TControlDesign Arrangement(TLayoutKind layout, TDesigns children) {
-    TControlDesign design;
-    design.Layout = layout;
-    design.Children = std::move(children);
-    return design;
-}
-
 TControlDesign Control(TComponentKind kind, std::wstring name, std::wstring caption = {}) {
     TControlDesign design;
     design.Kind = kind;
     design.Name = std::move(name);
     design.Caption = std::move(caption);
-    return design;
-}
-
-TControlDesign Container(TComponentKind kind, std::wstring name, std::wstring caption, TDesigns content) {
-    TControlDesign design = Control(kind, std::move(name), std::move(caption));
-    design.Children = std::move(content);
     return design;
 }
 
@@ -32,32 +19,17 @@ TControlDesign Ranged(TControlDesign design, int min, int max, int position) {
 
 }  // namespace
 
-TControlDesign Column(TDesigns controls) { return Arrangement(TLayoutKind::Column, std::move(controls)); }
-TControlDesign Row(TDesigns controls) { return Arrangement(TLayoutKind::Row, std::move(controls)); }
-TControlDesign Buttons(TDesigns buttons) { return Arrangement(TLayoutKind::Buttons, std::move(buttons)); }
-TControlDesign Fields(TDesigns rows) { return Arrangement(TLayoutKind::Fields, std::move(rows)); }
-TControlDesign Indent(TDesigns controls) { return Arrangement(TLayoutKind::Indent, std::move(controls)); }
-TControlDesign Center(TDesigns controls) { return Arrangement(TLayoutKind::Center, std::move(controls)); }
-TControlDesign Overlay(TDesigns controls) { return Arrangement(TLayoutKind::Overlay, std::move(controls)); }
-
-TControlDesign NotebookPage(int tag, TDesigns content) {
-    return Container(TComponentKind::NotebookPage, std::to_wstring(tag), {}, std::move(content));
+TControlDesign Arrangement(TLayoutKind layout, TDesigns content) {
+    TControlDesign design;
+    design.Layout = layout;
+    design.Children = std::move(content);
+    return design;
 }
 
-TControlDesign PageControl(std::wstring name, TDesigns sheets) {
-    return Container(TComponentKind::PageControl, std::move(name), {}, std::move(sheets));
-}
-
-TControlDesign Sheet(std::wstring name, std::wstring caption, TDesigns content) {
-    return Container(TComponentKind::TabSheet, std::move(name), std::move(caption), std::move(content));
-}
-
-TControlDesign Group(std::wstring name, std::wstring caption, TDesigns content) {
-    return Container(TComponentKind::GroupBox, std::move(name), std::move(caption), std::move(content));
-}
-
-TControlDesign Panel(std::wstring name, TDesigns content) {
-    return Container(TComponentKind::Panel, std::move(name), {}, std::move(content));
+TControlDesign Container(TComponentKind kind, std::wstring name, std::wstring caption, TDesigns content) {
+    TControlDesign design = Control(kind, std::move(name), std::move(caption));
+    design.Children = std::move(content);
+    return design;
 }
 
 TControlDesign Label(std::wstring name, std::wstring caption) {

@@ -17,8 +17,8 @@ class TDialogs {
     virtual ~TDialogs() = default;
 
     /// A standard message box over the active window.
-    virtual TMessageAnswer Message(const std::wstring& title, const std::wstring& text, TMessageButtons buttons,
-                                   TMessageIcon icon) = 0;
+    virtual TMessageAnswer Message(const std::wstring& title, const std::wstring& text,
+                                   TMessageButtons buttons, TMessageIcon icon) = 0;
 
     /// The system's open-file dialog. `filter` is "caption|patterns|caption|patterns". Nothing when cancelled.
     [[nodiscard]] virtual std::optional<std::wstring> OpenFile(const std::wstring& filter) = 0;

@@ -1,43 +1,60 @@
 #include "ui/form.h"
 
+#include <stdexcept>
+
 #include "ui/containers.h"
 #include "ui/controls.h"
 #include "ui/design.h"
-
-#include <stdexcept>
 
 namespace {
 
 /// Makes the component that a design describes, with everything that is fixed for its life.
 std::unique_ptr<TControl> Make(const TControlDesign& design) {
     switch (*design.Kind) {
-        case TComponentKind::Panel: return std::make_unique<TPanel>(design.Name);
-        case TComponentKind::Notebook: return std::make_unique<TNotebook>(design.Name);
-        case TComponentKind::NotebookPage: return std::make_unique<TNotebookPage>(design.Name);
-        case TComponentKind::PageControl: return std::make_unique<TPageControl>(design.Name);
-        case TComponentKind::TabSheet: return std::make_unique<TTabSheet>(design.Name);
-        case TComponentKind::GroupBox: return std::make_unique<TGroupBox>(design.Name);
-        case TComponentKind::Label: return std::make_unique<TLabel>(design.Name);
-        case TComponentKind::CheckBox: return std::make_unique<TCheckBox>(design.Name);
-        case TComponentKind::RadioButton: return std::make_unique<TRadioButton>(design.Name);
-        case TComponentKind::Edit: return std::make_unique<TEdit>(design.Name);
+        case TComponentKind::Panel:
+            return std::make_unique<TPanel>(design.Name);
+        case TComponentKind::Notebook:
+            return std::make_unique<TNotebook>(design.Name);
+        case TComponentKind::NotebookPage:
+            return std::make_unique<TNotebookPage>(design.Name);
+        case TComponentKind::PageControl:
+            return std::make_unique<TPageControl>(design.Name);
+        case TComponentKind::TabSheet:
+            return std::make_unique<TTabSheet>(design.Name);
+        case TComponentKind::GroupBox:
+            return std::make_unique<TGroupBox>(design.Name);
+        case TComponentKind::Label:
+            return std::make_unique<TLabel>(design.Name);
+        case TComponentKind::CheckBox:
+            return std::make_unique<TCheckBox>(design.Name);
+        case TComponentKind::RadioButton:
+            return std::make_unique<TRadioButton>(design.Name);
+        case TComponentKind::Edit:
+            return std::make_unique<TEdit>(design.Name);
         case TComponentKind::UpDown:
             return std::make_unique<TUpDown>(design.Name, design.Min, design.Max, design.Position);
         case TComponentKind::TrackBar:
             return std::make_unique<TTrackBar>(design.Name, design.Min, design.Max, design.Position);
-        case TComponentKind::ComboBox: return std::make_unique<TComboBox>(design.Name, design.Items);
-        case TComponentKind::Button: return std::make_unique<TButton>(design.Name);
-        case TComponentKind::ColorSwatch: return std::make_unique<TColorSwatch>(design.Name);
+        case TComponentKind::ComboBox:
+            return std::make_unique<TComboBox>(design.Name, design.Items);
+        case TComponentKind::Button:
+            return std::make_unique<TButton>(design.Name);
+        case TComponentKind::ColorSwatch:
+            return std::make_unique<TColorSwatch>(design.Name);
         case TComponentKind::Image:
             return std::make_unique<TImage>(design.Name, design.Picture, design.Position);
-        case TComponentKind::ListView: return std::make_unique<TListView>(design.Name, design.Items);
-        case TComponentKind::CategoryBar: return std::make_unique<TCategoryBar>(design.Name);
-        case TComponentKind::CategoryGroup: return std::make_unique<TCategoryGroup>(design.Name);
+        case TComponentKind::ListView:
+            return std::make_unique<TListView>(design.Name, design.Items);
+        case TComponentKind::CategoryBar:
+            return std::make_unique<TCategoryBar>(design.Name);
+        case TComponentKind::CategoryGroup:
+            return std::make_unique<TCategoryGroup>(design.Name);
         case TComponentKind::CategoryItem:
             return std::make_unique<TCategoryItem>(design.Name, design.Position, design.Picture);
         case TComponentKind::Timer:
             return std::make_unique<TTimer>(design.Name, static_cast<unsigned>(design.Position));
-        case TComponentKind::Form: break;
+        case TComponentKind::Form:
+            break;
     }
     throw std::logic_error("a form is no part of a design");
 }
@@ -45,7 +62,9 @@ std::unique_ptr<TControl> Make(const TControlDesign& design) {
 /// Gives a new control the state of its design, before anyone listens to its events.
 void SetDesignState(const TForm& form, TControl& control, const TControlDesign& design) {
     switch (control.Kind()) {
-        case TComponentKind::CheckBox: static_cast<TCheckBox&>(control).SetChecked(design.IsChecked); break;
+        case TComponentKind::CheckBox:
+            static_cast<TCheckBox&>(control).SetChecked(design.IsChecked);
+            break;
         case TComponentKind::RadioButton:
             static_cast<TRadioButton&>(control).SetChecked(design.IsChecked);
             break;
@@ -58,9 +77,11 @@ void SetDesignState(const TForm& form, TControl& control, const TControlDesign& 
             return;  // the caption of its design is its text
         }
         case TComponentKind::UpDown:
-            if (auto* edit = form.Find<TEdit>(design.Associate)) static_cast<TUpDown&>(control).SetAssociate(edit);
+            if (auto* edit = form.Find<TEdit>(design.Associate))
+                static_cast<TUpDown&>(control).SetAssociate(edit);
             break;
-        default: break;
+        default:
+            break;
     }
     control.SetCaption(design.Caption);
 }
@@ -82,7 +103,8 @@ void TForm::Build(TControl& parent, const TControlDesign& design) {
 TControl& TForm::Create(TControl& parent, const TControlDesign& design) {
     std::unique_ptr<TControl> owned = Make(design);
     TControl& control = *owned;
-    if (!FByName.emplace(control.Name(), &control).second) throw std::logic_error("two components of one name");
+    if (!FByName.emplace(control.Name(), &control).second)
+        throw std::logic_error("two components of one name");
     FComponents.push_back(std::move(owned));
     control.FParent = &parent;
     parent.FChildren.push_back(&control);

@@ -1,10 +1,10 @@
 // A form: the window, and the owner of every component on it.
 #pragma once
 
+#include <unordered_map>
+
 #include "ui/component.h"
 #include "ui/layout_box.h"
-
-#include <unordered_map>
 
 struct TControlDesign;
 

@@ -1,20 +1,20 @@
 #include "ui/layout.h"
 
-#include "ui/containers.h"
-#include "ui/controls.h"
-
 #include <algorithm>
 #include <utility>
+
+#include "ui/containers.h"
+#include "ui/controls.h"
 
 namespace {
 
 // Distances at 96 dots per inch.
-constexpr int kGap = 7;           // between controls that stand together
-constexpr int kGroupGap = 11;     // before and after a group box
+constexpr int kGap = 7;            // between controls that stand together
+constexpr int kGroupGap = 11;      // before and after a group box
 constexpr int kGroupPadding = 11;  // between a group box's frame and its controls
-constexpr int kIndent = 18;       // below the text of a check box
-constexpr int kGlyph = 18;        // a check mark or radio circle with the space before its text
-constexpr int kBoxHeight = 17;    // the least height of a check box or radio button
+constexpr int kIndent = 18;        // below the text of a check box
+constexpr int kGlyph = 18;         // a check mark or radio circle with the space before its text
+constexpr int kBoxHeight = 17;     // the least height of a check box or radio button
 constexpr int kButtonWidth = 75;
 constexpr int kButtonHeight = 23;
 constexpr int kButtonPadding = 12;  // at each side of a button's text
@@ -26,7 +26,8 @@ constexpr int kEditWidth = 120;
 constexpr int kSwatchWidth = 40;
 constexpr int kListHeight = 140;
 constexpr int kPictureSize = 32;
-constexpr int kCategoryBarFrame = 60;  // what a category item needs beside its text: picture, margins
+constexpr int kCategoryBarFrame = 60;   // what a category item needs beside its text: picture, margins
+constexpr int kCategoryBarWidth = 240;  // the most it takes
 constexpr int kUnlimited = 1 << 20;
 
 /// Kinds that take the space that the others of their row or column leave.
@@ -38,8 +39,10 @@ bool Stretches(const TLayoutBox& box) {
     switch (box.Control->Kind()) {
         case TComponentKind::Notebook:
         case TComponentKind::PageControl:
-        case TComponentKind::ListView: return true;
-        default: return false;
+        case TComponentKind::ListView:
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -48,9 +51,12 @@ bool StretchesInRow(const TLayoutBox& box) {
     if (Stretches(box)) return true;
     if (box.Kind != TLayoutKind::Control) return false;
     switch (box.Control->Kind()) {
-        case TComponentKind::TrackBar: return true;
-        case TComponentKind::Edit: return static_cast<const TEdit*>(box.Control)->WidthInCharacters == 0;
-        default: return false;
+        case TComponentKind::TrackBar:
+            return true;
+        case TComponentKind::Edit:
+            return static_cast<const TEdit*>(box.Control)->WidthInCharacters == 0;
+        default:
+            return false;
     }
 }
 
@@ -89,10 +95,13 @@ int TLayout::GapBefore(const TLayoutBox& box, std::size_t index) const {
 TSize TLayout::Measure(const TLayoutBox& box, int width) const {
     if (IsAbsent(box)) return {};
     switch (box.Kind) {
-        case TLayoutKind::Control: return MeasureControl(*box.Control, width);
+        case TLayoutKind::Control:
+            return MeasureControl(*box.Control, width);
         case TLayoutKind::Row:
-        case TLayoutKind::Buttons: return MeasureRow(box, width, 0);
-        case TLayoutKind::Fields: return MeasureFields(box, width);
+        case TLayoutKind::Buttons:
+            return MeasureRow(box, width, 0);
+        case TLayoutKind::Fields:
+            return MeasureFields(box, width);
         case TLayoutKind::Indent: {
             const int indent = FMetrics.Scale(kIndent);
             TSize size = MeasureColumn(box, width - indent);
@@ -100,8 +109,10 @@ TSize TLayout::Measure(const TLayoutBox& box, int width) const {
             return size;
         }
         case TLayoutKind::Column:
-        case TLayoutKind::Center: return MeasureColumn(box, width);
-        case TLayoutKind::Overlay: break;
+        case TLayoutKind::Center:
+            return MeasureColumn(box, width);
+        case TLayoutKind::Overlay:
+            break;
     }
     TSize size;
     for (const TLayoutBox& inner : box.Boxes) {
@@ -172,8 +183,10 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
     const int fieldHeight = line + 2 * scale(kFieldPadding);
     switch (control.Kind()) {
         case TComponentKind::CheckBox:
-        case TComponentKind::RadioButton: return TextLine(control, width);
-        case TComponentKind::Label: return FMetrics.TextSize(control.Caption(), std::max(width, 1));
+        case TComponentKind::RadioButton:
+            return TextLine(control, width);
+        case TComponentKind::Label:
+            return FMetrics.TextSize(control.Caption(), std::max(width, 1));
         case TComponentKind::Button: {
             const TSize text = FMetrics.TextSize(control.Caption(), kUnlimited);
             return {std::max(text.Width + 2 * scale(kButtonPadding), scale(kButtonWidth)),
@@ -182,26 +195,33 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
         case TComponentKind::Edit: {
             const int characters = static_cast<const TEdit&>(control).WidthInCharacters;
             const int digit = FMetrics.TextSize(L"0", kUnlimited).Width;
-            return {characters > 0 ? characters * digit + 3 * scale(kFieldPadding) : scale(kEditWidth), fieldHeight};
+            return {characters > 0 ? characters * digit + 3 * scale(kFieldPadding) : scale(kEditWidth),
+                    fieldHeight};
         }
-        case TComponentKind::UpDown: return {scale(kArrowWidth), fieldHeight};
+        case TComponentKind::UpDown:
+            return {scale(kArrowWidth), fieldHeight};
         case TComponentKind::ComboBox: {
             int text = 0;
             for (const std::wstring& item : static_cast<const TComboBox&>(control).Items())
                 text = std::max(text, FMetrics.TextSize(item, kUnlimited).Width);
             return {std::min(text + scale(kArrowWidth) + 4 * scale(kFieldPadding), width), fieldHeight};
         }
-        case TComponentKind::TrackBar: return {scale(kTrackBarWidth), scale(kTrackBarHeight)};
-        case TComponentKind::ColorSwatch: return {scale(kSwatchWidth), fieldHeight};
-        case TComponentKind::Image: return {scale(kPictureSize), scale(kPictureSize)};
-        case TComponentKind::ListView: return {width, scale(kListHeight)};
+        case TComponentKind::TrackBar:
+            return {scale(kTrackBarWidth), scale(kTrackBarHeight)};
+        case TComponentKind::ColorSwatch:
+            return {scale(kSwatchWidth), fieldHeight};
+        case TComponentKind::Image:
+            return {scale(kPictureSize), scale(kPictureSize)};
+        case TComponentKind::ListView:
+            return {width, scale(kListHeight)};
         case TComponentKind::GroupBox: {
             const int padding = scale(kGroupPadding);
             const TSize content = ContentSize(control, width - 2 * padding);
             const int caption = FMetrics.TextSize(control.Caption(), kUnlimited).Width;
             return {std::max(content.Width, caption) + 2 * padding, line + content.Height + 3 * padding / 2};
         }
-        case TComponentKind::Panel: return ContentSize(control, width);
+        case TComponentKind::Panel:
+            return ContentSize(control, width);
         case TComponentKind::CategoryBar: {
             int text = 0;
             for (const TControl* group : control.Children()) {
@@ -209,17 +229,22 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
                 for (const TControl* item : group->Children())
                     text = std::max(text, FMetrics.TextSize(item->Caption(), kUnlimited).Width);
             }
-            return {text + scale(kCategoryBarFrame), 0};
+            return {std::min(text + scale(kCategoryBarFrame), scale(kCategoryBarWidth)), 0};
         }
-        default: return {};
+        default:
+            return {};
     }
 }
 
 void TLayout::Put(const TLayoutBox& box, const TRect& area, const TPlace& place) const {
     if (IsAbsent(box)) return;
     switch (box.Kind) {
-        case TLayoutKind::Control: PutControl(*box.Control, area, place); return;
-        case TLayoutKind::Row: PutRow(box, area, 0, place); return;
+        case TLayoutKind::Control:
+            PutControl(*box.Control, area, place);
+            return;
+        case TLayoutKind::Row:
+            PutRow(box, area, 0, place);
+            return;
         case TLayoutKind::Buttons: {
             const int width = MeasureRow(box, area.Width, 0).Width;
             const int left = std::max(area.Left, area.Left + area.Width - width);
@@ -240,7 +265,9 @@ void TLayout::Put(const TLayoutBox& box, const TRect& area, const TPlace& place)
             return;
         }
         case TLayoutKind::Column:
-        case TLayoutKind::Fields: PutColumn(box, area, place); return;
+        case TLayoutKind::Fields:
+            PutColumn(box, area, place);
+            return;
         case TLayoutKind::Overlay:
             for (const TLayoutBox& inner : box.Boxes) Put(inner, area, place);
             return;
@@ -254,7 +281,8 @@ void TLayout::PutControl(TControl& control, const TRect& area, const TPlace& pla
     const int line = FMetrics.TextSize(L"0", kUnlimited).Height;
     const int top = line + padding / 2;
     Arrange(control,
-            {area.Left + padding, area.Top + top, area.Width - 2 * padding, area.Height - top - padding}, place);
+            {area.Left + padding, area.Top + top, area.Width - 2 * padding, area.Height - top - padding},
+            place);
 }
 
 void TLayout::PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& place) const {

@@ -1,7 +1,7 @@
 #include "platform/win32/files_win32.h"
 
 #include "platform/name_pattern.h"
-#include "platform/win32/handle.h"
+#include "ui/win32/handle.h"
 
 namespace {
 

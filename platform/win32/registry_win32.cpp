@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "platform/win32/handle.h"
-#include "platform/win32/late_bound.h"
+#include "ui/win32/handle.h"
+#include "ui/win32/late_bound.h"
 
 namespace {
 

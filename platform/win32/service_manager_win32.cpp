@@ -4,7 +4,6 @@
 
 #include <bit>
 
-
 namespace {
 
 SC_HANDLE NativeHandle(TServiceHandle handle) { return std::bit_cast<SC_HANDLE>(handle); }
@@ -16,7 +15,7 @@ TServiceHandle TWin32ServiceManager::OpenManager(std::uint32_t access) {
 }
 
 TServiceHandle TWin32ServiceManager::OpenNamedService(TServiceHandle manager, const std::wstring& name,
-                                                 std::uint32_t access) {
+                                                      std::uint32_t access) {
     return std::bit_cast<TServiceHandle>(OpenServiceW(NativeHandle(manager), name.c_str(), access));
 }
 

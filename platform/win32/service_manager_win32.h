@@ -7,7 +7,7 @@ class TWin32ServiceManager : public TServiceManager {
   public:
     [[nodiscard]] TServiceHandle OpenManager(std::uint32_t access) override;
     [[nodiscard]] TServiceHandle OpenNamedService(TServiceHandle manager, const std::wstring& name,
-                                             std::uint32_t access) override;
+                                                  std::uint32_t access) override;
     void Close(TServiceHandle handle) override;
     [[nodiscard]] bool QueryState(TServiceHandle service, TServiceState& state) override;
     [[nodiscard]] bool Control(TServiceHandle service, TServiceControl control,

@@ -3,7 +3,7 @@
 #include <windows.h>
 #include <shlobj.h>
 
-#include "platform/win32/handle.h"
+#include "ui/win32/handle.h"
 
 namespace {
 

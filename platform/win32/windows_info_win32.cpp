@@ -6,7 +6,7 @@
 #include <bit>
 #include <cstring>
 
-#include "platform/win32/late_bound.h"
+#include "ui/win32/late_bound.h"
 
 namespace {
 

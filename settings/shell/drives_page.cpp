@@ -15,37 +15,32 @@ constexpr const wchar_t* kIdeController =
     L"\\SYSTEM\\CurrentControlSet\\Control\\Class\\{4D36E96A-E325-11CE-BFC1-08002BE10318}\\0000\\";
 
 TControlDesign Design() {
-    return NotebookPage(14, {PageControl(L"PageControl_Drives", {
-        Sheet(L"TabSheet_Drives_Common", L"General", {
-            Group(L"GroupBox_Drives_Common", L"Transfer mode", {
-                CheckBox(L"Checkbox_Drives_Common_Enable", L"&Use Ultra DMA mode 66 for hard disks"),
-            }),
-            Group(L"GroupBox_Drives_Common_NTFS", L"NTFS file system", {
-                CheckBox(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData",
-                         L"&Record the date of the last access to files and folders"),
-                CheckBox(L"Checkbox_Drives_Common_NTFS_SaveShortName",
-                         L"Create &short (8.3) file names for MS-DOS programs"),
-            }),
-            Buttons({Button(L"Button_Drives_Common_Default", L"&Default")}),
-        }),
-        Sheet(L"TabSheet_Drives_DiskSpace", L"Disk Space", {
-            Group(L"GroupBox_Drives_DiskSpace_SpaceWarn", L"Low disk space", {
-                CheckBox(L"Checkbox_Drives_DiskSpace_SpaceWarn_ShowWarn",
-                         L"&Warn me when a drive runs out of space"),
-            }),
-            Buttons({Button(L"Button_Drives_DiskSpace_SpaceWarn_Default", L"&Default")}),
-        }),
-        Sheet(L"TabSheet_Drives_AutoPlay", L"AutoPlay", {
-            Group(L"GroupBox_Drives_AutoPlay_MonitorMediaChanges", L"Media changes", {
-                CheckBox(L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable",
-                         L"&Notice when a disc is inserted"),
-            }),
-            Group(L"GroupBox_Drives_AutoPlay_AutoPlayInfo", L"Use AutoPlay for", {
-                CheckBox(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia", L"Re&movable drives"),
-                CheckBox(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD", L"&CD and DVD drives"),
-            }),
-        }),
-    })});
+    return NotebookPage(
+        14,
+        PageControl(
+            L"PageControl_Drives",
+            Sheet(L"TabSheet_Drives_Common", L"General",
+                  Group(L"GroupBox_Drives_Common", L"Transfer mode",
+                        CheckBox(L"Checkbox_Drives_Common_Enable", L"&Use Ultra DMA mode 66 for hard disks")),
+                  Group(L"GroupBox_Drives_Common_NTFS", L"NTFS file system",
+                        CheckBox(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData",
+                                 L"&Record the date of the last access to files and folders"),
+                        CheckBox(L"Checkbox_Drives_Common_NTFS_SaveShortName",
+                                 L"Create &short (8.3) file names for MS-DOS programs")),
+                  Buttons(Button(L"Button_Drives_Common_Default", L"&Default"))),
+            Sheet(L"TabSheet_Drives_DiskSpace", L"Disk Space",
+                  Group(L"GroupBox_Drives_DiskSpace_SpaceWarn", L"Low disk space",
+                        CheckBox(L"Checkbox_Drives_DiskSpace_SpaceWarn_ShowWarn",
+                                 L"&Warn me when a drive runs out of space")),
+                  Buttons(Button(L"Button_Drives_DiskSpace_SpaceWarn_Default", L"&Default"))),
+            Sheet(
+                L"TabSheet_Drives_AutoPlay", L"AutoPlay",
+                Group(L"GroupBox_Drives_AutoPlay_MonitorMediaChanges", L"Media changes",
+                      CheckBox(L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable",
+                               L"&Notice when a disc is inserted")),
+                Group(L"GroupBox_Drives_AutoPlay_AutoPlayInfo", L"Use AutoPlay for",
+                      CheckBox(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia", L"Re&movable drives"),
+                      CheckBox(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD", L"&CD and DVD drives")))));
 }
 
 constexpr TRow kCommonRows[] = {
@@ -113,7 +108,8 @@ void RecordAutoPlay(TPageContext& context, const TSpecialRow& row, TComponent& s
 }
 
 constexpr TPlace kAutoPlayMask{kCurrentUser, kUserExplorerPolicies, L"NoDriveTypeAutoRun"};
-constexpr const wchar_t* kAutoPlayRule = L"checked while the drive type's bit is clear; changes that bit alone";
+constexpr const wchar_t* kAutoPlayRule =
+    L"checked while the drive type's bit is clear; changes that bit alone";
 
 constexpr TRow kAutoPlayRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable",

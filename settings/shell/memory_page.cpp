@@ -6,28 +6,25 @@ constexpr const wchar_t* kMemoryManagement =
     L"\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management\\";
 
 TControlDesign Design() {
-    return NotebookPage(15, {PageControl(L"PageControl_MemoryAndCache", {
-        Sheet(L"TabSheet_MemoryAndCache_MemoryManage", L"Memory Management", {
-            Group(L"GroupBox_MemoryAndCache_MemoryManage_VirtualMemory", L"Windows kernel and drivers", {
-                RadioButton(L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Allways",
-                            L"A&lways keep in physical memory"),
-                RadioButton(L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Page",
-                            L"Move to the page &file when memory runs short"),
-            }),
-            Group(L"GroupBox_MemoryAndCache_MemoryManage_Pagefile", L"Page file", {
-                CheckBox(L"Checkbox_MemoryAndCache_MemoryManage_Pagefile_Delete",
-                         L"&Clear the page file when Windows shuts down"),
-            }),
-            Buttons({Button(L"Button_MemoryAndCache_MemoryManage_Default", L"&Default")}),
-        }),
-        Sheet(L"TabSheet_MemoryAndCache_MemoryUse", L"Memory Usage", {
-            Group(L"GroupBox_MemoryAndCache_MemoryUse", L"Adjust memory for best performance of", {
-                RadioButton(L"Radio_MemoryAndCache_MemoryUse_System", L"The &system cache"),
-                RadioButton(L"Radio_MemoryAndCache_MemoryUse_Program", L"&Programs"),
-            }),
-            Buttons({Button(L"Button_MemoryAndCache_MemoryUse_Default", L"&Default")}),
-        }),
-    })});
+    return NotebookPage(
+        15,
+        PageControl(
+            L"PageControl_MemoryAndCache",
+            Sheet(L"TabSheet_MemoryAndCache_MemoryManage", L"Memory Management",
+                  Group(L"GroupBox_MemoryAndCache_MemoryManage_VirtualMemory", L"Windows kernel and drivers",
+                        RadioButton(L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Allways",
+                                    L"A&lways keep in physical memory"),
+                        RadioButton(L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Page",
+                                    L"Move to the page &file when memory runs short")),
+                  Group(L"GroupBox_MemoryAndCache_MemoryManage_Pagefile", L"Page file",
+                        CheckBox(L"Checkbox_MemoryAndCache_MemoryManage_Pagefile_Delete",
+                                 L"&Clear the page file when Windows shuts down")),
+                  Buttons(Button(L"Button_MemoryAndCache_MemoryManage_Default", L"&Default"))),
+            Sheet(L"TabSheet_MemoryAndCache_MemoryUse", L"Memory Usage",
+                  Group(L"GroupBox_MemoryAndCache_MemoryUse", L"Adjust memory for best performance of",
+                        RadioButton(L"Radio_MemoryAndCache_MemoryUse_System", L"The &system cache"),
+                        RadioButton(L"Radio_MemoryAndCache_MemoryUse_Program", L"&Programs")),
+                  Buttons(Button(L"Button_MemoryAndCache_MemoryUse_Default", L"&Default")))));
 }
 
 constexpr TRow kMemoryManageRows[] = {

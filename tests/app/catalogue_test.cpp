@@ -1,12 +1,11 @@
 // The catalogue against the form: every row has its controls, and every control that can change has a row.
-#include "app/main_window.h"
-
-#include "tests/fakes/fake_system.h"
+#include <map>
+#include <set>
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <set>
+#include "app/main_window.h"
+#include "tests/fakes/fake_system.h"
 
 namespace {
 
@@ -28,8 +27,10 @@ bool Records(TComponentKind kind) {
         case TComponentKind::RadioButton:
         case TComponentKind::ComboBox:
         case TComponentKind::TrackBar:
-        case TComponentKind::UpDown: return true;
-        default: return false;
+        case TComponentKind::UpDown:
+            return true;
+        default:
+            return false;
     }
 }
 

@@ -1,15 +1,14 @@
 // The delivered language files against the program: no text without a key, no key without a text.
-#include "app/main_window.h"
-
-#include "platform/text.h"
-#include "tests/fakes/fake_system.h"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cwctype>
 #include <fstream>
 #include <map>
+
+#include <gtest/gtest.h>
+
+#include "app/main_window.h"
+#include "platform/text.h"
+#include "tests/fakes/fake_system.h"
 
 namespace {
 
@@ -26,7 +25,9 @@ TTexts FormTexts(const TForm& form) {
             case TComponentKind::GroupBox:
             case TComponentKind::CheckBox:
             case TComponentKind::RadioButton:
-            case TComponentKind::TabSheet: texts[control.Name() + L".Caption"] = control.Caption(); break;
+            case TComponentKind::TabSheet:
+                texts[control.Name() + L".Caption"] = control.Caption();
+                break;
             case TComponentKind::ComboBox: {
                 const auto& items = static_cast<const TComboBox&>(control).Items();
                 for (std::size_t i = 0; i < items.size(); ++i)
@@ -39,7 +40,8 @@ TTexts FormTexts(const TForm& form) {
                     texts[control.Name() + L".Columns[" + std::to_wstring(i) + L"].Caption"] = columns[i];
                 break;
             }
-            default: break;
+            default:
+                break;
         }
     }
     return texts;
@@ -102,7 +104,8 @@ void CollectAccessKeys(const TControl& container, TAccessKeys& keys, std::vector
         }
         const std::size_t mark = control->Caption().find(L'&');
         if (mark != std::wstring::npos && mark + 1 < control->Caption().size()) {
-            const auto key = static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(control->Caption()[mark + 1])));
+            const auto key =
+                static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(control->Caption()[mark + 1])));
             const auto [other, isNew] = keys.emplace(key, control->Name());
             EXPECT_TRUE(isNew) << testing::PrintToString(control->Name()) << " and "
                                << testing::PrintToString(other->second);
@@ -125,8 +128,8 @@ TEST(TLanguageFiles, AccessKeysDifferOnEverySheet) {
         const TExtIniFile ini = LoadDelivered(language);
         for (const auto& component : window.Components()) {
             auto& control = static_cast<TControl&>(*component);
-            control.SetCaption(
-                ini.ReadString(L"Scanner_Quilltune_FormMain", control.Name() + L".Caption", control.Caption()));
+            control.SetCaption(ini.ReadString(L"Scanner_Quilltune_FormMain", control.Name() + L".Caption",
+                                              control.Caption()));
         }
         ExpectAccessKeysDiffer(window, {});
     }

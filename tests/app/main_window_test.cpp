@@ -1,10 +1,10 @@
 #include "app/main_window.h"
 
-#include "tests/fakes/fake_system.h"
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include "tests/fakes/fake_system.h"
 
 namespace {
 
@@ -59,7 +59,8 @@ TEST_F(TMainWindow, OpensWithTheGeneralSettingsAndNothingToApply) {
     Create(6, 1);
     EXPECT_EQ(Fake.Shell.DebugTexts(), std::vector<std::wstring>{L"OsName:Windows 7"});
     Window->Show();
-    for (const wchar_t* button : {L"Button_OK", L"Button_Cancel", L"Button_Apply"}) EXPECT_FALSE(Enabled(button));
+    for (const wchar_t* button : {L"Button_OK", L"Button_Cancel", L"Button_Apply"})
+        EXPECT_FALSE(Enabled(button));
     EXPECT_TRUE(Window->Find(L"Panel_Loading")->Visible());
 
     Tick(L"Timer_Loading");
@@ -93,7 +94,8 @@ TEST_F(TMainWindow, KnowsTheWindowsLevel) {
         std::uint32_t Minor;
         int Level;
     };
-    for (const TCase& c : {TCase{5, 0, 4}, {5, 1, 5}, {5, 2, 0}, {6, 0, 6}, {6, 1, 7}, {6, 2, 0}, {10, 0, 0}}) {
+    for (const TCase& c :
+         {TCase{5, 0, 4}, {5, 1, 5}, {5, 2, 0}, {6, 0, 6}, {6, 1, 7}, {6, 2, 0}, {10, 0, 0}}) {
         Create(c.Major, c.Minor);
         EXPECT_EQ(Window->Context().WindowsLevel, c.Level);
         EXPECT_EQ(Window->Find(L"RzGroup_Use.Items[1]")->Visible(), c.Level >= 5);
@@ -194,7 +196,8 @@ TEST_F(TMainWindow, ApplySwitchesServicesAndTellsTheShellOfAssociations) {
     const auto& log = Fake.Services.Log();
     EXPECT_EQ(std::ranges::count_if(log, [](const auto& e) { return e.Call == TServiceCall::Start; }), 1)
         << "on XP the firewall is left alone";
-    EXPECT_EQ(std::ranges::count_if(log, [](const auto& e) { return e.Call == TServiceCall::ChangeStartType; }), 3);
+    EXPECT_EQ(
+        std::ranges::count_if(log, [](const auto& e) { return e.Call == TServiceCall::ChangeStartType; }), 3);
     EXPECT_EQ(Fake.Services.OpenHandles(), 0u);
     const auto associations = TShellNotification{0x08000000, 0};
     EXPECT_EQ(std::ranges::count(Fake.Shell.Notifications(), associations), 2);
@@ -218,9 +221,10 @@ TEST_F(TMainWindow, SavesFirefoxPreferencesOnlyWhenTheyChanged) {
 TEST_F(TMainWindow, SpeaksTheLanguageOfTheSuite) {
     constexpr const wchar_t* kFolder = L"C:\\Program Files\\Quilltune\\Toolbox_Language\\";
     Fake.Files.PutText(kFolder + std::wstring(L"English.lng"), "[Main]\nDisplayName=English\n");
-    Fake.Files.PutText(kFolder + std::wstring(L"Test.lng"),
-                       "[Quilltune_M]\nD_SystemDriver=Drives!\nD_System=System!\nD_RestartWindows=Restart?\n"
-                       "[Scanner_Quilltune_FormMain]\nQuilltune_FormMain.Caption=Title\nButton_Apply.Caption=Do it\n");
+    Fake.Files.PutText(
+        kFolder + std::wstring(L"Test.lng"),
+        "[Quilltune_M]\nD_SystemDriver=Drives!\nD_System=System!\nD_RestartWindows=Restart?\n"
+        "[Scanner_Quilltune_FormMain]\nQuilltune_FormMain.Caption=Title\nButton_Apply.Caption=Do it\n");
     Fake.Files.PutText(L"C:\\Users\\Me\\AppData\\Vandrel\\Orbicare V4\\Main.ini", "[Main]\nLanguage=TEST\n");
     Open();
     EXPECT_EQ(Window->Caption(), L"Title");
@@ -228,7 +232,8 @@ TEST_F(TMainWindow, SpeaksTheLanguageOfTheSuite) {
     EXPECT_EQ(Window->Find(L"RzGroup_Communication")->Caption(), L"System!");
     EXPECT_EQ(Window->Find(kDriverItem)->Caption(), L"Drives!");
     EXPECT_EQ(Window->Find(L"RzGroup_Communication.Items[4]")->Caption(), L"Memory and Cache");
-    EXPECT_EQ(Window->Find(L"RzGroup_Communication.Items[5]")->Caption(), L"Opera") << "hidden items keep theirs";
+    EXPECT_EQ(Window->Find(L"RzGroup_Communication.Items[5]")->Caption(), L"Opera")
+        << "hidden items keep theirs";
     Marks().RestartNeeded = true;
     Apply();
     ASSERT_EQ(Fake.Dialogs.Questions().size(), 1u);

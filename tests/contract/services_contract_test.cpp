@@ -6,10 +6,13 @@ constexpr std::uint32_t kManagerConnect = 0x0001;  // SC_MANAGER_CONNECT
 constexpr std::uint32_t kQueryAndAsk = 0x0084;     // SERVICE_QUERY_STATUS | SERVICE_INTERROGATE
 
 class TServicesContract : public TContractTest {
-  protected:
+  public:
     TServicesContract() : FManager(Services().OpenManager(kManagerConnect)) {}
     ~TServicesContract() override { Services().Close(FManager); }
+    TServicesContract(const TServicesContract&) = delete;
+    TServicesContract& operator=(const TServicesContract&) = delete;
 
+  protected:
     TServiceManager& Services() { return System().Services; }
     [[nodiscard]] TServiceHandle Manager() const { return FManager; }
 

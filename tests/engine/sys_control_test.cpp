@@ -1,8 +1,8 @@
 #include "engine/sys_control.h"
 
-#include "tests/fakes/fake_system.h"
-
 #include <gtest/gtest.h>
+
+#include "tests/fakes/fake_system.h"
 
 namespace {
 
@@ -100,7 +100,8 @@ TEST_F(TSysControlTest, ThePendingReadAsksTheLastChangeOfThePlaceFirst) {
 
     Control.Add(Number(L"First", L"a", 1));
     Control.Add(Number(L"Second", L"a", 2));
-    EXPECT_EQ(std::get<std::int32_t>(read(L"software\\TEST", L"A").Value), 2) << "case and backslashes do not count";
+    EXPECT_EQ(std::get<std::int32_t>(read(L"software\\TEST", L"A").Value), 2)
+        << "case and backslashes do not count";
 
     Control.Add(Deletion(L"Third", L"a", TRegAction::DeleteValue));
     EXPECT_EQ(read(kKey, L"a").ReadResult, TReadStatus::ValueMissing);
@@ -132,9 +133,9 @@ TEST_F(TSysControlTest, WritesInTheOrderOfFirstRecordingAndEmptiesTheList) {
     EXPECT_EQ(Stored(L"x"), 2) << "B was first recorded after A";
     EXPECT_EQ(Stored(L"gone"), std::nullopt);
     EXPECT_EQ(Fake.Parameters.Log().size(), 1u);
-    EXPECT_EQ(std::get<std::wstring>(
-                  Fake.Registry.Find({TRootKey::CurrentUser, L"Software\\Created", L""})->Value),
-              L"");
+    EXPECT_EQ(
+        std::get<std::wstring>(Fake.Registry.Find({TRootKey::CurrentUser, L"Software\\Created", L""})->Value),
+        L"");
 
     Fake.Registry.ClearLog();
     Control.WriteAll();

@@ -12,7 +12,8 @@ void TFakeParameters::Pair(std::uint32_t setAction, std::uint32_t getAction, TCa
     FPairs[setAction] = {getAction, carrier};
 }
 
-bool TFakeParameters::Get(std::uint32_t action, std::uint32_t, std::span<std::uint8_t> buffer) const {
+bool TFakeParameters::Get(std::uint32_t action, std::uint32_t /*param*/,
+                          std::span<std::uint8_t> buffer) const {
     const auto value = FValues.find(action);
     if (value == FValues.end()) return false;
     std::copy_n(value->second.begin(), std::min(value->second.size(), buffer.size()), buffer.begin());

@@ -14,7 +14,7 @@ TServiceHandle TFakeServiceManager::OpenManager(std::uint32_t access) {
 }
 
 TServiceHandle TFakeServiceManager::OpenNamedService(TServiceHandle manager, const std::wstring& name,
-                                                std::uint32_t access) {
+                                                     std::uint32_t access) {
     const auto handle = FHandles.find(manager);
     const bool opens = !Fails(TServiceCall::OpenNamedService) && handle != FHandles.end() &&
                        handle->second.empty() && FServices.contains(name);

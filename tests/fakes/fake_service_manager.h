@@ -49,7 +49,7 @@ class TFakeServiceManager : public TServiceManager {
 
     [[nodiscard]] TServiceHandle OpenManager(std::uint32_t access) override;
     [[nodiscard]] TServiceHandle OpenNamedService(TServiceHandle manager, const std::wstring& name,
-                                             std::uint32_t access) override;
+                                                  std::uint32_t access) override;
     void Close(TServiceHandle handle) override;
     [[nodiscard]] bool QueryState(TServiceHandle service, TServiceState& state) override;
     [[nodiscard]] bool Control(TServiceHandle service, TServiceControl control,
@@ -67,7 +67,7 @@ class TFakeServiceManager : public TServiceManager {
     TServiceHandle NewHandle(const std::wstring& name);
     /// The service of an open handle; null for any other handle.
     TEntry* Find(TServiceHandle service);
-    void Enter(TEntry& entry, TServiceState pending, TServiceState final);
+    static void Enter(TEntry& entry, TServiceState pending, TServiceState final);
     /// Logs the call and passes its result on.
     bool Log(TServiceCall call, TServiceHandle service, std::uint32_t number, bool result);
     [[nodiscard]] bool Fails(TServiceCall call) const { return FFailing.contains(call); }

@@ -10,7 +10,7 @@ std::optional<T> Find(const std::map<std::wstring, T>& entries, const std::wstri
 
 class TLoadedResource : public TVersionResource {
   public:
-    explicit TLoadedResource(const TFakeVersionResource& resource) : FResource(resource) {}
+    explicit TLoadedResource(TFakeVersionResource resource) : FResource(std::move(resource)) {}
 
     [[nodiscard]] std::optional<std::wstring> Text(const std::wstring& path) const override {
         return Find(FResource.Texts, path);

@@ -104,6 +104,20 @@ TEST(TExtIniFile, LoadsAFileOrKeepsWhatItHas) {
     EXPECT_EQ(ini.ReadString(L"s", L"k", L""), L"\u20AC");  // the NUL after the key is white space
 }
 
+TEST(TExtIniFile, LeavesOverlongFilesAlone) {
+    TFakeSystem fake;
+    std::vector<std::uint8_t> bytes(TExtIniFile::kMaxFileSize, '\n');
+    bytes[0] = '[';
+    bytes[1] = ']';
+    TExtIniFile ini;
+    fake.Files.Put(L"C:\\a.lng", bytes);
+    EXPECT_TRUE(ini.LoadFromFile(fake.System, L"C:\\a.lng"));
+    bytes.push_back('\n');
+    fake.Files.Put(L"C:\\a.lng", bytes);
+    EXPECT_FALSE(ini.LoadFromFile(fake.System, L"C:\\a.lng"));
+    EXPECT_EQ(ini.ReadSections().size(), 1U);
+}
+
 /// Loading and looking up take as long per line in a huge file as in a small one; anything quadratic would take
 /// minutes here.
 TEST(TExtIniFile, HugeFilesTakeLinearTime) {

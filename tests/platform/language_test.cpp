@@ -103,21 +103,15 @@ class TTranslateTest : public TLanguageTest {
   protected:
     TTranslateTest() {
         Form.SetCaption(L"form");
-        Form.Build(Form,
-                   Column({
-                       NotebookPage(
-                           1, {PageControl(L"Pages", {Sheet(L"Sheet1", L"sheet",
-                                                            {Group(L"Group1", L"group",
-                                                                   {CheckBox(L"Check1", L"check"),
-                                                                    RadioButton(L"Radio1", L"radio")})})})}),
-                       Panel(L"Panel1", {Label(L"Label1", L"label"), Label(L"Label2", L"label")}),
-                       Edit(L"Edit1", L"edit"),
-                       Button(L"Button1", L"button"),
-                       CategoryBar(L"Bar", {CategoryGroup(L"Cat1", L"category",
-                                                          {CategoryItem(L"Item1", L"item", 1, L"")})}),
-                       ComboBox(L"Combo1", {L"a", L"b", L"c"}),
-                       ListView(L"List1", {L"x", L"y", L"z"}),
-                   }));
+        Form.Build(Form, Sheet(L"Sheet1", L"sheet",
+                               {Group(L"Group1", L"group",
+                                      {CheckBox(L"Check1", L"check"), RadioButton(L"Radio1", L"radio")})}));
+        Form.Build(Form, Panel(L"Panel1", {Label(L"Label1", L"label"), Label(L"Label2", L"label")}));
+        Form.Build(Form, Edit(L"Edit1", L"edit"));
+        Form.Build(Form, Button(L"Button1", L"button"));
+        Form.Build(Form, CategoryGroup(L"Cat1", L"category", {CategoryItem(L"Item1", L"item", 1, L"")}));
+        Form.Build(Form, ComboBox(L"Combo1", {L"a", L"b", L"c"}));
+        Form.Build(Form, ListView(L"List1", {L"x", L"y", L"z"}));
         Combo = Form.Find<TComboBox>(L"Combo1");
         Combo->SetItemIndex(1);
     }
@@ -147,13 +141,11 @@ TEST_F(TTranslateTest, TranslatesTheKindsThatHaveTexts) {
         {L"Cat1", L"category"},
         {L"Item1", L"item"},
         {L"Panel1", L""},
-        {L"Pages", L""},
     };
     Translate(
         "main.caption=FORM\nSheet1.Caption=SHEET\nGroup1.Caption=GROUP\nCheck1.Caption=CHECK\n"
-        "Radio1.Caption=RADIO\nLabel1.Caption=LABEL\nButton1.Caption=BUTTON\nCat1.Caption=no\nItem1.Caption="
-        "no\n"
-        "Panel1.Caption=no\nPages.Caption=no\nEdit1.Caption=no\n");
+        "Radio1.Caption=RADIO\nLabel1.Caption=LABEL\nButton1.Caption=BUTTON\nCat1.Caption=no\n"
+        "Item1.Caption=no\nPanel1.Caption=no\nEdit1.Caption=no\n");
     EXPECT_EQ(Form.Caption(), L"FORM");
     for (const auto& [name, caption] : kCaptions) EXPECT_EQ(Caption(name), caption);
     EXPECT_EQ(Form.Find<TEdit>(L"Edit1")->Text(), L"edit");

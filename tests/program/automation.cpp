@@ -219,13 +219,21 @@ void TMainWindow::ChooseItem(const std::wstring& name, int index) const {
             reinterpret_cast<LPARAM>(list));
 }
 
+HWND TMainWindow::Focus() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(FWindow, nullptr), &info);
+    return info.hwndFocus;
+}
+
+std::wstring TMainWindow::FocusedControl() const {
+    const HWND focus = Focus();
+    return focus == nullptr ? std::wstring() : NameOf(focus);
+}
+
 void TMainWindow::Press(WORD key, HWND control) const {
-    if (control == nullptr) {
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        GetGUIThreadInfo(GetWindowThreadProcessId(FWindow, nullptr), &info);
-        control = info.hwndFocus != nullptr ? info.hwndFocus : FWindow;
-    }
+    if (control == nullptr) control = Focus();
+    if (control == nullptr) control = FWindow;
     PostMessageW(control, WM_KEYDOWN, key, 1);
     PostMessageW(control, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
 }

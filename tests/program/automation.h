@@ -88,7 +88,9 @@ class TMainWindow {
     void ChooseSheet(const std::wstring& sheet) const;
     /// Chooses an item of a drop-down list.
     void ChooseItem(const std::wstring& name, int index) const;
-    /// Presses and releases a key in the control that has the focus, or in the given one.
+    /// The name of the control that has the focus; empty when none has.
+    [[nodiscard]] std::wstring FocusedControl() const;
+    /// Presses and releases a key in the control that has the focus, or in the given one. Does not wait.
     void Press(WORD key, HWND control = nullptr) const;
     void Close() const;
 
@@ -99,6 +101,7 @@ class TMainWindow {
   private:
     explicit TMainWindow(HWND window) : FWindow(window) {}
 
+    [[nodiscard]] HWND Focus() const;
     /// Waits until a control can be used.
     [[nodiscard]] HWND FindUsable(const std::wstring& name) const;
     /// Delivers a message that may end in a question, and waits until the window handles messages again.

@@ -1,4 +1,6 @@
 // The language files beside the program: which one is taken, in which encoding, and what bad ones do.
+#include <set>
+
 #include <shlobj.h>
 
 #include <gtest/gtest.h>
@@ -168,6 +170,25 @@ TEST_F(TLanguages, FallBackToEnglish) {
     FConfiguration.Write(Noise());
     const TProgram program;
     EXPECT_EQ(program.Window().Text(kDriverItem), L"Driver");
+}
+
+TEST_F(TLanguages, OfTheDeliveryShow) {
+    std::set<std::wstring> seen;
+    for (const char* language : {"English", "German"}) {
+        FConfiguration.Write("[Main]\r\nLanguage=" + TBytes(language) + "\r\n");
+        const TProgram program;
+        for (const wchar_t* control : {kMemoryItem, L"Button_Cancel", L"Checkbox_Drives_Common_Enable"})
+            EXPECT_TRUE(seen.insert(program.Window().Text(control)).second)
+                << Utf8(control) << " is not translated";
+    }
+}
+
+TEST_F(TLanguages, MayBeMissing) {
+    const std::wstring folder = ProgramFolder() + L"\\Toolbox_Language";
+    const std::wstring away = folder + L"_away";
+    ASSERT_TRUE(MoveFileW(folder.c_str(), away.c_str()));
+    ExpectStart("German", false);
+    EXPECT_TRUE(MoveFileW(away.c_str(), folder.c_str()));
 }
 
 TEST_F(TLanguages, SurviveBadFiles) {

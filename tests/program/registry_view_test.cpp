@@ -1,4 +1,5 @@
-// The 32-bit program on 64-bit Windows: it must see and change the 64-bit registry, which is the one that Windows uses.
+// Which of the two registries of 64-bit Windows the program uses: the one that Windows itself uses, though the 32-bit
+// program would be led to the other.
 #include <winternl.h>
 
 #include <gtest/gtest.h>
@@ -14,12 +15,6 @@ constexpr const wchar_t* kRedirectedPolicies =
 const TValuePlace kRedirectedNotice{
     HKEY_LOCAL_MACHINE, L"Software\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer",
     L"CDRAutoRun"};
-
-bool ProgramIs32Bit() {
-    const std::wstring file = ProgramFolder() + L"\\Quilltune.exe";
-    DWORD kind = 0;
-    return GetBinaryTypeW(file.c_str(), &kind) && kind == SCS_32BIT_BINARY;
-}
 
 /// Windows lets both views share their policies: the one key is a link to the other. While this lives, the 32-bit view
 /// has policies of its own, so that it shows which view a program uses.
@@ -71,8 +66,6 @@ class TOwnPolicies {
 
 TEST_F(TRegistryView, IsTheOneOfWindowsItself) {
     if (sizeof(void*) != 8) GTEST_SKIP() << "a 32-bit test does not see both registry views";
-    if (!ProgramIs32Bit())
-        GTEST_SKIP() << "the program is a 64-bit one, for which there is but one registry view";
     const TOwnPolicies own;
     Store(kRedirectedNotice, Dword(0));
     ASSERT_EQ(Stored(kDiscNotice), std::nullopt) << "the two views are not apart";

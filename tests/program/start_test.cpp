@@ -96,6 +96,29 @@ TEST_F(TStart, ShowsThePageOfEachCategoryItem) {
     EXPECT_EQ(ShownPages(window), std::set<std::wstring>{L"15"});
 }
 
+TEST_F(TStart, OneTabSheetOfTheShownPageIsVisible) {
+    const TProgram program;
+    const TMainWindow& window = program.Window();
+    const std::vector<std::wstring> sheets = {L"TabSheet_Drives_Common", L"TabSheet_Drives_DiskSpace",
+                                              L"TabSheet_Drives_AutoPlay"};
+    const auto visible = [&] {
+        std::vector<std::wstring> found;
+        for (const std::wstring& sheet : sheets) {
+            if (window.Visible(sheet)) found.push_back(sheet);
+        }
+        return found;
+    };
+    EXPECT_TRUE(visible().empty());
+    window.Click(kDriverItem);
+    EXPECT_EQ(visible(), std::vector{sheets[0]});
+    for (const std::size_t i : {2, 1, 0}) {
+        window.ChooseSheet(sheets[i]);
+        EXPECT_EQ(visible(), std::vector{sheets[i]});
+    }
+    window.Click(kMemoryItem);
+    EXPECT_TRUE(visible().empty());
+}
+
 TEST_F(TStart, CategoryItemsAnswerToMouseAndKeyboard) {
     const TProgram program;
     const TMainWindow& window = program.Window();
@@ -107,6 +130,35 @@ TEST_F(TStart, CategoryItemsAnswerToMouseAndKeyboard) {
 
     window.Press(VK_SPACE, window.Find(kMemoryItem));
     EXPECT_TRUE(WaitUntil([&] { return window.Visible(L"15"); }));
+}
+
+TEST_F(TStart, TheTabKeyReachesEverythingAndChangesNothing) {
+    const TProgram program;
+    const TMainWindow& window = program.Window();
+    window.Click(kMemoryItem);
+    std::set<std::wstring> reached;
+    // More often than there are stops: the round closes.
+    for (int i = 0; i < 60; ++i) {
+        const std::wstring before = window.FocusedControl();
+        reached.insert(before);
+        window.Press(VK_TAB);
+        ASSERT_TRUE(WaitUntil([&] { return window.FocusedControl() != before; }))
+            << "stuck at " << Utf8(before);
+    }
+    for (const wchar_t* stop :
+         {kMemoryItem, L"PageControl_MemoryAndCache", L"Checkbox_MemoryAndCache_MemoryManage_Pagefile_Delete",
+          L"Button_MemoryAndCache_MemoryManage_Default", L"Button_OK", L"Button_Cancel"})
+        EXPECT_TRUE(reached.contains(stop)) << Utf8(stop);
+    EXPECT_FALSE(reached.contains(L"Radio_MemoryAndCache_MemoryUse_Program"))
+        << "on a sheet that is not shown";
+    EXPECT_FALSE(reached.contains(L"Button_Apply")) << "disabled";
+    // One stop for the pair of radio buttons, of which neither is checked.
+    EXPECT_NE(reached.contains(L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Allways"),
+              reached.contains(L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Page"));
+    // Windows says that a radio button is clicked also when it merely gets the focus.
+    EXPECT_FALSE(window.Checked(L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Allways"));
+    EXPECT_FALSE(window.Checked(L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Page"));
+    EXPECT_FALSE(window.Enabled(L"Button_Apply"));
 }
 
 TEST_F(TStart, HidesTheFirefoxItemOnWindowsOlderThanXp) {

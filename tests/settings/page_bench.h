@@ -1,12 +1,12 @@
 // A page on a form of its own, over fakes: what the page tests stand on.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include "settings/page.h"
 #include "tests/fakes/fake_system.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
-
-#include <gtest/gtest.h>
 
 class TPageBench {
   public:
@@ -23,7 +23,8 @@ class TPageBench {
 
     explicit TPageBench(const TPageDefinition& definition) : FForm(L"Form", L"TForm"), FChanges(Fake.System) {
         FForm.Build(FForm, Notebook(L"Notebook", {}));
-        FPage = std::make_unique<TPage>(definition, Context, *FForm.Find(L"Notebook"), [this] { ++Recorded; });
+        FPage =
+            std::make_unique<TPage>(definition, Context, *FForm.Find(L"Notebook"), [this] { ++Recorded; });
     }
 
     void Load() { FPage->Load(); }
@@ -63,8 +64,9 @@ class TPageBench {
             const auto* number = std::get_if<std::int32_t>(&record.Value);
             const wchar_t* root = record.RootKey == TRootKey::LocalMachine ? L"HKLM" : L"HKCU";
             lines.push_back(record.Name + L": " + root + record.Key + L"[" + record.ValueName + L"] = " +
-                            (number != nullptr && record.DataType == TRegDataType::Dword ? std::to_wstring(*number)
-                                                                                         : L"no DWORD"));
+                            (number != nullptr && record.DataType == TRegDataType::Dword
+                                 ? std::to_wstring(*number)
+                                 : L"no DWORD"));
         }
         return lines;
     }

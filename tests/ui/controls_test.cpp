@@ -1,10 +1,10 @@
 #include "ui/controls.h"
 
+#include <gtest/gtest.h>
+
 #include "ui/containers.h"
 #include "ui/design.h"
 #include "ui/form.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -12,19 +12,15 @@ namespace {
 class TControls : public testing::Test {
   protected:
     TControls() : Form(L"Form", L"TForm") {
-        Form.Build(Form, Group(L"Group", L"", {
-            CheckBox(L"Box", L"Box"),
-            RadioButton(L"First", L"First"),
-            RadioButton(L"Second", L"Second").Checked(),
-            Edit(L"Edit", L"x"),
-            UpDown(L"UpDown", L"Edit", 1, 100, 10),
-            TrackBar(L"Track", 0, 10, 5),
-            ComboBox(L"Combo", {L"a", L"b", L"c"}),
-        }));
-        Form.Build(Form, Group(L"Other", L"", {RadioButton(L"Elsewhere", L"Elsewhere").Checked()}));
+        Form.Build(Form, Group(L"Group", L"", CheckBox(L"Box", L"Box"), RadioButton(L"First", L"First"),
+                               RadioButton(L"Second", L"Second").Checked(), Edit(L"Edit", L"x"),
+                               UpDown(L"UpDown", L"Edit", 1, 100, 10), TrackBar(L"Track", 0, 10, 5),
+                               ComboBox(L"Combo", {L"a", L"b", L"c"})));
+        Form.Build(Form, Group(L"Other", L"", RadioButton(L"Elsewhere", L"Elsewhere").Checked()));
         const TNotifyEvent note = [this](TComponent& sender) { Fired.push_back(sender.Name()); };
         Get<TCheckBox>(L"Box").OnClick = note;
-        for (const wchar_t* radio : {L"First", L"Second", L"Elsewhere"}) Get<TRadioButton>(radio).OnClick = note;
+        for (const wchar_t* radio : {L"First", L"Second", L"Elsewhere"})
+            Get<TRadioButton>(radio).OnClick = note;
         Get<TEdit>(L"Edit").OnChange = note;
         Get<TUpDown>(L"UpDown").OnChange = note;
         Get<TTrackBar>(L"Track").OnChange = note;
@@ -77,8 +73,13 @@ TEST_F(TControls, AnUpDownAndItsEditFollowEachOther) {
         const wchar_t* Text;
         int Position;
     };
-    for (const TCase& c : {TCase{L"35", 35}, {L"", 35}, {L"0", 35}, {L"101", 35}, {L"4x", 35},
-                           {L"99999999999999999999", 35}, {L"007", 7}}) {
+    for (const TCase& c : {TCase{L"35", 35},
+                           {L"", 35},
+                           {L"0", 35},
+                           {L"101", 35},
+                           {L"4x", 35},
+                           {L"99999999999999999999", 35},
+                           {L"007", 7}}) {
         Get<TEdit>(L"Edit").SetText(c.Text);
         EXPECT_EQ(Get<TUpDown>(L"UpDown").Position(), c.Position) << testing::PrintToString(c.Text);
         EXPECT_EQ(Get<TEdit>(L"Edit").Text(), c.Text) << "what the user typed stays";
@@ -124,10 +125,11 @@ TEST(TFormTest, RefusesTwoComponentsOfOneName) {
 
 TEST(TFormTest, NotebooksAndTabsShowOneOfTheirs) {
     TForm form(L"Form", L"TForm");
-    form.Build(form, Notebook(L"Book", {
-        NotebookPage(1, {}),
-        NotebookPage(2, {PageControl(L"Tabs", {Sheet(L"A", L"A", {}), Sheet(L"B", L"B", {})})}),
-    }));
+    form.Build(form, Notebook(L"Book",
+                              {
+                                  NotebookPage(1),
+                                  NotebookPage(2, PageControl(L"Tabs", Sheet(L"A", L"A"), Sheet(L"B", L"B"))),
+                              }));
     auto& book = *form.Find<TNotebook>(L"Book");
     book.ShowPage(L"1");
     book.ShowPage(L"2");

@@ -1,10 +1,10 @@
 #include "ui/layout.h"
 
-#include "ui/design.h"
+#include <map>
 
 #include <gtest/gtest.h>
 
-#include <map>
+#include "ui/design.h"
 
 namespace {
 
@@ -45,14 +45,18 @@ class TLaidOut {
         for (const auto& [name, a] : FPlaces) {
             for (const auto& [other, b] : FPlaces) {
                 if (name >= other || IsGroup(name) || IsGroup(other)) continue;
-                const bool apart = Right(a) <= b.Left || Right(b) <= a.Left || Bottom(a) <= b.Top || Bottom(b) <= a.Top;
-                EXPECT_TRUE(apart) << testing::PrintToString(name) << " and " << testing::PrintToString(other);
+                const bool apart =
+                    Right(a) <= b.Left || Right(b) <= a.Left || Bottom(a) <= b.Top || Bottom(b) <= a.Top;
+                EXPECT_TRUE(apart) << testing::PrintToString(name) << " and "
+                                   << testing::PrintToString(other);
             }
         }
     }
 
   private:
-    bool IsGroup(const std::wstring& name) const { return FForm.Find(name)->Kind() == TComponentKind::GroupBox; }
+    bool IsGroup(const std::wstring& name) const {
+        return FForm.Find(name)->Kind() == TComponentKind::GroupBox;
+    }
 
     TForm FForm;
     std::map<std::wstring, TRect> FPlaces;
@@ -60,17 +64,13 @@ class TLaidOut {
 
 TDesigns SettingsSheet() {
     return {
-        Group(L"Group", L"A group", {
-            CheckBox(L"Short", L"Short"),
-            CheckBox(L"Long", std::wstring(120, L'x')),
-            Indent({RadioButton(L"Inner", L"Depends on the box above")}),
-            Fields({
-                Row({Label(L"LabelA", L"A"), Edit(L"EditA").Width(5), UpDown(L"UpDownA", L"EditA", 0, 9, 0)}),
-                Row({Label(L"LabelB", L"A longer label"), ComboBox(L"ComboB", {L"one", L"two"})}),
-            }),
-        }),
+        Group(L"Group", L"A group", CheckBox(L"Short", L"Short"), CheckBox(L"Long", std::wstring(120, L'x')),
+              Indent(RadioButton(L"Inner", L"Depends on the box above")),
+              Fields(
+                  Row(Label(L"LabelA", L"A"), Edit(L"EditA").Width(5), UpDown(L"UpDownA", L"EditA", 0, 9, 0)),
+                  Row(Label(L"LabelB", L"A longer label"), ComboBox(L"ComboB", {L"one", L"two"})))),
         CheckBox(L"Hidden", L"Hidden").Hidden(),
-        Buttons({Button(L"Default", L"Default")}),
+        Buttons(Button(L"Default", L"Default")),
     };
 }
 
@@ -104,14 +104,11 @@ TEST(TLayoutTest, LinesUpWhatBelongsTogether) {
 
 TEST(TLayoutTest, GivesTheSpareRoomToTheNotebookAndCoversItWithThePanel) {
     const TRect area{8, 8, 700, 480};
-    const TLaidOut laidOut({Row({
-                               CategoryBar(L"Bar", {CategoryGroup(L"G", L"Group", {CategoryItem(L"I", L"Item", 1, L"")})}),
-                               Column({
-                                   Overlay({Notebook(L"Book", {}), Panel(L"Panel", {Label(L"Wait", L"Wait")})}),
-                                   Buttons({Button(L"Ok", L"OK"), Button(L"Cancel", L"Cancel")}),
-                               }),
-                           })},
-                           area);
+    const TLaidOut laidOut(
+        {Row(CategoryBar(L"Bar", {CategoryGroup(L"G", L"Group", {CategoryItem(L"I", L"Item", 1, L"")})}),
+             Column(Overlay(Notebook(L"Book", {}), Panel(L"Panel", Label(L"Wait", L"Wait"))),
+                    Buttons(Button(L"Ok", L"OK"), Button(L"Cancel", L"Cancel"))))},
+        area);
     const TRect& bar = laidOut[L"Bar"];
     const TRect& book = laidOut[L"Book"];
     EXPECT_EQ(bar.Height, area.Height);

@@ -13,7 +13,8 @@ DWORD GroupStyle(const TRadioButton& button) {
 
 }  // namespace
 
-TPushButtonPeer::TPushButtonPeer(TFormWindow& form, TButton& button, HWND parent) : TWindowPeer(form, button) {
+TPushButtonPeer::TPushButtonPeer(TFormWindow& form, TButton& button, HWND parent)
+    : TWindowPeer(form, button) {
     const DWORD look = button.Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
     Create(parent, WC_BUTTONW, look | WS_TABSTOP | WS_GROUP);
 }

@@ -1,9 +1,9 @@
 #include "ui/win32/container_peer.h"
 
+#include <algorithm>
+
 #include "ui/win32/form_window.h"
 #include "ui/win32/peer_factory.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -24,7 +24,8 @@ TContainerPeer::~TContainerPeer() {
     if (Handle() != nullptr) SetWindowLongPtrW(Handle(), GWLP_USERDATA, 0);
 }
 
-void TContainerPeer::CreateContainer(HWND parent, const wchar_t* windowClass, DWORD style, DWORD extendedStyle) {
+void TContainerPeer::CreateContainer(HWND parent, const wchar_t* windowClass, DWORD style,
+                                     DWORD extendedStyle) {
     WNDCLASSEXW description{};
     description.cbSize = sizeof description;
     if (!GetClassInfoExW(FForm.Instance(), windowClass, &description)) {
@@ -63,13 +64,16 @@ LRESULT CALLBACK TContainerPeer::WindowProc(HWND window, UINT message, WPARAM wP
 LRESULT TContainerPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND window = Handle();
     switch (message) {
-        case WM_SIZE: LayOut(); break;
+        case WM_SIZE:
+            LayOut();
+            break;
         case WM_MOUSEWHEEL: {
             UINT lines = 3;
             SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
             const int line = FForm.Screen().Scale(20);
-            ScrollBy(-GET_WHEEL_DELTA_WPARAM(wParam) * static_cast<int>(lines) * line / WHEEL_DELTA);
-            return 0;
+            if (ScrollBy(-GET_WHEEL_DELTA_WPARAM(wParam) * static_cast<int>(lines) * line / WHEEL_DELTA))
+                return 0;
+            break;  // the container around this one may have something to scroll
         }
         case WM_VSCROLL:
             if (lParam == 0) {
@@ -80,8 +84,10 @@ LRESULT TContainerPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_HSCROLL:
         case WM_COMMAND:
         case WM_NOTIFY:
-        case WM_DRAWITEM: return Reflect(message, wParam, lParam);
-        default: break;
+        case WM_DRAWITEM:
+            return Reflect(message, wParam, lParam);
+        default:
+            break;
     }
     return DefDlgProcW(window, message, wParam, lParam);
 }
@@ -94,10 +100,17 @@ LRESULT TContainerPeer::Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
     TWindowPeer* peer = FForm.PeerOf(from);
     if (peer == nullptr || peer == this) return DefDlgProcW(Handle(), message, wParam, lParam);
     switch (message) {
-        case WM_COMMAND: peer->OnCommand(HIWORD(wParam)); return 0;
-        case WM_NOTIFY: return peer->OnNotify(*reinterpret_cast<NMHDR*>(lParam));
-        case WM_DRAWITEM: peer->OnDraw(*reinterpret_cast<DRAWITEMSTRUCT*>(lParam)); return TRUE;
-        default: peer->OnScroll(); return 0;
+        case WM_COMMAND:
+            peer->OnCommand(HIWORD(wParam));
+            return 0;
+        case WM_NOTIFY:
+            return peer->OnNotify(*reinterpret_cast<NMHDR*>(lParam));
+        case WM_DRAWITEM:
+            peer->OnDraw(*reinterpret_cast<DRAWITEMSTRUCT*>(lParam));
+            return TRUE;
+        default:
+            peer->OnScroll();
+            return 0;
     }
 }
 
@@ -122,7 +135,8 @@ void TContainerPeer::LayOut() {
     if (FLayingOut || Handle() == nullptr) return;
     FLayingOut = true;
     RECT area = ContentArea();
-    SetScrollRange(ContentHeight(area.right - area.left) + 2 * Margin(), area.bottom - area.top + 2 * Margin());
+    SetScrollRange(ContentHeight(area.right - area.left) + 2 * Margin(),
+                   area.bottom - area.top + 2 * Margin());
     area = ContentArea();  // a scroll bar may have come or gone
     const int width = std::max(0L, area.right - area.left);
     const int height = std::max(static_cast<int>(area.bottom - area.top), ContentHeight(width));
@@ -154,23 +168,39 @@ void TContainerPeer::Scroll(WPARAM request) {
     const int page = static_cast<int>(info.nPage);
     const int line = FForm.Screen().Scale(20);
     switch (LOWORD(request)) {
-        case SB_LINEUP: ScrollBy(-line); break;
-        case SB_LINEDOWN: ScrollBy(line); break;
-        case SB_PAGEUP: ScrollBy(-page); break;
-        case SB_PAGEDOWN: ScrollBy(page); break;
-        case SB_THUMBTRACK: ScrollBy(info.nTrackPos - info.nPos); break;
-        case SB_TOP: ScrollBy(-info.nPos); break;
-        case SB_BOTTOM: ScrollBy(info.nMax); break;
-        default: break;
+        case SB_LINEUP:
+            ScrollBy(-line);
+            break;
+        case SB_LINEDOWN:
+            ScrollBy(line);
+            break;
+        case SB_PAGEUP:
+            ScrollBy(-page);
+            break;
+        case SB_PAGEDOWN:
+            ScrollBy(page);
+            break;
+        case SB_THUMBTRACK:
+            ScrollBy(info.nTrackPos - info.nPos);
+            break;
+        case SB_TOP:
+            ScrollBy(-info.nPos);
+            break;
+        case SB_BOTTOM:
+            ScrollBy(info.nMax);
+            break;
+        default:
+            break;
     }
 }
 
-void TContainerPeer::ScrollBy(int distance) {
+bool TContainerPeer::ScrollBy(int distance) {
     const int before = GetScrollPos(Handle(), SB_VERT);
     SetScrollPos(Handle(), SB_VERT, before + distance, TRUE);
-    if (GetScrollPos(Handle(), SB_VERT) == before) return;
+    if (GetScrollPos(Handle(), SB_VERT) == before) return false;
     LayOut();
     InvalidateRect(Handle(), nullptr, TRUE);
+    return true;
 }
 
 void TContainerPeer::ScrollTo(HWND inner) {

@@ -11,7 +11,8 @@ inline constexpr const wchar_t* kContainerClass = L"TQuilltune_Container";
 class TContainerPeer : public TWindowPeer {
   public:
     /// `margin` is the distance between the edges and the content at 96 dots per inch.
-    TContainerPeer(TFormWindow& form, TControl& control, int margin) : TWindowPeer(form, control), FMargin(margin) {}
+    TContainerPeer(TFormWindow& form, TControl& control, int margin)
+        : TWindowPeer(form, control), FMargin(margin) {}
 
     ~TContainerPeer() override;
 
@@ -43,7 +44,8 @@ class TContainerPeer : public TWindowPeer {
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Reflect(UINT message, WPARAM wParam, LPARAM lParam);
     void Scroll(WPARAM request);
-    void ScrollBy(int distance);
+    /// False when there is nothing more to scroll in that direction.
+    bool ScrollBy(int distance);
     void SetScrollRange(int content, int visible);
 
     int FMargin;

@@ -6,7 +6,6 @@
 
 #include <commdlg.h>
 
-
 namespace {
 
 /// Characters for the path of the chosen file; the longest that Windows 2000 can open.

@@ -35,13 +35,18 @@ std::wstring TEditPeer::WindowText() const { return static_cast<TEdit&>(Control(
 void TEditPeer::OnCommand(WORD code) {
     auto& edit = static_cast<TEdit&>(Control());
     switch (code) {
-        case EN_SETFOCUS: edit.SetFocused(true); break;
-        case EN_KILLFOCUS: edit.SetFocused(false); break;
+        case EN_SETFOCUS:
+            edit.SetFocused(true);
+            break;
+        case EN_KILLFOCUS:
+            edit.SetFocused(false);
+            break;
         case EN_CHANGE:
             // Windows reports the program's own changes of the text too.
             if (!FShowing) edit.SetText(TextOf(Handle()));
             break;
-        default: break;
+        default:
+            break;
     }
 }
 
@@ -75,7 +80,8 @@ TComboBoxPeer::TComboBoxPeer(TFormWindow& form, TComboBox& box, HWND parent) : T
 }
 
 void TComboBoxPeer::OnCommand(WORD code) {
-    if (code == CBN_SELCHANGE) static_cast<TComboBox&>(Control()).SetItemIndex(static_cast<int>(Send(CB_GETCURSEL)));
+    if (code == CBN_SELCHANGE)
+        static_cast<TComboBox&>(Control()).SetItemIndex(static_cast<int>(Send(CB_GETCURSEL)));
 }
 
 void TComboBoxPeer::ShowItems() {
@@ -91,7 +97,8 @@ void TComboBoxPeer::ShowState() {
 /// The height of a combo box window is that of its dropped list; the closed box is sized by its item height.
 void TComboBoxPeer::Place(const TRect& place) {
     constexpr int kMostItemsShown = 16;
-    const int items = std::min(static_cast<int>(static_cast<TComboBox&>(Control()).Items().size()), kMostItemsShown);
+    const int items =
+        std::min(static_cast<int>(static_cast<TComboBox&>(Control()).Items().size()), kMostItemsShown);
     const int line = static_cast<int>(Send(CB_GETITEMHEIGHT));
     TWindowPeer::Place({place.Left, place.Top, place.Width, place.Height + (items + 1) * line});
     RECT closed{};

@@ -1,10 +1,10 @@
 #include "ui/win32/form_window.h"
 
-#include "ui/containers.h"
-#include "ui/controls.h"
-
 #include <algorithm>
 #include <utility>
+
+#include "ui/containers.h"
+#include "ui/controls.h"
 
 namespace {
 
@@ -98,7 +98,8 @@ int TFormWindow::CommandId(const TControl& control) {
 
 void TFormWindow::LayOutLater(const TControl& control) {
     const TControl* container = control.Parent();
-    while (container != nullptr && container->Kind() == TComponentKind::GroupBox) container = container->Parent();
+    while (container != nullptr && container->Kind() == TComponentKind::GroupBox)
+        container = container->Parent();
     if (container == nullptr) return;
     if (FChanged.empty()) PostMessageW(Handle(), kLayOutMessage, 0, 0);
     FChanged.insert(container);
@@ -179,14 +180,16 @@ void TFormWindow::TWindow::SetInitialSize() {
     const int height = std::min(frame.bottom - frame.top, work.bottom - work.top);
     FMinimum = {width, height};
     SetWindowPos(Handle(), nullptr, work.left + (work.right - work.left - width) / 2,
-                 work.top + (work.bottom - work.top - height) / 2, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+                 work.top + (work.bottom - work.top - height) / 2, width, height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
     LayOut();
 }
 
 LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_TIMER:
-            if (const auto timer = FOwner.FTimers.find(static_cast<unsigned>(wParam)); timer != FOwner.FTimers.end()) {
+            if (const auto timer = FOwner.FTimers.find(static_cast<unsigned>(wParam));
+                timer != FOwner.FTimers.end()) {
                 timer->second->Tick();
                 return 0;
             }
@@ -194,9 +197,15 @@ LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lPar
         case WM_GETMINMAXINFO:
             reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {FMinimum.cx, FMinimum.cy};
             return 0;
-        case WM_CLOSE: DestroyWindow(Handle()); return 0;
-        case WM_DESTROY: FOwner.Destroyed(); return 0;
-        case kLayOutMessage: FOwner.LayOutChanged(); return 0;
+        case WM_CLOSE:
+            DestroyWindow(Handle());
+            return 0;
+        case WM_DESTROY:
+            FOwner.Destroyed();
+            return 0;
+        case kLayOutMessage:
+            FOwner.LayOutChanged();
+            return 0;
         default:
             if (message >= WM_USER && FOwner.OnMessage && FOwner.OnMessage(message)) return 0;
             break;

@@ -1,14 +1,14 @@
 // The native window of a form, and what all its peers share.
 #pragma once
 
+#include <exception>
+#include <set>
+#include <unordered_map>
+
 #include "ui/form.h"
 #include "ui/win32/container_peer.h"
 #include "ui/win32/picture_store.h"
 #include "ui/win32/screen.h"
-
-#include <exception>
-#include <set>
-#include <unordered_map>
 
 class TTimer;
 

@@ -1,29 +1,51 @@
 #include "ui/win32/late_bound.h"
 
+#include <bit>
 #include <string>
 
-FARPROC FindSystemFunction(const wchar_t* library, const char* function) {
-    wchar_t folder[MAX_PATH];
-    const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
-    if (length == 0 || length >= MAX_PATH) return nullptr;
-    const HMODULE module = LoadLibraryW((std::wstring(folder, length) + L"\\" + library).c_str());
-    return module == nullptr ? nullptr : GetProcAddress(module, function);
-}
+#include "ui/win32/handle.h"
 
 namespace {
 
-/// The function as a pointer of its real type.
-template <typename TFunction>
-TFunction Find(const wchar_t* library, const char* function) {
-    // By way of void (*)(): the type of FARPROC has nothing to do with the function's.
-    return reinterpret_cast<TFunction>(reinterpret_cast<void (*)()>(FindSystemFunction(library, function)));
-}
+/// A library of the system folder, loaded as long as the object lives.
+class TSystemLibrary {
+  public:
+    explicit TSystemLibrary(const wchar_t* name) {
+        wchar_t folder[MAX_PATH];
+        const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
+        if (length == 0 || length >= MAX_PATH) return;
+        const std::wstring path = std::wstring(folder, length) + L'\\' + name;
+        FLibrary = TLibraryHandle(LoadLibraryW(path.c_str()));
+    }
+
+    /// The function of that name; null when there is none.
+    template <typename TFunction>
+    [[nodiscard]] TFunction* Find(const char* name) const {
+        return FLibrary.IsValid() ? std::bit_cast<TFunction*>(GetProcAddress(FLibrary.Get(), name)) : nullptr;
+    }
+
+  private:
+    TLibraryHandle FLibrary;
+};
 
 }  // namespace
 
+bool ProcessIsWow64() {
+    const TSystemLibrary kernel(L"kernel32.dll");
+    const auto isWow64Process = kernel.Find<BOOL WINAPI(HANDLE, BOOL*)>("IsWow64Process");
+    BOOL wow64 = FALSE;
+    return isWow64Process != nullptr && isWow64Process(GetCurrentProcess(), &wow64) && wow64;
+}
+
+LONG DeleteKeyInView(HKEY parent, const wchar_t* name, REGSAM view) {
+    const TSystemLibrary advapi(L"advapi32.dll");
+    const auto deleteKeyEx = advapi.Find<LONG WINAPI(HKEY, const wchar_t*, REGSAM, DWORD)>("RegDeleteKeyExW");
+    return deleteKeyEx != nullptr ? deleteKeyEx(parent, name, view, 0) : RegDeleteKeyW(parent, name);
+}
+
 void EnableThemeTabTexture(HWND dialog) {
     constexpr DWORD kEnableTab = 6;  // ETDT_ENABLETAB
-    static const auto kFunction =
-        Find<HRESULT(WINAPI*)(HWND, DWORD)>(L"uxtheme.dll", "EnableThemeDialogTexture");
-    if (kFunction != nullptr) kFunction(dialog, kEnableTab);
+    const TSystemLibrary theme(L"uxtheme.dll");
+    const auto enableTexture = theme.Find<HRESULT WINAPI(HWND, DWORD)>("EnableThemeDialogTexture");
+    if (enableTexture != nullptr) enableTexture(dialog, kEnableTab);
 }

@@ -1,12 +1,17 @@
-// Functions of Windows that Windows 2000 lacks, looked up when they are first needed. The only place for such
-// look-ups: the program's import table names nothing that Windows 2000 does not have.
+// Functions that Windows 2000 lacks, looked up when they are needed; their libraries come from the system folder. The
+// only place for such look-ups, on the lowest floor so that every floor can use it: the program's import table names
+// nothing that Windows 2000 does not have.
 #pragma once
 
 #include <windows.h>
 
-/// The function of that name in a library of the system folder (never of the program's or the current folder);
-/// null when there is no such library or function. The library stays loaded.
-[[nodiscard]] FARPROC FindSystemFunction(const wchar_t* library, const char* function);
+/// IsWow64Process: whether this is a 32-bit process on 64-bit Windows. False where Windows has no such function.
+[[nodiscard]] bool ProcessIsWow64();
 
-/// uxtheme, Windows XP: lets the theme paint a dialog's background as that of a tab's sheet.
+/// RegDeleteKeyExW: deletes a key without subkeys; `view` is 0 or KEY_WOW64_64KEY. Windows without that function has
+/// one view only, where RegDeleteKeyW does it. Answers an error code, ERROR_SUCCESS when done.
+[[nodiscard]] LONG DeleteKeyInView(HKEY parent, const wchar_t* name, REGSAM view);
+
+/// EnableThemeDialogTexture: lets the theme paint a dialog's background as that of a tab's sheet. Windows without
+/// themes does nothing.
 void EnableThemeTabTexture(HWND dialog);

@@ -31,7 +31,8 @@ void TNotebookPagePeer::Update(TControlAspect aspect) {
     TPlainContainerPeer::Update(aspect);
 }
 
-TPageControlPeer::TPageControlPeer(TFormWindow& form, TPageControl& tabs, HWND parent) : TWindowPeer(form, tabs) {
+TPageControlPeer::TPageControlPeer(TFormWindow& form, TPageControl& tabs, HWND parent)
+    : TWindowPeer(form, tabs) {
     // The sheets come first in the tab order, above the control that they cover.
     for (TControl* sheet : tabs.Children()) CreatePeer(form, *sheet, parent);
     Create(parent, WC_TABCONTROLW, WS_CLIPSIBLINGS | WS_TABSTOP | WS_GROUP);

@@ -27,28 +27,50 @@ std::unique_ptr<TPeer> Make(TFormWindow& form, TControl& control, HWND parent) {
 
 std::unique_ptr<TPeer> MakePeer(TFormWindow& form, TControl& control, HWND parent) {
     switch (control.Kind()) {
-        case TComponentKind::Panel: return Make<TPanelPeer, TPanel>(form, control, parent);
-        case TComponentKind::Notebook: return Make<TNotebookPeer, TNotebook>(form, control, parent);
-        case TComponentKind::NotebookPage: return Make<TNotebookPagePeer, TNotebookPage>(form, control, parent);
-        case TComponentKind::PageControl: return Make<TPageControlPeer, TPageControl>(form, control, parent);
-        case TComponentKind::TabSheet: return Make<TTabSheetPeer, TTabSheet>(form, control, parent);
-        case TComponentKind::GroupBox: return Make<TGroupBoxPeer, TGroupBox>(form, control, parent);
-        case TComponentKind::Label: return Make<TLabelPeer, TLabel>(form, control, parent);
-        case TComponentKind::CheckBox: return Make<TCheckBoxPeer, TCheckBox>(form, control, parent);
-        case TComponentKind::RadioButton: return Make<TRadioButtonPeer, TRadioButton>(form, control, parent);
-        case TComponentKind::Edit: return Make<TEditPeer, TEdit>(form, control, parent);
-        case TComponentKind::UpDown: return Make<TUpDownPeer, TUpDown>(form, control, parent);
-        case TComponentKind::TrackBar: return Make<TTrackBarPeer, TTrackBar>(form, control, parent);
-        case TComponentKind::ComboBox: return Make<TComboBoxPeer, TComboBox>(form, control, parent);
-        case TComponentKind::Button: return Make<TPushButtonPeer, TButton>(form, control, parent);
-        case TComponentKind::ColorSwatch: return Make<TColorSwatchPeer, TColorSwatch>(form, control, parent);
-        case TComponentKind::Image: return Make<TImagePeer, TImage>(form, control, parent);
-        case TComponentKind::ListView: return Make<TListViewPeer, TListView>(form, control, parent);
-        case TComponentKind::CategoryBar: return Make<TCategoryBarPeer, TCategoryBar>(form, control, parent);
-        case TComponentKind::CategoryGroup: return Make<TCategoryGroupPeer, TCategoryGroup>(form, control, parent);
-        case TComponentKind::CategoryItem: return Make<TCategoryItemPeer, TCategoryItem>(form, control, parent);
-        case TComponentKind::Timer: return std::make_unique<TTimerPeer>(form, static_cast<TTimer&>(control));
-        case TComponentKind::Form: break;
+        case TComponentKind::Panel:
+            return Make<TPanelPeer, TPanel>(form, control, parent);
+        case TComponentKind::Notebook:
+            return Make<TNotebookPeer, TNotebook>(form, control, parent);
+        case TComponentKind::NotebookPage:
+            return Make<TNotebookPagePeer, TNotebookPage>(form, control, parent);
+        case TComponentKind::PageControl:
+            return Make<TPageControlPeer, TPageControl>(form, control, parent);
+        case TComponentKind::TabSheet:
+            return Make<TTabSheetPeer, TTabSheet>(form, control, parent);
+        case TComponentKind::GroupBox:
+            return Make<TGroupBoxPeer, TGroupBox>(form, control, parent);
+        case TComponentKind::Label:
+            return Make<TLabelPeer, TLabel>(form, control, parent);
+        case TComponentKind::CheckBox:
+            return Make<TCheckBoxPeer, TCheckBox>(form, control, parent);
+        case TComponentKind::RadioButton:
+            return Make<TRadioButtonPeer, TRadioButton>(form, control, parent);
+        case TComponentKind::Edit:
+            return Make<TEditPeer, TEdit>(form, control, parent);
+        case TComponentKind::UpDown:
+            return Make<TUpDownPeer, TUpDown>(form, control, parent);
+        case TComponentKind::TrackBar:
+            return Make<TTrackBarPeer, TTrackBar>(form, control, parent);
+        case TComponentKind::ComboBox:
+            return Make<TComboBoxPeer, TComboBox>(form, control, parent);
+        case TComponentKind::Button:
+            return Make<TPushButtonPeer, TButton>(form, control, parent);
+        case TComponentKind::ColorSwatch:
+            return Make<TColorSwatchPeer, TColorSwatch>(form, control, parent);
+        case TComponentKind::Image:
+            return Make<TImagePeer, TImage>(form, control, parent);
+        case TComponentKind::ListView:
+            return Make<TListViewPeer, TListView>(form, control, parent);
+        case TComponentKind::CategoryBar:
+            return Make<TCategoryBarPeer, TCategoryBar>(form, control, parent);
+        case TComponentKind::CategoryGroup:
+            return Make<TCategoryGroupPeer, TCategoryGroup>(form, control, parent);
+        case TComponentKind::CategoryItem:
+            return Make<TCategoryItemPeer, TCategoryItem>(form, control, parent);
+        case TComponentKind::Timer:
+            return std::make_unique<TTimerPeer>(form, static_cast<TTimer&>(control));
+        case TComponentKind::Form:
+            break;
     }
     return nullptr;
 }
@@ -58,8 +80,11 @@ std::unique_ptr<TPeer> MakePeer(TFormWindow& form, TControl& control, HWND paren
 void CreatePeer(TFormWindow& form, TControl& control, HWND parent) {
     control.SetPeer(MakePeer(form, control, parent));
     switch (control.Kind()) {
-        case TComponentKind::NotebookPage:  // when it is first shown
-        case TComponentKind::PageControl: return;  // it must see its sheets before itself
+        case TComponentKind::NotebookPage:
+            if (control.Visible()) form.CreatePage(control);  // otherwise when it is first shown
+            return;
+        case TComponentKind::PageControl:
+            return;  // it must see its sheets before itself
         case TComponentKind::GroupBox:
             // A frame only: to Windows the controls in it are its siblings.
             for (TControl* child : control.Children()) CreatePeer(form, *child, parent);

@@ -1,9 +1,9 @@
 // Gives controls their native side.
 #pragma once
 
-#include "ui/component.h"
-
 #include <windows.h>
+
+#include "ui/component.h"
 
 class TFormWindow;
 

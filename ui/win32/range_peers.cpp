@@ -13,7 +13,9 @@ TTrackBarPeer::TTrackBarPeer(TFormWindow& form, TTrackBar& bar, HWND parent) : T
     ShowState();  // once more: the first time the range was still the default one
 }
 
-void TTrackBarPeer::OnScroll() { static_cast<TTrackBar&>(Control()).SetPosition(static_cast<int>(Send(TBM_GETPOS))); }
+void TTrackBarPeer::OnScroll() {
+    static_cast<TTrackBar&>(Control()).SetPosition(static_cast<int>(Send(TBM_GETPOS)));
+}
 
 void TTrackBarPeer::ShowState() { Send(TBM_SETPOS, TRUE, static_cast<TTrackBar&>(Control()).Position()); }
 

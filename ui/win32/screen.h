@@ -1,9 +1,9 @@
 // The screen as layouts and peers need it: resolution, the window fonts, text sizes.
 #pragma once
 
-#include "ui/layout.h"
-
 #include <windows.h>
+
+#include "ui/layout.h"
 
 class TScreen : public TLayoutMetrics {
   public:

@@ -47,12 +47,16 @@ void TWindowPeer::Update(TControlAspect aspect) {
             SetWindowTextW(FHandle, WindowText().c_str());
             FForm.LayOutLater(FControl);
             break;
-        case TControlAspect::Enabled: EnableWindow(FHandle, FControl.Enabled()); break;
+        case TControlAspect::Enabled:
+            EnableWindow(FHandle, FControl.Enabled());
+            break;
         case TControlAspect::Visible:
             ShowWindow(FHandle, IsShown() ? SW_SHOWNA : SW_HIDE);
             FForm.LayOutLater(FControl);
             break;
-        case TControlAspect::State: ShowState(); break;
+        case TControlAspect::State:
+            ShowState();
+            break;
         case TControlAspect::Items:
             ShowItems();
             ShowState();

@@ -1,9 +1,9 @@
 // The base of the native peers: one window that shows one control.
 #pragma once
 
-#include "ui/layout.h"
-
 #include <windows.h>
+
+#include "ui/layout.h"
 // After windows.h, which it needs.
 #include <commctrl.h>
 

@@ -36,7 +36,7 @@ struct TShown {
 };
 
 constexpr TShown kShown[] = {
-    {kUdma, kUdmaValue, 'K', 'C', 'X', 'C'},       {kLastAccess, kLastAccessValue, 'X', 'X', 'C', 'X'},
+    {kUdma, kUdmaValue, 'K', 'C', 'X', 'C'},           {kLastAccess, kLastAccessValue, 'X', 'X', 'C', 'X'},
     {kShortName, kShortNameValue, 'K', 'X', 'C', 'X'}, {kSpaceWarn, kSpaceWarnValue, 'X', 'X', 'C', 'X'},
     {kMedia, kMediaValue, 'X', 'C', 'X', 'C'},
 };
@@ -48,7 +48,8 @@ void ExpectShown(const TShown& row, const std::optional<TRegistryData>& stored, 
         if (stored) bench.Store(row.Value, *stored);
         bench.Load();
         const bool after = expected == 'K' ? before : expected == 'X';
-        EXPECT_EQ(bench.Checked(row.Box), after) << testing::PrintToString(row.Box) << " expected " << expected;
+        EXPECT_EQ(bench.Checked(row.Box), after)
+            << testing::PrintToString(row.Box) << " expected " << expected;
         EXPECT_TRUE(bench.Pending().empty()) << "loading records nothing";
         EXPECT_FALSE(bench.Context.Loading);
     }
@@ -95,7 +96,8 @@ TEST(TDrivesPage, RecordsWhatEachStateStandsFor) {
             TPageBench bench(DrivesPage());
             bench.Preset(row.Box, !checked);
             bench.Click(row.Box, checked);
-            const std::wstring line = std::wstring(row.Box) + L": " + row.Place + (checked ? row.Checked : row.Clear);
+            const std::wstring line =
+                std::wstring(row.Box) + L": " + row.Place + (checked ? row.Checked : row.Clear);
             EXPECT_EQ(bench.Pending(), std::vector{line});
             EXPECT_EQ(bench.Context.RestartNeeded, row.Restart);
             EXPECT_EQ(bench.Recorded, 1);
@@ -145,10 +147,11 @@ TEST(TDrivesPage, AutoPlayBoxesChangeTheirBitAlone) {
             EXPECT_EQ(bench.Checked(c.Box), c.Loads);
             bench.Preset(c.Box, !checked);
             bench.Click(c.Box, checked);
-            const std::wstring line =
-                std::wstring(c.Box) +
-                L": HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\[NoDriveTypeAutoRun] = " +
-                std::to_wstring(checked ? c.CheckedRecords : c.ClearRecords);
+            const std::wstring line = std::wstring(c.Box) +
+                                      L": "
+                                      L"HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explore"
+                                      L"r\\[NoDriveTypeAutoRun] = " +
+                                      std::to_wstring(checked ? c.CheckedRecords : c.ClearRecords);
             EXPECT_EQ(bench.Pending(), std::vector{line});
             EXPECT_FALSE(bench.Context.RestartNeeded);
         }

@@ -45,7 +45,8 @@ TEST(TMemoryPage, TheLastClickOfAPairWins) {
     for (const TPair& pair : kPairs) {
         TPageBench bench(MemoryPage());
         const auto line = [&](const wchar_t* number) {
-            return std::vector{pair.ChangeName + std::wstring(L": HKLM") + kKey + L"[" + pair.ValueName + L"] = " + number};
+            return std::vector{pair.ChangeName + std::wstring(L": HKLM") + kKey + L"[" + pair.ValueName +
+                               L"] = " + number};
         };
         bench.Click(pair.First, true);
         EXPECT_EQ(bench.Pending(), line(L"1"));

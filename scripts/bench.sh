@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Measures the start of the 64-bit program under Wine, pair by pair beside Wine's own notepad, so that the ratio holds
+# whatever the machine is doing.
+#   scripts/bench.sh [pairs]
+set -euo pipefail
+. "$(dirname "$0")/lib.sh"
+. "$(dirname "$0")/wine.sh"
+
+"$Root/scripts/build.sh"
+RequirePackages "${WinePackages[@]}"
+BuildPreset win64 --target startup_bench
+
+Work=$(mktemp -d "${TMPDIR:-/tmp}/quilltune-bench.XXXXXX")
+StartXvfb
+trap 'EndPrefix; kill "$XvfbId"; rm -rf "$Work"' EXIT
+MakePrefix "$Work/prefix"
+wine "$Root/build/win64/tests/startup_bench.exe" "$(WindowsPath "$Root/dist/win64")\\Quilltune.exe" "${1:-15}"
