@@ -104,9 +104,9 @@ class TTranslateTest : public TLanguageTest {
     TTranslateTest() {
         Form.SetCaption(L"form");
         Form.Build(Form, Sheet(L"Sheet1", L"sheet",
-                               {Group(L"Group1", L"group",
-                                      {CheckBox(L"Check1", L"check"), RadioButton(L"Radio1", L"radio")})}));
-        Form.Build(Form, Panel(L"Panel1", {Label(L"Label1", L"label"), Label(L"Label2", L"label")}));
+                               Group(L"Group1", L"group", CheckBox(L"Check1", L"check"),
+                                     RadioButton(L"Radio1", L"radio"))));
+        Form.Build(Form, Panel(L"Panel1", Label(L"Label1", L"label"), Label(L"Label2", L"label")));
         Form.Build(Form, Edit(L"Edit1", L"edit"));
         Form.Build(Form, Button(L"Button1", L"button"));
         Form.Build(Form, CategoryGroup(L"Cat1", L"category", {CategoryItem(L"Item1", L"item", 1, L"")}));
