@@ -52,7 +52,7 @@ char32_t TakeUtf8(TByteSpan& rest) {
     };
     const std::uint8_t first = take();
     if (first < 0x80) return first;
-    const auto lead = std::ranges::find_if(
+    const auto* const lead = std::ranges::find_if(
         kUtf8Leads, [&](const TUtf8Lead& each) { return first >= each.First && first <= each.Last; });
     if (lead == kUtf8Leads.end()) return kReplacement;
     char32_t code = first & (0x3FU >> lead->Trails);
