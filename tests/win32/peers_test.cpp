@@ -54,6 +54,20 @@ TEST_F(PeersTest, TheFocusAloneChecksNoRadioButton) {
     EXPECT_EQ(TakeFired(), TNames{});
 }
 
+TEST_F(PeersTest, TheTabKeyReachesRadioButtonsAlsoWhenNoneIsChecked) {
+    const auto stops = [this](const wchar_t* name) {
+        return (GetWindowLongW(Window(name), GWL_STYLE) & WS_TABSTOP) != 0;
+    };
+    EXPECT_TRUE(stops(L"First"));
+    EXPECT_FALSE(stops(L"Second"));
+    Get<TRadioButton>(L"Second").SetChecked(true);
+    EXPECT_FALSE(stops(L"First"));
+    EXPECT_TRUE(stops(L"Second"));
+    SendMessageW(Window(L"First"), BM_CLICK, 0, 0);
+    EXPECT_TRUE(stops(L"First"));
+    EXPECT_FALSE(stops(L"Second"));
+}
+
 TEST_F(PeersTest, TypedTextAndArrowsMoveTheNumber) {
     SetFocus(Window(L"Edit"));
     EXPECT_TRUE(Get<TEdit>(L"Edit").Focused());

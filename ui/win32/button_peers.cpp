@@ -1,5 +1,7 @@
 #include "ui/win32/button_peers.h"
 
+#include <algorithm>
+
 namespace {
 
 /// Arrow keys stay within a group: each control begins one, but for the radio buttons that follow another.
@@ -48,6 +50,27 @@ void TRadioButtonPeer::OnCommand(WORD code) {
 
 void TRadioButtonPeer::ShowState() {
     Send(BM_SETCHECK, static_cast<TRadioButton&>(Control()).Checked() ? BST_CHECKED : BST_UNCHECKED);
+    ShowTabStops();
+}
+
+/// The Tab key stops at the checked button of a group. Windows would leave out a group without one, which then could
+/// not be reached by the keyboard: there it stops at the first.
+void TRadioButtonPeer::ShowTabStops() {
+    std::vector<TRadioButton*> group;
+    for (TControl* control : Control().Parent()->Children()) {
+        if (control->Kind() == TComponentKind::RadioButton)
+            group.push_back(static_cast<TRadioButton*>(control));
+    }
+    const auto checked =
+        std::find_if(group.begin(), group.end(), [](auto* button) { return button->Checked(); });
+    const TRadioButton* stop = checked == group.end() ? group.front() : *checked;
+    for (const TRadioButton* button : group) {
+        const auto* peer = button == &Control() ? this : dynamic_cast<TWindowPeer*>(button->Peer());
+        if (peer == nullptr || peer->Handle() == nullptr) continue;
+        const LONG_PTR style = GetWindowLongPtrW(peer->Handle(), GWL_STYLE);
+        SetWindowLongPtrW(peer->Handle(), GWL_STYLE,
+                          button == stop ? style | WS_TABSTOP : style & ~WS_TABSTOP);
+    }
 }
 
 TGroupBoxPeer::TGroupBoxPeer(TFormWindow& form, TGroupBox& group, HWND parent) : TWindowPeer(form, group) {

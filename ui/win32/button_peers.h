@@ -26,6 +26,9 @@ class TRadioButtonPeer : public TWindowPeer {
 
   protected:
     void ShowState() override;
+
+  private:
+    void ShowTabStops();
 };
 
 class TGroupBoxPeer : public TWindowPeer {
