@@ -35,14 +35,15 @@ class TServiceManager {
     [[nodiscard]] virtual TServiceHandle OpenManager(std::uint32_t access) = 0;
     /// OpenServiceW by key name; `access` are SERVICE_… rights.
     [[nodiscard]] virtual TServiceHandle OpenNamedService(TServiceHandle manager, const std::wstring& name,
-                                                     std::uint32_t access) = 0;
+                                                          std::uint32_t access) = 0;
     /// CloseServiceHandle; None is ignored.
     virtual void Close(TServiceHandle handle) = 0;
 
     /// QueryServiceStatus.
     [[nodiscard]] virtual bool QueryState(TServiceHandle service, TServiceState& state) = 0;
     /// ControlService; `state` is the state that the service reports in its answer.
-    [[nodiscard]] virtual bool Control(TServiceHandle service, TServiceControl control, TServiceState& state) = 0;
+    [[nodiscard]] virtual bool Control(TServiceHandle service, TServiceControl control,
+                                       TServiceState& state) = 0;
     /// StartServiceW without arguments.
     [[nodiscard]] virtual bool Start(TServiceHandle service) = 0;
     /// ChangeServiceConfigW that changes the start type alone.

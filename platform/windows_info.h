@@ -40,7 +40,8 @@ class TWindowsInfo {
     [[nodiscard]] virtual std::wstring ProgramFile() const = 0;
 
     /// The version resource of a file; null when it has none or cannot be read.
-    [[nodiscard]] virtual std::unique_ptr<TVersionResource> OpenVersionResource(const std::wstring& file) const = 0;
+    [[nodiscard]] virtual std::unique_ptr<TVersionResource> OpenVersionResource(
+        const std::wstring& file) const = 0;
 
     /// Text of the system's ANSI code page.
     [[nodiscard]] virtual std::wstring FromAnsi(std::span<const std::uint8_t> bytes) const = 0;

@@ -1,5 +1,7 @@
 #include "ui/containers.h"
 
+#include <algorithm>
+
 void TNotebook::ShowPage(const std::wstring& name) {
     for (TControl* page : Children()) {
         if (page->Name() != name) continue;
@@ -12,13 +14,27 @@ void TNotebook::ShowPage(const std::wstring& name) {
     }
 }
 
-TTabSheet* TPageControl::ActiveSheet() const {
-    if (FActiveSheet != nullptr && FActiveSheet->TabVisible()) return FActiveSheet;
+std::vector<TTabSheet*> TPageControl::OfferedSheets() const {
+    std::vector<TTabSheet*> sheets;
     for (TControl* child : Children()) {
         auto* sheet = static_cast<TTabSheet*>(child);
-        if (sheet->TabVisible()) return sheet;
+        if (sheet->TabVisible()) sheets.push_back(sheet);
     }
-    return nullptr;
+    return sheets;
+}
+
+TTabSheet* TPageControl::ActiveSheet() const {
+    if (FActiveSheet != nullptr && FActiveSheet->TabVisible()) return FActiveSheet;
+    const std::vector<TTabSheet*> sheets = OfferedSheets();
+    return sheets.empty() ? nullptr : sheets.front();
+}
+
+void TPageControl::StepSheet(bool backwards) {
+    const std::vector<TTabSheet*> sheets = OfferedSheets();
+    if (sheets.empty()) return;
+    const auto active = std::find(sheets.begin(), sheets.end(), ActiveSheet());
+    const auto index = static_cast<std::size_t>(active - sheets.begin());
+    SetActiveSheet(*sheets[(index + (backwards ? sheets.size() - 1 : 1)) % sheets.size()]);
 }
 
 void TPageControl::SetActiveSheet(TTabSheet& sheet) {

@@ -46,6 +46,10 @@ class TPageControl : public TControl {
     /// The chosen sheet; the first visible one as long as nothing else was chosen, null when there is none.
     [[nodiscard]] TTabSheet* ActiveSheet() const;
     void SetActiveSheet(TTabSheet& sheet);
+    /// Chooses the sheet after (or before) the chosen one among those offered, round and round.
+    void StepSheet(bool backwards);
+    /// The sheets that have a tab, in order.
+    [[nodiscard]] std::vector<TTabSheet*> OfferedSheets() const;
     void SetTabVisible(TTabSheet& sheet, bool visible);
 
   private:

@@ -32,7 +32,7 @@ constexpr int kUnlimited = 1 << 20;
 
 /// Kinds that take the space that the others of their row or column leave.
 bool Stretches(const TLayoutBox& box) {
-    if (box.Kind == TLayoutKind::Overlay) return true;
+    if (box.Kind == TLayoutKind::Overlay || box.Kind == TLayoutKind::Center) return true;
     if (box.Kind == TLayoutKind::Column || box.Kind == TLayoutKind::Row)
         return std::any_of(box.Boxes.begin(), box.Boxes.end(), Stretches);
     if (box.Kind != TLayoutKind::Control) return false;

@@ -1,6 +1,5 @@
 #include "platform/ext_ini_file.h"
 
-
 #include <gmock/gmock.h>
 
 #include "tests/fakes/fake_system.h"

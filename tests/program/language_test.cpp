@@ -1,7 +1,7 @@
 // The language files beside the program: which one is taken, in which encoding, and what bad ones do.
-#include <set>
-
 #include <shlobj.h>
+
+#include <set>
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,10 @@
 #include "tests/program/registry_values.h"
 
+#include <sddl.h>
+
 #include <cstring>
 #include <iomanip>
 #include <ostream>
-
-#include <sddl.h>
-
 #include <stdexcept>
 
 namespace {

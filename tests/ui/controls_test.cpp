@@ -141,6 +141,10 @@ TEST(TFormTest, NotebooksAndTabsShowOneOfTheirs) {
     auto& a = *form.Find<TTabSheet>(L"A");
     auto& b = *form.Find<TTabSheet>(L"B");
     EXPECT_EQ(tabs.ActiveSheet(), &a);
+    tabs.StepSheet(true);
+    EXPECT_EQ(tabs.ActiveSheet(), &b) << "round and round";
+    tabs.StepSheet(false);
+    EXPECT_EQ(tabs.ActiveSheet(), &a);
     tabs.SetActiveSheet(b);
     tabs.SetTabVisible(b, false);
     EXPECT_EQ(tabs.ActiveSheet(), &a) << "a sheet without a tab cannot be the chosen one";

@@ -102,6 +102,14 @@ TEST(TLayoutTest, LinesUpWhatBelongsTogether) {
     EXPECT_GT(laidOut[L"Long"].Height, laidOut[L"Short"].Height) << "long captions wrap";
 }
 
+TEST(TLayoutTest, CentresInBothDirections) {
+    const TLaidOut laidOut({Center(Row(Label(L"A", L"AAAA"), Label(L"B", L"BB")))}, {0, 0, 300, 200});
+    const int left = laidOut[L"A"].Left;
+    const int right = 300 - TLaidOut::Right(laidOut[L"B"]);
+    EXPECT_NEAR(left, right, 1);
+    EXPECT_NEAR(laidOut[L"A"].Top, 200 - TLaidOut::Bottom(laidOut[L"A"]), 1);
+}
+
 TEST(TLayoutTest, GivesTheSpareRoomToTheNotebookAndCoversItWithThePanel) {
     const TRect area{8, 8, 700, 480};
     const TLaidOut laidOut(

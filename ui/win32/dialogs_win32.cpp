@@ -1,10 +1,9 @@
 #include "ui/win32/dialogs_win32.h"
 
 #include <windows.h>
+#include <commdlg.h>
 
 #include <algorithm>
-
-#include <commdlg.h>
 
 namespace {
 

@@ -50,6 +50,7 @@ int TFormWindow::Run() {
             if (!CreateNextPage()) WaitMessage();
             continue;
         }
+        if (StepSheet(message)) continue;
         if (message.message == WM_QUIT) return static_cast<int>(message.wParam);
         if (Handle() == nullptr || !IsDialogMessageW(Handle(), &message)) {
             TranslateMessage(&message);
@@ -60,6 +61,22 @@ int TFormWindow::Run() {
             FollowFocus(now);
         }
     }
+}
+
+/// Control and Tab choose the next sheet, with Shift the one before, as in the dialogs of Windows.
+bool TFormWindow::StepSheet(const MSG& message) const {
+    if (message.message != WM_KEYDOWN || message.wParam != VK_TAB || GetKeyState(VK_CONTROL) >= 0)
+        return false;
+    for (const auto& component : FForm.Components()) {
+        if (component->Kind() != TComponentKind::PageControl) continue;
+        auto& tabs = static_cast<TPageControl&>(*component);
+        const auto* peer = dynamic_cast<TWindowPeer*>(tabs.Peer());
+        if (peer == nullptr || !IsWindowVisible(peer->Handle())) continue;
+        SetFocus(peer->Handle());  // the control that had it is about to disappear
+        tabs.StepSheet(GetKeyState(VK_SHIFT) < 0);
+        return true;
+    }
+    return false;
 }
 
 /// Scrolls the control that has the focus into sight.
@@ -132,7 +149,11 @@ bool TFormWindow::CreateNextPage() {
         if (component->Kind() != TComponentKind::NotebookPage) continue;
         auto& page = static_cast<TControl&>(*component);
         if (page.Peer() == nullptr || FCreatedPages.contains(&page)) continue;
-        CreatePage(page);
+        try {
+            CreatePage(page);
+        } catch (...) {
+            Fault(std::current_exception());
+        }
         return true;
     }
     return false;

@@ -73,6 +73,7 @@ class TFormWindow : public TFormPeer {
     };
 
     bool CreateNextPage();
+    bool StepSheet(const MSG& message) const;
     void FollowFocus(HWND focus) const;
     void LayOutChanged();
     void Destroyed();

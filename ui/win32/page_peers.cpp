@@ -38,15 +38,6 @@ TPageControlPeer::TPageControlPeer(TFormWindow& form, TPageControl& tabs, HWND p
     Create(parent, WC_TABCONTROLW, WS_CLIPSIBLINGS | WS_TABSTOP | WS_GROUP);
 }
 
-std::vector<TTabSheet*> TPageControlPeer::OfferedSheets() const {
-    std::vector<TTabSheet*> sheets;
-    for (TControl* child : Control().Children()) {
-        auto* sheet = static_cast<TTabSheet*>(child);
-        if (sheet->TabVisible()) sheets.push_back(sheet);
-    }
-    return sheets;
-}
-
 void TPageControlPeer::Update(TControlAspect aspect) {
     TWindowPeer::Update(aspect);
     if (aspect == TControlAspect::Items) PlaceSheets();  // the tabs may need another number of lines
@@ -55,7 +46,7 @@ void TPageControlPeer::Update(TControlAspect aspect) {
 void TPageControlPeer::ShowItems() {
     Send(TCM_DELETEALLITEMS);
     int index = 0;
-    for (const TTabSheet* sheet : OfferedSheets()) {
+    for (const TTabSheet* sheet : static_cast<TPageControl&>(Control()).OfferedSheets()) {
         std::wstring caption = sheet->Caption();
         TCITEMW item{};
         item.mask = TCIF_TEXT;
@@ -65,8 +56,9 @@ void TPageControlPeer::ShowItems() {
 }
 
 void TPageControlPeer::ShowState() {
-    const TTabSheet* active = static_cast<TPageControl&>(Control()).ActiveSheet();
-    const std::vector<TTabSheet*> sheets = OfferedSheets();
+    const auto& tabs = static_cast<TPageControl&>(Control());
+    const TTabSheet* active = tabs.ActiveSheet();
+    const std::vector<TTabSheet*> sheets = tabs.OfferedSheets();
     for (std::size_t i = 0; i < sheets.size(); ++i) {
         if (sheets[i] == active) Send(TCM_SETCURSEL, i);
     }
@@ -77,9 +69,10 @@ void TPageControlPeer::ShowState() {
 
 LRESULT TPageControlPeer::OnNotify(NMHDR& header) {
     if (header.code != static_cast<UINT>(TCN_SELCHANGE)) return 0;
-    const std::vector<TTabSheet*> sheets = OfferedSheets();
+    auto& tabs = static_cast<TPageControl&>(Control());
+    const std::vector<TTabSheet*> sheets = tabs.OfferedSheets();
     const auto chosen = static_cast<std::size_t>(Send(TCM_GETCURSEL));
-    if (chosen < sheets.size()) static_cast<TPageControl&>(Control()).SetActiveSheet(*sheets[chosen]);
+    if (chosen < sheets.size()) tabs.SetActiveSheet(*sheets[chosen]);
     return 0;
 }
 

@@ -32,7 +32,6 @@ class TPageControlPeer : public TWindowPeer {
     void ShowItems() override;
 
   private:
-    [[nodiscard]] std::vector<TTabSheet*> OfferedSheets() const;
     void PlaceSheets();
 };
 
