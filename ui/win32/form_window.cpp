@@ -39,7 +39,8 @@ void TFormWindow::Show(int showCommand) {
     }
     FWindow.Open();
     ShowWindow(Handle(), showCommand);
-    UpdateWindow(Handle());
+    // All at once: the inner windows would otherwise come one after the other.
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 int TFormWindow::Run() {
