@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Builds both programs on Debian 12, installing what the machine lacks. Leaves dist/win32 and dist/win64; each runs as it
+# stands when copied elsewhere.
+set -euo pipefail
+. "$(dirname "$0")/lib.sh"
+
+RequirePackages "${BuildPackages[@]}"
+
+for Target in win32 win64; do
+    BuildPreset "$Target" --target Quilltune
+    Folder="$Root/dist/$Target"
+    rm -rf "$Folder"
+    mkdir -p "$Folder/Toolbox_Language"
+    cp "$Root/build/$Target/Quilltune.exe" "$Folder/"
+    cp "$Root"/languages/*.lng "$Folder/Toolbox_Language/"
+    Say "$(cd "$Root" && ls -l "dist/$Target/Quilltune.exe")"
+done

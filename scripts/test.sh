@@ -1,0 +1,139 @@
+#!/usr/bin/env bash
+# Runs every check and test on Debian 12, installing what the machine lacks. The last line is the sum:
+# "N passed, N failed", with ", N skipped" when something could not run here. Fails when anything failed.
+set -euo pipefail
+. "$(dirname "$0")/lib.sh"
+
+RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" libgtest-dev libgmock-dev clang-format clang-tidy debootstrap
+
+Passed=0
+Failed=0
+Skipped=0
+SkipReasons=()
+
+Work=$(mktemp -d "${TMPDIR:-/tmp}/quilltune-test.XXXXXX")
+# What ran in the Wine root left files of root's.
+trap 'rm -rf "$Work" 2>/dev/null || AsRoot rm -rf "$Work"' EXIT
+
+Pass() { Passed=$((Passed + $1)); }
+Fail() { Failed=$((Failed + $1)); }
+Skip() { Skipped=$((Skipped + $1)); }
+
+# A check is one command; what it says is shown only when it fails.
+Check() {
+    local name=$1
+    shift
+    if "$@" >"$Work/check.log" 2>&1; then
+        Pass 1
+        echo "ok: $name"
+    else
+        Fail 1
+        echo "FAILED: $name"
+        sed 's/^/    /' "$Work/check.log"
+    fi
+}
+
+# Builds something, with its output to be seen. Whatever could not be built fails again where it is missed.
+Build() {
+    local name=$1
+    shift
+    if "$@"; then
+        Pass 1
+        echo "ok: building the $name"
+    else
+        Fail 1
+        echo "FAILED: building the $name"
+    fi
+}
+
+# Counts the tests in the googletest log $2 of the suite $1, which ended with the status $3 (empty: it did not end).
+CountTests() {
+    local name=$1 log=$2 status=$3 ok bad skip
+    touch "$log"
+    sed -i 's/\r$//' "$log"
+    ok=$(grep -c '^\[       OK \] ' "$log" || true)
+    bad=$(grep -cE '^\[  FAILED  \] .* \([0-9]+ ms\)$' "$log" || true)
+    skip=$(grep -cE '^\[  SKIPPED \] .* \([0-9]+ ms\)$' "$log" || true)
+    # A run that stops half-way or says nothing of a failure is a failure of its own.
+    if [ "$status" != 0 ] && [ "$bad" = 0 ] || [ $((ok + bad + skip)) = 0 ] || ! grep -q '^\[==========\] .* ran\.' "$log"; then
+        bad=$((bad + 1))
+        echo "FAILED: $name did not end as it should (status ${status:-none: out of time})"
+    fi
+    echo "$name: $ok passed, $bad failed, $skip skipped"
+    [ "$bad" = 0 ] || sed 's/^/    /' "$log"
+    Pass "$ok"
+    Fail "$bad"
+    Skip "$skip"
+    while read -r line; do
+        SkipReasons+=("$name: $line")
+    done < <(grep -A 1 -E ': Skipped$' "$log" | grep -vE ': Skipped$|^--$' || true)
+}
+
+NativeTests() {
+    local name=$1 status=0
+    "$Root/build/native/tests/$name" >"$Work/native_$name.log" 2>&1 </dev/null || status=$?
+    CountTests "$name (native, sanitizers)" "$Work/native_$name.log" "$status"
+}
+
+# Reports what wine_tests.sh has left in the folder $1 about the given test programs, as suites called "... ($2)".
+CountWineTests() {
+    local folder=$1 where=$2 name
+    shift 2
+    for name in "$@"; do
+        CountTests "$name ($where)" "$folder/$name.log" "$(cat "$folder/$name.status" 2>/dev/null || true)"
+    done
+}
+
+# The root with 32-bit Wine is downloaded while everything else is built.
+RootLog="$Work/wine_root.log"
+if CanBeRoot; then
+    "$Root/scripts/wine_root.sh" >"$Work/wine_root" 2>"$RootLog" &
+    RootJob=$!
+else
+    echo "no root rights on this machine" >"$RootLog"
+    RootJob=
+fi
+
+Build "unit tests" BuildPreset native
+Build "32-bit tests" BuildPreset win32 --target contract_tests
+Build "64-bit tests" BuildPreset win64 --target contract_tests peer_tests program_tests
+Build "programs" "$Root/scripts/build.sh"
+mkdir "$Work/dist"
+cp -r "$Root"/dist/* "$Work/dist/" || true
+
+Checks="$Root/tests/checks"
+Check "formatting" "$Checks/format.sh"
+Check "clang-tidy" "$Checks/tidy.sh"
+Check "include directions" "$Checks/includes.sh"
+for Target in win32 win64; do
+    Check "imports of the $Target program" "$Checks/imports.sh" "$Root/dist/$Target/Quilltune.exe"
+    Check "file of the $Target program" "$Checks/program_file.sh" "$Root/dist/$Target/Quilltune.exe"
+done
+
+NativeTests unit_tests
+NativeTests contract_tests
+
+mkdir "$Work/win64"
+"$Root/scripts/wine_tests.sh" "$Work/win64" "$Work/dist/win64" \
+    "$Root"/build/win64/tests/{contract_tests,peer_tests,program_tests}.exe >"$Work/win64/run.log" 2>&1 ||
+    cat "$Work/win64/run.log"
+CountWineTests "$Work/win64" "win64" contract_tests peer_tests program_tests
+
+# The 32-bit program on a 64-bit system: the 64-bit program_tests drives it, and sees the 64-bit view of the registry.
+if [ -n "$RootJob" ] && wait "$RootJob"; then
+    mkdir "$Work/win32"
+    AsRoot "$Root/scripts/in_wine_root.sh" "$(cat "$Work/wine_root")" "$Work" "$Root/scripts/wine_tests.sh" \
+        "$Work/win32" "$Work/dist/win32" \
+        "$Root/build/win32/tests/contract_tests.exe" "$Root/build/win64/tests/program_tests.exe" \
+        >"$Work/win32/run.log" 2>&1 || cat "$Work/win32/run.log"
+    CountWineTests "$Work/win32" "win32" contract_tests program_tests
+else
+    Skip 2
+    SkipReasons+=("contract_tests and program_tests (win32): no root with 32-bit Wine: $(tail -n 1 "$RootLog")")
+fi
+
+[ ${#SkipReasons[@]} = 0 ] || printf 'skipped: %s\n' "${SkipReasons[@]}"
+Sum="$Passed passed, $Failed failed"
+[ "$Skipped" = 0 ] || Sum+=", $Skipped skipped"
+echo "$Sum"
+[ "$Failed" = 0 ]
