@@ -14,4 +14,4 @@ Work=$(mktemp -d "${TMPDIR:-/tmp}/quilltune-bench.XXXXXX")
 StartXvfb
 trap 'EndPrefix; kill "$XvfbId"; rm -rf "$Work"' EXIT
 MakePrefix "$Work/prefix"
-wine "$Root/build/win64/tests/startup_bench.exe" "$(WindowsPath "$Root/dist/win64")\\Quilltune.exe" "${1:-15}"
+wine "$Root/build/win64/tools/startup_bench.exe" "$(WindowsPath "$Root/dist/win64")\\Quilltune.exe" "${1:-15}"

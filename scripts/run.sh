@@ -11,7 +11,7 @@ RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" imagemagick
 "$Root/scripts/build.sh"
 
 Program="$Root/dist/win64/Quilltune.exe"
-Drive="$Root/build/win64/tests/drive.exe"
+Drive="$Root/build/win64/tools/drive.exe"
 Screenshots="$Root/build/screenshots"
 Prefix="$Root/build/wine-prefix"
 Key='HKLM\System\CurrentControlSet\Control\FileSystem'

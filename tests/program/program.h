@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/program/automation.h"
 #include "tests/program/registry_values.h"
+#include "tools/automation.h"
 
 /// The folder with the program, from the environment variable QUILLTUNE_DIR, without a trailing backslash.
 [[nodiscard]] std::wstring ProgramFolder();

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "tests/program/automation.h"
+#include "tools/automation.h"
 
 namespace {
 

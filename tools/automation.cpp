@@ -1,4 +1,4 @@
-#include "tests/program/automation.h"
+#include "tools/automation.h"
 
 #include <commctrl.h>
 
