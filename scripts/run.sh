@@ -50,6 +50,7 @@ StartProgram() {
 # Takes a picture of the main window alone.
 Photograph() {
     local x y width height
+    sleep 0.5  # a window is painted when its program has nothing more urgent to do
     read -r x y width height <<<"$(Drive rect)"
     import -window root -crop "${width}x$height+$x+$y" +repage "$Screenshots/$1.png"
 }
