@@ -164,7 +164,7 @@ void TQuilltune_FormMain::Timer_LoadingTimer() {
     timer->SetEnabled(false);
     auto* animation = Find<TImage>(L"ImageNote_Animate");
     animation->SetFrame((animation->Frame() + 1) % kFrameCount);
-    const auto dots = static_cast<std::size_t>(animation->Frame() + 1);
+    const auto dots = static_cast<std::size_t>(animation->Frame()) + 1;
     Find(L"Label_Wait")->SetCaption(FContext.Captions[TCaption::Loading] + std::wstring(dots, L'.'));
     if (!FLoadingFinished) {
         timer->SetEnabled(true);

@@ -1,6 +1,6 @@
 #include "engine/sys_control.h"
 
-#include <ranges>
+#include <algorithm>
 #include <string_view>
 
 #include "engine/reg_value.h"
@@ -51,18 +51,17 @@ void TSysControl::ReadCurrent(TRegRecor& record) const {
 }
 
 void TSysControl::ReadPending(TRegRecor& record) const {
-    for (const TRegRecor& change : std::views::reverse(FPending)) {
-        if (!Concerns(change, record)) continue;
-        if (change.Action == TRegAction::Write) {
-            record.ReadResult = TReadStatus::Found;
-            record.DataType = change.DataType;
-            record.Value = change.Value;
-        } else {
-            record.ReadResult = TReadStatus::ValueMissing;
-        }
-        return;
+    const auto change = std::find_if(FPending.rbegin(), FPending.rend(),
+                                     [&](const TRegRecor& entry) { return Concerns(entry, record); });
+    if (change == FPending.rend()) {
+        ReadCurrent(record);
+    } else if (change->Action == TRegAction::Write) {
+        record.ReadResult = TReadStatus::Found;
+        record.DataType = change->DataType;
+        record.Value = change->Value;
+    } else {
+        record.ReadResult = TReadStatus::ValueMissing;
     }
-    ReadCurrent(record);
 }
 
 TReadStatus TSysControl::CheckExists(const TRegRecor& record) const {

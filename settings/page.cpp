@@ -50,7 +50,7 @@ void TPage::Listen(TControl& container) {
     }
 }
 
-void TPage::ApplyPreset(const TPreset& preset) {
+void TPage::ApplyPreset(const TPreset& preset) const {
     for (const TPresetState& state : preset.States) {
         TControl* control = FContext.Form.Find(state.Control);
         if (control == nullptr) continue;

@@ -44,7 +44,7 @@ class TPage {
 
   private:
     void Listen(TControl& container);
-    void ApplyPreset(const TPreset& preset);
+    void ApplyPreset(const TPreset& preset) const;
 
     const TPageDefinition& FDefinition;
     TPageContext& FContext;
