@@ -10,6 +10,7 @@ void TNotebook::ShowPage(const std::wstring& name) {
         FActivePage = page;
         page->SetVisible(true);
         if (previous != nullptr) previous->SetVisible(false);
+        UpdatePeer(TControlAspect::State);
         return;
     }
 }

@@ -5,6 +5,7 @@
 
 #include "ui/containers.h"
 #include "ui/controls.h"
+#include "ui/win32/page_peers.h"
 
 namespace {
 
@@ -137,27 +138,36 @@ void TFormWindow::Fault(std::exception_ptr fault) const {
 }
 
 void TFormWindow::CreatePage(TControl& page) {
-    if (!FCreatedPages.insert(&page).second) return;
+    auto& notebook = static_cast<TNotebookPeer&>(*page.Parent()->Peer());
+    if (page.Peer() == nullptr) notebook.CreatePage(page);
+    if (!FFilledPages.insert(&page).second) return;
     auto& peer = static_cast<TContainerPeer&>(*page.Peer());
     peer.CreateContent();
     peer.LayOut();
 }
 
-/// Creates the content of one hidden notebook page; false when all pages have theirs.
+/// Creates the window of one notebook page, or the content of one when all have their windows; false when there is
+/// nothing left to create.
 bool TFormWindow::CreateNextPage() {
     if (Handle() == nullptr) return false;
-    for (const auto& component : FForm.Components()) {
-        if (component->Kind() != TComponentKind::NotebookPage) continue;
-        auto& page = static_cast<TControl&>(*component);
-        if (page.Peer() == nullptr || FCreatedPages.contains(&page)) continue;
-        try {
-            CreatePage(page);
-        } catch (...) {
-            Fault(std::current_exception());
+    try {
+        TControl* unfilled = nullptr;
+        for (const auto& component : FForm.Components()) {
+            if (component->Kind() != TComponentKind::NotebookPage) continue;
+            auto& page = static_cast<TControl&>(*component);
+            if (page.Peer() == nullptr) {
+                static_cast<TNotebookPeer&>(*page.Parent()->Peer()).CreatePage(page);
+                return true;
+            }
+            if (unfilled == nullptr && !FFilledPages.contains(&page)) unfilled = &page;
         }
+        if (unfilled == nullptr) return false;
+        CreatePage(*unfilled);
         return true;
+    } catch (...) {
+        Fault(std::current_exception());
+        return false;
     }
-    return false;
 }
 
 unsigned TFormWindow::StartTimer(TTimer& timer) {

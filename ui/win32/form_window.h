@@ -51,7 +51,7 @@ class TFormWindow : public TFormPeer {
     /// Lays the control's container out anew once the present message is handled.
     void LayOutLater(const TControl& control);
     void Fault(std::exception_ptr fault) const;
-    /// Creates the content of a notebook page if it does not exist yet.
+    /// Creates the window and the content of a notebook page as far as they do not exist yet.
     void CreatePage(TControl& page);
     /// Lets the timer tick until StopTimer; the answer identifies it.
     [[nodiscard]] unsigned StartTimer(TTimer& timer);
@@ -84,8 +84,8 @@ class TFormWindow : public TFormPeer {
     TScreen FScreen;
     TPictureStore FPictures;
     std::unordered_map<HWND, TWindowPeer*> FPeers;
-    std::set<const TControl*> FChanged;       ///< containers to lay out
-    std::set<const TControl*> FCreatedPages;  ///< notebook pages whose content exists
+    std::set<const TControl*> FChanged;      ///< containers to lay out
+    std::set<const TControl*> FFilledPages;  ///< notebook pages whose content exists
     std::unordered_map<unsigned, TTimer*> FTimers;
     int FLastCommandId = 100;
     unsigned FLastTimerId = 0;

@@ -23,12 +23,16 @@ void TNotebookPeer::PlaceContent(const TRect& area) {
     }
 }
 
-TNotebookPagePeer::TNotebookPagePeer(TFormWindow& form, TNotebookPage& page, HWND parent)
-    : TPlainContainerPeer(form, page, parent, 0) {}
+void TNotebookPeer::CreatePage(TControl& page) {
+    CreatePeer(FForm, page, Handle());
+    RECT area{};
+    GetClientRect(Handle(), &area);
+    PeerOf(page)->Place({0, 0, area.right, area.bottom});
+}
 
-void TNotebookPagePeer::Update(TControlAspect aspect) {
-    if (aspect == TControlAspect::Visible && Control().Visible()) FForm.CreatePage(Control());
-    TPlainContainerPeer::Update(aspect);
+void TNotebookPeer::ShowState() {
+    if (Control().Peer() != this) return;  // still being created
+    if (TControl* page = static_cast<TNotebook&>(Control()).ActivePage()) FForm.CreatePage(*page);
 }
 
 TPageControlPeer::TPageControlPeer(TFormWindow& form, TPageControl& tabs, HWND parent)

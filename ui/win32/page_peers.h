@@ -4,19 +4,18 @@
 #include "ui/containers.h"
 #include "ui/win32/container_peer.h"
 
-/// Its pages fill it; the content of each is created when the page is first shown.
+/// Its pages fill it. The window of a page is created when the page is first shown, or when there is nothing else to
+/// do (TFormWindow::Run).
 class TNotebookPeer : public TContainerPeer {
   public:
     TNotebookPeer(TFormWindow& form, TNotebook& notebook, HWND parent);
 
-  protected:
-    void PlaceContent(const TRect& area) override;
-};
+    /// Creates a page's window, still without content.
+    void CreatePage(TControl& page);
 
-class TNotebookPagePeer : public TPlainContainerPeer {
-  public:
-    TNotebookPagePeer(TFormWindow& form, TNotebookPage& page, HWND parent);
-    void Update(TControlAspect aspect) override;
+  protected:
+    void ShowState() override;
+    void PlaceContent(const TRect& area) override;
 };
 
 /// The tabs. The sheets are windows beside it that lie over its display area.

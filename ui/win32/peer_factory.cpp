@@ -32,7 +32,7 @@ std::unique_ptr<TPeer> MakePeer(TFormWindow& form, TControl& control, HWND paren
         case TComponentKind::Notebook:
             return Make<TNotebookPeer, TNotebook>(form, control, parent);
         case TComponentKind::NotebookPage:
-            return Make<TNotebookPagePeer, TNotebookPage>(form, control, parent);
+            return std::make_unique<TPlainContainerPeer>(form, control, parent, 0);
         case TComponentKind::PageControl:
             return Make<TPageControlPeer, TPageControl>(form, control, parent);
         case TComponentKind::TabSheet:
@@ -80,9 +80,11 @@ std::unique_ptr<TPeer> MakePeer(TFormWindow& form, TControl& control, HWND paren
 void CreatePeer(TFormWindow& form, TControl& control, HWND parent) {
     control.SetPeer(MakePeer(form, control, parent));
     switch (control.Kind()) {
-        case TComponentKind::NotebookPage:
-            if (control.Visible()) form.CreatePage(control);  // otherwise when it is first shown
+        case TComponentKind::Notebook:
+            control.Peer()->Update(TControlAspect::State);  // creates the chosen page, the others come later
             return;
+        case TComponentKind::NotebookPage:
+            return;  // its content comes later, too
         case TComponentKind::PageControl:
             return;  // it must see its sheets before itself
         case TComponentKind::GroupBox:
