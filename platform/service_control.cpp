@@ -30,7 +30,7 @@ class TOpenService {
 
 }  // namespace
 
-bool StartServiceByName(TSystem& system, const std::wstring& serviceName) {
+bool StartServiceByName(TSystem& system, const std::wstring& serviceName) try {
     constexpr std::uint32_t kWait = 500;
     TServiceManager& services = system.Services;
     const TOpenService service(services, serviceName, kServiceAllAccess);
@@ -44,9 +44,11 @@ bool StartServiceByName(TSystem& system, const std::wstring& serviceName) {
         system.Clock.Sleep(kWait);
     }
     return state == TServiceState::Running;
+} catch (...) {
+    return false;
 }
 
-bool StopServiceByName(TSystem& system, const std::wstring& serviceName) {
+bool StopServiceByName(TSystem& system, const std::wstring& serviceName) try {
     constexpr std::uint32_t kWait = 1000;
     TServiceManager& services = system.Services;
     const TOpenService service(services, serviceName, kServiceAllAccess);
@@ -60,6 +62,8 @@ bool StopServiceByName(TSystem& system, const std::wstring& serviceName) {
         system.Clock.Sleep(kWait);
     }
     return state == TServiceState::Stopped;
+} catch (...) {
+    return false;
 }
 
 TServiceAnswer QueryServiceRunning(TSystem& system, const std::wstring& serviceName) {

@@ -57,7 +57,7 @@ CountTests() {
     # A run that stops half-way or says nothing of a failure is a failure of its own.
     if [ "$status" != 0 ] && [ "$bad" = 0 ] || [ $((ok + bad + skip)) = 0 ] || ! grep -q '^\[==========\] .* ran\.' "$log"; then
         bad=$((bad + 1))
-        echo "FAILED: $name did not end as it should (status ${status:-none: out of time})"
+        echo "FAILED: $name did not end as it should (status ${status:-none: stopped, or never started})"
     fi
     echo "$name: $ok passed, $bad failed, $skip skipped"
     [ "$bad" = 0 ] || sed 's/^/    /' "$log"
@@ -120,10 +120,10 @@ mkdir "$Work/win64"
 CountWineTests "$Work/win64" "win64" contract_tests peer_tests program_tests
 
 # The 32-bit program on a 64-bit system: the 64-bit program_tests drives it, and sees the 64-bit view of the registry.
-if [ -n "$RootJob" ] && wait "$RootJob"; then
+InWineRoot() { AsRoot "$Root/scripts/in_wine_root.sh" "$(cat "$Work/wine_root")" "$Work" "$@"; }
+if [ -n "$RootJob" ] && wait "$RootJob" && InWineRoot true 2>>"$RootLog"; then
     mkdir "$Work/win32"
-    AsRoot "$Root/scripts/in_wine_root.sh" "$(cat "$Work/wine_root")" "$Work" "$Root/scripts/wine_tests.sh" \
-        "$Work/win32" "$Work/dist/win32" \
+    InWineRoot "$Root/scripts/wine_tests.sh" "$Work/win32" "$Work/dist/win32" \
         "$Root/build/win32/tests/contract_tests.exe" "$Root/build/win64/tests/program_tests.exe" \
         >"$Work/win32/run.log" 2>&1 || cat "$Work/win32/run.log"
     CountWineTests "$Work/win32" "win32" contract_tests program_tests

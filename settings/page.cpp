@@ -1,5 +1,6 @@
 #include "settings/page.h"
 
+#include "platform/numeric_fields.h"
 #include "ui/controls.h"
 
 TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl& notebook,
@@ -7,6 +8,8 @@ TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl&
     : FDefinition(definition), FContext(context), FChanged(std::move(changed)) {
     FContext.Form.Build(notebook, definition.Design());
     Listen(*FContext.Form.Find(std::to_wstring(definition.Tag)));
+    BindNumericFields(FContext.Form, definition.SharedHandler,
+                      [this](TComponent& sender) { Changed(sender); });
     for (const TPreset& preset : definition.Presets) {
         if (auto* button = FContext.Form.Find<TButton>(preset.Button))
             button->OnClick = [this, &preset](TComponent&) { ApplyPreset(preset); };

@@ -1,5 +1,6 @@
 // Program entry.
 #include "app/main_window.h"
+#include "app/win32/fault_hooks.h"
 #include "app/win32/single_instance.h"
 #include "platform/win32/win32_system.h"
 #include "ui/win32/dialogs_win32.h"
@@ -19,11 +20,12 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandL
     TWin32Dialogs dialogs;
     TWin32System platform(dialogs);
     TSystem& system = platform.System();
+    TFaultLog faultLog(system);
+    const TFaultHooks hooks(faultLog);
     TQuilltune_FormMain form(system);
     // Faults show no dialog and do not end the program.
-    TFormWindow& window = TFormWindow::Attach(form, instance, [&system](const std::exception_ptr&) {
-        system.Shell.DebugOutput(L"Quilltune: fault in an event handler");
-    });
+    TFormWindow& window = TFormWindow::Attach(
+        form, instance, [&faultLog](const std::exception_ptr& fault) { faultLog.Add(fault); });
     window.OnMessage = [&window](UINT message) {
         if (message != TSingleInstance::kComeForward) return false;
         window.ComeForward();

@@ -20,9 +20,7 @@ TFakeVersionResource Resource() {
     TFakeVersionResource resource;
     resource.Blocks[kTranslation] = {0x09, 0x04, 0xE4, 0x04, 0x07, 0x04, 0xB0, 0x04};
     for (const wchar_t* name : kNames) resource.Texts[kTexts + name] = name;
-    std::vector<std::uint8_t> fixed(52);
-    for (std::size_t i = 0; i < fixed.size(); ++i) fixed[i] = static_cast<std::uint8_t>(i);
-    resource.Blocks[L"\\"] = fixed;
+    for (std::uint8_t i = 0; i < 52; ++i) resource.Blocks[L"\\"].push_back(i);
     return resource;
 }
 

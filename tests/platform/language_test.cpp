@@ -35,7 +35,7 @@ TEST_F(TLanguageTest, ListsBothFolders) {
     PutLanguage(L"Language", L"Latin", "");
     PutLanguage(L"Toolbox_Language", L"Deutsch", "\xEF\xBB\xBF[main]\ndisplayname = Hochdeutsch\n");
     PutLanguage(L"Toolbox_Language", L"english", "[Main]\nDisplayName=English (new)\n");
-    PutLanguage(L"Toolbox_Language", L"Readme.txt", "");
+    PutLanguage(L"Toolbox_Language", L"Readme.txt", "");  // Readme.txt.lng
     Fake.Files.PutText(kToolbox + L"\\note.txt", "[Main]\n");
 
     const TLanguage language(Fake.System, L"Scanner", kToolbox + L'\\');
@@ -55,29 +55,19 @@ TEST_F(TLanguageTest, LoadsTheChosenLanguageElseEnglish) {
     // As Windows finds it, though no search for language files in the folder does.
     PutNamed(L"Toolbox_Language\\..", L"Outside", "Outside");
     Fake.Files.Lock(kToolbox + L"\\Locked.lng");
-    const struct {
-        const wchar_t* Name;
-        const wchar_t* Loaded;
-        int Index;
-    } kCases[] = {
-        {L"Deutsch", L"Deutsch", 2},
-        {L"dEUTSCH", L"Deutsch", 2},
-        {L"English", L"English", 0},  // listed first for the other folder
-        {L"Latin", L"English", 0},    // listed, but only the folder scanned last is looked in
-        {L"Locked", L"English", 0},
-        {L"Klingon", L"English", 0},
-        {L"", L"English", 0},
-        {L"..\\Outside", L"English", 0},
-        {L"Deutsch.lng", L"English", 0},
-    };
-    for (const auto& each : kCases) {
+    const auto expectLoaded = [this](const wchar_t* name, const std::wstring& loaded, int index) {
         TLanguage language(Fake.System, L"Scanner", kToolbox);
-        language.LoadLanguage(each.Name);
-        EXPECT_EQ(Loaded(language), each.Loaded) << testing::PrintToString(std::wstring(each.Name));
-        EXPECT_EQ(language.Index(), each.Index);
+        language.LoadLanguage(name);
+        EXPECT_EQ(Loaded(language), loaded) << testing::PrintToString(name);
+        EXPECT_EQ(language.Index(), index);
         ASSERT_EQ(language.ModuleStrings().Count(), 1U);
-        EXPECT_EQ(language.ModuleStrings().Line(0), std::wstring(each.Loaded) + L"=1");
-    }
+        EXPECT_EQ(language.ModuleStrings().Line(0), loaded + L"=1");
+    };
+    for (const wchar_t* name : {L"Deutsch", L"dEUTSCH"}) expectLoaded(name, L"Deutsch", 2);
+    // English is listed first for the other folder; Latin is listed, but only the folder scanned last is looked in.
+    for (const wchar_t* name :
+         {L"English", L"Latin", L"Locked", L"Klingon", L"", L"..\\Outside", L"Deutsch.lng"})
+        expectLoaded(name, L"English", 0);
 }
 
 TEST_F(TLanguageTest, WithoutEnglishKeepsWhatWasLoaded) {
@@ -128,26 +118,19 @@ class TTranslateTest : public TLanguageTest {
 };
 
 TEST_F(TTranslateTest, TranslatesTheKindsThatHaveTexts) {
-    const std::pair<const wchar_t*, const wchar_t*> kCaptions[] = {
-        // Translated:
-        {L"Sheet1", L"SHEET"},
-        {L"Group1", L"GROUP"},
-        {L"Check1", L"CHECK"},
-        {L"Radio1", L"RADIO"},
-        {L"Label1", L"LABEL"},
-        {L"Button1", L"BUTTON"},
-        // Without a key, or of a kind that keeps its text:
-        {L"Label2", L"label"},
-        {L"Cat1", L"category"},
-        {L"Item1", L"item"},
-        {L"Panel1", L""},
-    };
     Translate(
         "main.caption=FORM\nSheet1.Caption=SHEET\nGroup1.Caption=GROUP\nCheck1.Caption=CHECK\n"
         "Radio1.Caption=RADIO\nLabel1.Caption=LABEL\nButton1.Caption=BUTTON\nCat1.Caption=no\n"
         "Item1.Caption=no\nPanel1.Caption=no\nEdit1.Caption=no\n");
     EXPECT_EQ(Form.Caption(), L"FORM");
-    for (const auto& [name, caption] : kCaptions) EXPECT_EQ(Caption(name), caption);
+    std::vector<std::wstring> captions;
+    for (const auto& each : Form.Components())
+        captions.push_back(each->Name() + L"=" + static_cast<const TControl&>(*each).Caption());
+    // Those in small letters have no key or are of a kind that keeps its text.
+    EXPECT_THAT(captions, testing::UnorderedElementsAre(
+                              L"Sheet1=SHEET", L"Group1=GROUP", L"Check1=CHECK", L"Radio1=RADIO", L"Panel1=",
+                              L"Label1=LABEL", L"Label2=label", L"Edit1=", L"Button1=BUTTON",
+                              L"Cat1=category", L"Item1=item", L"Combo1=", L"List1="));
     EXPECT_EQ(Form.Find<TEdit>(L"Edit1")->Text(), L"edit");
 }
 

@@ -21,10 +21,11 @@ TEST(TAppFrame, KnowsTheFolders) {
 TEST(TSuiteLanguage, ComesFromTheSuitesConfiguration) {
     TFakeSystem fake;
     fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Data");
+    const std::wstring file = L"C:\\Data\\Vandrel\\Orbicare V4\\Main.ini";
     EXPECT_EQ(GetSuiteLanguage(fake.System), L"English");
-    fake.Files.PutText(L"C:\\Data\\Vandrel\\Orbicare V4\\Main.ini", "[Main]\r\nLanguage=Deutsch\r\n");
+    fake.Files.PutText(file, "[Main]\r\nLanguage=Deutsch\r\n");
     EXPECT_EQ(GetSuiteLanguage(fake.System), L"Deutsch");
-    fake.Files.PutText(L"C:\\Data\\Vandrel\\Orbicare V4\\Main.ini", "[Other]\r\nLanguage=Deutsch\r\n");
+    fake.Files.PutText(file, "[Other]\r\nLanguage=Deutsch\r\n");
     EXPECT_EQ(GetSuiteLanguage(fake.System), L"English");
 }
 

@@ -1,5 +1,7 @@
 #include "platform/text.h"
 
+#include <cstring>
+
 #include <gmock/gmock.h>
 
 #include "tests/fakes/fake_windows_info.h"
@@ -27,10 +29,7 @@ TEST(TDecodeText, ByteOrderMarkSelectsTheEncoding) {
 }
 
 TEST(TDecodeText, MalformedUtf8BecomesReplacementCharacters) {
-    const struct {
-        const char* Bytes;
-        const wchar_t* Text;
-    } kCases[] = {
+    const std::pair<const char*, const wchar_t*> cases[] = {
         {"a\x80z", L"a\uFFFDz"},                            // a trail without lead
         {"a\xC3z", L"a\uFFFDz"},                            // a lead without trail
         {"a\xE2\x82", L"a\uFFFD"},                          // cut off at the end
@@ -42,7 +41,11 @@ TEST(TDecodeText, MalformedUtf8BecomesReplacementCharacters) {
         {"\xF4\x90\x80\x80", L"\uFFFD\uFFFD\uFFFD\uFFFD"},  // beyond the last code point
         {"\xF4\x8F\xBF\xBD\xFF", L"\U0010FFFD\uFFFD"},      // the last one that is not
     };
-    for (const auto& each : kCases) EXPECT_EQ(Decoded("\xEF\xBB\xBF"s + each.Bytes), each.Text);
+    for (const auto& [bytes, text] : cases) {
+        EXPECT_EQ(Decoded("\xEF\xBB\xBF"s + bytes), text);
+        const std::vector<std::uint8_t> unmarked(bytes, bytes + std::strlen(bytes));
+        EXPECT_EQ(DecodeUtf8OrAnsi(unmarked, TFakeWindowsInfo()).Encoding, TTextEncoding::Ansi) << bytes;
+    }
 }
 
 TEST(TDecodeText, MalformedUtf16BecomesReplacementCharacters) {
@@ -74,61 +77,36 @@ TEST(TText, TrimsControlCharactersAndBlanks) {
 }
 
 TEST(TText, ComparesWithoutCase) {
-    const struct {
-        const wchar_t* A;
-        const wchar_t* B;
-        bool Same;
-    } kCases[] = {
-        {L"", L"", true},
-        {L"AZ@[", L"az@[", true},
-        {L"@[", L"`{", false},
-        {L"\u00C4\u00DE", L"\u00E4\u00FE", true},
-        {L"\u00D7\u00DF", L"\u00F7\u00FF", false},  // signs and the sharp s are nobody's capitals
-        {L"\u0100\u012E\u0132\u0139\u0147\u014A\u0176\u0178\u017D",
-         L"\u0101\u012F\u0133\u013A\u0148\u014B\u0177\u00FF\u017E", true},
-        {L"\u0130", L"i", false},
-        {L"\u0138", L"\u0139", false},
-        {L"\u0148", L"\u0149", false},
-        {L"\u0386\u0388\u038A\u038C\u038E\u038F\u0391\u03A9\u03AB",
-         L"\u03AC\u03AD\u03AF\u03CC\u03CD\u03CE\u03B1\u03C9\u03CB", true},
-        {L"\u03C2\u03A3", L"\u03C3\u03C2", true},
-        {L"\u0401\u0410\u042F\u0460\u048A\u04C0\u04C1\u04CD\u04D0\u052E",
-         L"\u0451\u0430\u044F\u0461\u048B\u04CF\u04C2\u04CE\u04D1\u052F", true},
-        {L"\u0482", L"\u0483", false},
-        {L"abc", L"ab", false},
-        {L"\u4E00", L"\u4E20", false},
-    };
     const TTextHash hash;
-    for (const auto& each : kCases) {
-        EXPECT_EQ(SameText(each.A, each.B), each.Same) << testing::PrintToString(std::wstring(each.A));
-        EXPECT_EQ(hash(each.A) == hash(each.B), each.Same);
+    const std::pair<const wchar_t*, const wchar_t*> same[] = {
+        {L"", L""},
+        {L"AZ@[", L"az@["},
+        {L"\u00C4\u00DE", L"\u00E4\u00FE"},
+        {L"\u0100\u012E\u0132\u0139\u0147\u014A\u0176\u0178\u017D",
+         L"\u0101\u012F\u0133\u013A\u0148\u014B\u0177\u00FF\u017E"},
+        {L"\u0386\u0388\u038A\u038C\u038E\u038F\u0391\u03A9\u03AB\u03C2\u03A3",
+         L"\u03AC\u03AD\u03AF\u03CC\u03CD\u03CE\u03B1\u03C9\u03CB\u03C3\u03C2"},
+        {L"\u0401\u0410\u042F\u0460\u048A\u04C0\u04C1\u04CD\u04D0\u052E",
+         L"\u0451\u0430\u044F\u0461\u048B\u04CF\u04C2\u04CE\u04D1\u052F"}};
+    for (const auto& [a, b] : same) {
+        EXPECT_TRUE(SameText(a, b)) << testing::PrintToString(std::wstring(a));
+        EXPECT_EQ(hash(a), hash(b));
     }
+    // Among them signs and the sharp s, which are nobody's capitals.
+    for (const std::wstring_view pair : {L"@`", L"[{", L"\u00D7\u00F7", L"\u00DF\u00FF", L"\u0130i",
+                                         L"\u0138\u0139", L"\u0148\u0149", L"\u0482\u0483", L"\u4E00\u4E20"})
+        EXPECT_FALSE(SameText(pair.substr(0, 1), pair.substr(1))) << testing::PrintToString(pair);
+    EXPECT_FALSE(SameText(L"abc", L"ab"));
 }
 
 TEST(TText, ParsesWholeDecimalNumbersOnly) {
-    const struct {
-        const wchar_t* Text;
-        std::optional<std::int32_t> Number;
-    } kCases[] = {
-        {L"0", 0},
-        {L"+7", 7},
-        {L"-0012", -12},
-        {L"2147483647", 2147483647},
-        {L"2147483648", {}},
-        {L"-2147483648", -2147483647 - 1},
-        {L"-2147483649", {}},
-        {L"99999999999999999999999999", {}},
-        {L"", {}},
-        {L"-", {}},
-        {L"+-1", {}},
-        {L" 1", {}},
-        {L"1 ", {}},
-        {L"0x10", {}},
-        {L"1.5", {}},
-        {L"\u0661", {}},
-    };
-    for (const auto& each : kCases)
-        EXPECT_EQ(ParseInteger(each.Text), each.Number) << testing::PrintToString(std::wstring(each.Text));
+    for (const std::int32_t number : {0, 7, -12, INT32_MAX, INT32_MIN})
+        EXPECT_EQ(ParseInteger(std::to_wstring(number)), number);
+    EXPECT_EQ(ParseInteger(L"+7"), 7);
+    EXPECT_EQ(ParseInteger(L"-0012"), -12);
+    for (const wchar_t* text : {L"2147483648", L"-2147483649", L"99999999999999999999999999", L"", L"-",
+                                L"+-1", L" 1", L"1 ", L"0x10", L"1.5", L"\u0661"})
+        EXPECT_EQ(ParseInteger(text), std::nullopt) << testing::PrintToString(std::wstring(text));
 }
 
 }  // namespace

@@ -1,12 +1,5 @@
 #include "tests/program/program.h"
 
-namespace {
-
-const TValuePlace kPlayedVersion{HKEY_CURRENT_USER, L"Software\\Wine\\AppDefaults\\Quilltune.exe",
-                                 L"Version"};
-
-}  // namespace
-
 std::wstring ProgramFolder() {
     wchar_t folder[MAX_PATH];
     const DWORD length = GetEnvironmentVariableW(L"QUILLTUNE_DIR", folder, MAX_PATH);
@@ -60,8 +53,4 @@ TProgram::TAsked TProgram::ApplyWithoutRestart() const {
     if (!WaitUntil([this] { return !FWindow.Enabled(L"Button_Apply"); }))
         throw TAutomationError(L"Apply does not end");
     return asked;
-}
-
-TWindowsVersion::TWindowsVersion(const std::wstring& version) : FKeeper({kPlayedVersion}) {
-    Store(kPlayedVersion, Text(version));
 }

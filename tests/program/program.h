@@ -49,16 +49,6 @@ class TProgram : public TProcess {
     TMainWindow FWindow;
 };
 
-/// Chooses the Windows that Wine plays for the program ("win2k", "winxp", …), the one of its configuration again when
-/// it goes. Without effect on Windows itself.
-class TWindowsVersion {
-  public:
-    explicit TWindowsVersion(const std::wstring& version);
-
-  private:
-    TValueKeeper FKeeper;
-};
-
 // The values behind the Driver page …
 inline const TValuePlace kEnableUdma{
     HKEY_LOCAL_MACHINE,
@@ -81,33 +71,35 @@ inline const TValuePlace kPagingExecutive{HKEY_LOCAL_MACHINE, kMemoryKey, L"Disa
 inline const TValuePlace kClearPageFile{HKEY_LOCAL_MACHINE, kMemoryKey, L"ClearPageFileAtShutdown"};
 inline const TValuePlace kSystemCache{HKEY_LOCAL_MACHINE, kMemoryKey, L"LargeSystemCache"};
 
+inline const std::vector<TValuePlace> kSettingPlaces = {
+    kEnableUdma, kLastAccess,   kShortNames,      kSpaceChecks,   kDiscNotice,
+    kDiscDriver, kAutoPlayMask, kPagingExecutive, kClearPageFile, kSystemCache};
+
 inline constexpr const wchar_t* kDriverItem = L"RzGroup_Communication.Items[3]";
 inline constexpr const wchar_t* kMemoryItem = L"RzGroup_Communication.Items[4]";
 
-/// Wine's switch for handing windows over to a window manager. Where there is none, as on a virtual display, Wine waits
-/// for it for two seconds whenever a window closes.
+// Wine's settings for the program: the Windows that it plays ("win2k", "win7", …; without effect on Windows itself),
+// and whether windows are handed over to a window manager. Where there is none, as on a virtual display, Wine waits for
+// it for two seconds whenever a window closes.
+inline const TValuePlace kPlayedVersion{HKEY_CURRENT_USER, L"Software\\Wine\\AppDefaults\\Quilltune.exe",
+                                        L"Version"};
 inline const TValuePlace kWindowManaged{
     HKEY_CURRENT_USER, L"Software\\Wine\\AppDefaults\\Quilltune.exe\\X11 Driver", L"Managed"};
 
 /// A test that begins with none of those values stored, and puts the found ones back.
 class TProgramTest : public testing::Test {
   protected:
-    void SetUp() override {
+    TProgramTest() {
         StoreAll(std::nullopt);
         Store(kWindowManaged, Text(L"N"));
     }
 
-    /// Stores the same value in all places.
+    /// Stores the same value in the places of all settings.
     void StoreAll(const std::optional<TStoredValue>& value) const {
-        for (const TValuePlace& place : Places()) Store(place, value);
+        for (const TValuePlace& place : kSettingPlaces) Store(place, value);
     }
 
   private:
-    static std::vector<TValuePlace> Places() {
-        return {kEnableUdma, kLastAccess,   kShortNames,      kSpaceChecks,   kDiscNotice,
-                kDiscDriver, kAutoPlayMask, kPagingExecutive, kClearPageFile, kSystemCache};
-    }
-
-    TValueKeeper FKeeper{Places()};
-    TValueKeeper FManagedKeeper{{kWindowManaged}};
+    TValueKeeper FKeeper{kSettingPlaces};
+    TValueKeeper FWineKeeper{{kPlayedVersion, kWindowManaged}};
 };

@@ -16,12 +16,19 @@ class TPeerBench : public testing::Test {
     using TNames = std::vector<std::wstring>;
 
     TPeerBench() : Form(L"Form", L"TPeerBenchForm") {}
+    ~TPeerBench() override { EXPECT_EQ(Faults, 0); }
+    TPeerBench(const TPeerBench&) = delete;
+    TPeerBench& operator=(const TPeerBench&) = delete;
 
     /// Creates the windows of what has been built.
     void Show() {
         TFormWindow::Attach(Form, GetModuleHandleW(nullptr), [this](const std::exception_ptr&) {
             ++Faults;
-        }).Show(SW_SHOWNOACTIVATE);
+        }).Show(SW_SHOW);
+    }
+    static void HandleMessages() {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
     }
 
     template <typename T>
@@ -35,6 +42,17 @@ class TPeerBench : public testing::Test {
         wchar_t text[200]{};
         GetWindowTextW(Window(name), text, 200);
         return text;
+    }
+    LRESULT Send(const wchar_t* name, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return SendMessageW(Window(name), message, wParam, lParam);
+    }
+    RECT Place(const wchar_t* name) const {
+        RECT place{};
+        GetWindowRect(Window(name), &place);
+        return place;
+    }
+    bool TabStops(const wchar_t* name) const {
+        return (GetWindowLongW(Window(name), GWL_STYLE) & WS_TABSTOP) != 0;
     }
     bool IsShown(const wchar_t* name) const { return IsWindowVisible(Window(name)); }
     TNames TakeFired() { return std::exchange(Fired, {}); }

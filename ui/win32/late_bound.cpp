@@ -49,3 +49,16 @@ void EnableThemeTabTexture(HWND dialog) {
     const auto enableTexture = theme.Find<HRESULT WINAPI(HWND, DWORD)>("EnableThemeDialogTexture");
     if (enableTexture != nullptr) enableTexture(dialog, kEnableTab);
 }
+
+PVOID AddFirstHandler(PVECTORED_EXCEPTION_HANDLER handler) {
+    const TSystemLibrary kernel(L"kernel32.dll");
+    const auto add =
+        kernel.Find<PVOID WINAPI(ULONG, PVECTORED_EXCEPTION_HANDLER)>("AddVectoredExceptionHandler");
+    return add != nullptr ? add(1, handler) : nullptr;
+}
+
+void RemoveFirstHandler(PVOID added) {
+    const TSystemLibrary kernel(L"kernel32.dll");
+    const auto remove = kernel.Find<ULONG WINAPI(PVOID)>("RemoveVectoredExceptionHandler");
+    if (added != nullptr && remove != nullptr) remove(added);
+}

@@ -15,3 +15,9 @@
 /// EnableThemeDialogTexture: lets the theme paint a dialog's background as that of a tab's sheet. Windows without
 /// themes does nothing.
 void EnableThemeTabTexture(HWND dialog);
+
+/// AddVectoredExceptionHandler: lets `handler` see the process's exceptions before any frame does, until it is removed
+/// with the answer. Null on Windows 2000, which has no such function.
+[[nodiscard]] PVOID AddFirstHandler(PVECTORED_EXCEPTION_HANDLER handler);
+/// RemoveVectoredExceptionHandler; null is ignored.
+void RemoveFirstHandler(PVOID added);
