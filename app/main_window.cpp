@@ -40,7 +40,8 @@ TQuilltune_FormMain::TQuilltune_FormMain(TSystem& system)
       FSystem(system),
       FChanges(system),
       FAppFrame(system),
-      FContext{.System = system, .Form = *this, .Changes = FChanges} {
+      FFirefox(system, FAppFrame.AppDataPath + L"\\Mozilla\\Firefox\\"),
+      FContext{.System = system, .Form = *this, .Changes = FChanges, .Firefox = FFirefox} {
     SetCaption(L"Quilltune");
     BuildControls();
     BindEvents();
@@ -83,7 +84,6 @@ void TQuilltune_FormMain::FormCreate() {
     GetOSName(FSystem, osName);
     FSystem.Shell.DebugOutput(L"OsName:" + osName);
     FContext.WindowsLevel = WindowsLevel(osName);
-    FFirefoxFolder = FAppFrame.AppDataPath + L"\\Mozilla\\Firefox\\";
     if (FContext.WindowsLevel < 5) Find(CategoryItemName(L"RzGroup_Use", 1))->SetVisible(false);
     for (const wchar_t* group : {L"RzGroup_CommonSettings", L"RzGroup_Display", L"RzGroup_Use",
                                  L"RzGroup_Communication", L"RzGroup_Manage"}) {
@@ -250,10 +250,8 @@ void TQuilltune_FormMain::NotifyShell() {
 }
 
 void TQuilltune_FormMain::ApplyFirefox() {
-    if (FContext.FirefoxChanged && SaveFirefoxPrefs) {
-        SaveFirefoxPrefs();
+    if (std::exchange(FContext.FirefoxChanged, false) && FFirefox.SaveFirefoxPrefs()) {
         FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartFirefox], TMessageButtons::Ok,
                                 TMessageIcon::None);
     }
-    FContext.FirefoxChanged = false;
 }

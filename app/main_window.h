@@ -7,6 +7,7 @@
 #include "app/page_table.h"
 #include "platform/app_frame.h"
 #include "platform/language.h"
+#include "settings/net/firefox_prefs.h"
 #include "settings/page_context.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
@@ -19,9 +20,6 @@ class TQuilltune_FormMain : public TForm {
     explicit TQuilltune_FormMain(TSystem& system);
 
     [[nodiscard]] const TPageContext& Context() const { return FContext; }
-
-    /// Saves the Firefox preferences on Apply; absent while there is no preference store.
-    std::function<void()> SaveFirefoxPrefs;
 
   private:
     void FormCreate();
@@ -49,7 +47,7 @@ class TQuilltune_FormMain : public TForm {
     TSystem& FSystem;
     TSysControl FChanges;
     TAppFrame FAppFrame;
-    std::wstring FFirefoxFolder;
+    TFirefoxPrefs FFirefox;
     TPageContext FContext;
     std::unique_ptr<TLanguage> FLanguage;
     std::vector<std::unique_ptr<TPage>> FPages;

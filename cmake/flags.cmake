@@ -25,7 +25,7 @@ if(WIN32)
         -Wl,--major-os-version=5,--minor-os-version=${MinorVersion}
         -Wl,--major-subsystem-version=5,--minor-subsystem-version=${MinorVersion}
         -Wl,--dynamicbase,--nxcompat)
-else()
+elseif(CMAKE_BUILD_TYPE STREQUAL "Debug")
     target_compile_options(quilltune_flags INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     target_link_options(quilltune_flags INTERFACE -fsanitize=address,undefined)

@@ -4,11 +4,14 @@
 #include <array>
 #include <limits>
 
+#include "platform/unicode.h"
+
 namespace {
 
 using TByteSpan = std::span<const std::uint8_t>;
 
 constexpr char32_t kReplacement = 0xFFFD;
+constexpr char32_t kMalformed = 0xFFFFFFFF;  ///< stands for bytes that are no character
 
 void Append(std::wstring& text, char32_t code) {
     if constexpr (sizeof(wchar_t) == 2) {
@@ -42,8 +45,8 @@ constexpr auto kUtf8Leads = std::to_array<TUtf8Lead>({
     {0xF4, 0xF4, 3, 0x80, 0x8F},
 });
 
-/// Takes a character off the beginning of `rest`. Of a sequence that goes wrong it takes as much as is right, but
-/// at least a byte, as Unicode recommends.
+/// Takes a character off the beginning of `rest`; kMalformed when there is none. Of a sequence that goes wrong it
+/// takes as much as is right, but at least a byte, as Unicode recommends.
 char32_t TakeUtf8(TByteSpan& rest) {
     const auto take = [&] {
         const std::uint8_t byte = rest.front();
@@ -54,12 +57,12 @@ char32_t TakeUtf8(TByteSpan& rest) {
     if (first < 0x80) return first;
     const auto* const lead = std::ranges::find_if(
         kUtf8Leads, [&](const TUtf8Lead& each) { return first >= each.First && first <= each.Last; });
-    if (lead == kUtf8Leads.end()) return kReplacement;
+    if (lead == kUtf8Leads.end()) return kMalformed;
     char32_t code = first & (0x3FU >> lead->Trails);
     std::uint8_t low = lead->Low;
     std::uint8_t high = lead->High;
     for (int i = 0; i < lead->Trails; ++i) {
-        if (rest.empty() || rest.front() < low || rest.front() > high) return kReplacement;
+        if (rest.empty() || rest.front() < low || rest.front() > high) return kMalformed;
         code = code << 6 | (take() & 0x3FU);
         low = 0x80;
         high = 0xBF;
@@ -70,8 +73,18 @@ char32_t TakeUtf8(TByteSpan& rest) {
 std::wstring FromUtf8(TByteSpan bytes) {
     std::wstring text;
     text.reserve(bytes.size());
-    while (!bytes.empty()) Append(text, TakeUtf8(bytes));
+    while (!bytes.empty()) {
+        const char32_t code = TakeUtf8(bytes);
+        Append(text, code == kMalformed ? kReplacement : code);
+    }
     return text;
+}
+
+bool IsUtf8(TByteSpan bytes) {
+    while (!bytes.empty()) {
+        if (TakeUtf8(bytes) == kMalformed) return false;
+    }
+    return true;
 }
 
 /// `highByte` is the place of the high byte in a unit, 0 or 1.
@@ -97,6 +110,14 @@ std::wstring FromUtf16(TByteSpan bytes, std::size_t highByte) {
 
 bool StartsWith(TByteSpan bytes, std::initializer_list<std::uint8_t> mark) {
     return bytes.size() >= mark.size() && std::equal(mark.begin(), mark.end(), bytes.begin());
+}
+
+/// The text after a byte-order mark; nothing when there is none.
+std::optional<std::wstring> DecodeMarked(TByteSpan bytes) {
+    if (StartsWith(bytes, {0xEF, 0xBB, 0xBF})) return FromUtf8(bytes.subspan(3));
+    if (StartsWith(bytes, {0xFF, 0xFE})) return FromUtf16(bytes.subspan(2), 1);
+    if (StartsWith(bytes, {0xFE, 0xFF})) return FromUtf16(bytes.subspan(2), 0);
+    return std::nullopt;
 }
 
 /// Capitals and how far their small letters are from them.
@@ -152,10 +173,21 @@ char32_t Fold(wchar_t character) {
 }  // namespace
 
 std::wstring DecodeText(std::span<const std::uint8_t> bytes, const TWindowsInfo& windows) {
-    if (StartsWith(bytes, {0xEF, 0xBB, 0xBF})) return FromUtf8(bytes.subspan(3));
-    if (StartsWith(bytes, {0xFF, 0xFE})) return FromUtf16(bytes.subspan(2), 1);
-    if (StartsWith(bytes, {0xFE, 0xFF})) return FromUtf16(bytes.subspan(2), 0);
+    if (auto text = DecodeMarked(bytes)) return *std::move(text);
     return windows.FromAnsi(bytes);
+}
+
+TDecodedText DecodeUtf8OrAnsi(std::span<const std::uint8_t> bytes, const TWindowsInfo& windows) {
+    if (auto text = DecodeMarked(bytes)) return {.Text = *std::move(text)};
+    if (IsUtf8(bytes)) return {.Text = FromUtf8(bytes)};
+    return {.Text = windows.FromAnsi(bytes), .Encoding = TTextEncoding::Ansi};
+}
+
+std::vector<std::uint8_t> EncodeText(std::wstring_view text, TTextEncoding encoding,
+                                     const TWindowsInfo& windows) {
+    if (encoding == TTextEncoding::Ansi) return windows.ToAnsi(text);
+    const std::string bytes = ToUtf8(text);
+    return {bytes.begin(), bytes.end()};
 }
 
 bool TLineReader::Next(std::wstring_view& line) {
@@ -175,6 +207,13 @@ std::wstring_view Trim(std::wstring_view text) {
 }
 
 bool SameText(std::wstring_view a, std::wstring_view b) { return std::ranges::equal(a, b, {}, Fold, Fold); }
+
+std::size_t FindText(std::wstring_view text, std::wstring_view part) {
+    const auto same = [](wchar_t a, wchar_t b) { return Fold(a) == Fold(b); };
+    const auto* const found = std::search(text.begin(), text.end(), part.begin(), part.end(), same);
+    return found == text.end() && !part.empty() ? std::wstring_view::npos
+                                                : static_cast<std::size_t>(found - text.begin());
+}
 
 std::optional<std::int32_t> ParseInteger(std::wstring_view text) {
     const bool negative = text.starts_with(L'-');

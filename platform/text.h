@@ -10,6 +10,23 @@
 /// UTF-16 unit at the end is dropped. NUL is a character like any other.
 [[nodiscard]] std::wstring DecodeText(std::span<const std::uint8_t> bytes, const TWindowsInfo& windows);
 
+/// How a text without a byte-order mark is written.
+enum class TTextEncoding : std::uint8_t { Utf8, Ansi };
+
+struct TDecodedText {
+    std::wstring Text;
+    TTextEncoding Encoding = TTextEncoding::Utf8;
+};
+
+/// DecodeText for files that are in UTF-8 as a rule: without a byte-order mark, bytes that are well-formed UTF-8 are
+/// UTF-8 and only others are in the ANSI code page. `Encoding` holds the text again without loss; after a byte-order
+/// mark, of whatever kind, that is UTF-8.
+[[nodiscard]] TDecodedText DecodeUtf8OrAnsi(std::span<const std::uint8_t> bytes, const TWindowsInfo& windows);
+
+/// The bytes of a text, without byte-order mark.
+[[nodiscard]] std::vector<std::uint8_t> EncodeText(std::wstring_view text, TTextEncoding encoding,
+                                                   const TWindowsInfo& windows);
+
 /// Goes through a text, which must outlive it, line by line. A line ends with CR LF, LF or CR; the last line needs
 /// no end, and an end does not begin another line.
 class TLineReader {
@@ -31,6 +48,9 @@ class TLineReader {
 /// counterpart of its own there (the German sharp s, the dotted capital I) is equal to itself alone. The final
 /// sigma is a sigma.
 [[nodiscard]] bool SameText(std::wstring_view a, std::wstring_view b);
+
+/// Where `part` first occurs in the text without regard to case, as SameText understands it; npos when it does not.
+[[nodiscard]] std::size_t FindText(std::wstring_view text, std::wstring_view part);
 
 /// The decimal number that the whole text is: an optional sign and digits. Nothing when there is anything else
 /// in it or when the number does not fit.

@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The fields of OSVERSIONINFOW that the program looks at.
@@ -45,4 +46,7 @@ class TWindowsInfo {
 
     /// Text of the system's ANSI code page.
     [[nodiscard]] virtual std::wstring FromAnsi(std::span<const std::uint8_t> bytes) const = 0;
+
+    /// The text in the system's ANSI code page; what the code page lacks becomes a similar character or "?".
+    [[nodiscard]] virtual std::vector<std::uint8_t> ToAnsi(std::wstring_view text) const = 0;
 };

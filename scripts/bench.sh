@@ -1,10 +1,14 @@
 #!/usr/bin/env bash
-# Measures the start of the 64-bit program under Wine, pair by pair beside Wine's own notepad, so that the ratio holds
-# whatever the machine is doing.
+# Measures how long Firefox's preference files take to load, natively, and then the start of the 64-bit program under
+# Wine, pair by pair beside Wine's own notepad, so that the ratio holds whatever the machine is doing.
 #   scripts/bench.sh [pairs]
 set -euo pipefail
 . "$(dirname "$0")/lib.sh"
 . "$(dirname "$0")/wine.sh"
+
+RequirePackages "${BuildPackages[@]}" libgtest-dev libgmock-dev
+BuildPreset bench --target prefs_bench
+"$Root/build/bench/tests/prefs_bench"
 
 "$Root/scripts/build.sh"
 RequirePackages "${WinePackages[@]}"

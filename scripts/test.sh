@@ -112,6 +112,9 @@ done
 
 NativeTests unit_tests
 NativeTests contract_tests
+for Target in language_file prefs profiles; do
+    Check "fuzzing of $Target" "$Root/scripts/fuzz.sh" 10 "$Target"
+done
 
 mkdir "$Work/win64"
 "$Root/scripts/wine_tests.sh" "$Work/win64" "$Work/dist/win64" \

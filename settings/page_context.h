@@ -4,6 +4,7 @@
 
 #include "engine/sys_control.h"
 #include "settings/captions.h"
+#include "settings/net/firefox_prefs.h"
 #include "ui/form.h"
 
 /// What Apply does with a Windows service.
@@ -13,6 +14,7 @@ struct TPageContext {
     TSystem& System;
     TForm& Form;
     TSysControl& Changes;
+    TFirefoxPrefs& Firefox;
     TCaptions Captions{};
     int WindowsLevel = 0;  ///< 7 Windows 7, 6 Vista, 5 XP, 4 Windows 2000, 0 any other
 

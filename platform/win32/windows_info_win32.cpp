@@ -90,3 +90,13 @@ std::wstring TWin32WindowsInfo::FromAnsi(std::span<const std::uint8_t> bytes) co
         static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, source.data(), length, text.data(), length)));
     return text;
 }
+
+std::vector<std::uint8_t> TWin32WindowsInfo::ToAnsi(std::wstring_view text) const {
+    const auto convert = [&](char* bytes, int size) {
+        return WideCharToMultiByte(CP_ACP, 0, text.data(), static_cast<int>(text.size()), bytes, size,
+                                   nullptr, nullptr);
+    };
+    std::string bytes(static_cast<std::size_t>(convert(nullptr, 0)), '\0');
+    convert(bytes.data(), static_cast<int>(bytes.size()));
+    return {bytes.begin(), bytes.end()};
+}

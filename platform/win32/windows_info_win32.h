@@ -11,4 +11,5 @@ class TWin32WindowsInfo : public TWindowsInfo {
     [[nodiscard]] std::unique_ptr<TVersionResource> OpenVersionResource(
         const std::wstring& file) const override;
     [[nodiscard]] std::wstring FromAnsi(std::span<const std::uint8_t> bytes) const override;
+    [[nodiscard]] std::vector<std::uint8_t> ToAnsi(std::wstring_view text) const override;
 };

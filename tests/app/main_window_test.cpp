@@ -203,15 +203,24 @@ TEST_F(TMainWindow, ApplySwitchesServicesAndTellsTheShellOfAssociations) {
     EXPECT_EQ(std::ranges::count(Fake.Shell.Notifications(), associations), 2);
 }
 
-TEST_F(TMainWindow, SavesFirefoxPreferencesOnlyWhenTheyChanged) {
+TEST_F(TMainWindow, SavesFirefoxPreferencesOnlyWhenTheyWereLoadedAndChanged) {
+    const std::wstring firefox = L"C:\\Users\\Me\\AppData\\Mozilla\\Firefox\\";
+    const std::wstring userFile = firefox + L"a\\user.js";
+    Fake.Files.PutText(firefox + L"profiles.ini", "[Profile0]\nIsRelative=1\nPath=a\n");
+    Fake.Files.PutText(userFile, "user_pref(\"b\", 1);\r\n");
     Open();
-    int saved = 0;
-    Window->SaveFirefoxPrefs = [&] { ++saved; };
-    Press(L"Button_OK");
-    EXPECT_EQ(saved, 0);
     Marks().FirefoxChanged = true;
     Apply();
-    EXPECT_EQ(saved, 1);
+    EXPECT_TRUE(Fake.Dialogs.Questions().empty()) << "nothing was loaded";
+
+    Marks().Firefox.LoadFirefoxPrefs();
+    Marks().Firefox.SetFirefoxPref(L"\"b\"", L"2");
+    Press(L"Button_OK");
+    EXPECT_TRUE(Fake.Files.Replaced().empty()) << "no page said that something changed";
+
+    Marks().FirefoxChanged = true;
+    Apply();
+    EXPECT_EQ(Fake.Files.Text(userFile), "user_pref(\"b\", 2);\r\n");
     const TQuestion message{L"Quilltune", L"Need to restart Firefox to take effect.", TMessageButtons::Ok,
                             TMessageIcon::None};
     EXPECT_EQ(Fake.Dialogs.Questions(), std::vector{message});

@@ -46,10 +46,18 @@ TEST_F(TWindowsContract, ReadsAVersionResource) {
     EXPECT_EQ(resource->Block(L"\\NoSuchBlock"), std::nullopt);
 }
 
-TEST_F(TWindowsContract, DecodesAnsiText) {
-    const std::uint8_t bytes[] = {'A', ' ', 'z', 0, '~', '\n'};
-    EXPECT_EQ(System().Windows.FromAnsi(bytes), std::wstring(L"A z\0~\n", 6));
-    EXPECT_EQ(System().Windows.FromAnsi({}), L"");
+TEST_F(TWindowsContract, ConvertsAnsiText) {
+    const TWindowsInfo& info = System().Windows;
+    const std::vector<std::uint8_t> bytes = {'A', ' ', 'z', 0, '~', '\n'};
+    const std::wstring text(L"A z\0~\n", 6);
+    EXPECT_EQ(info.FromAnsi(bytes), text);
+    EXPECT_EQ(info.ToAnsi(text), bytes);
+    EXPECT_EQ(info.FromAnsi({}), L"");
+    EXPECT_EQ(info.ToAnsi({}), std::vector<std::uint8_t>());
+    const std::wstring own = info.FromAnsi(std::vector<std::uint8_t>{0xE9, 'x'});
+    EXPECT_EQ(info.FromAnsi(info.ToAnsi(own)), own);
+    // A sign of no code page but UTF-8.
+    EXPECT_THAT(info.FromAnsi(info.ToAnsi(L"\u4DC0")), testing::AnyOf(L"?", L"\u4DC0"));
 }
 
 TEST_F(TWindowsContract, NamesTheApplicationDataFolders) {

@@ -31,6 +31,12 @@ class TFakeWindowsInfo : public TWindowsInfo {
     [[nodiscard]] std::wstring FromAnsi(std::span<const std::uint8_t> bytes) const override {
         return {bytes.begin(), bytes.end()};
     }
+    [[nodiscard]] std::vector<std::uint8_t> ToAnsi(std::wstring_view text) const override {
+        std::vector<std::uint8_t> bytes;
+        for (const wchar_t c : text)
+            bytes.push_back(static_cast<std::uint32_t>(c) < 0x100 ? static_cast<std::uint8_t>(c) : '?');
+        return bytes;
+    }
 
   private:
     TVersionNumbers FVersion{.PlatformId = 2, .Major = 6, .Minor = 1};

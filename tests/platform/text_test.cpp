@@ -1,5 +1,7 @@
 #include "platform/text.h"
 
+#include <cstring>
+
 #include <gmock/gmock.h>
 
 #include "tests/fakes/fake_windows_info.h"
@@ -39,7 +41,11 @@ TEST(TDecodeText, MalformedUtf8BecomesReplacementCharacters) {
         {"\xF4\x90\x80\x80", L"\uFFFD\uFFFD\uFFFD\uFFFD"},  // beyond the last code point
         {"\xF4\x8F\xBF\xBD\xFF", L"\U0010FFFD\uFFFD"},      // the last one that is not
     };
-    for (const auto& [bytes, text] : cases) EXPECT_EQ(Decoded("\xEF\xBB\xBF"s + bytes), text);
+    for (const auto& [bytes, text] : cases) {
+        EXPECT_EQ(Decoded("\xEF\xBB\xBF"s + bytes), text);
+        const std::vector<std::uint8_t> unmarked(bytes, bytes + std::strlen(bytes));
+        EXPECT_EQ(DecodeUtf8OrAnsi(unmarked, TFakeWindowsInfo()).Encoding, TTextEncoding::Ansi) << bytes;
+    }
 }
 
 TEST(TDecodeText, MalformedUtf16BecomesReplacementCharacters) {

@@ -15,10 +15,11 @@ class TPageBench {
   private:
     TForm FForm;
     TSysControl FChanges;
+    TFirefoxPrefs FFirefox{Fake.System, L"C:\\Mozilla\\"};
     std::unique_ptr<TPage> FPage;
 
   public:
-    TPageContext Context{.System = Fake.System, .Form = FForm, .Changes = FChanges};
+    TPageContext Context{.System = Fake.System, .Form = FForm, .Changes = FChanges, .Firefox = FFirefox};
     int Recorded = 0;  ///< how often the page told that it recorded something
 
     explicit TPageBench(const TPageDefinition& definition) : FForm(L"Form", L"TForm"), FChanges(Fake.System) {

@@ -1,0 +1,2 @@
+#;
+lock_pref("a", 1);USER_PREF("a";"a", ;"

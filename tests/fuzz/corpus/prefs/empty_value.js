@@ -1,0 +1,1 @@
+user_pref("a", );user_pref("", "");user_pref("a");
