@@ -1,5 +1,6 @@
 #include "app/main_window.h"
 
+#include <exception>
 #include <utility>
 
 #include "app/category_table.h"
@@ -181,15 +182,22 @@ void TQuilltune_FormMain::Timer_LoadingTimer() {
 void TQuilltune_FormMain::RzGroup1Items0Click(TComponent& sender) {
     if (sender.Kind() != TComponentKind::CategoryItem) return;
     auto& item = static_cast<TCategoryItem&>(sender);
-    LoadPage(item.Tag());
+    // A fault of a loader is for the fault log; the page shows what was loaded until then.
+    std::exception_ptr fault;
+    try {
+        LoadPage(item.Tag());
+    } catch (...) {
+        fault = std::current_exception();
+    }
     Find<TNotebook>(L"Notebook_Main")->ShowPage(std::to_wstring(item.Tag()));
     if (&item != FSelectedItem) SelectItem(item);
+    if (fault) std::rethrow_exception(fault);
 }
 
 void TQuilltune_FormMain::LoadPage(int tag) {
-    if (!FVisitedPages.insert(tag).second) return;
+    const bool firstVisit = FVisitedPages.insert(tag).second;
     for (const auto& page : FPages) {
-        if (page->Tag() == tag) page->Load();
+        if (page->Tag() == tag && (firstVisit || page->LoadsEveryVisit())) page->Load();
     }
 }
 

@@ -1,6 +1,9 @@
 #include "settings/page.h"
 
+#include <algorithm>
+
 #include "platform/numeric_fields.h"
+#include "ui/containers.h"
 #include "ui/controls.h"
 
 TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl& notebook,
@@ -10,6 +13,8 @@ TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl&
     Listen(*FContext.Form.Find(std::to_wstring(definition.Tag)));
     BindNumericFields(FContext.Form, definition.SharedHandler,
                       [this](TComponent& sender) { Changed(sender); });
+    for (const TLoader& loader : definition.Loaders)
+        for (const TRow& row : loader) ListenToRow(row);
     for (const TPreset& preset : definition.Presets) {
         if (auto* button = FContext.Form.Find<TButton>(preset.Button))
             button->OnClick = [this, &preset](TComponent&) { ApplyPreset(preset); };
@@ -17,9 +22,12 @@ TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl&
 }
 
 void TPage::Load() {
-    const TLoadingScope loading(FContext);
+    const TLoadingScope loading(FContext, FDefinition.ShowsPending);
+    HideWhatIsNotOffered();
+    if (FDefinition.Prepare != nullptr && !FDefinition.Prepare(FContext)) return;
     for (const TLoader& loader : FDefinition.Loaders)
-        for (const TRow& row : loader) LoadRow(FContext, row);
+        for (const TRow& row : loader)
+            if (IsOffered(row)) LoadRow(FContext, row);
 }
 
 void TPage::Changed(TComponent& sender) {
@@ -27,6 +35,40 @@ void TPage::Changed(TComponent& sender) {
     for (const TLoader& loader : FDefinition.Loaders)
         for (const TRow& row : loader) RecordRow(FContext, row, sender);
     FChanged();
+}
+
+void TPage::HideWhatIsNotOffered() const {
+    for (const TOffer& offer : FDefinition.Offers) {
+        TControl& control = *FContext.Form.Find(offer.Control);
+        if (offer.Levels.Include(FContext.WindowsLevel)) continue;
+        control.SetVisible(false);
+        if (control.Kind() == TComponentKind::TabSheet)
+            static_cast<TPageControl&>(*control.Parent())
+                .SetTabVisible(static_cast<TTabSheet&>(control), false);
+    }
+}
+
+bool TPage::IsOffered(const TRow& row) const {
+    const auto isHidden = [this](const TControl& control) {
+        return std::any_of(FDefinition.Offers.begin(), FDefinition.Offers.end(), [&](const TOffer& offer) {
+            return control.Name() == offer.Control && !offer.Levels.Include(FContext.WindowsLevel);
+        });
+    };
+    const auto names = ControlsOf(row);
+    for (const TControl* c = FContext.Form.Find(names.front()); c != nullptr; c = c->Parent())
+        if (isHidden(*c)) return false;
+    return true;
+}
+
+/// Buttons and edits are of many kinds; those that stand for a setting are named by its row.
+void TPage::ListenToRow(const TRow& row) {
+    const TNotifyEvent changed = [this](TComponent& sender) { Changed(sender); };
+    for (const std::wstring& name : ControlsOf(row)) {
+        if (auto* button = FContext.Form.Find<TButton>(name)) button->OnClick = changed;
+        auto* edit = FContext.Form.Find<TEdit>(name);
+        // The changes of a bounded numeric field come from the field itself.
+        if (edit != nullptr && !edit->OnChange) edit->OnKeyUp = changed;
+    }
 }
 
 void TPage::Listen(TControl& container) {

@@ -17,6 +17,13 @@ struct TPreset {
     std::span<const TPresetState> States;
 };
 
+/// A control, or a group or sheet with all that lies in it, that is offered on some Windows levels only. Elsewhere it is
+/// hidden, and what lies in it is not loaded.
+struct TOffer {
+    const wchar_t* Control;
+    TLevels Levels;
+};
+
 /// A page as data.
 struct TPageDefinition {
     int Tag;                       ///< the number of its notebook page
@@ -24,6 +31,11 @@ struct TPageDefinition {
     TControlDesign (*Design)();
     std::span<const TLoader> Loaders;  ///< in the order in which they run
     std::span<const TPreset> Presets;
+    std::span<const TOffer> Offers = {};
+    bool ShowsPending = false;     ///< its loaders show changes of other pages that are not written yet
+    bool LoadsEveryVisit = false;  ///< otherwise only the first one
+    /// Runs before the loaders, with the loading mark set; they do not run when it answers false.
+    bool (*Prepare)(TPageContext& context) = nullptr;
 };
 
 /// Runs a page definition on a form.
@@ -35,6 +47,7 @@ class TPage {
           std::function<void()> changed);
 
     [[nodiscard]] int Tag() const { return FDefinition.Tag; }
+    [[nodiscard]] bool LoadsEveryVisit() const { return FDefinition.LoadsEveryVisit; }
 
     /// Runs the loaders: shows the live system's state in the controls.
     void Load();
@@ -44,6 +57,9 @@ class TPage {
 
   private:
     void Listen(TControl& container);
+    void ListenToRow(const TRow& row);
+    void HideWhatIsNotOffered() const;
+    [[nodiscard]] bool IsOffered(const TRow& row) const;
     void ApplyPreset(const TPreset& preset) const;
 
     const TPageDefinition& FDefinition;

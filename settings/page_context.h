@@ -18,7 +18,8 @@ struct TPageContext {
     TCaptions Captions{};
     int WindowsLevel = 0;  ///< 7 Windows 7, 6 Vista, 5 XP, 4 Windows 2000, 0 any other
 
-    bool Loading = false;  ///< a loader fills controls; their events record nothing
+    bool Loading = false;       ///< a loader fills controls; their events record nothing
+    bool ShowsPending = false;  ///< the loading page shows changes that are not written yet
     bool RestartNeeded = false;
     bool FirefoxChanged = false;
     bool AssociationsChanged = false;
@@ -29,8 +30,14 @@ struct TPageContext {
 /// Sets the loading mark for a scope, so that no path out of a loader leaves it set.
 class TLoadingScope {
   public:
-    explicit TLoadingScope(TPageContext& context) : FContext(context) { FContext.Loading = true; }
-    ~TLoadingScope() { FContext.Loading = false; }
+    explicit TLoadingScope(TPageContext& context, bool showsPending = false) : FContext(context) {
+        FContext.Loading = true;
+        FContext.ShowsPending = showsPending;
+    }
+    ~TLoadingScope() {
+        FContext.Loading = false;
+        FContext.ShowsPending = false;
+    }
     TLoadingScope(const TLoadingScope&) = delete;
     TLoadingScope& operator=(const TLoadingScope&) = delete;
 

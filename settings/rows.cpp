@@ -1,103 +1,187 @@
 #include "settings/rows.h"
 
+#include <algorithm>
+#include <array>
+
 #include "engine/reg_value.h"
 #include "settings/page_context.h"
+#include "settings/store.h"
 #include "ui/controls.h"
 
 namespace {
 
-TRegRecor RecordAt(const TPlace& place) {
-    TRegRecor record;
-    record.RootKey = place.Root;
-    record.Key = place.Key;
-    record.ValueName = place.ValueName;
-    return record;
-}
-
-/// The stored value, or nothing when the key or the value cannot be read.
-std::optional<TRegValue> Stored(const TPageContext& context, const TPlace& place) {
-    TRegRecor record = RecordAt(place);
-    context.Changes.ReadCurrent(record);
-    if (record.ReadResult != TReadStatus::Found) return std::nullopt;
-    return std::move(record.Value);
-}
-
-void Add(TPageContext& context, const std::wstring& changeName, const TPlace& place, const TDatum& datum) {
-    TRegRecor record = RecordAt(place);
-    record.Name = changeName;
-    switch (datum.Kind) {
-        case TDatum::TKind::Dword:
-            record.DataType = TRegDataType::Dword;
-            record.Value = datum.Number;
-            break;
-        case TDatum::TKind::Text:
-            record.DataType = TRegDataType::String;
-            record.Value = std::wstring(datum.Characters);
-            break;
-        case TDatum::TKind::DeleteValue:
-            record.Action = TRegAction::DeleteValue;
-            break;
-        case TDatum::TKind::DeleteKey:
-            record.Action = TRegAction::DeleteKey;
-            break;
-    }
-    context.Changes.Add(record);
+void EnableAll(const TPageContext& context, TControlNames names, bool enabled) {
+    for (const wchar_t* name : names)
+        if (TControl* control = context.Form.Find(name)) control->SetEnabled(enabled);
 }
 
 void Load(TPageContext& context, const TCheckBoxRow& row) {
     auto* box = context.Form.Find<TCheckBox>(row.Control);
     if (box == nullptr) return;
     TBoxState state = row.Shows.Missing;
-    if (const auto value = Stored(context, row.Value)) {
-        const auto number = AsInteger(*value);
-        state =
-            row.Shows.When && number == row.Shows.When->Value ? row.Shows.When->Shows : row.Shows.Otherwise;
-    }
+    if (const auto value = Stored(context, row.Value))
+        state = row.Shows.When && row.Shows.When->Value(*value) ? row.Shows.When->Shows : row.Shows.Otherwise;
     if (state != kKeep) box->SetChecked(state == kChecked);
+    EnableAll(context, row.Enables, box->Checked());
 }
 
-void Record(TPageContext& context, const TCheckBoxRow& row, TComponent& sender) {
-    if (sender.Name() != row.Control) return;
+void RecordFrom(TPageContext& context, const TCheckBoxRow& row, TComponent& sender) {
     const bool checked = static_cast<TCheckBox&>(sender).Checked();
     const auto datum = [checked](const TBoxRecord& records) {
         return checked ? records.Checked : records.Clear;
     };
-    Add(context, sender.Name(), row.Value, datum(row.Records));
-    if (row.Further) {
-        Add(context, sender.Name() + row.Further->Suffix, row.Further->Value, datum(row.Further->Records));
-    }
-    if (row.Restart) context.RestartNeeded = true;
+    Record(context, sender.Name(), row.Value, datum(row.Records));
+    if (row.Further)
+        Record(context, sender.Name() + row.Further->Suffix, row.Further->Value, datum(row.Further->Records));
+    EnableAll(context, row.Enables, checked);
+    EnableAll(context, row.EnablesOnClick, checked);
 }
 
 void Load(TPageContext& context, const TRadioPairRow& row) {
     TPairState state = row.Missing;
     if (const auto value = Stored(context, row.Value))
-        state = AsInteger(*value) == row.FirstWhen ? TPairState::First : TPairState::Second;
+        state = row.FirstWhen(*value) ? TPairState::First : TPairState::Second;
     if (state == TPairState::Keep) return;
     const wchar_t* chosen = state == TPairState::First ? row.First : row.Second;
     if (auto* button = context.Form.Find<TRadioButton>(chosen)) button->SetChecked(true);
 }
 
-void Record(TPageContext& context, const TRadioPairRow& row, TComponent& sender) {
-    if (sender.Name() != row.First && sender.Name() != row.Second) return;
+void RecordFrom(TPageContext& context, const TRadioPairRow& row, TComponent& /*sender*/) {
     const auto* first = context.Form.Find<TRadioButton>(row.First);
     if (first == nullptr) return;
-    Add(context, row.ChangeName, row.Value, first->Checked() ? row.FirstRecords : row.SecondRecords);
-    if (row.Restart) context.RestartNeeded = true;
+    Record(context, row.ChangeName, row.Value, first->Checked() ? row.FirstRecords : row.SecondRecords);
 }
 
-void Load(TPageContext& context, const TSpecialRow& row) { row.Load(context, row); }
+bool Chooses(const TDatum& item, const TRegValue& value) {
+    return item.Kind == TDatum::TKind::Text ? AsText(value) == item.Characters
+                                            : AsInteger(value) == item.Number;
+}
 
-void Record(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    if (sender.Name() == row.Control) row.Record(context, row, sender);
+void Load(TPageContext& context, const TChoiceRow& row) {
+    int chosen = row.Missing;
+    if (const auto value = Stored(context, row.Value)) {
+        const auto item = std::find_if(row.Items.begin(), row.Items.end(),
+                                       [&](const TDatum& datum) { return Chooses(datum, *value); });
+        chosen = item == row.Items.end() ? -1 : static_cast<int>(item - row.Items.begin());
+    }
+    auto* box = context.Form.Find<TComboBox>(row.Control);
+    if (box != nullptr && chosen >= 0) box->SetItemIndex(chosen);
+}
+
+void RecordFrom(TPageContext& context, const TChoiceRow& row, TComponent& sender) {
+    const auto chosen = static_cast<std::size_t>(static_cast<TComboBox&>(sender).ItemIndex());
+    if (chosen < row.Items.size()) Record(context, sender.Name(), row.Value, row.Items[chosen]);
+}
+
+void Load(TPageContext& context, const TNumberRow& row) {
+    auto* control = context.Form.Find<TRangeControl>(row.Control);
+    const auto value = Stored(context, row.Value);
+    const auto position = value ? AsInteger(*value) : row.Missing;
+    if (control != nullptr && position) control->SetPosition(*position);
+}
+
+void RecordFrom(TPageContext& context, const TNumberRow& row, TComponent& sender) {
+    const int position = static_cast<TRangeControl&>(sender).Position();
+    if (row.Type == TNumberType::Text)
+        RecordText(context, sender.Name(), row.Value, std::to_wstring(position));
+    else
+        RecordNumber(context, sender.Name(), row.Value, position);
+}
+
+void Load(TPageContext& context, const TTextRow& row) {
+    auto* edit = context.Form.Find<TEdit>(row.Control);
+    if (edit == nullptr) return;
+    if (const auto value = Stored(context, row.Value)) {
+        edit->SetText(AsText(*value));
+    } else if (row.MissingShows != nullptr) {
+        if (const auto* other = context.Form.Find<TEdit>(row.MissingShows)) edit->SetText(other->Text());
+    }
+}
+
+void RecordFrom(TPageContext& context, const TTextRow& row, TComponent& sender) {
+    RecordText(context, sender.Name(), row.Value, static_cast<TEdit&>(sender).Text());
+}
+
+/// A system parameter of up to 32 bits; 0 when Windows does not tell it.
+std::uint32_t ReadParameter(const TPageContext& context, std::uint32_t action) {
+    std::array<std::uint8_t, sizeof(std::uint32_t)> buffer{};
+    if (!context.System.Parameters.Get(action, 0, buffer)) buffer = {};
+    std::uint32_t value = 0;
+    for (std::size_t i = buffer.size(); i-- > 0;) value = value << 8 | buffer[i];
+    return value;
+}
+
+void RecordInSlot(TPageContext& context, const TComponent& sender, std::uint32_t action, TParameterSlot slot,
+                  std::uint32_t value) {
+    const bool isParam = slot == TParameterSlot::Param;
+    RecordParameter(context, sender.Name(), action, isParam ? value : 0, isParam ? 0 : value);
+}
+
+void Load(TPageContext& context, const TParameterSwitchRow& row) {
+    constexpr std::uint32_t kBoolean = 0xFF;  // only the lowest byte is sure to be written
+    const bool on = (ReadParameter(context, row.Get) & kBoolean) != 0;
+    if (auto* box = context.Form.Find<TCheckBox>(row.Control)) box->SetChecked(on);
+    if (auto* list = context.Form.Find<TComboBox>(row.Control)) list->SetItemIndex(on ? 1 : 0);
+    if (row.Toggles != nullptr) context.Form.Find(row.Toggles)->SetEnabled(on);
+}
+
+void RecordFrom(TPageContext& context, const TParameterSwitchRow& row, TComponent& sender) {
+    const bool on = sender.Kind() == TComponentKind::CheckBox
+                        ? static_cast<TCheckBox&>(sender).Checked()
+                        : static_cast<TComboBox&>(sender).ItemIndex() != 0;
+    RecordInSlot(context, sender, row.Set, row.Slot, on ? 1 : 0);
+    if (row.Toggles == nullptr) return;
+    TControl& other = *context.Form.Find(row.Toggles);
+    other.SetEnabled(!other.Enabled());
+}
+
+void Load(TPageContext& context, const TParameterNumberRow& row) {
+    if (auto* control = context.Form.Find<TRangeControl>(row.Control))
+        control->SetPosition(static_cast<int>(ReadParameter(context, row.Get)));
+}
+
+void RecordFrom(TPageContext& context, const TParameterNumberRow& row, TComponent& sender) {
+    const int position = static_cast<TRangeControl&>(sender).Position();
+    RecordInSlot(context, sender, row.Set, row.Slot, static_cast<std::uint32_t>(position));
+}
+
+void Load(TPageContext& context, const TSpecialRow& row) {
+    if (row.Load != nullptr) row.Load(context, row);
+}
+
+void RecordFrom(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
+    row.Record(context, row, sender);
 }
 
 }  // namespace
 
+std::vector<std::wstring> ControlsOf(const TRow& row) {
+    if (const auto* pair = std::get_if<TRadioPairRow>(&row)) return {pair->First, pair->Second};
+    if (const auto* special = std::get_if<TSpecialRow>(&row))
+        return {special->Controls.begin(), special->Controls.end()};
+    return std::visit(
+        [](const auto& kind) -> std::vector<std::wstring> {
+            if constexpr (requires { kind.Control; }) return {kind.Control};
+            return {};
+        },
+        row);
+}
+
 void LoadRow(TPageContext& context, const TRow& row) {
-    std::visit([&](const auto& kind) { Load(context, kind); }, row);
+    std::visit(
+        [&](const auto& kind) {
+            if (kind.LoadedOn.Include(context.WindowsLevel)) Load(context, kind);
+        },
+        row);
 }
 
 void RecordRow(TPageContext& context, const TRow& row, TComponent& sender) {
-    std::visit([&](const auto& kind) { Record(context, kind, sender); }, row);
+    const auto names = ControlsOf(row);
+    if (std::find(names.begin(), names.end(), sender.Name()) == names.end()) return;
+    std::visit(
+        [&](const auto& kind) {
+            RecordFrom(context, kind, sender);
+            if (kind.Restart) context.RestartNeeded = true;
+        },
+        row);
 }

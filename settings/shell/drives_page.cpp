@@ -1,6 +1,6 @@
 #include "settings/shell/drives_page.h"
 
-#include "engine/reg_value.h"
+#include "settings/store.h"
 #include "ui/controls.h"
 
 namespace {
@@ -73,41 +73,23 @@ constexpr TRow kDiskSpaceRows[] = {
 constexpr std::int32_t kRemovableDrives = 0x04;
 constexpr std::int32_t kCdDrives = 0x20;
 
-std::optional<std::int32_t> StoredMask(const TPageContext& context, TRegRecor& record) {
-    context.Changes.ReadCurrent(record);
-    if (record.ReadResult != TReadStatus::Found) return std::nullopt;
-    return AsInteger(record.Value);
-}
-
-TRegRecor MaskRecord(const TSpecialRow& row) {
-    TRegRecor record;
-    record.Name = row.Control;
-    record.RootKey = row.Value.Root;
-    record.Key = row.Value.Key;
-    record.ValueName = row.Value.ValueName;
-    return record;
-}
-
 void LoadAutoPlay(TPageContext& context, const TSpecialRow& row) {
-    TRegRecor record = MaskRecord(row);
-    const auto mask = StoredMask(context, record);
-    auto* box = context.Form.Find<TCheckBox>(row.Control);
-    if (mask && box != nullptr) box->SetChecked((*mask & row.Parameter) == 0);
+    const auto mask = StoredNumber(context, row.Value);
+    if (mask) context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked((*mask & row.Parameter) == 0);
 }
 
 void RecordAutoPlay(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    TRegRecor record = MaskRecord(row);
-    const auto mask = StoredMask(context, record);
+    const auto mask = StoredNumber(context, row.Value);
     const std::int32_t bit = row.Parameter;
     // Without a stored mask the bit is set whatever the box says: the system's default mask is not known here.
     std::int32_t changed = bit;
     if (mask) changed = static_cast<TCheckBox&>(sender).Checked() ? *mask & ~bit : *mask | bit;
-    record.DataType = TRegDataType::Dword;
-    record.Value = changed;
-    context.Changes.Add(record);
+    RecordNumber(context, sender.Name(), row.Value, changed);
 }
 
 constexpr TPlace kAutoPlayMask{kCurrentUser, kUserExplorerPolicies, L"NoDriveTypeAutoRun"};
+constexpr const wchar_t* kRemovableMedia[] = {L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia"};
+constexpr const wchar_t* kDvd[] = {L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD"};
 constexpr const wchar_t* kAutoPlayRule =
     L"checked while the drive type's bit is clear; changes that bit alone";
 
@@ -120,13 +102,13 @@ constexpr TRow kAutoPlayRows[] = {
                                         .Value = {kLocalMachine, kCdrom, L"Autorun"},
                                         .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
                  .Restart = true},
-    TSpecialRow{.Control = L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia",
+    TSpecialRow{.Controls = kRemovableMedia,
                 .Value = kAutoPlayMask,
                 .Rule = kAutoPlayRule,
                 .Load = LoadAutoPlay,
                 .Record = RecordAutoPlay,
                 .Parameter = kRemovableDrives},
-    TSpecialRow{.Control = L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD",
+    TSpecialRow{.Controls = kDvd,
                 .Value = kAutoPlayMask,
                 .Rule = kAutoPlayRule,
                 .Load = LoadAutoPlay,

@@ -17,8 +17,6 @@ constexpr const wchar_t* kOther = L"Edit_Startup_System_DelayTime_Time";  // of 
 constexpr const wchar_t* kOtherUpDown = L"Updown_Startup_System_DelayTime_Time";
 constexpr const wchar_t* kThumbnail = L"Edit_Folder_Thumbnail_Size";  // 32 to 256, its own sender
 
-void LoadNothing(TPageContext& /*context*/, const TSpecialRow& /*row*/) {}
-
 /// Records the sender under its name: the position of an up-down; of an edit the text, none being 0.
 void RecordSender(TPageContext& context, const TSpecialRow& /*row*/, TComponent& sender) {
     TRegRecor record;
@@ -31,12 +29,10 @@ void RecordSender(TPageContext& context, const TSpecialRow& /*row*/, TComponent&
     context.Changes.Add(record);
 }
 
-constexpr TRow Recording(const wchar_t* control) {
-    return TSpecialRow{
-        .Control = control, .Value = {}, .Rule = L"", .Load = LoadNothing, .Record = RecordSender};
-}
-constexpr TRow kRows[] = {Recording(kCountUpDown), Recording(kHoverUpDown), Recording(kCaretUpDown),
-                          Recording(kOtherUpDown), Recording(kCount),       Recording(kThumbnail)};
+constexpr const wchar_t* kSenders[] = {kCountUpDown, kHoverUpDown, kCaretUpDown,
+                                       kOtherUpDown, kCount,       kThumbnail};
+constexpr TRow kRows[] = {
+    TSpecialRow{.Controls = kSenders, .Value = {}, .Rule = L"", .Load = nullptr, .Record = RecordSender}};
 constexpr TLoader kLoaders[] = {kRows};
 
 constexpr TPageDefinition kInputPage{

@@ -55,6 +55,7 @@ void TEditPeer::ShowState() {
     if (TextOf(Handle()) == text) return;  // leaves the caret where the user is typing
     FShowing = true;
     SetWindowTextW(Handle(), text.c_str());
+    Send(EM_SETSEL, text.size(), static_cast<LPARAM>(text.size()));  // Windows puts the caret before the text
     FShowing = false;
 }
 

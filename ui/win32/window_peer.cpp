@@ -40,6 +40,15 @@ void TWindowPeer::Detach() {
     FHandle = nullptr;
 }
 
+/// For Windows the controls of a group box are its neighbours: they do not hide with it by themselves.
+bool TWindowPeer::IsShown() const {
+    const TControl* control = &FControl;
+    while (control->Visible() && control->Parent() != nullptr &&
+           control->Parent()->Kind() == TComponentKind::GroupBox)
+        control = control->Parent();
+    return control->Visible();
+}
+
 void TWindowPeer::Update(TControlAspect aspect) {
     if (FHandle == nullptr) return;
     switch (aspect) {
@@ -52,6 +61,9 @@ void TWindowPeer::Update(TControlAspect aspect) {
             break;
         case TControlAspect::Visible:
             ShowWindow(FHandle, IsShown() ? SW_SHOWNA : SW_HIDE);
+            if (FControl.Kind() == TComponentKind::GroupBox)
+                for (const TControl* child : FControl.Children())
+                    if (child->Peer() != nullptr) child->Peer()->Update(aspect);
             FForm.LayOutLater(FControl);
             break;
         case TControlAspect::State:

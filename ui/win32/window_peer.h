@@ -45,7 +45,7 @@ class TWindowPeer : public TPeer {
     virtual void ShowItems() {}
     /// What the window's caption is to be.
     [[nodiscard]] virtual std::wstring WindowText() const { return FControl.Caption(); }
-    [[nodiscard]] virtual bool IsShown() const { return FControl.Visible(); }
+    [[nodiscard]] virtual bool IsShown() const;
 
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return SendMessageW(FHandle, message, wParam, lParam);

@@ -1,0 +1,139 @@
+#include "settings/store.h"
+
+#include "engine/reg_value.h"
+#include "platform/text.h"
+#include "settings/page_context.h"
+
+bool TMatch::operator()(const TRegValue& value) const {
+    switch (FKind) {
+        case TKind::Number:
+            return AsInteger(value) == FNumber;
+        case TKind::Text:
+            return AsText(value) == FText;
+        case TKind::TextAnyCase:
+            return SameText(AsText(value), FText);
+        case TKind::EmptyOrZero:
+            break;
+    }
+    return AsText(value).empty() || AsInteger(value) == 0;
+}
+
+std::wstring TMatch::Words() const {
+    switch (FKind) {
+        case TKind::Number:
+            return std::to_wstring(FNumber);
+        case TKind::Text:
+            return L'"' + std::wstring(FText) + L'"';
+        case TKind::TextAnyCase:
+            return L'"' + std::wstring(FText) + L"\" in any case";
+        case TKind::EmptyOrZero:
+            break;
+    }
+    return L"0 or empty";
+}
+
+std::optional<TRegValue> Stored(const TPageContext& context, const TPlace& place) {
+    if (place.IsFirefoxPref) {
+        const std::wstring value = context.Firefox.GetFirefoxPref(place.ValueName);
+        if (value == TFirefoxPrefs::kNoSuchPref) return std::nullopt;
+        return value;
+    }
+    TRegRecor record = RecordAt(place, {});
+    if (context.ShowsPending)
+        context.Changes.ReadPending(record);
+    else
+        context.Changes.ReadCurrent(record);
+    if (record.ReadResult != TReadStatus::Found) return std::nullopt;
+    return std::move(record.Value);
+}
+
+std::optional<std::int32_t> StoredNumber(const TPageContext& context, const TPlace& place) {
+    const auto value = Stored(context, place);
+    return value ? AsInteger(*value) : std::nullopt;
+}
+
+TRegRecor RecordAt(const TPlace& place, const std::wstring& changeName) {
+    TRegRecor record;
+    record.Name = changeName;
+    record.RootKey = place.Root;
+    record.Key = place.Key;
+    record.ValueName = place.ValueName;
+    return record;
+}
+
+namespace {
+
+void RecordValue(TPageContext& context, const std::wstring& changeName, const TPlace& place,
+                 TRegDataType type, TRegValue value) {
+    TRegRecor record = RecordAt(place, changeName);
+    record.DataType = type;
+    record.Value = std::move(value);
+    context.Changes.Add(record);
+}
+
+void RecordDeletion(TPageContext& context, const std::wstring& changeName, const TPlace& place,
+                    TRegAction action) {
+    TRegRecor record = RecordAt(place, changeName);
+    record.Action = action;
+    context.Changes.Add(record);
+}
+
+void RecordAsStored(TPageContext& context, const std::wstring& changeName, const TPlace& place,
+                    std::int32_t number) {
+    TRegRecor record = RecordAt(place, changeName);
+    context.Changes.ReadCurrent(record);
+    if (record.ReadResult != TReadStatus::Found) record.DataType = TRegDataType::Dword;
+    record.Value = number;
+    context.Changes.Add(record);
+}
+
+}  // namespace
+
+void Record(TPageContext& context, const std::wstring& changeName, const TPlace& place, const TDatum& datum) {
+    switch (datum.Kind) {
+        case TDatum::TKind::Dword:
+            return RecordNumber(context, changeName, place, datum.Number);
+        case TDatum::TKind::Text:
+            return RecordText(context, changeName, place, datum.Characters);
+        case TDatum::TKind::Caption:
+            return RecordText(context, changeName, place, context.Captions[datum.Translation]);
+        case TDatum::TKind::AsStored:
+            return RecordAsStored(context, changeName, place, datum.Number);
+        case TDatum::TKind::DeleteValue:
+            return RecordDeletion(context, changeName, place, TRegAction::DeleteValue);
+        case TDatum::TKind::DeleteKey:
+            return RecordDeletion(context, changeName, place, TRegAction::DeleteKey);
+        case TDatum::TKind::Nothing:
+            return;
+    }
+}
+
+void RecordText(TPageContext& context, const std::wstring& changeName, const TPlace& place,
+                const std::wstring& text) {
+    if (!place.IsFirefoxPref) return RecordValue(context, changeName, place, TRegDataType::String, text);
+    context.FirefoxChanged = true;
+    context.Firefox.SetFirefoxPref(place.ValueName, text);
+}
+
+void RecordNumber(TPageContext& context, const std::wstring& changeName, const TPlace& place,
+                  std::int32_t number) {
+    if (place.IsFirefoxPref) return RecordText(context, changeName, place, std::to_wstring(number));
+    RecordValue(context, changeName, place, TRegDataType::Dword, number);
+}
+
+void RecordBytes(TPageContext& context, const std::wstring& changeName, const TPlace& place, TBytes bytes) {
+    RecordValue(context, changeName, place, TRegDataType::Binary, std::move(bytes));
+}
+
+void RecordParameter(TPageContext& context, const std::wstring& changeName, std::uint32_t action,
+                     std::uint32_t param, const TSpiData& data) {
+    constexpr std::uint32_t kUpdateProfile = 1;  // SPIF_UPDATEINIFILE
+    TRegRecor record;
+    record.Name = changeName;
+    record.IsSystemParameter = true;
+    record.SpiAction = action;
+    record.SpiParam = param;
+    record.SpiData = data;
+    record.SpiWinIni = kUpdateProfile;
+    context.Changes.Add(record);
+}

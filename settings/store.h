@@ -1,0 +1,31 @@
+// Reading and recording at a setting's place, whichever kind of place it is.
+#pragma once
+
+#include <optional>
+
+#include "engine/reg_recor.h"
+#include "settings/datum.h"
+
+struct TPageContext;
+
+/// What a loader shows: the value at the place, or nothing when it cannot be read. On pages that show pending changes
+/// (see TPageDefinition::ShowsPending) a change of the place that is not written yet answers first.
+[[nodiscard]] std::optional<TRegValue> Stored(const TPageContext& context, const TPlace& place);
+
+/// The number that Stored means; nothing when there is none.
+[[nodiscard]] std::optional<std::int32_t> StoredNumber(const TPageContext& context, const TPlace& place);
+
+/// A change of that name and place, still without type and value.
+[[nodiscard]] TRegRecor RecordAt(const TPlace& place, const std::wstring& changeName);
+
+/// Records a change. A preference changes at once, in the store that Apply saves.
+void Record(TPageContext& context, const std::wstring& changeName, const TPlace& place, const TDatum& datum);
+void RecordText(TPageContext& context, const std::wstring& changeName, const TPlace& place,
+                const std::wstring& text);
+void RecordNumber(TPageContext& context, const std::wstring& changeName, const TPlace& place,
+                  std::int32_t number);
+void RecordBytes(TPageContext& context, const std::wstring& changeName, const TPlace& place, TBytes bytes);
+
+/// Records a call of SystemParametersInfoW that also updates the user's profile.
+void RecordParameter(TPageContext& context, const std::wstring& changeName, std::uint32_t action,
+                     std::uint32_t param, const TSpiData& data);

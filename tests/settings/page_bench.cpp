@@ -1,0 +1,138 @@
+#include "tests/settings/page_bench.h"
+
+namespace {
+
+std::wstring Hex(std::uint32_t number, int digits) {
+    std::wstring text;
+    while (number != 0 || digits > 0) {
+        text.insert(text.begin(), L"0123456789ABCDEF"[number % 16]);
+        number /= 16;
+        --digits;
+    }
+    return text;
+}
+
+std::wstring Hex(const TBytes& bytes) {
+    std::wstring text;
+    for (const std::uint8_t byte : bytes) text += (text.empty() ? L"" : L" ") + Hex(byte, 2);
+    return text;
+}
+
+std::wstring Words(const TRegRecor& record) {
+    switch (record.DataType) {
+        case TRegDataType::Dword:
+            return std::to_wstring(std::get<std::int32_t>(record.Value));
+        case TRegDataType::Binary:
+            return Hex(std::get<TBytes>(record.Value));
+        default:
+            break;
+    }
+    // A number that is written in the type of the stored value stays a number until Apply.
+    const auto* number = std::get_if<std::int32_t>(&record.Value);
+    return L'"' + (number != nullptr ? std::to_wstring(*number) : std::get<std::wstring>(record.Value)) +
+           L'"';
+}
+
+std::wstring Line(const TRegRecor& record) {
+    if (record.IsSystemParameter) {
+        EXPECT_EQ(record.SpiWinIni, 1u) << "every recorder updates the user's profile";
+        const auto* number = std::get_if<std::uint32_t>(&record.SpiData);
+        return L"parameter 0x" + Hex(record.SpiAction, 1) + L'(' + std::to_wstring(record.SpiParam) + L", " +
+               (number != nullptr ? std::to_wstring(*number) : Hex(std::get<TBytes>(record.SpiData))) + L')';
+    }
+    const wchar_t* root = record.RootKey == TRootKey::LocalMachine  ? L"HKLM"
+                          : record.RootKey == TRootKey::CurrentUser ? L"HKCU"
+                                                                    : L"HKCR";
+    const std::wstring key = root + record.Key;
+    const std::wstring place = key + L'[' + record.ValueName + L']';
+    switch (record.Action) {
+        case TRegAction::DeleteKey:
+            return L"delete " + key;
+        case TRegAction::DeleteValue:
+            return L"delete " + place;
+        case TRegAction::Write:
+            break;
+    }
+    return place + L" = " + Words(record);
+}
+
+std::string Narrow(const std::wstring& text) { return testing::PrintToString(text); }
+
+}  // namespace
+
+std::wstring TPageBench::State(const std::wstring& name) {
+    TControl& control = Get<TControl>(name);
+    switch (control.Kind()) {
+        case TComponentKind::CheckBox:
+        case TComponentKind::RadioButton:
+            return Checked(name) ? L"on" : L"off";
+        case TComponentKind::ComboBox:
+            return std::to_wstring(static_cast<TComboBox&>(control).ItemIndex());
+        case TComponentKind::TrackBar:
+        case TComponentKind::UpDown:
+            return std::to_wstring(static_cast<TRangeControl&>(control).Position());
+        case TComponentKind::Edit:
+            return static_cast<TEdit&>(control).Text();
+        case TComponentKind::ColorSwatch:
+            return L"0x" + Hex(static_cast<TColorSwatch&>(control).Color(), 6);
+        default:
+            return control.Caption();
+    }
+}
+
+void TPageBench::Act(const std::wstring& name, const std::wstring& state) {
+    TControl& control = Get<TControl>(name);
+    switch (control.Kind()) {
+        case TComponentKind::CheckBox:
+        case TComponentKind::RadioButton:
+            return Click(name, state == L"on");
+        case TComponentKind::ComboBox:
+            return static_cast<TComboBox&>(control).SetItemIndex(std::stoi(state));
+        case TComponentKind::TrackBar:
+        case TComponentKind::UpDown:
+            return static_cast<TRangeControl&>(control).SetPosition(std::stoi(state));
+        case TComponentKind::Edit: {
+            auto& edit = static_cast<TEdit&>(control);
+            edit.SetFocused(true);
+            edit.SetText(state);
+            return edit.KeyUp();
+        }
+        case TComponentKind::Button:
+            return static_cast<TButton&>(control).Click();
+        default:
+            throw std::logic_error("a user does nothing to such a control");
+    }
+}
+
+std::vector<std::wstring> TPageBench::Pending() const {
+    std::vector<std::wstring> lines;
+    for (const TRegRecor& record : FChanges.Pending()) lines.push_back(record.Name + L": " + Line(record));
+    return lines;
+}
+
+void ExpectShown(const TPageDefinition& page, std::span<const TShownCase> cases) {
+    for (const TShownCase& c : cases) {
+        TPageBench bench(page);
+        bench.Context.WindowsLevel = c.Level;
+        const std::wstring designed = bench.State(c.Control);
+        if (c.Stored) bench.Store(c.Value, *c.Stored);
+        bench.Load();
+        EXPECT_EQ(bench.State(c.Control), c.Shows == L"kept" ? designed : c.Shows)
+            << Narrow(c.Control) << " on level " << c.Level << ", "
+            << (c.Stored ? testing::PrintToString(c.Stored->Value.index()) : "missing");
+        EXPECT_TRUE(bench.Pending().empty()) << "loading records nothing";
+        EXPECT_FALSE(bench.Context.Loading);
+    }
+}
+
+void ExpectRecorded(const TPageDefinition& page, std::span<const TRecordedCase> cases) {
+    for (const TRecordedCase& c : cases) {
+        TPageBench bench(page);
+        if (bench.Get<TControl>(c.Control).Kind() == TComponentKind::CheckBox)
+            bench.Preset(c.Control, c.State == L"off");
+        bench.Act(c.Control, c.State);
+        EXPECT_EQ(bench.Pending(), c.Pending) << Narrow(c.Control) << ' ' << Narrow(c.State);
+        EXPECT_EQ(bench.Context.RestartNeeded, c.Restart) << Narrow(c.Control);
+        EXPECT_GE(bench.Recorded, 1) << "Apply is to be enabled";
+    }
+}
