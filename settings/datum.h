@@ -53,10 +53,14 @@ inline constexpr TDatum kNothing{.Kind = TDatum::TKind::Nothing};
 /// A question about a stored value: is it this number, this text?
 class TMatch {
   public:
+    // Rows write the number or the text itself.
+    // NOLINTBEGIN(google-explicit-constructor)
+
     /// The value means this number, whatever its type.
     constexpr TMatch(std::int32_t number) : FKind(TKind::Number), FNumber(number) {}
     /// The value reads as exactly this text, whatever its type.
     constexpr TMatch(const wchar_t* text) : FKind(TKind::Text), FText(text) {}
+    // NOLINTEND(google-explicit-constructor)
 
     static constexpr TMatch AnyCase(const wchar_t* text) {
         TMatch match(text);
