@@ -2,12 +2,15 @@
 
 #include <array>
 
+#include "settings/net/internet_explorer_page.h"
+#include "settings/net/mail_page.h"
 #include "settings/shell/drives_page.h"
 #include "settings/shell/memory_page.h"
 #include "settings/shell/start_menu_page.h"
 #include "settings/shell/taskbar_page.h"
 
 std::span<const TPageDefinition* const> PageDefinitions() {
-    static const std::array kPages{&DrivesPage(), &MemoryPage(), &StartMenuPage(), &TaskbarPage()};
+    static const std::array kPages{&DrivesPage(), &MemoryPage(),    &InternetExplorerPage(),
+                                   &MailPage(),   &StartMenuPage(), &TaskbarPage()};
     return kPages;
 }
