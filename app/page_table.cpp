@@ -2,10 +2,14 @@
 
 #include <array>
 
+#include "settings/net/network_page.h"
+#include "settings/net/privacy_page.h"
+#include "settings/net/security_page.h"
 #include "settings/shell/drives_page.h"
 #include "settings/shell/memory_page.h"
 
 std::span<const TPageDefinition* const> PageDefinitions() {
-    static const std::array kPages{&DrivesPage(), &MemoryPage()};
+    static const std::array kPages{&DrivesPage(), &MemoryPage(), &NetworkPage(), &SecurityPage(),
+                                   &PrivacyPage()};
     return kPages;
 }
