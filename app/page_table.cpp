@@ -4,6 +4,9 @@
 
 #include "settings/net/internet_explorer_page.h"
 #include "settings/net/mail_page.h"
+#include "settings/net/network_page.h"
+#include "settings/net/privacy_page.h"
+#include "settings/net/security_page.h"
 #include "settings/shell/drives_page.h"
 #include "settings/shell/memory_page.h"
 #include "settings/shell/start_menu_page.h"
@@ -12,5 +15,7 @@
 std::span<const TPageDefinition* const> PageDefinitions() {
     static const std::array kPages{&DrivesPage(), &MemoryPage(),    &InternetExplorerPage(),
                                    &MailPage(),   &StartMenuPage(), &TaskbarPage()};
+    static const std::array kPages{&DrivesPage(), &MemoryPage(), &NetworkPage(), &SecurityPage(),
+                                   &PrivacyPage()};
     return kPages;
 }
