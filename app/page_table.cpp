@@ -13,9 +13,9 @@
 #include "settings/shell/taskbar_page.h"
 
 std::span<const TPageDefinition* const> PageDefinitions() {
-    static const std::array kPages{&DrivesPage(), &MemoryPage(),    &InternetExplorerPage(),
-                                   &MailPage(),   &StartMenuPage(), &TaskbarPage()};
-    static const std::array kPages{&DrivesPage(), &MemoryPage(), &NetworkPage(), &SecurityPage(),
-                                   &PrivacyPage()};
+    static const std::array kPages{
+        &NetworkPage(), &InternetExplorerPage(), &MailPage(),      &PrivacyPage(), &SecurityPage(),
+        &DrivesPage(),  &MemoryPage(),           &StartMenuPage(), &TaskbarPage(),
+    };
     return kPages;
 }
