@@ -10,12 +10,13 @@
 #include "settings/shell/drives_page.h"
 #include "settings/shell/memory_page.h"
 #include "settings/shell/start_menu_page.h"
+#include "settings/shell/startup_page.h"
+#include "settings/shell/system_page.h"
 #include "settings/shell/taskbar_page.h"
 
 std::span<const TPageDefinition* const> PageDefinitions() {
-    static const std::array kPages{
-        &NetworkPage(), &InternetExplorerPage(), &MailPage(),      &PrivacyPage(), &SecurityPage(),
-        &DrivesPage(),  &MemoryPage(),           &StartMenuPage(), &TaskbarPage(),
-    };
+    static const std::array kPages{&StartMenuPage(), &TaskbarPage(), &NetworkPage(), &InternetExplorerPage(),
+                                   &MailPage(),      &PrivacyPage(), &DrivesPage(),  &MemoryPage(),
+                                   &StartupPage(),   &SystemPage(),  &SecurityPage()};
     return kPages;
 }
