@@ -8,14 +8,16 @@
 #include "settings/net/privacy_page.h"
 #include "settings/net/security_page.h"
 #include "settings/shell/drives_page.h"
+#include "settings/shell/input_page.h"
 #include "settings/shell/memory_page.h"
 #include "settings/shell/start_menu_page.h"
 #include "settings/shell/taskbar_page.h"
 
 std::span<const TPageDefinition* const> PageDefinitions() {
     static const std::array kPages{
-        &NetworkPage(), &InternetExplorerPage(), &MailPage(),      &PrivacyPage(), &SecurityPage(),
-        &DrivesPage(),  &MemoryPage(),           &StartMenuPage(), &TaskbarPage(),
+        &NetworkPage(),   &InternetExplorerPage(), &MailPage(),  &PrivacyPage(),
+        &SecurityPage(),  &DrivesPage(),           &InputPage(), &MemoryPage(),
+        &StartMenuPage(), &TaskbarPage(),
     };
     return kPages;
 }
