@@ -70,7 +70,7 @@ void ExpectKeys(const TExtIniFile& ini, const wchar_t* section, const TTexts& te
         EXPECT_EQ(std::ranges::count(keys, key), 1) << "missing or twice: " << testing::PrintToString(key);
         const std::wstring translated = ini.ReadString(section, key, L"");
         if (sameTexts)
-            EXPECT_EQ(translated, text);
+            EXPECT_EQ(translated, Trim(text)) << "blanks around a value are not read";
         else
             EXPECT_FALSE(translated.empty()) << testing::PrintToString(key);
     }
