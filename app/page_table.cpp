@@ -7,6 +7,7 @@
 #include "settings/net/network_page.h"
 #include "settings/net/privacy_page.h"
 #include "settings/net/security_page.h"
+#include "settings/shell/display_page.h"
 #include "settings/shell/drives_page.h"
 #include "settings/shell/memory_page.h"
 #include "settings/shell/start_menu_page.h"
@@ -15,8 +16,9 @@
 #include "settings/shell/taskbar_page.h"
 
 std::span<const TPageDefinition* const> PageDefinitions() {
-    static const std::array kPages{&StartMenuPage(), &TaskbarPage(), &NetworkPage(), &InternetExplorerPage(),
-                                   &MailPage(),      &PrivacyPage(), &DrivesPage(),  &MemoryPage(),
-                                   &StartupPage(),   &SystemPage(),  &SecurityPage()};
+    static const std::array kPages{&DisplayPage(), &StartMenuPage(),        &TaskbarPage(),
+                                   &NetworkPage(), &InternetExplorerPage(), &MailPage(),
+                                   &PrivacyPage(), &DrivesPage(),           &MemoryPage(),
+                                   &StartupPage(), &SystemPage(),           &SecurityPage()};
     return kPages;
 }
