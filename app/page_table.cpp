@@ -7,6 +7,7 @@
 #include "settings/net/network_page.h"
 #include "settings/net/privacy_page.h"
 #include "settings/net/security_page.h"
+#include "settings/shell/display_page.h"
 #include "settings/shell/drives_page.h"
 #include "settings/shell/input_page.h"
 #include "settings/shell/memory_page.h"
@@ -16,9 +17,9 @@
 #include "settings/shell/taskbar_page.h"
 
 std::span<const TPageDefinition* const> PageDefinitions() {
-    static const std::array kPages{&InputPage(),   &StartMenuPage(),        &TaskbarPage(),
-                                   &NetworkPage(), &InternetExplorerPage(), &MailPage(),
-                                   &PrivacyPage(), &DrivesPage(),           &MemoryPage(),
-                                   &StartupPage(), &SystemPage(),           &SecurityPage()};
+    static const std::array kPages{
+        &DisplayPage(),          &InputPage(),  &StartMenuPage(), &TaskbarPage(), &NetworkPage(),
+        &InternetExplorerPage(), &MailPage(),   &PrivacyPage(),   &DrivesPage(),  &MemoryPage(),
+        &StartupPage(),          &SystemPage(), &SecurityPage()};
     return kPages;
 }

@@ -7,7 +7,7 @@
 #include "ui/controls.h"
 
 TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl& notebook,
-             std::function<void()> changed)
+             TNotifyEvent changed)
     : FDefinition(definition), FContext(context), FChanged(std::move(changed)) {
     FContext.Form.Build(notebook, definition.Design());
     Listen(*FContext.Form.Find(std::to_wstring(definition.Tag)));
@@ -34,7 +34,7 @@ void TPage::Changed(TComponent& sender) {
     if (FContext.Loading) return;
     for (const TLoader& loader : FDefinition.Loaders)
         for (const TRow& row : loader) RecordRow(FContext, row, sender);
-    FChanged();
+    FChanged(sender);
 }
 
 void TPage::HideWhatIsNotOffered() const {

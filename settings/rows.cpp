@@ -108,8 +108,7 @@ void RecordInSlot(TPageContext& context, const TComponent& sender, std::uint32_t
 }
 
 void Load(TPageContext& context, const TParameterSwitchRow& row) {
-    constexpr std::uint32_t kBoolean = 0xFF;  // only the lowest byte is sure to be written
-    const bool on = (ReadParameter(context, row.Get) & kBoolean) != 0;
+    const bool on = ReadSwitch(context, row.Get);
     if (auto* box = context.Form.Find<TCheckBox>(row.Control)) box->SetChecked(on);
     if (auto* list = context.Form.Find<TComboBox>(row.Control)) list->SetItemIndex(on ? 1 : 0);
     if (row.Toggles != nullptr) context.Form.Find(row.Toggles)->SetEnabled(on);

@@ -25,7 +25,7 @@ class TPageBench {
     explicit TPageBench(const TPageDefinition& definition) : FForm(L"Form", L"TForm"), FChanges(Fake.System) {
         FForm.Build(FForm, Notebook(L"Notebook", {}));
         FPage =
-            std::make_unique<TPage>(definition, Context, *FForm.Find(L"Notebook"), [this] { ++Recorded; });
+            std::make_unique<TPage>(definition, Context, *FForm.Find(L"Notebook"), [this](TComponent&) { ++Recorded; });
     }
 
     void Load() { FPage->Load(); }
