@@ -9,6 +9,7 @@
 #include "settings/net/security_page.h"
 #include "settings/shell/display_page.h"
 #include "settings/shell/drives_page.h"
+#include "settings/shell/file_types_page.h"
 #include "settings/shell/folder_page.h"
 #include "settings/shell/input_page.h"
 #include "settings/shell/memory_page.h"
@@ -19,8 +20,8 @@
 
 std::span<const TPageDefinition* const> PageDefinitions() {
     static const std::array kPages{
-        &DisplayPage(), &FolderPage(),           &InputPage(),  &StartMenuPage(), &TaskbarPage(),
-        &NetworkPage(), &InternetExplorerPage(), &MailPage(),   &PrivacyPage(),   &DrivesPage(),
-        &MemoryPage(),  &StartupPage(),          &SystemPage(), &SecurityPage()};
+        &DisplayPage(), &FileTypesPage(), &FolderPage(),           &InputPage(),  &StartMenuPage(),
+        &TaskbarPage(), &NetworkPage(),   &InternetExplorerPage(), &MailPage(),   &PrivacyPage(),
+        &DrivesPage(),  &MemoryPage(),    &StartupPage(),          &SystemPage(), &SecurityPage()};
     return kPages;
 }

@@ -18,7 +18,7 @@ void Load(TPageContext& context, const TCheckBoxRow& row) {
     auto* box = context.Form.Find<TCheckBox>(row.Control);
     if (box == nullptr) return;
     TBoxState state = row.Shows.Missing;
-    if (const auto value = Stored(context, row.Value))
+    if (const auto value = Stored(context, row.LoadedFrom.value_or(row.Value)))
         state = row.Shows.When && row.Shows.When->Value(*value) ? row.Shows.When->Shows : row.Shows.Otherwise;
     if (state != kKeep) box->SetChecked(state == kChecked);
     EnableAll(context, row.Enables, box->Checked());
