@@ -13,6 +13,7 @@
 #include "settings/shell/drives_page.h"
 #include "settings/shell/file_types_page.h"
 #include "settings/shell/folder_page.h"
+#include "settings/shell/general_page.h"
 #include "settings/shell/input_page.h"
 #include "settings/shell/memory_page.h"
 #include "settings/shell/start_menu_page.h"
@@ -25,6 +26,6 @@ std::span<const TPageDefinition* const> PageDefinitions() {
         &DisplayPage(), &FileTypesPage(), &FolderPage(),           &InputPage(),   &StartMenuPage(),
         &TaskbarPage(), &NetworkPage(),   &InternetExplorerPage(), &FirefoxPage(), &MailPage(),
         &PrivacyPage(), &UserLogonPage(), &DrivesPage(),           &MemoryPage(),  &StartupPage(),
-        &SystemPage(),  &SecurityPage()};
+        &SystemPage(),  &SecurityPage(),  &GeneralPage()};
     return kPages;
 }
