@@ -6,8 +6,8 @@
 # To add a category icon: draw resources/images/svg/<name>.svg in a square of 32 units, with outlines two units wide on
 # odd coordinates (so that they fall on whole pixels at 16), run this script and name the icon in the category's table.
 # Where a drawing does not survive 16 pixels, a simpler <name>_16.svg beside it takes its place at that size.
-# To add a picture that is no icon: draw resources/images/svg/pages/<name>.svg, 100 units high, run this script and name
-# the picture with its width and height in its page's design.
+# To add a picture that is no icon: draw resources/images/svg/pages/<name>.svg, 100 units high, run this script and
+# name the picture with its width and height in its page's design.
 set -euo pipefail
 . "$(dirname "$0")/lib.sh"
 

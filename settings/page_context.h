@@ -27,8 +27,8 @@ struct TPageContext {
     TServiceAction FirewallAction = TServiceAction::Nothing;
 };
 
-/// Sets the loading mark for a scope, so that no path out of a loader leaves it set. Scopes nest: while a loader
-/// handles messages, another page may be loaded.
+/// Sets the loading mark for a scope, so that no path out of a loader leaves it set. Scopes nest: while a
+/// loader handles messages, another page may be loaded.
 class TLoadingScope {
   public:
     explicit TLoadingScope(TPageContext& context, bool showsPending = false)

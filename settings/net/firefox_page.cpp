@@ -112,7 +112,7 @@ constexpr TRow kCommonRows[] = {
     FirefoxHomePageRow(kHomePage),
 };
 
-// The delay is read from one preference and written to another, the one that the Go button has too. A delay of 65000
+// The delay is read from one preference and written to another, which the Go button has too. A delay of 65000
 // stands for a click.
 constexpr TPlace kGoButtonPref = Pref(L"\"browser.urlbar.hideGoButton\"");
 constexpr const wchar_t* kOnClick = L"65000";
@@ -271,8 +271,8 @@ void LoadTabWidth(TPageContext& context, const TSpecialRow& row) {
 void RecordTabWidth(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
     const int width = context.Form.Find<TUpDown>(kTabWidthUpDown)->Position();
     if (width != kDefaultTabWidth) return RecordNumber(context, sender.Name(), row.Value, width);
-    // One click of the arrows may come twice, as the edit's change and as theirs; removing a preference that is
-    // gone already would leave an empty one.
+    // One click of the arrows may come twice, as the edit's change and as theirs, and removing a preference
+    // that is gone would leave an empty one.
     context.FirefoxChanged = true;
     if (Stored(context, row.Value)) RecordText(context, sender.Name(), row.Value, L"");
 }
@@ -318,7 +318,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_Firefox_Popup_Default", kPopupDefault},
 };
 
-/// Offers the settings or, without a Firefox, the sheet that says so. Answers whether there is something to load.
+/// Offers the settings or, without a Firefox, the sheet that says so. Answers whether there are any to load.
 bool Prepare(TPageContext& context) {
     const bool installed = context.Firefox.IsFirefoxInstalled();
     auto& tabs = *context.Form.Find<TPageControl>(kTabs);

@@ -107,7 +107,7 @@ constexpr TRow kCommonRows[] = {
                 .Load = LoadLogonScreen,
                 .Record = RecordLogonScreen,
                 .LoadedOn = kUntilXp},
-    // This option and the one for shutting down have an older place at Winlogon too, in another spelling here.
+    // This option and the one for shutting down have an older place at Winlogon, spelled differently here.
     TCheckBoxRow{.Control = L"Checkbox_UserLogin_Common_Set_UserName",
                  .Value = Policy(L"dontdisplaylastusername"),
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},

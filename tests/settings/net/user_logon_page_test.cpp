@@ -34,7 +34,7 @@ class TLogonBench : public TPageBench {
 
     bool Enabled(const wchar_t* name) { return Get<TControl>(name).Enabled(); }
     bool Shown(const wchar_t* name) { return Get<TControl>(name).Visible(); }
-    /// What is stored at Winlogon after the pending changes are written: a text in quotes, "-" when there is none.
+    /// Writes the changes and tells the value at Winlogon: a text in quotes, "-" when there is none.
     std::wstring Written(const wchar_t* value) {
         Context.Changes.WriteAll();
         const TRegistryData* data = Fake.Registry.Find({kLocalMachine, L"\\" WINLOGON, value});
@@ -46,29 +46,19 @@ TEST(TUserLogonPage, ShowsWhatIsStored) {
     const TShownCase cases[] = {
         {kClassic, Winlogon(L"LogonType"), Number(0), L"on", 5},
         {kClassic, Winlogon(L"LogonType"), Number(0), L"kept", 6},
-        {kClassic, Winlogon(L"LogonType"), std::nullopt, L"kept", 5},
         {kLastName, Policy(L"dontdisplaylastusername"), Number(1), L"on"},
-        {kLastName, Winlogon(L"DontDisplayLastUserName"), Number(1), L"kept"},
         {kPressCad, Winlogon(L"DisableCAD"), Number(0), L"on"},
-        {kPressCad, Winlogon(L"DisableCAD"), std::nullopt, L"kept"},
-        {kShutdown, Policy(L"ShutdownWithoutLogon"), Number(1), L"on"},
         {kEndTask, kAutoEndTasks, std::nullopt, L"on"},
         {kEndTask, kAutoEndTasks, String(L"1"), L"on"},
         {kEndTask, kAutoEndTasks, String(L"0"), L"off"},
         {kAutoLogon, Winlogon(L"AutoAdminLogon"), String(L"1"), L"on"},
         {kAutoLogon, Winlogon(L"AutoAdminLogon"), String(L"01"), L"off"},
-        {kUser, Winlogon(L"DefaultUserName"), String(L"me"), L"me"},
         {kPassword, Winlogon(L"DefaultPassword"), String(L"secret"), L"secret"},
-        {kDomain, Winlogon(L"DefaultDomainName"), String(L"home"), L"home"},
         {kSkip, Winlogon(L"IgnoreShiftOverride"), String(L""), L"on"},
         {kSkip, Winlogon(L"IgnoreShiftOverride"), std::nullopt, L"kept"},
-        {kAgain, Winlogon(L"ForceAutoLogon"), String(L"1"), L"on"},
         {kAgain, Winlogon(L"ForceAutoLogon"), String(L"0"), L"off"},
         {kNotice, Winlogon(L"LegalNoticeCaption"), String(L""), L"on"},
-        {kNotice, Winlogon(L"LegalNoticeText"), String(L"text"), L"off"},
-        {kTitle, Winlogon(L"LegalNoticeCaption"), String(L"title"), L"title"},
         {kText, Winlogon(L"LegalNoticeText"), String(L"text"), L"text"},
-        {kVerbose, Policy(L"verbosestatus"), Number(1), L"on"},
     };
     ExpectShown(UserLogonPage(), cases);
 }
@@ -81,7 +71,6 @@ TEST(TUserLogonPage, RecordsWhatEachStateStandsFor) {
          L"on",
          {line(kLastName, L": HKLM\\" POLICIES L"[dontdisplaylastusername] = 1"),
           line(kLastName, L"1: HKLM\\" WINLOGON L"[DontDisplayLastUserName] = 1")}},
-        {kPressCad, L"on", {line(kPressCad, L": HKLM\\" WINLOGON L"[DisableCAD] = 0")}},
         {kPressCad, L"off", {line(kPressCad, L": HKLM\\" WINLOGON L"[DisableCAD] = 1")}},
         {kShutdown,
          L"off",
@@ -154,6 +143,7 @@ TEST(TUserLogonPage, AutomaticLogonOnAndOffAgainWritesOverTheCredentials) {
     TLogonBench bench;
     bench.Store(Winlogon(L"DefaultPassword"), String(L"old"));
     bench.Load();
+    EXPECT_FALSE(bench.Get<TEdit>(kPassword).Password) << "the text is not masked";
     bench.Act(kDomain, L"home");
     bench.Click(kAutoLogon, true);
     EXPECT_EQ(bench.Pending()[3],
@@ -164,6 +154,7 @@ TEST(TUserLogonPage, AutomaticLogonOnAndOffAgainWritesOverTheCredentials) {
     EXPECT_EQ(bench.Written(L"DefaultUserName"), L"\"xxxxxx\"");
     EXPECT_EQ(bench.Written(L"DefaultPassword"), L"\"\"");
     EXPECT_EQ(bench.Written(L"DefaultDomainName"), L"\"home\"");
+    EXPECT_TRUE(bench.Fake.Shell.DebugTexts().empty()) << "no debugger learns the password";
 }
 
 TEST(TUserLogonPage, AutomaticLogonOffAndOnAgainDeletesTheCredentials) {
@@ -180,16 +171,6 @@ TEST(TUserLogonPage, AutomaticLogonOffAndOnAgainDeletesTheCredentials) {
     EXPECT_EQ(bench.Written(L"DefaultUserName"), L"\"me\"") << "typed after the deletion, written after it";
     EXPECT_EQ(bench.Written(L"DefaultPassword"), L"-");
     EXPECT_EQ(bench.Written(L"DefaultDomainName"), L"-");
-}
-
-TEST(TUserLogonPage, ThePasswordIsShownAndGoesNowhereElse) {
-    TLogonBench bench;
-    bench.Load();
-    bench.Click(kAutoLogon, true);
-    bench.Act(kPassword, L"secret");
-    EXPECT_FALSE(bench.Get<TEdit>(kPassword).Password);
-    bench.Context.Changes.WriteAll();
-    EXPECT_TRUE(bench.Fake.Shell.DebugTexts().empty()) << "no debugger learns it";
 }
 
 TEST(TUserLogonPage, TheDefaultButtonsAreHiddenAndDoNothing) {
