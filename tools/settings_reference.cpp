@@ -1,4 +1,5 @@
 // Prints the reference of all settings, in Markdown, from the catalogue itself.
+#include <algorithm>
 #include <cstdio>
 
 #include "app/category_table.h"
@@ -229,9 +230,19 @@ void PrintRow(const TForm& form, const TPageDefinition& page, const TRow& row, c
 void PrintPage(const TForm& form, const TPageDefinition& page, const TText& caption) {
     Print(L"");
     Print(L"## " + caption);
-    const TControl* sheet = nullptr;
-    for (const TLoader& loader : page.Loaders)
-        for (const TRow& row : loader) PrintRow(form, page, row, sheet);
+    // A loader may go back and forth between the sheets.
+    std::vector<std::pair<const TControl*, std::vector<const TRow*>>> sheets;
+    for (const TLoader& loader : page.Loaders) {
+        for (const TRow& row : loader) {
+            const TControl* sheet = SheetOf(*form.Find(ControlsOf(row).front()));
+            auto entry = std::ranges::find(sheets, sheet, [](const auto& e) { return e.first; });
+            if (entry == sheets.end()) entry = sheets.insert(entry, {sheet, {}});
+            entry->second.push_back(&row);
+        }
+    }
+    const TControl* current = nullptr;
+    for (const auto& [sheet, rows] : sheets)
+        for (const TRow* row : rows) PrintRow(form, page, *row, current);
 }
 
 }  // namespace
