@@ -43,6 +43,8 @@ class TQuilltune_FormMain : public TForm {
     void NotifyShell();
     void ApplyFirefox();
     void EnableApply();
+    /// Opens the desktop-icons dialog with one of its sheets chosen.
+    void ShowFolderForm(const wchar_t* sheet);
 
     TSystem& FSystem;
     TSysControl FChanges;
