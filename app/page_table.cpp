@@ -2,11 +2,24 @@
 
 #include <array>
 
+#include "settings/net/internet_explorer_page.h"
+#include "settings/net/mail_page.h"
+#include "settings/net/network_page.h"
+#include "settings/net/privacy_page.h"
+#include "settings/net/security_page.h"
 #include "settings/shell/drives_page.h"
 #include "settings/shell/folder_page.h"
+#include "settings/shell/input_page.h"
 #include "settings/shell/memory_page.h"
+#include "settings/shell/start_menu_page.h"
+#include "settings/shell/startup_page.h"
+#include "settings/shell/system_page.h"
+#include "settings/shell/taskbar_page.h"
 
 std::span<const TPageDefinition* const> PageDefinitions() {
-    static const std::array kPages{&FolderPage(), &DrivesPage(), &MemoryPage()};
+    static const std::array kPages{
+        &FolderPage(),           &InputPage(),  &StartMenuPage(), &TaskbarPage(), &NetworkPage(),
+        &InternetExplorerPage(), &MailPage(),   &PrivacyPage(),   &DrivesPage(),  &MemoryPage(),
+        &StartupPage(),          &SystemPage(), &SecurityPage()};
     return kPages;
 }

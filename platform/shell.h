@@ -29,6 +29,9 @@ class TShell {
     /// Enables SeShutdownPrivilege and asks Windows to reboot. A refusal is not reported.
     virtual void RestartWindows() = 0;
 
+    /// Clears the web browser's history of visited pages (IUrlHistoryStg2). A failure is not reported.
+    virtual void ClearBrowsingHistory() = 0;
+
     /// OutputDebugStringW.
     virtual void DebugOutput(const std::wstring& text) = 0;
 };

@@ -105,6 +105,7 @@ Checks="$Root/tests/checks"
 Check "formatting" "$Checks/format.sh"
 Check "clang-tidy" "$Checks/tidy.sh"
 Check "include directions" "$Checks/includes.sh"
+Check "reference of the settings" "$Checks/settings_reference.sh"
 for Target in win32 win64; do
     Check "imports of the $Target program" "$Checks/imports.sh" "$Root/dist/$Target/Quilltune.exe"
     Check "file of the $Target program" "$Checks/program_file.sh" "$Root/dist/$Target/Quilltune.exe"

@@ -1,7 +1,6 @@
 #include "settings/rows.h"
 
 #include <algorithm>
-#include <array>
 
 #include "engine/reg_value.h"
 #include "settings/page_context.h"
@@ -113,15 +112,6 @@ void Load(TPageContext& context, const TTextRow& row) {
 
 void RecordFrom(TPageContext& context, const TTextRow& row, TComponent& sender) {
     RecordText(context, sender.Name(), row.Value, static_cast<TEdit&>(sender).Text());
-}
-
-/// A system parameter of up to 32 bits; 0 when Windows does not tell it.
-std::uint32_t ReadParameter(const TPageContext& context, std::uint32_t action) {
-    std::array<std::uint8_t, sizeof(std::uint32_t)> buffer{};
-    if (!context.System.Parameters.Get(action, 0, buffer)) buffer = {};
-    std::uint32_t value = 0;
-    for (std::size_t i = buffer.size(); i-- > 0;) value = value << 8 | buffer[i];
-    return value;
 }
 
 void RecordInSlot(TPageContext& context, const TComponent& sender, std::uint32_t action, TParameterSlot slot,

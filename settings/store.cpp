@@ -1,5 +1,7 @@
 #include "settings/store.h"
 
+#include <array>
+
 #include "engine/reg_value.h"
 #include "platform/text.h"
 #include "settings/page_context.h"
@@ -123,6 +125,14 @@ void RecordNumber(TPageContext& context, const std::wstring& changeName, const T
 
 void RecordBytes(TPageContext& context, const std::wstring& changeName, const TPlace& place, TBytes bytes) {
     RecordValue(context, changeName, place, TRegDataType::Binary, std::move(bytes));
+}
+
+std::uint32_t ReadParameter(const TPageContext& context, std::uint32_t action) {
+    std::array<std::uint8_t, sizeof(std::uint32_t)> buffer{};
+    if (!context.System.Parameters.Get(action, 0, buffer)) buffer = {};
+    std::uint32_t value = 0;
+    for (std::size_t i = buffer.size(); i-- > 0;) value = value << 8 | buffer[i];
+    return value;
 }
 
 void RecordParameter(TPageContext& context, const std::wstring& changeName, std::uint32_t action,

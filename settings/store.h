@@ -26,6 +26,9 @@ void RecordNumber(TPageContext& context, const std::wstring& changeName, const T
                   std::int32_t number);
 void RecordBytes(TPageContext& context, const std::wstring& changeName, const TPlace& place, TBytes bytes);
 
+/// A system parameter of up to 32 bits; 0 when Windows does not tell it. `action` is its SPI_GET… code.
+[[nodiscard]] std::uint32_t ReadParameter(const TPageContext& context, std::uint32_t action);
+
 /// Records a call of SystemParametersInfoW that also updates the user's profile.
 void RecordParameter(TPageContext& context, const std::wstring& changeName, std::uint32_t action,
                      std::uint32_t param, const TSpiData& data);

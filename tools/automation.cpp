@@ -219,6 +219,20 @@ void TMainWindow::ChooseItem(const std::wstring& name, int index) const {
             reinterpret_cast<LPARAM>(list));
 }
 
+void TMainWindow::Type(const std::wstring& name, const std::wstring& text) const {
+    const HWND edit = FindUsable(name);
+    Deliver(edit, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    Deliver(edit, WM_LBUTTONUP, 0, 0);
+    if (Focus() != edit) throw TAutomationError(L"takes no focus: " + name);
+    Ask(edit, EM_SETSEL, 0, -1);
+    for (const wchar_t character : text) {
+        constexpr int kKeyCode = 0xFF;
+        Deliver(edit, WM_CHAR, character, 1);
+        Deliver(edit, WM_KEYUP, static_cast<WPARAM>(VkKeyScanW(character) & kKeyCode),
+                static_cast<LPARAM>(0xC0000001));
+    }
+}
+
 HWND TMainWindow::Focus() const {
     GUITHREADINFO info{};
     info.cbSize = sizeof info;

@@ -90,6 +90,8 @@ class TMainWindow {
     void ChooseSheet(const std::wstring& sheet) const;
     /// Chooses an item of a drop-down list.
     void ChooseItem(const std::wstring& name, int index) const;
+    /// Types a text key by key into an edit, in place of what stands there.
+    void Type(const std::wstring& name, const std::wstring& text) const;
     /// The name of the control that has the focus; empty when none has.
     [[nodiscard]] std::wstring FocusedControl() const;
     /// Presses and releases a key in the control that has the focus, or in the given one. Does not wait.

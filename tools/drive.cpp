@@ -48,6 +48,10 @@ constexpr TVerb kVerbs[] = {
      [](const TMainWindow& window, const std::wstring& name, const std::wstring& item) {
          window.ChooseItem(name, static_cast<int>(std::wcstol(item.c_str(), nullptr, 10)));
      }},
+    {"type", 2, "types a text into an edit, in place of what stands there",
+     [](const TMainWindow& window, const std::wstring& name, const std::wstring& text) {
+         window.Type(name, text);
+     }},
     {"state", 1, "prints checked or clear, the chosen item, or the text",
      [](const TMainWindow& window, const std::wstring& name, const std::wstring&) {
          Print(window.State(name));

@@ -99,7 +99,7 @@ TSize TLayout::Measure(const TLayoutBox& box, int width) const {
             return MeasureControl(*box.Control, width);
         case TLayoutKind::Row:
         case TLayoutKind::Buttons:
-            return MeasureRow(box, width, 0);
+            return MeasureRow(box, width, {});
         case TLayoutKind::Fields:
             return MeasureFields(box, width);
         case TLayoutKind::Indent: {
@@ -135,35 +135,44 @@ TSize TLayout::MeasureColumn(const TLayoutBox& box, int width) const {
     return size;
 }
 
-TSize TLayout::MeasureRow(const TLayoutBox& box, int width, int firstWidth) const {
+TSize TLayout::MeasureRow(const TLayoutBox& box, int width, const TFieldWidths& widths) const {
     TSize size;
     bool any = false;
     for (std::size_t i = 0; i < box.Boxes.size(); ++i) {
         if (IsAbsent(box.Boxes[i])) continue;
         if (std::exchange(any, true)) size.Width += GapBefore(box, i);
-        TSize part = Measure(box.Boxes[i], std::max(width - size.Width, 0));
-        if (i == 0) part.Width = std::max(part.Width, firstWidth);
-        size.Width += part.Width;
+        const TSize part = Measure(box.Boxes[i], std::max(width - size.Width, 0));
+        size.Width += widths.WidthOf(box.Boxes[i], i, part.Width);
         size.Height = std::max(size.Height, part.Height);
     }
     return size;
 }
 
-int TLayout::FirstWidth(const TLayoutBox& fields, int width) const {
-    int first = 0;
+int TLayout::TFieldWidths::WidthOf(const TLayoutBox& part, std::size_t index, int width) const {
+    if (index == 0) return std::max(width, First);
+    return IsKind(part, TComponentKind::ComboBox) ? std::max(width, Lists) : width;
+}
+
+TLayout::TFieldWidths TLayout::FieldWidths(const TLayoutBox& fields, int width) const {
+    TFieldWidths widths;
     for (const TLayoutBox& row : fields.Boxes) {
-        if (!row.Boxes.empty() && !IsAbsent(row)) first = std::max(first, Measure(row.Boxes[0], width).Width);
+        if (row.Boxes.empty() || IsAbsent(row)) continue;
+        widths.First = std::max(widths.First, Measure(row.Boxes[0], width).Width);
+        for (const TLayoutBox& part : row.Boxes)
+            if (IsKind(part, TComponentKind::ComboBox))
+                widths.Lists = std::max(widths.Lists, Measure(part, width).Width);
     }
-    return first;
+    widths.Lists = std::min(widths.Lists, std::max(0, width - widths.First - FMetrics.Scale(kGap)));
+    return widths;
 }
 
 TSize TLayout::MeasureFields(const TLayoutBox& box, int width) const {
-    const int first = FirstWidth(box, width);
+    const TFieldWidths widths = FieldWidths(box, width);
     TSize size;
     bool any = false;
     for (std::size_t i = 0; i < box.Boxes.size(); ++i) {
         if (IsAbsent(box.Boxes[i])) continue;
-        const TSize part = MeasureRow(box.Boxes[i], width, first);
+        const TSize part = MeasureRow(box.Boxes[i], width, widths);
         size.Height += part.Height + (std::exchange(any, true) ? GapBefore(box, i) : 0);
         size.Width = std::max(size.Width, part.Width);
     }
@@ -243,12 +252,12 @@ void TLayout::Put(const TLayoutBox& box, const TRect& area, const TPlace& place)
             PutControl(*box.Control, area, place);
             return;
         case TLayoutKind::Row:
-            PutRow(box, area, 0, place);
+            PutRow(box, area, {}, place);
             return;
         case TLayoutKind::Buttons: {
-            const int width = MeasureRow(box, area.Width, 0).Width;
+            const int width = MeasureRow(box, area.Width, {}).Width;
             const int left = std::max(area.Left, area.Left + area.Width - width);
-            PutRow(box, {left, area.Top, width, area.Height}, 0, place);
+            PutRow(box, {left, area.Top, width, area.Height}, {}, place);
             return;
         }
         case TLayoutKind::Indent: {
@@ -286,7 +295,8 @@ void TLayout::PutControl(TControl& control, const TRect& area, const TPlace& pla
 }
 
 void TLayout::PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& place) const {
-    const int first = box.Kind == TLayoutKind::Fields ? FirstWidth(box, area.Width) : 0;
+    const TFieldWidths widths =
+        box.Kind == TLayoutKind::Fields ? FieldWidths(box, area.Width) : TFieldWidths{};
     int spare = std::max(0, area.Height - MeasureColumn(box, area.Width).Height);
     int top = area.Top;
     bool any = false;
@@ -298,15 +308,16 @@ void TLayout::PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& 
         if (Stretches(inner)) height += std::exchange(spare, 0);
         const TRect part{area.Left, top, area.Width, height};
         if (box.Kind == TLayoutKind::Fields)
-            PutRow(inner, part, first, place);
+            PutRow(inner, part, widths, place);
         else
             Put(inner, part, place);
         top += height;
     }
 }
 
-void TLayout::PutRow(const TLayoutBox& box, const TRect& area, int firstWidth, const TPlace& place) const {
-    int spare = std::max(0, area.Width - MeasureRow(box, area.Width, firstWidth).Width);
+void TLayout::PutRow(const TLayoutBox& box, const TRect& area, const TFieldWidths& widths,
+                     const TPlace& place) const {
+    int spare = std::max(0, area.Width - MeasureRow(box, area.Width, widths).Width);
     int left = area.Left;
     bool any = false;
     for (std::size_t i = 0; i < box.Boxes.size(); ++i) {
@@ -314,7 +325,7 @@ void TLayout::PutRow(const TLayoutBox& box, const TRect& area, int firstWidth, c
         if (IsAbsent(inner)) continue;
         if (std::exchange(any, true)) left += GapBefore(box, i);
         TSize size = Measure(inner, std::max(area.Left + area.Width - left, 0));
-        if (i == 0) size.Width = std::max(size.Width, firstWidth);
+        size.Width = widths.WidthOf(inner, i, size.Width);
         if (StretchesInRow(inner)) size.Width += std::exchange(spare, 0);
         // Containers fill the height of their row; everything else is centred on its line.
         const bool fills = Stretches(inner) || IsKind(inner, TComponentKind::CategoryBar);

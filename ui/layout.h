@@ -48,16 +48,26 @@ class TLayout {
     void Arrange(const TControl& container, const TRect& area, const TPlace& place) const;
 
   private:
+    /// What the rows of fields share.
+    struct TFieldWidths {
+        int First = 0;  ///< of their first controls
+        int Lists = 0;  ///< of their drop-down lists
+
+        /// The width of a row's part that would be `width` wide on its own.
+        [[nodiscard]] int WidthOf(const TLayoutBox& part, std::size_t index, int width) const;
+    };
+
     [[nodiscard]] TSize Measure(const TLayoutBox& box, int width) const;
     [[nodiscard]] TSize MeasureControl(const TControl& control, int width) const;
     [[nodiscard]] TSize MeasureColumn(const TLayoutBox& box, int width) const;
-    [[nodiscard]] TSize MeasureRow(const TLayoutBox& box, int width, int firstWidth) const;
+    [[nodiscard]] TSize MeasureRow(const TLayoutBox& box, int width, const TFieldWidths& widths) const;
     [[nodiscard]] TSize MeasureFields(const TLayoutBox& box, int width) const;
-    [[nodiscard]] int FirstWidth(const TLayoutBox& fields, int width) const;
+    [[nodiscard]] TFieldWidths FieldWidths(const TLayoutBox& fields, int width) const;
     void Put(const TLayoutBox& box, const TRect& area, const TPlace& place) const;
     void PutControl(TControl& control, const TRect& area, const TPlace& place) const;
     void PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& place) const;
-    void PutRow(const TLayoutBox& box, const TRect& area, int firstWidth, const TPlace& place) const;
+    void PutRow(const TLayoutBox& box, const TRect& area, const TFieldWidths& widths,
+                const TPlace& place) const;
     [[nodiscard]] int GapBefore(const TLayoutBox& box, std::size_t index) const;
     [[nodiscard]] TSize TextLine(const TControl& control, int width) const;
 

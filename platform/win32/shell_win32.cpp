@@ -2,6 +2,7 @@
 
 #include <windows.h>
 #include <shlobj.h>
+#include <urlhist.h>
 
 #include "ui/win32/handle.h"
 
@@ -35,6 +36,22 @@ std::wstring TWin32Shell::FolderPath(TSpecialFolder folder) const {
 void TWin32Shell::RestartWindows() {
     EnableShutdownPrivilege();
     ExitWindowsEx(EWX_REBOOT, 0);
+}
+
+void TWin32Shell::ClearBrowsingHistory() {
+    constexpr CLSID kUrlHistory{// CLSID_CUrlHistory
+                                0x3C374A40,
+                                0xBAE4,
+                                0x11CF,
+                                {0xBF, 0x7D, 0x00, 0xAA, 0x00, 0x69, 0x46, 0xEE}};
+    const HRESULT initialised = CoInitialize(nullptr);
+    IUrlHistoryStg2* history = nullptr;
+    if (SUCCEEDED(CoCreateInstance(kUrlHistory, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IUrlHistoryStg2),
+                                   reinterpret_cast<void**>(&history)))) {
+        history->ClearHistory();
+        history->Release();
+    }
+    if (SUCCEEDED(initialised)) CoUninitialize();
 }
 
 void TWin32Shell::DebugOutput(const std::wstring& text) { OutputDebugStringW(text.c_str()); }

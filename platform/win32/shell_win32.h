@@ -8,5 +8,6 @@ class TWin32Shell : public TShell {
     void NotifyChange(std::uint32_t event, std::uint32_t flags) override;
     [[nodiscard]] std::wstring FolderPath(TSpecialFolder folder) const override;
     void RestartWindows() override;
+    void ClearBrowsingHistory() override;
     void DebugOutput(const std::wstring& text) override;
 };

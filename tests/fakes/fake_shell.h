@@ -19,6 +19,7 @@ class TFakeShell : public TShell {
 
     [[nodiscard]] const std::vector<TShellNotification>& Notifications() const { return FNotifications; }
     [[nodiscard]] int Restarts() const { return FRestarts; }
+    [[nodiscard]] int HistoryClearings() const { return FHistoryClearings; }
     [[nodiscard]] const std::vector<std::wstring>& DebugTexts() const { return FDebugTexts; }
 
     void NotifyChange(std::uint32_t event, std::uint32_t flags) override {
@@ -29,6 +30,7 @@ class TFakeShell : public TShell {
         return path == FFolders.end() ? std::wstring() : path->second;
     }
     void RestartWindows() override { ++FRestarts; }
+    void ClearBrowsingHistory() override { ++FHistoryClearings; }
     void DebugOutput(const std::wstring& text) override { FDebugTexts.push_back(text); }
 
   private:
@@ -36,4 +38,5 @@ class TFakeShell : public TShell {
     std::vector<TShellNotification> FNotifications;
     std::vector<std::wstring> FDebugTexts;
     int FRestarts = 0;
+    int FHistoryClearings = 0;
 };

@@ -79,7 +79,7 @@ TEST(TNumericFields, EveryRowIsAFieldOfItsOwn) {
         EXPECT_LT(field.Min, field.Max);
         EXPECT_EQ(std::wstring(field.PageHandler).find(L"Edit"), std::wstring::npos);
     }
-    EXPECT_EQ(edits.size(), 18U);
+    EXPECT_EQ(edits.size(), 19U);
 }
 
 TEST(TNumericFields, TheMaximumHoldsWhileTyping) {

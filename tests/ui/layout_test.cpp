@@ -68,7 +68,8 @@ TDesigns SettingsSheet() {
               Indent(RadioButton(L"Inner", L"Depends on the box above")),
               Fields(
                   Row(Label(L"LabelA", L"A"), Edit(L"EditA").Width(5), UpDown(L"UpDownA", L"EditA", 0, 9, 0)),
-                  Row(Label(L"LabelB", L"A longer label"), ComboBox(L"ComboB", {L"one", L"two"})))),
+                  Row(Label(L"LabelB", L"A longer label"), ComboBox(L"ComboB", {L"one", L"two"})),
+                  Row(Label(L"LabelC", L"C"), ComboBox(L"ComboC", {L"a longer item"})))),
         CheckBox(L"Hidden", L"Hidden").Hidden(),
         Buttons(Button(L"Default", L"Default")),
     };
@@ -96,6 +97,7 @@ TEST(TLayoutTest, KeepsControlsApartAndInside) {
 TEST(TLayoutTest, LinesUpWhatBelongsTogether) {
     const TLaidOut laidOut(SettingsSheet(), {0, 0, 400, 400});
     EXPECT_EQ(laidOut[L"EditA"].Left, laidOut[L"ComboB"].Left) << "fields begin in one column";
+    EXPECT_EQ(laidOut[L"ComboB"].Width, laidOut[L"ComboC"].Width) << "lists are equally wide";
     EXPECT_EQ(laidOut[L"UpDownA"].Left, TLaidOut::Right(laidOut[L"EditA"])) << "arrows cling to their edit";
     EXPECT_GT(laidOut[L"Inner"].Left, laidOut[L"Long"].Left) << "what depends on a box is set in";
     EXPECT_EQ(TLaidOut::Right(laidOut[L"Default"]), 400) << "buttons stand at the right";

@@ -1,0 +1,23 @@
+// Where minimised windows stand on the desktop: three lists that stand on more than one page.
+#pragma once
+
+#include "settings/rows.h"
+
+/// The items of the three lists.
+[[nodiscard]] std::vector<std::wstring> MinimizedArrangements();
+[[nodiscard]] std::vector<std::wstring> MinimizedSides();
+[[nodiscard]] std::vector<std::wstring> MinimizedEdges();
+
+void LoadMinimizedWindows(TPageContext& context, const TSpecialRow& row);
+void RecordMinimizedWindows(TPageContext& context, const TSpecialRow& row, TComponent& sender);
+
+/// `controls` names the page's lists: arrangement, left or right side, upper or lower edge.
+[[nodiscard]] constexpr TSpecialRow MinimizedWindowsRow(TControlNames controls) {
+    return {.Controls = controls,
+            .Value = {kCurrentUser, L"\\Control Panel\\Desktop\\WindowMetrics\\", L"MinArrange"},
+            .Rule =
+                L"the system parameter 0x2B (MINIMIZEDMETRICS); set by 0x2C with another iArrange, all else "
+                L"as it is",
+            .Load = LoadMinimizedWindows,
+            .Record = RecordMinimizedWindows};
+}

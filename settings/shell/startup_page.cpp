@@ -1,0 +1,198 @@
+#include "settings/shell/startup_page.h"
+
+#include "settings/store.h"
+#include "ui/controls.h"
+
+namespace {
+
+constexpr const wchar_t* kBootOptimize = L"\\SOFTWARE\\Microsoft\\Dfrg\\BootOptimizeFunction\\";
+constexpr const wchar_t* kControl = L"\\SYSTEM\\CurrentControlSet\\Control\\";
+constexpr const wchar_t* kSessionManager = L"\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\";
+constexpr const wchar_t* kCrashControl = L"\\SYSTEM\\CurrentControlSet\\Control\\CrashControl\\";
+constexpr const wchar_t* kWinlogon = L"\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon\\";
+constexpr const wchar_t* kDesktop = L"\\Control Panel\\Desktop\\";
+constexpr const wchar_t* kExplorerAdvanced =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\";
+
+constexpr const wchar_t* kDelayEdit = L"Edit_Startup_System_DelayTime_Time";
+constexpr const wchar_t* kWaitEdit = L"Edit_Startup_Exit_WaitTime_Time";
+
+TControlDesign SystemSheet() {
+    return Sheet(L"TabSheet_Startup_System", L"Startup",
+                 Group(L"GroupBox_Startup_System_Defrag", L"Boot files",
+                       CheckBox(L"Checkbox_Startup_System_Defrag_Enable",
+                                L"Defragment the &boot files automatically")),
+                 Group(L"GroupBox_Startup_System_ErrorMessage", L"Boot options",
+                       CheckBox(L"Checkbox_Startup_System_ErrorMessage_Enable",
+                                L"Start without the Windows &logo screen")),
+                 Group(L"GroupBox_Startup_System_DelayTime", L"Disk checking",
+                       Row(Label(L"Label_Startup_System_DelayTime_Time", L"&Wait before a disk is checked:"),
+                           Edit(kDelayEdit).Width(6),
+                           UpDown(L"Updown_Startup_System_DelayTime_Time", kDelayEdit, 0, 600, 10),
+                           Label(L"Label_Startup_System_DelayTime_Unit", L"seconds"))),
+                 Buttons(Button(L"Button_Startup_System_Default", L"&Default")));
+}
+
+TControlDesign ExitSheet() {
+    return Sheet(
+        L"TabSheet_Startup_Exit", L"Shutdown",
+        Group(
+            L"GroupBox_Startup_Exit_WaitTime", L"Programs that do not respond",
+            Row(Label(L"Label_Startup_Exit_WaitTime_Time", L"&Wait for an answer:"), Edit(kWaitEdit).Width(6),
+                UpDown(L"UpDown_Startup_Exit_WaitTime_Time", kWaitEdit, 1, 32000, 32000),
+                Label(L"Label_Startup_Exit_WaitTime_Unit", L"milliseconds"))),
+        Group(L"GroupBox_Startup_Exit_AutoClose", L"When Windows shuts down",
+              RadioButton(L"Radio_Startup_Exit_AutoClose_AutoClose",
+                          L"&End programs that do not respond automatically"),
+              RadioButton(L"Radio_Startup_Exit_AutoClose_ShowCloseDialog", L"As&k before ending a program")),
+        Buttons(Button(L"Button_Startup_Exit_Default", L"&Default")));
+}
+
+TControlDesign DesktopAndTaskbarSheet() {
+    return Sheet(
+        L"TabSheet_Startup_DesktopAndTaskbar", L"Desktop and Taskbar",
+        Group(L"GroupBox_Startup_DesktopAndTaskbar_AutoRestartExplorer", L"Windows Explorer",
+              CheckBox(L"Checkbox_Startup_DesktopAndTaskbar_AutoRestartExplorer_AutoRun",
+                       L"&Restart Explorer automatically when it ends unexpectedly")),
+        Group(L"GroupBox_Startup_DesktopAndTaskbar_DAndTSeparateProcess", L"Run the desktop and taskbar",
+              RadioButton(L"Radio_Startup_DesktopAndTaskbar_DAndTSeparateProcess_Process",
+                          L"In a &process of their own"),
+              // What Windows does without a stored value.
+              RadioButton(L"Radio_Startup_DesktopAndTaskbar_DAndTSeparateProcess_Explorer",
+                          L"In the same process as the &folder windows")
+                  .Checked()),
+        Buttons(Button(L"Button_Startup_DesktopAndTaskbar_Default", L"&Default")));
+}
+
+TControlDesign ErrorSheet() {
+    return Sheet(
+        L"TabSheet_Startup_Error", L"Errors",
+        Group(L"GroupBox_Startup_Error_Sound", L"Sound",
+              CheckBox(L"Checkbox_Startup_Error_Sound_beep", L"&Beep when an error occurs")),
+        Group(L"GroupBox_Startup_Error_SystemError", L"System failure",
+              CheckBox(L"Checkbox_Startup_Error_SystemError_Log", L"&Write an event to the system log"),
+              Row(Label(L"Label_Startup_Error_SystemError_Type", L"When Windows &crashes:"),
+                  ComboBox(L"CB_Startup_Error_SystemError_Type",
+                           {L"Show an error message in blue screen", L"Restart system automatically"}))),
+        Buttons(Button(L"Button_Startup_Error_Default", L"&Default")));
+}
+
+TControlDesign Design() {
+    return NotebookPage(16, PageControl(L"PageControl_Startup", SystemSheet(), ExitSheet(),
+                                        DesktopAndTaskbarSheet(), ErrorSheet()));
+}
+
+constexpr TRow kSystemRows[] = {
+    TCheckBoxRow{.Control = L"Checkbox_Startup_System_Defrag_Enable",
+                 .Value = {kLocalMachine, kBootOptimize, L"Enable"},
+                 .Shows = {.When = {{AnyCase(L"y"), kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Text(L"y"), .Clear = Text(L"N")}},
+    // The options are one of two fixed texts; whatever else Windows was started with is not kept.
+    TCheckBoxRow{
+        .Control = L"Checkbox_Startup_System_ErrorMessage_Enable",
+        .Value = {kLocalMachine, kControl, L"SystemStartOptions"},
+        .Shows = {.When = {{AnyCase(L"NOEXECUTE=OPTIN  FASTDETECT  TUTAG=ZTASZ8 NOGUIBOOT"), kChecked}},
+                  .Otherwise = kClear},
+        .Records = {.Checked = Text(L"NOEXECUTE=OPTIN  FASTDETECT  TUTAG=ZTASZ8 NOGUIBOOT"),
+                    .Clear = Text(L"NOEXECUTE=OPTIN  FASTDETECT  TUTAG=ZTASZ8")}},
+    TNumberRow{.Control = L"Updown_Startup_System_DelayTime_Time",
+               .Value = {kLocalMachine, kSessionManager, L"AutoChkTimeOut"}},
+};
+
+constexpr TRow kExitRows[] = {
+    TNumberRow{.Control = L"UpDown_Startup_Exit_WaitTime_Time",
+               .Value = {kCurrentUser, kDesktop, L"HungAppTimeout"},
+               .Type = TNumberType::Text},
+    TRadioPairRow{.First = L"Radio_Startup_Exit_AutoClose_AutoClose",
+                  .Second = L"Radio_Startup_Exit_AutoClose_ShowCloseDialog",
+                  .ChangeName = L"Radio_Startup_Exit_AutoClose_AutoClose",
+                  .Value = {kCurrentUser, kDesktop, L"AutoEndTasks"},
+                  .Missing = TPairState::First,
+                  .FirstWhen = L"1",
+                  .FirstRecords = Text(L"1"),
+                  .SecondRecords = Text(L"0")},
+};
+
+constexpr TRow kDesktopAndTaskbarRows[] = {
+    TCheckBoxRow{.Control = L"Checkbox_Startup_DesktopAndTaskbar_AutoRestartExplorer_AutoRun",
+                 .Value = {kLocalMachine, kWinlogon, L"AutoRestartShell"},
+                 .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Restart = true},
+    TRadioPairRow{.First = L"Radio_Startup_DesktopAndTaskbar_DAndTSeparateProcess_Process",
+                  .Second = L"Radio_Startup_DesktopAndTaskbar_DAndTSeparateProcess_Explorer",
+                  .ChangeName = L"RadProcess",
+                  .Value = {kCurrentUser, kExplorerAdvanced, L"SeparateProcess"},
+                  .FirstWhen = 1,
+                  .FirstRecords = Dword(1),
+                  .SecondRecords = Dword(0),
+                  .Restart = true},
+};
+
+// The stored number is the item's index: one that is no item's leaves the list without a choice, where a choice
+// row would go on showing the first item.
+void LoadAutoReboot(TPageContext& context, const TSpecialRow& row) {
+    if (const auto index = StoredNumber(context, row.Value))
+        context.Form.Find<TComboBox>(row.Controls[0])->SetItemIndex(*index);
+}
+
+void RecordAutoReboot(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
+    RecordNumber(context, sender.Name(), row.Value, static_cast<TComboBox&>(sender).ItemIndex());
+}
+
+constexpr const wchar_t* kCrashType[] = {L"CB_Startup_Error_SystemError_Type"};
+constexpr std::uint32_t kGetBeep = 1;  // SPI_GETBEEP
+constexpr std::uint32_t kSetBeep = 2;  // SPI_SETBEEP
+
+constexpr TRow kErrorRows[] = {
+    TParameterSwitchRow{.Control = L"Checkbox_Startup_Error_Sound_beep",
+                        .Get = kGetBeep,
+                        .Set = kSetBeep,
+                        .Slot = TParameterSlot::Param},
+    TCheckBoxRow{.Control = L"Checkbox_Startup_Error_SystemError_Log",
+                 .Value = {kLocalMachine, kCrashControl, L"LogEvent"},
+                 .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+    TSpecialRow{.Controls = kCrashType,
+                .Value = {kLocalMachine, kCrashControl, L"AutoReboot"},
+                .Rule = L"the number is the item's index; a number that is no item's chooses none",
+                .Load = LoadAutoReboot,
+                .Record = RecordAutoReboot},
+};
+
+constexpr TLoader kLoaders[] = {kSystemRows, kExitRows, kDesktopAndTaskbarRows, kErrorRows};
+
+constexpr TPresetState kSystemDefault[] = {
+    {L"Checkbox_Startup_System_Defrag_Enable", 0},
+    {L"Updown_Startup_System_DelayTime_Time", 10},
+};
+// Not the 32000 milliseconds that an empty registry shows.
+constexpr TPresetState kExitDefault[] = {
+    {L"UpDown_Startup_Exit_WaitTime_Time", 5000},
+    {L"Radio_Startup_Exit_AutoClose_AutoClose", 1},
+};
+constexpr TPresetState kDesktopAndTaskbarDefault[] = {
+    {L"Radio_Startup_DesktopAndTaskbar_DAndTSeparateProcess_Explorer", 1},
+    {L"Checkbox_Startup_DesktopAndTaskbar_AutoRestartExplorer_AutoRun", 1},
+};
+constexpr TPresetState kErrorDefault[] = {
+    {L"Checkbox_Startup_Error_Sound_beep", 1},
+    {L"Checkbox_Startup_Error_SystemError_Log", 1},
+    {L"CB_Startup_Error_SystemError_Type", 0},
+};
+constexpr TPreset kPresets[] = {
+    {L"Button_Startup_System_Default", kSystemDefault},
+    {L"Button_Startup_Exit_Default", kExitDefault},
+    {L"Button_Startup_DesktopAndTaskbar_Default", kDesktopAndTaskbarDefault},
+    {L"Button_Startup_Error_Default", kErrorDefault},
+};
+
+constexpr TPageDefinition kPage{.Tag = 16,
+                                .SharedHandler = L"Checkbox_Startup_System_Defrag_EnableClick",
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = kPresets};
+
+}  // namespace
+
+const TPageDefinition& StartupPage() { return kPage; }

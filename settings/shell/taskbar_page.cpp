@@ -1,0 +1,233 @@
+#include "settings/shell/taskbar_page.h"
+
+#include "settings/shell/minimized_windows.h"
+#include "settings/store.h"
+#include "ui/controls.h"
+
+namespace {
+
+constexpr const wchar_t* kExplorer = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
+constexpr const wchar_t* kAdvanced = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\";
+/// The values here are those of the group policies for the taskbar; a DWORD of 1 switches the item off.
+constexpr const wchar_t* kPolicies = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
+
+TControlDesign Design() {
+    return NotebookPage(
+        6,
+        PageControl(
+            L"PageControl_Taskbar",
+            Sheet(L"TabSheet_Taskbar_ButtonFlashes", L"Button Flashing",
+                  Group(L"GroupBox_Taskbar_ButtonFlashes", L"Programs that want your attention",
+                        CheckBox(L"Checkbox_Taskbar_ButtonFlashes_Active",
+                                 L"&Flash the taskbar button instead of opening the window"),
+                        Fields(Row(Label(L"Label_Taskbar_ButtonFlashes_Common_Time",
+                                         L"&Seconds without input until windows may open:"),
+                                   Edit(L"Edit_Taskbar_ButtonFlashes_Common_Time").Width(6),
+                                   UpDown(L"UpDown_Taskbar_ButtonFlashes_Common_Time",
+                                          L"Edit_Taskbar_ButtonFlashes_Common_Time", 1, 32000, 200)),
+                               Row(Label(L"Label_Taskbar_ButtonFlashes_Speed_Flash", L"&Number of flashes:"),
+                                   Edit(L"Edit_Taskbar_ButtonFlashes_Speed_Flash").Width(6),
+                                   UpDown(L"UpDown_Taskbar_ButtonFlashes_Speed_Flash",
+                                          L"Edit_Taskbar_ButtonFlashes_Speed_Flash", 1, 999, 3)))),
+                  Buttons(Button(L"Button_Taskbar_ButtonFlashes_Default", L"&Default"))),
+            Sheet(L"TabSheet_Taskbar_ButtonAppearance", L"Buttons",
+                  Group(L"GroupBox_Taskbar_ButtonAppearance_Group", L"Grouping",
+                        CheckBox(L"Checkbox_Taskbar_ButtonAppearance_Group_Active",
+                                 L"&Group similar taskbar buttons"),
+                        Row(Label(L"Label_Taskbar_ButtonAppearance_Group_AtLeastCount",
+                                  L"&Windows of a program that make a group:"),
+                            Edit(L"Edit_Taskbar_ButtonAppearance_Group_AtLeastCount").Width(4),
+                            UpDown(L"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount",
+                                   L"Edit_Taskbar_ButtonAppearance_Group_AtLeastCount", 2, 99, 3))),
+                  Group(L"GroupBox_Taskbar_ButtonAppearance_Look", L"Look",
+                        Row(Label(L"Label_Taskbar_ButtonAppearance_Look_Combine", L"&Taskbar buttons:"),
+                            ComboBox(L"CB_Taskbar_ButtonAppearance_Look_Combine",
+                                     {L"Always combine, hide labels", L"Combine when taskbar is full",
+                                      L"Never combine"})),
+                        CheckBox(L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons", L"Use s&mall icons")),
+                  Buttons(Button(L"Button_Taskbar_ButtonAppearance_Default", L"&Default"))),
+            Sheet(
+                L"TabSheet_Taskbar_Notification", L"Notification Area",
+                Group(L"GroupBox_Taskbar_Notification_Icons", L"Icons",
+                      CheckBox(L"Checkbox_Taskbar_Notification_Icons_Show", L"Show the &notification area"),
+                      CheckBox(L"Checkbox_Taskbar_Notification_Icons_HideInactive", L"&Hide inactive icons"),
+                      CheckBox(L"Checkbox_Taskbar_Notification_Icons_Clock", L"Show the &clock"),
+                      CheckBox(L"Checkbox_Taskbar_Notification_Icons_Volume", L"Show the &volume icon"),
+                      CheckBox(L"Checkbox_Taskbar_Notification_Icons_Network", L"Show the net&work icon"),
+                      CheckBox(L"Checkbox_Taskbar_Notification_Icons_Power", L"Show the &power icon"),
+                      CheckBox(L"Checkbox_Taskbar_Notification_Icons_ActionCenter",
+                               L"Show the Ac&tion Center icon")),
+                Group(L"GroupBox_Taskbar_Notification_Balloons", L"Messages",
+                      CheckBox(L"Checkbox_Taskbar_Notification_Balloons_Show", L"Show &balloon tips")),
+                Buttons(Button(L"Button_Taskbar_Notification_Default", L"&Default"))),
+            Sheet(L"TabSheet_Taskbar_MinWindow", L"Minimized Windows",
+                  Group(L"GroupBox_Taskbar_MinWindow", L"Place on the desktop",
+                        Fields(Row(Label(L"Label_Taskbar_MinWindow_Arrange", L"A&rrangement:"),
+                                   ComboBox(L"CB_Taskbar_MinWindow_Arrange", MinimizedArrangements())),
+                               Row(Label(L"Label_Taskbar_MinWindow_Left", L"&Side:"),
+                                   ComboBox(L"CB_Taskbar_MinWindow_Left", MinimizedSides())),
+                               Row(Label(L"Label_Taskbar_MinWindow_Top", L"&Edge:"),
+                                   ComboBox(L"CB_Taskbar_MinWindow_Top", MinimizedEdges())))),
+                  Buttons(Button(L"Button_Taskbar_MinWindow_Default", L"&Default")))));
+}
+
+// Special because the box and the up-down are one parameter, the foreground lock timeout: in milliseconds, 0 when any
+// program may open its window at any time.
+constexpr const wchar_t* kForegroundLock[] = {L"Checkbox_Taskbar_ButtonFlashes_Active",
+                                              L"UpDown_Taskbar_ButtonFlashes_Common_Time"};
+constexpr std::uint32_t kGetForegroundLockTimeout = 0x2000;  // SPI_GETFOREGROUNDLOCKTIMEOUT
+constexpr std::uint32_t kSetForegroundLockTimeout = 0x2001;  // SPI_SETFOREGROUNDLOCKTIMEOUT
+constexpr std::uint32_t kMillisecondsPerSecond = 1000;
+
+void EnableTime(const TPageContext& context, bool enabled) {
+    for (const wchar_t* name :
+         {L"Label_Taskbar_ButtonFlashes_Common_Time", L"Edit_Taskbar_ButtonFlashes_Common_Time",
+          L"UpDown_Taskbar_ButtonFlashes_Common_Time"})
+        context.Form.Find(name)->SetEnabled(enabled);
+}
+
+void LoadForegroundLock(TPageContext& context, const TSpecialRow& row) {
+    const std::uint32_t timeout = ReadParameter(context, kGetForegroundLockTimeout);
+    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(timeout != 0);
+    EnableTime(context, timeout != 0);
+    if (timeout == 0) return;
+    const std::uint32_t seconds = (timeout - 1) / kMillisecondsPerSecond + 1;
+    context.Form.Find<TUpDown>(row.Controls[1])->SetPosition(static_cast<int>(seconds));
+}
+
+void RecordForegroundLock(TPageContext& context, const TSpecialRow& row, TComponent& /*sender*/) {
+    const bool locks = context.Form.Find<TCheckBox>(row.Controls[0])->Checked();
+    const int seconds = context.Form.Find<TUpDown>(row.Controls[1])->Position();
+    EnableTime(context, locks);
+    RecordParameter(context, row.Controls[0], kSetForegroundLockTimeout, 0,
+                    locks ? static_cast<std::uint32_t>(seconds) * kMillisecondsPerSecond : 0);
+}
+
+constexpr TRow kFlashRows[] = {
+    TSpecialRow{
+        .Controls = kForegroundLock,
+        .Value = {kCurrentUser, L"\\Control Panel\\Desktop\\", L"ForegroundLockTimeout"},
+        .Rule = L"the system parameter 0x2000 in milliseconds, clear when 0; set by 0x2001, 0 when clear",
+        .Load = LoadForegroundLock,
+        .Record = RecordForegroundLock},
+    TParameterNumberRow{.Control = L"UpDown_Taskbar_ButtonFlashes_Speed_Flash",
+                        .Get = 0x2004,  // SPI_GETFOREGROUNDFLASHCOUNT
+                        .Set = 0x2005,  // SPI_SETFOREGROUNDFLASHCOUNT
+                        .Slot = TParameterSlot::Data},
+};
+
+constexpr TDatum kCombineValues[] = {Dword(0), Dword(1), Dword(2)};
+
+constexpr TRow kButtonRows[] = {
+    TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Group_Active",
+                 .Value = {kCurrentUser, kAdvanced, L"TaskbarGlomming"},
+                 .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Restart = true},
+    // 0 and 1 group by age and by size; from 2 on it is the number of windows.
+    TNumberRow{.Control = L"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount",
+               .Value = {kCurrentUser, kAdvanced, L"TaskbarGroupSize"},
+               .Restart = true},
+    TChoiceRow{.Control = L"CB_Taskbar_ButtonAppearance_Look_Combine",
+               .Value = {kCurrentUser, kAdvanced, L"TaskbarGlomLevel"},
+               .Items = kCombineValues,
+               .Missing = 0,
+               .Restart = true},
+    TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons",
+                 .Value = {kCurrentUser, kAdvanced, L"TaskbarSmallIcons"},
+                 .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Restart = true},
+};
+
+/// A policy that hides something when it is 1.
+constexpr TCheckBoxRow Hideable(const wchar_t* control, const wchar_t* policy) {
+    return {.Control = control,
+            .Value = {kCurrentUser, kPolicies, policy},
+            .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
+            .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+            .Restart = true};
+}
+
+constexpr TRow kNotificationRows[] = {
+    Hideable(L"Checkbox_Taskbar_Notification_Icons_Show", L"NoTrayItemsDisplay"),
+    TCheckBoxRow{.Control = L"Checkbox_Taskbar_Notification_Icons_HideInactive",
+                 .Value = {kCurrentUser, kExplorer, L"EnableAutoTray"},
+                 .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Restart = true},
+    Hideable(L"Checkbox_Taskbar_Notification_Icons_Clock", L"HideClock"),
+    Hideable(L"Checkbox_Taskbar_Notification_Icons_Volume", L"HideSCAVolume"),
+    Hideable(L"Checkbox_Taskbar_Notification_Icons_Network", L"HideSCANetwork"),
+    Hideable(L"Checkbox_Taskbar_Notification_Icons_Power", L"HideSCAPower"),
+    Hideable(L"Checkbox_Taskbar_Notification_Icons_ActionCenter", L"HideSCAHealth"),
+    TCheckBoxRow{.Control = L"Checkbox_Taskbar_Notification_Balloons_Show",
+                 .Value = {kCurrentUser, kAdvanced, L"EnableBalloonTips"},
+                 .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Restart = true},
+};
+
+constexpr const wchar_t* kMinimizedLists[] = {L"CB_Taskbar_MinWindow_Arrange", L"CB_Taskbar_MinWindow_Left",
+                                              L"CB_Taskbar_MinWindow_Top"};
+constexpr TRow kMinimizedRows[] = {MinimizedWindowsRow(kMinimizedLists)};
+
+constexpr TLoader kLoaders[] = {kFlashRows, kButtonRows, kNotificationRows, kMinimizedRows};
+
+constexpr TPresetState kFlashDefault[] = {
+    {L"Checkbox_Taskbar_ButtonFlashes_Active", 1},
+    {L"UpDown_Taskbar_ButtonFlashes_Common_Time", 200},
+    {L"UpDown_Taskbar_ButtonFlashes_Speed_Flash", 3},
+};
+constexpr TPresetState kButtonDefault[] = {
+    {L"Checkbox_Taskbar_ButtonAppearance_Group_Active", 1},
+    {L"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount", 3},
+    {L"CB_Taskbar_ButtonAppearance_Look_Combine", 0},
+    {L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons", 0},
+};
+constexpr TPresetState kNotificationDefault[] = {
+    {L"Checkbox_Taskbar_Notification_Icons_Show", 1},
+    {L"Checkbox_Taskbar_Notification_Icons_HideInactive", 1},
+    {L"Checkbox_Taskbar_Notification_Icons_Clock", 1},
+    {L"Checkbox_Taskbar_Notification_Icons_Volume", 1},
+    {L"Checkbox_Taskbar_Notification_Icons_Network", 1},
+    {L"Checkbox_Taskbar_Notification_Icons_Power", 1},
+    {L"Checkbox_Taskbar_Notification_Icons_ActionCenter", 1},
+    {L"Checkbox_Taskbar_Notification_Balloons_Show", 1},
+};
+constexpr TPresetState kMinimizedDefault[] = {
+    {L"CB_Taskbar_MinWindow_Arrange", 0},
+    {L"CB_Taskbar_MinWindow_Left", 0},
+    {L"CB_Taskbar_MinWindow_Top", 1},
+};
+constexpr TPreset kPresets[] = {
+    {L"Button_Taskbar_ButtonFlashes_Default", kFlashDefault},
+    {L"Button_Taskbar_ButtonAppearance_Default", kButtonDefault},
+    {L"Button_Taskbar_Notification_Default", kNotificationDefault},
+    {L"Button_Taskbar_MinWindow_Default", kMinimizedDefault},
+};
+
+constexpr TLevels kXpAndVista{.First = 5, .Last = 6};
+constexpr TLevels kSinceWindows7{.First = 7};
+// Windows 2000 has no options for its buttons and its notification area.
+constexpr TOffer kOffers[] = {
+    {L"TabSheet_Taskbar_ButtonAppearance", kSinceXp},
+    {L"GroupBox_Taskbar_ButtonAppearance_Group", kXpAndVista},
+    {L"GroupBox_Taskbar_ButtonAppearance_Look", kSinceWindows7},
+    {L"TabSheet_Taskbar_Notification", kSinceXp},
+    {L"Checkbox_Taskbar_Notification_Icons_Volume", kSinceVista},
+    {L"Checkbox_Taskbar_Notification_Icons_Network", kSinceVista},
+    {L"Checkbox_Taskbar_Notification_Icons_Power", kSinceVista},
+    {L"Checkbox_Taskbar_Notification_Icons_ActionCenter", kSinceWindows7},
+};
+
+constexpr TPageDefinition kPage{.Tag = 6,
+                                .SharedHandler = L"Checkbox_Taskbar_ButtonFlashes_ActiveClick",
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = kPresets,
+                                .Offers = kOffers};
+
+}  // namespace
+
+const TPageDefinition& TaskbarPage() { return kPage; }
