@@ -14,7 +14,7 @@ TQuilltune_FormFolder::TQuilltune_FormFolder(const TPageContext& owner, const TL
                .Firefox = owner.Firefox,
                .Captions = owner.Captions,
                .WindowsLevel = owner.WindowsLevel},
-      FPage(DesktopIcons(), FContext, *this, [] {}) {
+      FPage(DesktopIcons(), FContext, *this, [](TComponent&) {}) {
     ClientWidth = 360;
     ClientHeight = 330;
     SetCaption(L"Desktop and My Computer");

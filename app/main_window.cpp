@@ -48,11 +48,13 @@ void TQuilltune_FormMain::BuildControls() {
     Build(*this, WindowDesign());
     TControl& notebook = *Find(L"Notebook_Main");
     for (const TPageDefinition* definition : PageDefinitions()) {
-        FPages.push_back(std::make_unique<TPage>(*definition, FContext, notebook, [this] { EnableApply(); }));
+        FPages.push_back(std::make_unique<TPage>(*definition, FContext, notebook,
+                                                 [this](TComponent& sender) { PageChanged(sender); }));
     }
     for (int tag = 1; tag <= kPageCount; ++tag) {
         if (Find(std::to_wstring(tag)) == nullptr) Build(notebook, NotebookPage(tag));
     }
+    FTwins = std::make_unique<TTwinControls>(*this);
     Find<TButton>(L"Button_OK")->Default = true;
     Find<TButton>(L"Button_Cancel")->Cancel = true;
     // The items of this group bear the plain colour by design; FormCreate gives it to the other groups.
@@ -200,6 +202,7 @@ void TQuilltune_FormMain::LoadPage(int tag) {
     for (const auto& page : FPages) {
         if (page->Tag() == tag && (firstVisit || page->LoadsEveryVisit())) page->Load();
     }
+    FTwins->PageLoaded(tag);
 }
 
 void TQuilltune_FormMain::SelectItem(TCategoryItem& item) {
@@ -218,7 +221,10 @@ void TQuilltune_FormMain::ShowFolderForm(const wchar_t* sheet) {
     ShowModal(dialog);
 }
 
-void TQuilltune_FormMain::EnableApply() { Find(L"Button_Apply")->SetEnabled(true); }
+void TQuilltune_FormMain::PageChanged(TComponent& sender) {
+    Find(L"Button_Apply")->SetEnabled(true);
+    FTwins->Changed(static_cast<TControl&>(sender));
+}
 
 void TQuilltune_FormMain::Button_OKClick() {
     Button_ApplyClick();
@@ -229,6 +235,7 @@ void TQuilltune_FormMain::Button_CancelClick() { Close(); }
 
 void TQuilltune_FormMain::Button_ApplyClick() {
     FChanges.WriteAll();
+    FTwins->Written();
     ApplyServices();
     OfferRestart();
     NotifyShell();

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "app/page_table.h"
+#include "app/twin_controls.h"
 #include "platform/app_frame.h"
 #include "platform/language.h"
 #include "settings/net/firefox_prefs.h"
@@ -42,7 +43,8 @@ class TQuilltune_FormMain : public TForm {
     void OfferRestart();
     void NotifyShell();
     void ApplyFirefox();
-    void EnableApply();
+    /// A control's change was recorded.
+    void PageChanged(TComponent& sender);
     /// Opens the desktop-icons dialog with one of its sheets chosen.
     void ShowFolderForm(const wchar_t* sheet);
 
@@ -53,6 +55,7 @@ class TQuilltune_FormMain : public TForm {
     TPageContext FContext;
     std::unique_ptr<TLanguage> FLanguage;
     std::vector<std::unique_ptr<TPage>> FPages;
+    std::unique_ptr<TTwinControls> FTwins;
     std::set<int> FVisitedPages;  ///< tags of the pages whose loaders have run
     TCategoryItem* FSelectedItem = nullptr;
     bool FLoadingFinished = true;

@@ -7,7 +7,9 @@
 #include "settings/net/network_page.h"
 #include "settings/net/privacy_page.h"
 #include "settings/net/security_page.h"
+#include "settings/shell/display_page.h"
 #include "settings/shell/drives_page.h"
+#include "settings/shell/file_types_page.h"
 #include "settings/shell/folder_page.h"
 #include "settings/shell/input_page.h"
 #include "settings/shell/memory_page.h"
@@ -18,8 +20,8 @@
 
 std::span<const TPageDefinition* const> PageDefinitions() {
     static const std::array kPages{
-        &FolderPage(),           &InputPage(),  &StartMenuPage(), &TaskbarPage(), &NetworkPage(),
-        &InternetExplorerPage(), &MailPage(),   &PrivacyPage(),   &DrivesPage(),  &MemoryPage(),
-        &StartupPage(),          &SystemPage(), &SecurityPage()};
+        &DisplayPage(), &FileTypesPage(), &FolderPage(),           &InputPage(),  &StartMenuPage(),
+        &TaskbarPage(), &NetworkPage(),   &InternetExplorerPage(), &MailPage(),   &PrivacyPage(),
+        &DrivesPage(),  &MemoryPage(),    &StartupPage(),          &SystemPage(), &SecurityPage()};
     return kPages;
 }

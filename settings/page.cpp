@@ -7,7 +7,7 @@
 #include "ui/controls.h"
 
 TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl& container,
-             std::function<void()> changed)
+             TNotifyEvent changed)
     : FDefinition(definition), FContext(context), FChanged(std::move(changed)) {
     const TControlDesign design = definition.Design();
     FContext.Form.Build(container, design);
@@ -35,7 +35,7 @@ void TPage::Changed(TComponent& sender) {
     if (FContext.Loading) return;
     for (const TLoader& loader : FDefinition.Loaders)
         for (const TRow& row : loader) RecordRow(FContext, row, sender);
-    FChanged();
+    FChanged(sender);
 }
 
 void TPage::HideWhatIsNotOffered() const {

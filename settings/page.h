@@ -24,6 +24,12 @@ struct TOffer {
     TLevels Levels;
 };
 
+/// A control of the page, and the one of another page that stands for the same setting.
+struct TTwin {
+    const wchar_t* Control;
+    const wchar_t* Twin;
+};
+
 /// A page as data.
 struct TPageDefinition {
     int Tag;                       ///< the number of its notebook page; 0 for what is in no notebook
@@ -32,6 +38,7 @@ struct TPageDefinition {
     std::span<const TLoader> Loaders;  ///< in the order in which they run
     std::span<const TPreset> Presets;
     std::span<const TOffer> Offers = {};
+    std::span<const TTwin> Twins = {};
     bool ShowsPending = false;     ///< its loaders show changes of other pages that are not written yet
     bool LoadsEveryVisit = false;  ///< otherwise only the first one
     /// Runs before the loaders, with the loading mark set; they do not run when it answers false.
@@ -41,10 +48,11 @@ struct TPageDefinition {
 /// Runs a page definition on a form.
 class TPage {
   public:
-    /// Builds the page's controls into the notebook, or what else contains it, and listens to them. `definition` and `context` outlive the
-    /// page; `changed` is told after a control's change was recorded.
+    /// Builds the page's controls into the notebook, or what else holds them, and listens to them. `definition` and
+    /// `context` outlive the page; `changed` is told, with the control as sender, after the control's change was
+    /// recorded.
     TPage(const TPageDefinition& definition, TPageContext& context, TControl& container,
-          std::function<void()> changed);
+          TNotifyEvent changed);
 
     [[nodiscard]] int Tag() const { return FDefinition.Tag; }
     [[nodiscard]] bool LoadsEveryVisit() const { return FDefinition.LoadsEveryVisit; }
@@ -64,5 +72,5 @@ class TPage {
 
     const TPageDefinition& FDefinition;
     TPageContext& FContext;
-    std::function<void()> FChanged;
+    TNotifyEvent FChanged;
 };

@@ -18,7 +18,7 @@ void Load(TPageContext& context, const TCheckBoxRow& row) {
     auto* box = context.Form.Find<TCheckBox>(row.Control);
     if (box == nullptr) return;
     TBoxState state = row.Shows.Missing;
-    if (const auto value = Stored(context, row.Value))
+    if (const auto value = Stored(context, row.LoadedFrom.value_or(row.Value)))
         state = row.Shows.When && row.Shows.When->Value(*value) ? row.Shows.When->Shows : row.Shows.Otherwise;
     if (state != kKeep) box->SetChecked(state == kChecked);
     EnableAll(context, row.Enables, box->Checked());
@@ -121,8 +121,7 @@ void RecordInSlot(TPageContext& context, const TComponent& sender, std::uint32_t
 }
 
 void Load(TPageContext& context, const TParameterSwitchRow& row) {
-    constexpr std::uint32_t kBoolean = 0xFF;  // only the lowest byte is sure to be written
-    const bool on = (ReadParameter(context, row.Get) & kBoolean) != 0;
+    const bool on = ReadSwitch(context, row.Get);
     if (auto* box = context.Form.Find<TCheckBox>(row.Control)) box->SetChecked(on);
     if (auto* list = context.Form.Find<TComboBox>(row.Control)) list->SetItemIndex(on ? 1 : 0);
     if (row.Toggles != nullptr) context.Form.Find(row.Toggles)->SetEnabled(on);

@@ -74,6 +74,7 @@ struct TCheckBoxRow {
     TLevels LoadedOn = kEveryLevel;     ///< elsewhere the box keeps its state; it records everywhere
     TControlNames Enables = {};         ///< of use only while the box is checked
     TControlNames EnablesOnClick = {};  ///< the same, but left alone by the loader
+    std::optional<TPlace> LoadedFrom = std::nullopt;  ///< what shows, where it is not `Value`
 };
 
 /// A key that exists while the box is checked, with an empty text as its default value.

@@ -135,6 +135,11 @@ std::uint32_t ReadParameter(const TPageContext& context, std::uint32_t action) {
     return value;
 }
 
+bool ReadSwitch(const TPageContext& context, std::uint32_t action) {
+    constexpr std::uint32_t kLowestByte = 0xFF;
+    return (ReadParameter(context, action) & kLowestByte) != 0;
+}
+
 void RecordParameter(TPageContext& context, const std::wstring& changeName, std::uint32_t action,
                      std::uint32_t param, const TSpiData& data) {
     constexpr std::uint32_t kUpdateProfile = 1;  // SPIF_UPDATEINIFILE

@@ -29,6 +29,9 @@ void RecordBytes(TPageContext& context, const std::wstring& changeName, const TP
 /// A system parameter of up to 32 bits; 0 when Windows does not tell it. `action` is its SPI_GET… code.
 [[nodiscard]] std::uint32_t ReadParameter(const TPageContext& context, std::uint32_t action);
 
+/// Whether a system parameter that is on or off is on. Of these only the lowest byte is sure to be written.
+[[nodiscard]] bool ReadSwitch(const TPageContext& context, std::uint32_t action);
+
 /// Records a call of SystemParametersInfoW that also updates the user's profile.
 void RecordParameter(TPageContext& context, const std::wstring& changeName, std::uint32_t action,
                      std::uint32_t param, const TSpiData& data);

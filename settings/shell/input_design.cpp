@@ -81,8 +81,9 @@ TControlDesign KeyboardSheet() {
                          UpDown(L"UpDown_Use_Keyboard_CursorWidth_Width",
                                 L"Edit_Use_Keyboard_CursorWidth_Width", 1, 10, 1),
                          Label(L"Label_Use_Keyboard_CursorWidth_Unit", L"pixels")))),
-        Group(L"GroupBox_Use_Keyboard_WinKey", L"Windows key",
-              CheckBox(L"Checkbox_Use_Keyboard_WinKey_Active", L"Use the Windows &key as a shortcut key")),
+        Group(L"GroupBox_Use_Keyboard_Keys", L"Keys",
+              CheckBox(L"Checkbox_Use_Keyboard_WinKey_Active", L"Use the Windows &key as a shortcut key"),
+              CheckBox(L"Checkbox_Use_Keyboard_NumLock_Active", L"Turn &Num Lock on at logon")),
         Buttons(Button(L"Button_Use_Keyboard_Default", L"&Default")));
 }
 

@@ -190,6 +190,21 @@ void RecordBlink(TPageContext& context, const TSpecialRow& row, TComponent& send
     RecordText(context, sender.Name(), row.Value, std::to_wstring(time > kSlowestBlink ? kNoBlink : time));
 }
 
+// Special because the value is a set of bits, one for each light of the keyboard, kept as decimal text.
+constexpr const wchar_t* kNumLock[] = {L"Checkbox_Use_Keyboard_NumLock_Active"};
+constexpr std::int32_t kNumLockLight = 2;
+
+void LoadNumLock(TPageContext& context, const TSpecialRow& row) {
+    const auto lights = StoredNumber(context, row.Value);
+    if (lights) context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked((*lights & kNumLockLight) != 0);
+}
+
+void RecordNumLock(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
+    const std::int32_t others = StoredNumber(context, row.Value).value_or(0) & ~kNumLockLight;
+    const bool on = static_cast<TCheckBox&>(sender).Checked();
+    RecordText(context, sender.Name(), row.Value, std::to_wstring(on ? others | kNumLockLight : others));
+}
+
 constexpr TRow kKeyboardRows[] = {
     TParameterNumberRow{.Control = L"TrackBar_Use_Keyboard_Repeat_Delay",
                         .Get = 0x0016,   // SPI_GETKEYBOARDDELAY
@@ -212,6 +227,11 @@ constexpr TRow kKeyboardRows[] = {
                  .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)},
                  .Restart = true},
+    TSpecialRow{.Controls = kNumLock,
+                .Value = {kCurrentUser, L"\\Control Panel\\Keyboard\\", L"InitialKeyboardIndicators"},
+                .Rule = L"checked when the bit 2 is set; changes that bit alone, as text",
+                .Load = LoadNumLock,
+                .Record = RecordNumLock},
 };
 
 constexpr TLoader kLoaders[] = {kSensitivityRows, kFunctionRows, kKeyboardRows};
@@ -235,6 +255,7 @@ constexpr TPresetState kKeyboardDefault[] = {
     {L"TrackBar_Use_Keyboard_BlinkingCursor_Speed", kDefaultBlinkSpeed},
     {L"UpDown_Use_Keyboard_CursorWidth_Width", 1},
     {L"Checkbox_Use_Keyboard_WinKey_Active", 1},
+    {L"Checkbox_Use_Keyboard_NumLock_Active", 0},
 };
 constexpr TPreset kPresets[] = {
     {L"Button_Use_MouseSensitivity_Default", kSensitivityDefault},

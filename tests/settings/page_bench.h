@@ -24,8 +24,8 @@ class TPageBench {
 
     explicit TPageBench(const TPageDefinition& definition) : FForm(L"Form", L"TForm"), FChanges(Fake.System) {
         FForm.Build(FForm, Notebook(L"Notebook", {}));
-        FPage =
-            std::make_unique<TPage>(definition, Context, *FForm.Find(L"Notebook"), [this] { ++Recorded; });
+        FPage = std::make_unique<TPage>(definition, Context, *FForm.Find(L"Notebook"),
+                                        [this](TComponent&) { ++Recorded; });
     }
 
     void Load() { FPage->Load(); }

@@ -17,6 +17,7 @@ constexpr const wchar_t* kTrailLength = L"TrackBar_Use_MouseFunction_Trails_Leng
 constexpr const wchar_t* kSnap = L"Checkbox_Use_MouseFunction_Pointer_Snap";
 constexpr const wchar_t* kBlink = L"TrackBar_Use_Keyboard_BlinkingCursor_Speed";
 constexpr const wchar_t* kWidth = L"UpDown_Use_Keyboard_CursorWidth_Width";
+constexpr const wchar_t* kNumLock = L"Checkbox_Use_Keyboard_NumLock_Active";
 constexpr const wchar_t* kWinKey = L"Checkbox_Use_Keyboard_WinKey_Active";
 
 std::wstring After(const wchar_t* name, const wchar_t* rest) { return std::wstring(name) + rest; }
@@ -28,6 +29,7 @@ TEST(TInputPage, ShowsWhatTheRegistryHolds) {
     const TPlace blink{kCurrentUser, L"\\Control Panel\\Desktop", L"CursorBlinkRate"};
     const TPlace winKey{kCurrentUser, L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer",
                         L"NoWinKeys"};
+    const TPlace lights{kCurrentUser, L"Control Panel\\Keyboard", L"InitialKeyboardIndicators"};
     const TShownCase shown[] = {
         {kDoubleClick, doubleClick, String(L"9"), L"9"},
         {kDoubleClick, doubleClick, std::nullopt, L"4"},
@@ -41,6 +43,8 @@ TEST(TInputPage, ShowsWhatTheRegistryHolds) {
         {kBlink, blink, String(L"5000"), L"1330"},  // it blinks, however slowly
         {kBlink, blink, Number(INT32_MIN), L"2330"},
         {kBlink, blink, String(L"often"), L"kept"},
+        {kNumLock, lights, String(L"3"), L"on"},
+        {kNumLock, lights, String(L"1"), L"off"},
         {kWinKey, winKey, std::nullopt, L"on"},
         {kWinKey, winKey, Number(1), L"off"},
     };
@@ -70,6 +74,9 @@ TEST(TInputPage, RecordsInTheArgumentThatWindowsReads) {
          L"1329",
          {After(kBlink, L": HKCU\\Control Panel\\Desktop\\[CursorBlinkRate] = \"-1\"")},
          true},
+        {kNumLock,
+         L"on",
+         {kNumLock + std::wstring(L": HKCU\\Control Panel\\Keyboard\\[InitialKeyboardIndicators] = \"2\"")}},
         {kWinKey,
          L"on",
          {After(kWinKey,
