@@ -79,6 +79,13 @@ TControlDesign Image(std::wstring name, std::wstring picture, int frames) {
     return design;
 }
 
+TControlDesign Image(std::wstring name, std::wstring picture, int width, int height) {
+    TControlDesign design = Image(std::move(name), std::move(picture));
+    design.PictureWidth = width;
+    design.PictureHeight = height;
+    return design;
+}
+
 TControlDesign ListView(std::wstring name, std::vector<std::wstring> columns) {
     TControlDesign design = Control(TComponentKind::ListView, std::move(name));
     design.Items = std::move(columns);

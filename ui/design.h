@@ -34,6 +34,8 @@ struct TControlDesign {
     std::vector<std::wstring> Items;
     std::wstring Associate;  ///< of an up-down: the edit it belongs to
     std::wstring Picture;
+    int PictureWidth = 32;  ///< at 96 dots per inch
+    int PictureHeight = 32;
 
     TControlDesign Hidden() && {
         IsVisible = false;
@@ -140,6 +142,8 @@ TControlDesign TrackBar(std::wstring name, int min, int max, int position);
 TControlDesign ComboBox(std::wstring name, std::vector<std::wstring> items);
 TControlDesign ColorSwatch(std::wstring name);
 TControlDesign Image(std::wstring name, std::wstring picture, int frames = 1);
+/// An image that is no icon, of that many dots at 96 per inch.
+TControlDesign Image(std::wstring name, std::wstring picture, int width, int height);
 TControlDesign ListView(std::wstring name, std::vector<std::wstring> columns);
 TControlDesign Timer(std::wstring name, int milliseconds);
 

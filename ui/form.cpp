@@ -42,7 +42,8 @@ std::unique_ptr<TControl> Make(const TControlDesign& design) {
         case TComponentKind::ColorSwatch:
             return std::make_unique<TColorSwatch>(design.Name);
         case TComponentKind::Image:
-            return std::make_unique<TImage>(design.Name, design.Picture, design.Position);
+            return std::make_unique<TImage>(design.Name, design.Picture, design.Position, design.PictureWidth,
+                                            design.PictureHeight);
         case TComponentKind::ListView:
             return std::make_unique<TListView>(design.Name, design.Items);
         case TComponentKind::CategoryBar:

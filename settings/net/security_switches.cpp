@@ -55,6 +55,12 @@ void RecordFirewall(TPageContext& context, const TSpecialRow& row, TComponent& s
         RecordNumber(context, sender.Name(), row.Value, static_cast<TCheckBox&>(sender).Checked() ? 1 : 0);
 }
 
+std::vector<std::wstring> AutoUpdateTypes() {
+    return {L"Use Windows default settings", L"Notify me before downloading updates",
+            L"Notify me before auto downloading and installing updates",
+            L"Download and install updates at a scheduled time"};
+}
+
 void LoadAutoUpdate(TPageContext& context, const TSpecialRow& row) {
     const auto value = Stored(context, row.Value);
     if (!value) return;

@@ -36,5 +36,7 @@ inline constexpr TPlace kAutoUpdateOptions{
     L"AUOptions"};
 inline constexpr const wchar_t* kAutoUpdateRule =
     L"1: clear; else checked, and the items are 0, 2, 3, 4; missing: unchanged. Writes the same as DWORD";
+/// The items of the list.
+[[nodiscard]] std::vector<std::wstring> AutoUpdateTypes();
 void LoadAutoUpdate(TPageContext& context, const TSpecialRow& row);
 void RecordAutoUpdate(TPageContext& context, const TSpecialRow& row, TComponent& sender);

@@ -66,6 +66,8 @@ TEST(PictureStoreTest, FindsTheFittingSize) {
     EXPECT_EQ(sizeOf(L"general", 40), 32) << "the largest there is";
     EXPECT_EQ(sizeOf(L"loading_0", 16), 16) << "has no size below 32";
     EXPECT_EQ(sizeOf(L"loading_6", 64), 64);
+    EXPECT_EQ(sizeOf(L"logon_classic", 100), 150) << "sizes are heights";
+    EXPECT_EQ(sizeOf(L"logon_classic", 150), 225) << "scaled down, of the same shape";
     EXPECT_EQ(sizeOf(L"missing", 16), 0);
     EXPECT_EQ(store.Find(L"general", 18), store.Find(L"general", 18)) << "decoded once";
 }
