@@ -5,6 +5,7 @@
 #include "app/category_table.h"
 #include "app/page_table.h"
 #include "platform/unicode.h"
+#include "settings/shell/desktop_icons.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 
@@ -115,6 +116,11 @@ TEntry Entry(const TCheckBoxRow& row) {
     return {Words(row.Value), shows, writes};
 }
 
+TEntry Entry(const TKeyRow& row) {
+    return {Words(row.Value), L"checked when there is such a key",
+            L"checked: text `\"\"`, which creates the key; clear: deletes the key"};
+}
+
 TEntry Entry(const TRadioPairRow& row) {
     return {Words(row.Value),
             L"the first when " + row.FirstWhen.Words() + L"; else the second; missing: " + Words(row.Missing),
@@ -165,6 +171,7 @@ TText Words(const TLevels& levels) {
         return level < 4 || level > 7 ? std::to_wstring(level) : kNames[level - 4];
     };
     if (levels.First == kEveryLevel.First && levels.Last == kEveryLevel.Last) return L"all";
+    if (levels.First == levels.Last) return name(levels.First);
     if (levels.First == kEveryLevel.First) return L"up to " + name(levels.Last);
     if (levels.Last == kEveryLevel.Last) return name(levels.First) + L" and later";
     return name(levels.First) + L" to " + name(levels.Last);
@@ -266,4 +273,8 @@ int main() {
         for (const TCategoryItemRow& item : group.Items)
             for (const TPageDefinition* page : PageDefinitions())
                 if (page->Tag == item.Tag) PrintPage(form, *page, item.Caption);
+
+    TForm dialog(L"Quilltune_FormFolder", L"TQuilltune_FormFolder");
+    dialog.Build(dialog, DesktopIcons().Design());
+    PrintPage(dialog, DesktopIcons(), L"Desktop and My Computer (a dialog: its OK writes at once)");
 }

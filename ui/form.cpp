@@ -147,3 +147,7 @@ void TForm::Close() {
     FClosed = true;
     if (Peer() != nullptr) static_cast<TFormPeer*>(Peer())->Close();
 }
+
+void TForm::ShowModal(TForm& dialog) {
+    if (Peer() != nullptr) static_cast<TFormPeer*>(Peer())->ShowModal(dialog);
+}

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/folder_form.h"
 #include "app/main_window.h"
 #include "platform/text.h"
 #include "tests/fakes/fake_system.h"
@@ -47,6 +48,14 @@ TTexts FormTexts(const TForm& form) {
     return texts;
 }
 
+/// Those of the desktop-icons dialog. Two of its sheets are named by texts of the program.
+TTexts FolderFormTexts(const TForm& form) {
+    TTexts texts = FormTexts(form);
+    texts.erase(L"TabSheet_Folder_Desktop.Caption");
+    texts.erase(L"TabSheet_Folder_Drivers.Caption");
+    return texts;
+}
+
 TTexts CaptionTexts() {
     TTexts texts;
     for (const TCaptionKey& key : kCaptionKeys) texts[key.Key] = key.English;
@@ -81,14 +90,18 @@ void ExpectKeys(const TExtIniFile& ini, const wchar_t* section, const TTexts& te
 TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
     TFakeSystem fake;
     const TQuilltune_FormMain window(fake.System);
+    const TLanguage none(fake.System, L"Scanner");
+    const TQuilltune_FormFolder dialog(window.Context(), none);
     for (const char* language : {"English", "German"}) {
         SCOPED_TRACE(language);
         const bool english = language == std::string("English");
         const TExtIniFile ini = LoadDelivered(language);
         ExpectKeys(ini, L"Scanner_Quilltune_FormMain", FormTexts(window), english);
+        ExpectKeys(ini, L"Scanner_Quilltune_FormFolder", FolderFormTexts(dialog), english);
         ExpectKeys(ini, L"Quilltune_M", CaptionTexts(), english);
         EXPECT_EQ(ini.ReadSections(),
-                  (std::vector<std::wstring>{L"Main", L"Scanner_Quilltune_FormMain", L"Quilltune_M"}));
+                  (std::vector<std::wstring>{L"Main", L"Scanner_Quilltune_FormMain", L"Quilltune_M",
+                                             L"Scanner_Quilltune_FormFolder"}));
     }
 }
 
@@ -125,13 +138,17 @@ TEST(TLanguageFiles, AccessKeysDifferOnEverySheet) {
         SCOPED_TRACE(language);
         TFakeSystem fake;
         TQuilltune_FormMain window(fake.System);
+        const TLanguage none(fake.System, L"Scanner");
+        TQuilltune_FormFolder dialog(window.Context(), none);
         const TExtIniFile ini = LoadDelivered(language);
-        for (const auto& component : window.Components()) {
-            auto& control = static_cast<TControl&>(*component);
-            control.SetCaption(ini.ReadString(L"Scanner_Quilltune_FormMain", control.Name() + L".Caption",
-                                              control.Caption()));
+        for (TForm* form : {static_cast<TForm*>(&window), static_cast<TForm*>(&dialog)}) {
+            for (const auto& component : form->Components()) {
+                auto& control = static_cast<TControl&>(*component);
+                control.SetCaption(ini.ReadString(L"Scanner_" + form->Name(), control.Name() + L".Caption",
+                                                  control.Caption()));
+            }
+            ExpectAccessKeysDiffer(*form, {});
         }
-        ExpectAccessKeysDiffer(window, {});
     }
 }
 
