@@ -25,6 +25,15 @@ TLine Take(TLine& text, const wchar_t* separator) {
     return head;
 }
 
+/// The controls at the beginning of the text, parted by commas; they are taken off.
+TLines TakeControls(TLine& text) {
+    TLine list = Take(text, L" ");
+    while (list.ends_with(L',')) list += Take(text, L" ");
+    TLines names;
+    while (!list.empty()) names.push_back(Take(list, L","));
+    return names;
+}
+
 std::uint32_t Unsigned(const TLine& text) { return static_cast<std::uint32_t>(std::stoul(text, nullptr, 0)); }
 
 TRegistryData Value(const TLine& text) {
@@ -56,6 +65,13 @@ class TScene {
 
     TPageBench& Bench() { return FBench; }
 
+    /// Prepares what `shows` names: a registry value, or what else a line of the language can.
+    void Find(const TLine& line) {
+        TLine rest = line;
+        if (line.ends_with(L" missing")) return;
+        Run(kSteps.contains(Take(rest, L" ")) ? line : L"stored " + line, {});
+    }
+
     void Run(TLine line, const TLines& below) {
         const TLine verb = Take(line, L" ");
         const auto step = kSteps.find(verb);
@@ -64,14 +80,18 @@ class TScene {
     }
 
     void Expect(TLine rest) {
-        const TLine control = Take(rest, L" ");
-        TControl& c = FBench.Get<TControl>(control);
-        if (rest == L"enabled" || rest == L"disabled") {
-            EXPECT_EQ(c.Enabled(), rest == L"enabled");
-        } else if (rest == L"visible" || rest == L"hidden") {
-            EXPECT_EQ(c.Visible(), rest == L"visible");
-        } else {
-            EXPECT_EQ(FBench.State(control), rest);
+        for (const TLine& control : TakeControls(rest)) {
+            SCOPED_TRACE(ToUtf8(control));
+            TControl& c = FBench.Get<TControl>(control);
+            if (rest == L"enabled" || rest == L"disabled") {
+                EXPECT_EQ(c.Enabled(), rest == L"enabled");
+            } else if (rest == L"visible" || rest == L"hidden") {
+                const bool isSheet = c.Kind() == TComponentKind::TabSheet;
+                EXPECT_EQ(isSheet ? static_cast<TTabSheet&>(c).TabVisible() : c.Visible(),
+                          rest == L"visible");
+            } else {
+                EXPECT_EQ(FBench.State(control), rest);
+            }
         }
     }
 
@@ -95,6 +115,44 @@ class TScene {
         if (kind == L"file") return dialogs.AnswerFile(rest);
         if (kind == L"color") return dialogs.AnswerColor(Unsigned(rest));
         if (kind != L"nothing") dialogs.Answer(kind == L"yes" ? TMessageAnswer::Yes : TMessageAnswer::No);
+    }
+
+    static void Do(TScene& scene, TLine rest, const TLines& /*below*/) {
+        const TLines controls = TakeControls(rest);
+        const bool tellsChanges = rest.find(L'|') != TLine::npos;
+        const TLine state = Take(rest, L"|");
+        for (const TLine& control : controls) scene.FBench.Act(control, state);
+        if (!tellsChanges) return;
+        TLines changes;
+        TLines prefs;
+        while (!rest.empty()) {
+            TLine change = Take(rest, L"|");
+            if (change.starts_with(L'*')) change = controls.front() + change.substr(1);
+            if (change == L"restart")
+                scene.FRestart = true;
+            else
+                (change.starts_with(L"user_pref(") ? prefs : changes).push_back(change);
+        }
+        EXPECT_EQ(scene.FBench.Pending(), changes);
+        if (!prefs.empty()) Prefs(scene, L"changed", prefs);
+    }
+
+    static void Firefox(TScene& scene, TLine rest, const TLines& /*below*/) {
+        constexpr const wchar_t* kProduct =
+            L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Mozilla Firefox (3.6)";
+        TFakeSystem& fake = scene.FBench.Fake;
+        const bool isInstalled = rest != L"none";
+        scene.FUserFile = rest.empty() || !isInstalled ? "" : scene.FUserFile + ToUtf8(rest) + "\n";
+        fake.Files.PutText(L"C:\\Mozilla\\profiles.ini", "[Profile0]\nIsRelative=1\nPath=p\n");
+        fake.Files.PutText(L"C:\\Mozilla\\p\\user.js", scene.FUserFile);
+        if (isInstalled) return fake.Registry.PutKey(TRootKey::LocalMachine, kProduct);
+        static_cast<void>(fake.Registry.DeleteKey(TRootKey::LocalMachine, kProduct));
+    }
+
+    static void Prefs(TScene& scene, TLine rest, const TLines& below) {
+        EXPECT_EQ(scene.FBench.Context.Firefox.FirefoxPrefLines(), below);
+        if (rest.empty()) return;
+        EXPECT_EQ(scene.FBench.Context.FirefoxChanged, rest == L"changed");
     }
 
     static void Now(TScene& scene, TLine rest, const TLines& /*below*/) {
@@ -136,27 +194,21 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
          s.FBench.Fake.Parameters.PutNumber(action, Unsigned(rest));
      }},
     {L"service", Service},
-    {L"firefox",
-     [](TScene& s, TLine rest, const TLines&) {
-         s.FUserFile += ToUtf8(rest) + "\n";
-         TFakeSystem& fake = s.FBench.Fake;
-         fake.Files.PutText(L"C:\\Mozilla\\profiles.ini", "[Profile0]\nIsRelative=1\nPath=p\n");
-         fake.Files.PutText(L"C:\\Mozilla\\p\\user.js", s.FUserFile);
-         fake.Registry.PutKey(TRootKey::LocalMachine,
-                              L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Mozilla Firefox");
-     }},
+    {L"firefox", Firefox},
     {L"answer", Answer},
     {L"load", [](TScene& s, TLine, const TLines&) { s.FBench.Load(); }},
-    {L"do",
+    {L"preset",
      [](TScene& s, TLine rest, const TLines&) {
-         const TLine control = Take(rest, L" ");
-         s.FBench.Act(control, rest);
+         const TLoadingScope loading(s.FBench.Context);
+         for (const TLine& control : TakeControls(rest)) s.FBench.Act(control, rest);
      }},
+    {L"do", Do},
+    {L"leave", [](TScene& s, TLine rest, const TLines&) { s.FBench.Get<TEdit>(rest).SetFocused(false); }},
     {L"apply", [](TScene& s, TLine, const TLines&) { s.FBench.Context.Changes.WriteAll(); }},
     {L"expect", [](TScene& s, TLine rest, const TLines&) { s.Expect(rest); }},
     {L"records", [](TScene& s, TLine, const TLines& below) { EXPECT_EQ(s.FBench.Pending(), below); }},
-    {L"prefs", [](TScene& s, TLine,
-                  const TLines& below) { EXPECT_EQ(s.FBench.Context.Firefox.FirefoxPrefLines(), below); }},
+    {L"told", [](TScene& s, TLine rest, const TLines&) { EXPECT_EQ(s.FBench.Recorded, std::stoi(rest)); }},
+    {L"prefs", Prefs},
     {L"now", Now},
     {L"security",
      [](TScene& s, TLine rest, const TLines&) {
@@ -170,42 +222,36 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
 };
 
 void RunShows(const TPageDefinition& page, TLine rest) {
-    const TLine control = Take(rest, L" ");
-    const TLine shows = Take(rest, L" | ");
-    TLine stored = Take(rest, L" | ");
-    for (const bool before : {false, true}) {
-        TScene scene(page);
-        TPageBench& bench = scene.Bench();
-        if (!rest.empty()) bench.Context.WindowsLevel = std::stoi(rest);
-        const bool isBox = bench.Get<TControl>(control).Kind() == TComponentKind::CheckBox;
-        if (isBox) bench.Preset(control, before);
-        const TLine kept = bench.State(control);
-        if (!stored.ends_with(L" missing")) scene.Run(L"stored " + stored, {});
-        bench.Load();
-        EXPECT_EQ(bench.State(control), shows == L"kept" ? kept : shows);
-        EXPECT_TRUE(bench.Pending().empty()) << "loading records nothing";
-        if (!isBox) break;
+    const TLines controls = TakeControls(rest);
+    const TLine shows = Take(rest, L"|");
+    const TLine found = Take(rest, L"|");
+    for (const TLine& control : controls) {
+        for (const bool before : {false, true}) {
+            TScene scene(page);
+            TPageBench& bench = scene.Bench();
+            if (!rest.empty()) bench.Context.WindowsLevel = std::stoi(rest);
+            const bool isBox = bench.Get<TControl>(control).Kind() == TComponentKind::CheckBox;
+            if (isBox) bench.Preset(control, before);
+            const TLine kept = bench.State(control);
+            scene.Find(found);
+            bench.Load();
+            scene.Expect(control + L' ' + (shows == L"kept" ? kept : shows));
+            EXPECT_TRUE(bench.Pending().empty() && bench.Recorded == 0 && !bench.Context.FirefoxChanged)
+                << "loading records nothing";
+            if (!isBox) break;
+        }
     }
 }
 
-void RunWrites(const TPageDefinition& page, TLine rest) {
+void RunWrites(const TPageDefinition& page, const TLine& line) {
+    TLine rest = line;
     const TLine control = Take(rest, L" ");
-    const TLine state = Take(rest, L" | ");
     TScene scene(page);
     TPageBench& bench = scene.Bench();
     if (bench.Get<TControl>(control).Kind() == TComponentKind::CheckBox)
-        bench.Preset(control, state == L"off");
-    bench.Act(control, state);
-    TLines expected;
-    while (!rest.empty()) {
-        TLine change = Take(rest, L" | ");
-        if (change.starts_with(L'*')) change = control + change.substr(1);
-        if (change == L"restart")
-            scene.Run(change, {});
-        else
-            expected.push_back(change);
-    }
-    EXPECT_EQ(bench.Pending(), expected);
+        bench.Preset(control, Take(rest, L"|") == L"off");
+    scene.Run(L"do " + line + L'|', {});
+    EXPECT_EQ(bench.Context.FirefoxChanged, line.find(L"user_pref(") != TLine::npos);
     EXPECT_GE(bench.Recorded, 1) << "Apply is to be enabled";
 }
 
@@ -222,8 +268,10 @@ class TScript {
             const TLine name = Take(rest, L" = ");
             FNames[name] = rest;
         } else if (verb == L"page") {
+            const int tag = std::stoi(Take(rest, L" "));
             for (const TPageDefinition* page : PageDefinitions())
-                if (page->Tag == std::stoi(rest)) FPage = page;
+                if (page->Tag == tag) FPage = page;
+            EXPECT_EQ(FPage->LoadsEveryVisit, rest == L"every visit");
         } else if (verb == L"shows") {
             RunShows(*FPage, rest);
         } else if (verb == L"writes") {
@@ -266,6 +314,10 @@ void RunPageScript(const std::string& path) {
         if (line.empty() || line[0] == L'#') continue;
         TLines below;
         while (lines[i + 1].starts_with(L' ')) below.push_back(Trimmed(lines[++i]));
-        script.Run(line, below);
+        try {
+            script.Run(line, below);
+        } catch (const std::exception& fault) {
+            ADD_FAILURE() << fault.what();
+        }
     }
 }
