@@ -272,7 +272,10 @@ void TQuilltune_FormMain::NotifyShell() {
 }
 
 void TQuilltune_FormMain::ApplyFirefox() {
-    if (std::exchange(FContext.FirefoxChanged, false) && FFirefox.SaveFirefoxPrefs()) {
+    if (!FContext.FirefoxChanged) return;
+    const bool saved = FFirefox.SaveFirefoxPrefs();  // a fault leaves the mark for the next Apply
+    FContext.FirefoxChanged = false;
+    if (saved) {
         FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartFirefox], TMessageButtons::Ok,
                                 TMessageIcon::None);
     }

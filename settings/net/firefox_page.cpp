@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr const wchar_t* kTabs = L"PageControl_Firefox";
+constexpr const wchar_t* kTabs = L"PagFirefox";
 constexpr const wchar_t* kNoFirefoxSheet = L"TabSheet_Firefox_NoFirefox";
 
 TControlDesign CommonSheet() {

@@ -221,6 +221,9 @@ TEST_F(TMainWindow, SavesFirefoxPreferencesOnlyWhenTheyWereLoadedAndChanged) {
     EXPECT_TRUE(Fake.Files.Replaced().empty()) << "no page said that something changed";
 
     Marks().FirefoxChanged = true;
+    Fake.Files.FailReplace(1);
+    EXPECT_THROW(Apply(), std::runtime_error);
+    EXPECT_TRUE(Enabled(L"Button_Apply"));
     Apply();
     EXPECT_EQ(Fake.Files.Text(userFile), "user_pref(\"b\", 2);\r\n");
     const TQuestion message{L"Quilltune", L"Need to restart Firefox to take effect.", TMessageButtons::Ok,

@@ -219,11 +219,11 @@ TEST(TFirefoxPage, EveryVisitLooksForFirefoxAndItsProfile) {
     TFirefoxBench bench;
     bench.Open("browser.blink_allowed", "false");
     EXPECT_FALSE(bench.Offered(L"TabSheet_Firefox_NoFirefox"));
-    EXPECT_EQ(bench.Get<TPageControl>(L"PageControl_Firefox").OfferedSheets().size(), 4u);
+    EXPECT_EQ(bench.Get<TPageControl>(L"PagFirefox").OfferedSheets().size(), 4u);
 
     bench.Fake.Registry.DenyAccess(TRootKey::LocalMachine, L"");
     bench.Open("browser.blink_allowed", "true");
-    EXPECT_EQ(bench.Get<TPageControl>(L"PageControl_Firefox").OfferedSheets(),
+    EXPECT_EQ(bench.Get<TPageControl>(L"PagFirefox").OfferedSheets(),
               std::vector{&bench.Get<TTabSheet>(L"TabSheet_Firefox_NoFirefox")});
     EXPECT_TRUE(bench.Checked(kBlink)) << "nothing is read";
 
