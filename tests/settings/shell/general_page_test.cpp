@@ -110,6 +110,9 @@ TEST_F(TTwins, TheHomePageOutlivesAReloadOfThePreferences) {
     EXPECT_EQ(Fake.Files.Text(kUserFile), "user_pref(\"browser.startup.homepage\", \"new\");\r\n");
     Type(kHomePageTwin, L"newer");
     EXPECT_EQ(Get<TEdit>(kHomePage).Text(), L"newer");
+    Visit(kFirefoxItem);
+    EXPECT_EQ(Get<TEdit>(kHomePageTwin).Text(), L"new") << "the page begins anew from the files";
+    EXPECT_EQ(Get<TEdit>(kHomePage).Text(), L"new");
 }
 
 TEST_F(TTwins, WithoutFirefoxThereIsNoHomePage) {
