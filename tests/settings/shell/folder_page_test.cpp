@@ -147,12 +147,13 @@ TEST(TFolderPage, ColorsArePickedInTheDialog) {
     struct TCase {
         const wchar_t* Button;
         const wchar_t* Swatch;
+        TColor Default;  ///< Explorer's own
         std::wstring Records;
     };
     const TCase cases[] = {
-        {kCompressed, kCompressedColor, kExplorerKey + L"[AltColor] = FF 20 01 00"},
-        {kEncrypted, kEncryptedColor, kExplorerKey + L"[AltEncryptionColor] = FF 20 01 00"},
-        {kHot, kHotColor, L"HKCU\\Control Panel\\Colors\\[HotTrackingColor] = \"255 32 1\""},
+        {kCompressed, kCompressedColor, 0xFF0000, kExplorerKey + L"[AltColor] = FF 20 01 00"},
+        {kEncrypted, kEncryptedColor, 0x0D9213, kExplorerKey + L"[AltEncryptionColor] = FF 20 01 00"},
+        {kHot, kHotColor, 0xCC6600, L"HKCU\\Control Panel\\Colors\\[HotTrackingColor] = \"255 32 1\""},
     };
     for (const TCase& c : cases) {
         TPageBench bench(FolderPage());
@@ -160,7 +161,7 @@ TEST(TFolderPage, ColorsArePickedInTheDialog) {
             bench.Fake.Dialogs.AnswerColor(answer);
         bench.Act(c.Button, L"");
         bench.Act(c.Button, L"");
-        EXPECT_EQ(bench.Fake.Dialogs.InitialColors(), (std::vector<TColor>{0, 0x0120FF}));
+        EXPECT_EQ(bench.Fake.Dialogs.InitialColors(), (std::vector<TColor>{c.Default, 0x0120FF}));
         EXPECT_EQ(bench.State(c.Swatch), L"0x0120FF") << "and a cancelled dialog keeps it";
         EXPECT_EQ(bench.Pending(), std::vector{Line(c.Button, c.Records)});
     }
