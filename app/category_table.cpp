@@ -56,8 +56,8 @@ TControlDesign CategoryBarDesign() {
     for (const TCategoryGroupRow& group : kGroups) {
         TDesigns items;
         for (const TCategoryItemRow& item : group.Items) {
-            TControlDesign design = CategoryItem(CategoryItemName(group.Name, items.size()), item.Caption,
-                                                 item.Tag, item.Picture);
+            TControlDesign design = CategoryItem(CategoryItemName(group.Name, items.size()).c_str(),
+                                                 item.Caption, item.Tag, item.Picture);
             design.IsVisible = item.Text.has_value();
             items.push_back(std::move(design));
         }

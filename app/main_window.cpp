@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/category_table.h"
+#include "app/folder_form.h"
 #include "app/timing_log.h"
 #include "platform/service_control.h"
 #include "platform/suite_language.h"
@@ -15,12 +16,6 @@ constexpr TColor kPlainItemColor = 0xC56A31;
 constexpr TColor kSelectedItemColor = 0xC65D21;
 constexpr int kFrameCount = 7;
 constexpr int kTimerInterval = 100;
-
-// Shell notifications, as documented for SHChangeNotify.
-constexpr std::uint32_t kAllEvents = 0x7FFFFFFF;            // SHCNE_ALLEVENTS
-constexpr std::uint32_t kAssociationsChanged = 0x08000000;  // SHCNE_ASSOCCHANGED
-constexpr std::uint32_t kFlush = 0x1000;                    // SHCNF_FLUSH
-constexpr std::uint32_t kIdList = 0x0000;                   // SHCNF_IDLIST
 
 TControlDesign WindowDesign() {
     return Row(CategoryBarDesign(),
@@ -74,6 +69,12 @@ void TQuilltune_FormMain::BindEvents() {
     Find<TButton>(L"Button_OK")->OnClick = [this](TComponent&) { Button_OKClick(); };
     Find<TButton>(L"Button_Cancel")->OnClick = [this](TComponent&) { Button_CancelClick(); };
     Find<TButton>(L"Button_Apply")->OnClick = [this](TComponent&) { Button_ApplyClick(); };
+    const auto opensFolderForm = [this](const wchar_t* button, const wchar_t* sheet) {
+        if (auto* control = Find<TButton>(button))
+            control->OnClick = [this, sheet](TComponent&) { ShowFolderForm(sheet); };
+    };
+    opensFolderForm(L"Button_Folder_Advanced_Desktop_Set", L"TabSheet_Folder_Desktop");
+    opensFolderForm(L"Button_Folder_Advanced_MyComputer_Set", L"TabSheet_Folder_MyComputer");
     for (const auto& component : Components()) {
         if (component->Kind() == TComponentKind::CategoryItem)
             static_cast<TCategoryItem&>(*component).OnClick = [this](TComponent& item) {
@@ -214,6 +215,12 @@ void TQuilltune_FormMain::SelectItem(TCategoryItem& item) {
     item.SetColor(kSelectedItemColor);
 }
 
+void TQuilltune_FormMain::ShowFolderForm(const wchar_t* sheet) {
+    TQuilltune_FormFolder dialog(FContext, *FLanguage);
+    dialog.ChooseSheet(sheet);
+    ShowModal(dialog);
+}
+
 void TQuilltune_FormMain::PageChanged(TComponent& sender) {
     Find(L"Button_Apply")->SetEnabled(true);
     FTwins->Changed(static_cast<TControl&>(sender));
@@ -265,7 +272,10 @@ void TQuilltune_FormMain::NotifyShell() {
 }
 
 void TQuilltune_FormMain::ApplyFirefox() {
-    if (std::exchange(FContext.FirefoxChanged, false) && FFirefox.SaveFirefoxPrefs()) {
+    if (!FContext.FirefoxChanged) return;
+    const bool saved = FFirefox.SaveFirefoxPrefs();  // a fault leaves the mark for the next Apply
+    FContext.FirefoxChanged = false;
+    if (saved) {
         FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartFirefox], TMessageButtons::Ok,
                                 TMessageIcon::None);
     }

@@ -45,6 +45,8 @@ class TQuilltune_FormMain : public TForm {
     void ApplyFirefox();
     /// A control's change was recorded.
     void PageChanged(TComponent& sender);
+    /// Opens the desktop-icons dialog with one of its sheets chosen.
+    void ShowFolderForm(const wchar_t* sheet);
 
     TSystem& FSystem;
     TSysControl FChanges;

@@ -2,15 +2,18 @@
 
 #include <array>
 
+#include "settings/net/firefox_page.h"
 #include "settings/net/internet_explorer_page.h"
 #include "settings/net/mail_page.h"
 #include "settings/net/network_page.h"
 #include "settings/net/privacy_page.h"
 #include "settings/net/security_page.h"
+#include "settings/net/user_logon_page.h"
 #include "settings/shell/display_page.h"
 #include "settings/shell/drives_page.h"
 #include "settings/shell/file_types_page.h"
 #include "settings/shell/folder_page.h"
+#include "settings/shell/general_page.h"
 #include "settings/shell/input_page.h"
 #include "settings/shell/memory_page.h"
 #include "settings/shell/start_menu_page.h"
@@ -20,8 +23,9 @@
 
 std::span<const TPageDefinition* const> PageDefinitions() {
     static const std::array kPages{
-        &DisplayPage(), &FileTypesPage(), &FolderPage(),           &InputPage(),  &StartMenuPage(),
-        &TaskbarPage(), &NetworkPage(),   &InternetExplorerPage(), &MailPage(),   &PrivacyPage(),
-        &DrivesPage(),  &MemoryPage(),    &StartupPage(),          &SystemPage(), &SecurityPage()};
+        &DisplayPage(), &FileTypesPage(), &FolderPage(),           &InputPage(),   &StartMenuPage(),
+        &TaskbarPage(), &NetworkPage(),   &InternetExplorerPage(), &FirefoxPage(), &MailPage(),
+        &PrivacyPage(), &UserLogonPage(), &DrivesPage(),           &MemoryPage(),  &StartupPage(),
+        &SystemPage(),  &SecurityPage(),  &GeneralPage()};
     return kPages;
 }

@@ -10,6 +10,12 @@ enum class TSpecialFolder : int {
     CommonAppData = 0x23,  ///< CSIDL_COMMON_APPDATA: application data of all users
 };
 
+// Shell notifications, as documented for SHChangeNotify.
+inline constexpr std::uint32_t kAllEvents = 0x7FFFFFFF;            // SHCNE_ALLEVENTS
+inline constexpr std::uint32_t kAssociationsChanged = 0x08000000;  // SHCNE_ASSOCCHANGED
+inline constexpr std::uint32_t kFlush = 0x1000;                    // SHCNF_FLUSH
+inline constexpr std::uint32_t kIdList = 0x0000;                   // SHCNF_IDLIST
+
 class TShell {
   public:
     virtual ~TShell() = default;

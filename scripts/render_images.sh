@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
-# Renders the program's pictures from their SVG sources: the category icons, the loading indicator's frames, the
-# program icon and the resource list. The results are committed, so only a change of a picture needs a run:
+# Renders the program's pictures from their SVG sources: the category icons, the pictures on pages, the loading
+# indicator's frames, the program icon and the resource list. The results are committed, so only a change of a picture needs a run:
 #   scripts/render_images.sh
 #
 # To add a category icon: draw resources/images/svg/<name>.svg in a square of 32 units, with outlines two units wide on
 # odd coordinates (so that they fall on whole pixels at 16), run this script and name the icon in the category's table.
 # Where a drawing does not survive 16 pixels, a simpler <name>_16.svg beside it takes its place at that size.
+# To add a picture that is no icon: draw resources/images/svg/pages/<name>.svg, 100 units high, run this script and
+# name the picture with its width and height in its page's design.
 set -euo pipefail
 . "$(dirname "$0")/lib.sh"
 
@@ -13,6 +15,7 @@ Images="$Root/resources/images"
 Sources="$Images/svg"
 CategorySizes=(16 20 24 32)  # 96, 120, 144 and 192 DPI
 LoadingSizes=(32 40 48 64)
+PageHeights=(100 200)        # 96 and 192 DPI; scaled down for those between
 LoadingDots=7                # also the number of frames
 
 Missing=()
@@ -23,10 +26,10 @@ command -v convert >/dev/null || Missing+=(imagemagick)
 Work=$(mktemp -d)
 trap 'rm -rf "$Work"' EXIT
 
-# Renders the SVG file $1 at $2 pixels into the PNG file $3: 8-bit RGBA, nothing hidden under transparent pixels, no
+# Renders the SVG file $1, $2 pixels high, into the PNG file $3: 8-bit RGBA, nothing hidden under transparent pixels, no
 # chunk that does not carry pixels.
 Render() {
-    rsvg-convert --width "$2" --height "$2" "$1" |
+    rsvg-convert --height "$2" "$1" |
         convert png:- -background none -alpha background -strip -define png:exclude-chunks=all \
             -define png:compression-level=9 -define png:compression-filter=4 "PNG32:$3"
 }
@@ -44,6 +47,15 @@ RenderCategories() {
         case $name in quilltune* | *_[0-9]*) continue ;; esac
         for size in "${CategorySizes[@]}"; do
             Render "$(SourceFor "$name" "$size")" "$size" "$Work/${name}_$size.png"
+        done
+    done
+}
+
+RenderPages() {
+    local file height
+    for file in "$Sources"/pages/*.svg; do
+        for height in "${PageHeights[@]}"; do
+            Render "$file" "$height" "$Work/$(basename "$file" .svg)_$height.png"
         done
     done
 }
@@ -150,7 +162,7 @@ BuildIcon() {
 WriteResourceList() {
     local file
     echo '// The PNG images of the interface; written by scripts/render_images.sh.'
-    for file in "$Work"/*_[0-9][0-9].png; do
+    for file in "$Work"/*_[0-9][0-9]*.png; do
         file=$(basename "$file" .png)
         echo "$file PNG \"images/$file.png\""
     done
@@ -158,12 +170,13 @@ WriteResourceList() {
 
 export LC_ALL=C
 RenderCategories
+RenderPages
 RenderLoading
 BuildIcon
 WriteResourceList >"$Work/images.rc"
 
 # Only a complete run replaces anything, and pictures without a source go.
 rm -f "$Images"/*.png
-cp "$Work"/*_[0-9][0-9].png "$Work/images.rc" "$Images/"
+cp "$Work"/*_[0-9][0-9]*.png "$Work/images.rc" "$Images/"
 cp "$Work/quilltune.ico" "$Root/resources/"
 Say "$(cat "$Images"/*.png | wc -c) bytes of PNG, $(stat -c %s "$Root/resources/quilltune.ico") bytes of icon"

@@ -6,11 +6,12 @@
 #include "ui/containers.h"
 #include "ui/controls.h"
 
-TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl& notebook,
+TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl& container,
              TNotifyEvent changed)
     : FDefinition(definition), FContext(context), FChanged(std::move(changed)) {
-    FContext.Form.Build(notebook, definition.Design());
-    Listen(*FContext.Form.Find(std::to_wstring(definition.Tag)));
+    const TControlDesign design = definition.Design();
+    FContext.Form.Build(container, design);
+    Listen(*FContext.Form.Find(design.Name));
     BindNumericFields(FContext.Form, definition.SharedHandler,
                       [this](TComponent& sender) { Changed(sender); });
     for (const TLoader& loader : definition.Loaders)
@@ -60,11 +61,12 @@ bool TPage::IsOffered(const TRow& row) const {
     return true;
 }
 
-/// Buttons and edits are of many kinds; those that stand for a setting are named by its row.
+/// Buttons, lists and edits are of many kinds; those that stand for a setting are named by its row.
 void TPage::ListenToRow(const TRow& row) {
     const TNotifyEvent changed = [this](TComponent& sender) { Changed(sender); };
     for (const std::wstring& name : ControlsOf(row)) {
         if (auto* button = FContext.Form.Find<TButton>(name)) button->OnClick = changed;
+        if (auto* list = FContext.Form.Find<TListView>(name)) list->OnChange = changed;
         auto* edit = FContext.Form.Find<TEdit>(name);
         // The changes of a bounded numeric field come from the field itself.
         if (edit != nullptr && !edit->OnChange) edit->OnKeyUp = changed;

@@ -32,7 +32,7 @@ struct TTwin {
 
 /// A page as data.
 struct TPageDefinition {
-    int Tag;                       ///< the number of its notebook page
+    int Tag;                       ///< the number of its notebook page; 0 for what is in no notebook
     const wchar_t* SharedHandler;  ///< the name of the page's change handler, which other units know it by
     TControlDesign (*Design)();
     std::span<const TLoader> Loaders;  ///< in the order in which they run
@@ -48,9 +48,11 @@ struct TPageDefinition {
 /// Runs a page definition on a form.
 class TPage {
   public:
-    /// Builds the page's controls into the notebook and listens to them. `definition` and `context` outlive the
-    /// page; `changed` is told, with the control as sender, after the control's change was recorded.
-    TPage(const TPageDefinition& definition, TPageContext& context, TControl& notebook, TNotifyEvent changed);
+    /// Builds the page's controls into the notebook, or what else holds them, and listens to them. `definition` and
+    /// `context` outlive the page; `changed` is told, with the control as sender, after the control's change was
+    /// recorded.
+    TPage(const TPageDefinition& definition, TPageContext& context, TControl& container,
+          TNotifyEvent changed);
 
     [[nodiscard]] int Tag() const { return FDefinition.Tag; }
     [[nodiscard]] bool LoadsEveryVisit() const { return FDefinition.LoadsEveryVisit; }

@@ -27,20 +27,24 @@ struct TPageContext {
     TServiceAction FirewallAction = TServiceAction::Nothing;
 };
 
-/// Sets the loading mark for a scope, so that no path out of a loader leaves it set.
+/// Sets the loading mark for a scope, so that no path out of a loader leaves it set. Scopes nest: while a
+/// loader handles messages, another page may be loaded.
 class TLoadingScope {
   public:
-    explicit TLoadingScope(TPageContext& context, bool showsPending = false) : FContext(context) {
+    explicit TLoadingScope(TPageContext& context, bool showsPending = false)
+        : FContext(context), FWasLoading(context.Loading), FShowedPending(context.ShowsPending) {
         FContext.Loading = true;
         FContext.ShowsPending = showsPending;
     }
     ~TLoadingScope() {
-        FContext.Loading = false;
-        FContext.ShowsPending = false;
+        FContext.Loading = FWasLoading;
+        FContext.ShowsPending = FShowedPending;
     }
     TLoadingScope(const TLoadingScope&) = delete;
     TLoadingScope& operator=(const TLoadingScope&) = delete;
 
   private:
     TPageContext& FContext;
+    bool FWasLoading;
+    bool FShowedPending;
 };

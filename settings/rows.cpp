@@ -36,6 +36,19 @@ void RecordFrom(TPageContext& context, const TCheckBoxRow& row, TComponent& send
     EnableAll(context, row.EnablesOnClick, checked);
 }
 
+void Load(TPageContext& context, const TKeyRow& row) {
+    TRegRecor record = RecordAt(row.Value, {});
+    context.Changes.ReadCurrent(record);
+    // A key without a default value is one, too.
+    context.Form.Find<TCheckBox>(row.Control)->SetChecked(record.ReadResult != TReadStatus::KeyUnavailable);
+}
+
+void RecordFrom(TPageContext& context, const TKeyRow& row, TComponent& sender) {
+    // Each click is a change of its own name: a known one would keep its place, and the last click might not win.
+    const std::wstring name = sender.Name() + std::to_wstring(context.Changes.Pending().size());
+    Record(context, name, row.Value, static_cast<TCheckBox&>(sender).Checked() ? Text(L"") : kDeleteKey);
+}
+
 void Load(TPageContext& context, const TRadioPairRow& row) {
     TPairState state = row.Missing;
     if (const auto value = Stored(context, row.Value))

@@ -77,6 +77,14 @@ struct TCheckBoxRow {
     std::optional<TPlace> LoadedFrom = std::nullopt;  ///< what shows, where it is not `Value`
 };
 
+/// A key that exists while the box is checked, with an empty text as its default value.
+struct TKeyRow {
+    const wchar_t* Control;
+    TPlace Value;
+    bool Restart = false;
+    TLevels LoadedOn = kEveryLevel;
+};
+
 /// Which radio button of a pair a stored value checks.
 enum class TPairState : std::uint8_t {
     Keep,  ///< both keep the state they have
@@ -173,8 +181,8 @@ struct TSpecialRow {
     TLevels LoadedOn = kEveryLevel;
 };
 
-using TRow = std::variant<TCheckBoxRow, TRadioPairRow, TChoiceRow, TNumberRow, TTextRow, TParameterSwitchRow,
-                          TParameterNumberRow, TSpecialRow>;
+using TRow = std::variant<TCheckBoxRow, TKeyRow, TRadioPairRow, TChoiceRow, TNumberRow, TTextRow,
+                          TParameterSwitchRow, TParameterNumberRow, TSpecialRow>;
 
 /// The rows of one loader, in the order in which they are loaded.
 using TLoader = std::span<const TRow>;

@@ -120,13 +120,13 @@ void TMessageBox::Answer(int answer) const {
         throw TAutomationError(L"a message does not close");
 }
 
-TMainWindow TMainWindow::WaitFor(DWORD process) {
+TMainWindow TMainWindow::WaitFor(DWORD process, const wchar_t* windowClass) {
     std::vector<HWND> windows;
     const bool found = WaitUntil([&] {
-        windows = TopWindows(kClass, process);
+        windows = TopWindows(windowClass, process);
         return !windows.empty() && IsWindowVisible(windows.front());
     });
-    if (!found) throw TAutomationError(L"no main window");
+    if (!found) throw TAutomationError(L"no window " + std::wstring(windowClass));
     return TMainWindow(windows.front());
 }
 

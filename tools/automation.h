@@ -52,13 +52,15 @@ struct TNamedControl {
     std::wstring Name;
 };
 
-/// The program's main window. Steps that cannot be done within kPatience throw TAutomationError.
+/// The program's main window, or another of its forms. Steps that cannot be done within kPatience throw
+/// TAutomationError.
 class TMainWindow {
   public:
     static constexpr const wchar_t* kClass = L"TQuilltune_FormMain";
+    static constexpr const wchar_t* kFolderClass = L"TQuilltune_FormFolder";  ///< the desktop-icons dialog
 
-    /// Waits for the main window of a process (0: of any).
-    [[nodiscard]] static TMainWindow WaitFor(DWORD process);
+    /// Waits for the form of that class of a process (0: of any).
+    [[nodiscard]] static TMainWindow WaitFor(DWORD process, const wchar_t* windowClass = kClass);
 
     /// Waits until the loading panel is gone and the buttons work.
     void WaitReady() const;

@@ -1,5 +1,6 @@
 // Drives the running program from a command line, for scripts:
-//   drive VERB [NAME] [ARGUMENT]
+//   drive [--dialog] VERB [NAME] [ARGUMENT]
+// With --dialog it is the desktop-icons dialog that is driven, not the main window.
 // Exit status 0, or 1 with the reason on the standard error output.
 #include <cstdio>
 #include <cstring>
@@ -26,7 +27,7 @@ void List(const TMainWindow& window) {
     }
 }
 
-/// What a verb does with the main window, the name and the argument.
+/// What a verb does with the window, the name and the argument.
 struct TVerb {
     const char* Word;
     int Operands;
@@ -83,17 +84,23 @@ std::wstring Operand(int count, char** arguments, int index) {
 }  // namespace
 
 int main(int count, char** arguments) {
+    const bool dialog = count > 1 && std::strcmp(arguments[1], "--dialog") == 0;
+    if (dialog) {
+        --count;
+        ++arguments;
+    }
     for (const TVerb& verb : kVerbs) {
         if (count != verb.Operands + 2 || std::strcmp(arguments[1], verb.Word) != 0) continue;
         try {
-            verb.Do(TMainWindow::WaitFor(0), Operand(count, arguments, 2), Operand(count, arguments, 3));
+            verb.Do(TMainWindow::WaitFor(0, dialog ? TMainWindow::kFolderClass : TMainWindow::kClass),
+                    Operand(count, arguments, 2), Operand(count, arguments, 3));
             return 0;
         } catch (const TAutomationError& error) {
             std::fprintf(stderr, "drive: %s\n", error.what());
             return 1;
         }
     }
-    std::fprintf(stderr, "drive VERB [NAME] [ARGUMENT]\n");
+    std::fprintf(stderr, "drive [--dialog] VERB [NAME] [ARGUMENT]\n");
     for (const TVerb& verb : kVerbs) std::fprintf(stderr, "  %-10s  %s\n", verb.Word, verb.Help);
     return 1;
 }

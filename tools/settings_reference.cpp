@@ -1,9 +1,11 @@
 // Prints the reference of all settings, in Markdown, from the catalogue itself.
+#include <algorithm>
 #include <cstdio>
 
 #include "app/category_table.h"
 #include "app/page_table.h"
 #include "platform/unicode.h"
+#include "settings/shell/desktop_icons.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 
@@ -114,6 +116,11 @@ TEntry Entry(const TCheckBoxRow& row) {
     return {Words(row.Value), shows, writes};
 }
 
+TEntry Entry(const TKeyRow& row) {
+    return {Words(row.Value), L"checked when there is such a key",
+            L"checked: text `\"\"`, which creates the key; clear: deletes the key"};
+}
+
 TEntry Entry(const TRadioPairRow& row) {
     return {Words(row.Value),
             L"the first when " + row.FirstWhen.Words() + L"; else the second; missing: " + Words(row.Missing),
@@ -164,6 +171,7 @@ TText Words(const TLevels& levels) {
         return level < 4 || level > 7 ? std::to_wstring(level) : kNames[level - 4];
     };
     if (levels.First == kEveryLevel.First && levels.Last == kEveryLevel.Last) return L"all";
+    if (levels.First == levels.Last) return name(levels.First);
     if (levels.First == kEveryLevel.First) return L"up to " + name(levels.Last);
     if (levels.Last == kEveryLevel.Last) return name(levels.First) + L" and later";
     return name(levels.First) + L" to " + name(levels.Last);
@@ -229,9 +237,19 @@ void PrintRow(const TForm& form, const TPageDefinition& page, const TRow& row, c
 void PrintPage(const TForm& form, const TPageDefinition& page, const TText& caption) {
     Print(L"");
     Print(L"## " + caption);
-    const TControl* sheet = nullptr;
-    for (const TLoader& loader : page.Loaders)
-        for (const TRow& row : loader) PrintRow(form, page, row, sheet);
+    // A loader may go back and forth between the sheets.
+    std::vector<std::pair<const TControl*, std::vector<const TRow*>>> sheets;
+    for (const TLoader& loader : page.Loaders) {
+        for (const TRow& row : loader) {
+            const TControl* sheet = SheetOf(*form.Find(ControlsOf(row).front()));
+            auto entry = std::ranges::find(sheets, sheet, [](const auto& e) { return e.first; });
+            if (entry == sheets.end()) entry = sheets.insert(entry, {sheet, {}});
+            entry->second.push_back(&row);
+        }
+    }
+    const TControl* current = nullptr;
+    for (const auto& [sheet, rows] : sheets)
+        for (const TRow* row : rows) PrintRow(form, page, *row, current);
 }
 
 }  // namespace
@@ -255,4 +273,8 @@ int main() {
         for (const TCategoryItemRow& item : group.Items)
             for (const TPageDefinition* page : PageDefinitions())
                 if (page->Tag == item.Tag) PrintPage(form, *page, item.Caption);
+
+    TForm dialog(L"Quilltune_FormFolder", L"TQuilltune_FormFolder");
+    dialog.Build(dialog, DesktopIcons().Design());
+    PrintPage(dialog, DesktopIcons(), L"Desktop and My Computer (a dialog: its OK writes at once)");
 }

@@ -187,17 +187,26 @@ class TColorSwatch : public TControl {
 class TImage : public TControl {
   public:
     /// `picture` is the picture's base name; the frames of a series are called picture_0, picture_1, ….
-    TImage(std::wstring name, std::wstring picture, int frames)
-        : TControl(TComponentKind::Image, std::move(name)), FPicture(std::move(picture)), FFrames(frames) {}
+    TImage(std::wstring name, std::wstring picture, int frames, int width, int height)
+        : TControl(TComponentKind::Image, std::move(name)),
+          FPicture(std::move(picture)),
+          FFrames(frames),
+          FWidth(width),
+          FHeight(height) {}
 
     [[nodiscard]] const std::wstring& Picture() const { return FPicture; }
     [[nodiscard]] int Frames() const { return FFrames; }
+    /// At 96 dots per inch.
+    [[nodiscard]] int Width() const { return FWidth; }
+    [[nodiscard]] int Height() const { return FHeight; }
     [[nodiscard]] int Frame() const { return FFrame; }
     void SetFrame(int frame);
 
   private:
     std::wstring FPicture;
     int FFrames;
+    int FWidth;
+    int FHeight;
     int FFrame = 0;
 };
 

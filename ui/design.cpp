@@ -2,11 +2,11 @@
 
 namespace {
 
-TControlDesign Control(TComponentKind kind, std::wstring name, std::wstring caption = {}) {
+TControlDesign Control(TComponentKind kind, const wchar_t* name, const wchar_t* caption = L"") {
     TControlDesign design;
     design.Kind = kind;
-    design.Name = std::move(name);
-    design.Caption = std::move(caption);
+    design.Name = name;
+    design.Caption = caption;
     return design;
 }
 
@@ -19,6 +19,50 @@ TControlDesign Ranged(TControlDesign design, int min, int max, int position) {
 
 }  // namespace
 
+TControlDesign::TControlDesign() = default;
+TControlDesign::TControlDesign(const TControlDesign& other) = default;
+TControlDesign::TControlDesign(TControlDesign&& other) noexcept = default;
+TControlDesign& TControlDesign::operator=(const TControlDesign& other) = default;
+TControlDesign& TControlDesign::operator=(TControlDesign&& other) noexcept = default;
+TControlDesign::~TControlDesign() = default;
+
+TControlDesign&& TControlDesign::Hidden() && {
+    IsVisible = false;
+    return std::move(*this);
+}
+
+TControlDesign&& TControlDesign::Disabled() && {
+    IsEnabled = false;
+    return std::move(*this);
+}
+
+TControlDesign&& TControlDesign::Checked() && {
+    IsChecked = true;
+    return std::move(*this);
+}
+
+TControlDesign&& TControlDesign::DigitsOnly() && {
+    IsDigitsOnly = true;
+    return std::move(*this);
+}
+
+TControlDesign&& TControlDesign::Password() && {
+    IsPassword = true;
+    return std::move(*this);
+}
+
+TControlDesign&& TControlDesign::Width(int characters) && {
+    WidthInCharacters = characters;
+    return std::move(*this);
+}
+
+TDesigns Collect(TControlDesign* const* designs, std::size_t count) {
+    TDesigns collected;
+    collected.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) collected.push_back(std::move(*designs[i]));
+    return collected;
+}
+
 TControlDesign Arrangement(TLayoutKind layout, TDesigns content) {
     TControlDesign design;
     design.Layout = layout;
@@ -26,86 +70,95 @@ TControlDesign Arrangement(TLayoutKind layout, TDesigns content) {
     return design;
 }
 
-TControlDesign Container(TComponentKind kind, std::wstring name, std::wstring caption, TDesigns content) {
-    TControlDesign design = Control(kind, std::move(name), std::move(caption));
+TControlDesign Container(TComponentKind kind, const wchar_t* name, const wchar_t* caption, TDesigns content) {
+    TControlDesign design = Control(kind, name, caption);
     design.Children = std::move(content);
     return design;
 }
 
-TControlDesign Label(std::wstring name, std::wstring caption) {
-    return Control(TComponentKind::Label, std::move(name), std::move(caption));
+TControlDesign Label(const wchar_t* name, const wchar_t* caption) {
+    return Control(TComponentKind::Label, name, caption);
 }
 
-TControlDesign CheckBox(std::wstring name, std::wstring caption) {
-    return Control(TComponentKind::CheckBox, std::move(name), std::move(caption));
+TControlDesign CheckBox(const wchar_t* name, const wchar_t* caption) {
+    return Control(TComponentKind::CheckBox, name, caption);
 }
 
-TControlDesign RadioButton(std::wstring name, std::wstring caption) {
-    return Control(TComponentKind::RadioButton, std::move(name), std::move(caption));
+TControlDesign RadioButton(const wchar_t* name, const wchar_t* caption) {
+    return Control(TComponentKind::RadioButton, name, caption);
 }
 
-TControlDesign Button(std::wstring name, std::wstring caption) {
-    return Control(TComponentKind::Button, std::move(name), std::move(caption));
+TControlDesign Button(const wchar_t* name, const wchar_t* caption) {
+    return Control(TComponentKind::Button, name, caption);
 }
 
-TControlDesign Edit(std::wstring name, std::wstring text) {
-    return Control(TComponentKind::Edit, std::move(name), std::move(text));
+TControlDesign Edit(const wchar_t* name, const wchar_t* text) {
+    return Control(TComponentKind::Edit, name, text);
 }
 
-TControlDesign UpDown(std::wstring name, std::wstring edit, int min, int max, int position) {
-    TControlDesign design = Ranged(Control(TComponentKind::UpDown, std::move(name)), min, max, position);
-    design.Associate = std::move(edit);
+TControlDesign UpDown(const wchar_t* name, const wchar_t* edit, int min, int max, int position) {
+    TControlDesign design = Ranged(Control(TComponentKind::UpDown, name), min, max, position);
+    design.Associate = edit;
     return design;
 }
 
-TControlDesign TrackBar(std::wstring name, int min, int max, int position) {
-    return Ranged(Control(TComponentKind::TrackBar, std::move(name)), min, max, position);
+TControlDesign TrackBar(const wchar_t* name, int min, int max, int position) {
+    return Ranged(Control(TComponentKind::TrackBar, name), min, max, position);
 }
 
-TControlDesign ComboBox(std::wstring name, std::vector<std::wstring> items) {
-    TControlDesign design = Control(TComponentKind::ComboBox, std::move(name));
-    design.Items = std::move(items);
+TControlDesign ComboBox(const wchar_t* name, std::initializer_list<const wchar_t*> items) {
+    return ComboBox(name, TItems(items.begin(), items.size()));
+}
+
+TControlDesign ComboBox(const wchar_t* name, TItems items) {
+    TControlDesign design = Control(TComponentKind::ComboBox, name);
+    design.Items.assign(items.begin(), items.end());
     return design;
 }
 
-TControlDesign ColorSwatch(std::wstring name) {
-    return Control(TComponentKind::ColorSwatch, std::move(name));
-}
+TControlDesign ColorSwatch(const wchar_t* name) { return Control(TComponentKind::ColorSwatch, name); }
 
-TControlDesign Image(std::wstring name, std::wstring picture, int frames) {
-    TControlDesign design = Control(TComponentKind::Image, std::move(name));
-    design.Picture = std::move(picture);
+TControlDesign Image(const wchar_t* name, const wchar_t* picture, int frames) {
+    TControlDesign design = Control(TComponentKind::Image, name);
+    design.Picture = picture;
     design.Position = frames;
     return design;
 }
 
-TControlDesign ListView(std::wstring name, std::vector<std::wstring> columns) {
-    TControlDesign design = Control(TComponentKind::ListView, std::move(name));
-    design.Items = std::move(columns);
+TControlDesign Image(const wchar_t* name, const wchar_t* picture, int width, int height) {
+    TControlDesign design = Image(name, picture);
+    design.PictureWidth = width;
+    design.PictureHeight = height;
     return design;
 }
 
-TControlDesign Timer(std::wstring name, int milliseconds) {
-    TControlDesign design = Control(TComponentKind::Timer, std::move(name));
+TControlDesign ListView(const wchar_t* name, std::initializer_list<const wchar_t*> columns) {
+    TControlDesign design = Control(TComponentKind::ListView, name);
+    design.Items.assign(columns.begin(), columns.end());
+    return design;
+}
+
+TControlDesign Timer(const wchar_t* name, int milliseconds) {
+    TControlDesign design = Control(TComponentKind::Timer, name);
     design.Position = milliseconds;
     return design;
 }
 
-TControlDesign CategoryBar(std::wstring name, TDesigns groups) {
-    return Container(TComponentKind::CategoryBar, std::move(name), {}, std::move(groups));
+TControlDesign CategoryBar(const wchar_t* name, TDesigns groups) {
+    return Container(TComponentKind::CategoryBar, name, L"", std::move(groups));
 }
 
-TControlDesign CategoryGroup(std::wstring name, std::wstring caption, TDesigns items) {
-    return Container(TComponentKind::CategoryGroup, std::move(name), std::move(caption), std::move(items));
+TControlDesign CategoryGroup(const wchar_t* name, const wchar_t* caption, TDesigns items) {
+    return Container(TComponentKind::CategoryGroup, name, caption, std::move(items));
 }
 
-TControlDesign CategoryItem(std::wstring name, std::wstring caption, int tag, std::wstring picture) {
-    TControlDesign design = Control(TComponentKind::CategoryItem, std::move(name), std::move(caption));
+TControlDesign CategoryItem(const wchar_t* name, const wchar_t* caption, int tag, const wchar_t* picture) {
+    TControlDesign design = Control(TComponentKind::CategoryItem, name, caption);
     design.Position = tag;
-    design.Picture = std::move(picture);
+    design.Picture = picture;
     return design;
 }
 
-TControlDesign Notebook(std::wstring name, TDesigns pages) {
-    return Container(TComponentKind::Notebook, std::move(name), {}, std::move(pages));
+TControlDesign Notebook(const wchar_t* name, TDesigns pages) {
+    return Container(TComponentKind::Notebook, name, L"", std::move(pages));
 }

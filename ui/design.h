@@ -6,7 +6,9 @@
 //         Buttons(Button(L"Button_Drives_Common_Default", L"&Default")))
 #pragma once
 
+#include <initializer_list>
 #include <optional>
+#include <span>
 
 #include "ui/component.h"
 #include "ui/layout_box.h"
@@ -34,117 +36,113 @@ struct TControlDesign {
     std::vector<std::wstring> Items;
     std::wstring Associate;  ///< of an up-down: the edit it belongs to
     std::wstring Picture;
+    int PictureWidth = 32;  ///< at 96 dots per inch
+    int PictureHeight = 32;
 
-    TControlDesign Hidden() && {
-        IsVisible = false;
-        return std::move(*this);
-    }
-    TControlDesign Disabled() && {
-        IsEnabled = false;
-        return std::move(*this);
-    }
-    TControlDesign Checked() && {
-        IsChecked = true;
-        return std::move(*this);
-    }
-    TControlDesign DigitsOnly() && {
-        IsDigitsOnly = true;
-        return std::move(*this);
-    }
-    TControlDesign Password() && {
-        IsPassword = true;
-        return std::move(*this);
-    }
-    TControlDesign Width(int characters) && {
-        WidthInCharacters = characters;
-        return std::move(*this);
-    }
+    // Forms hold hundreds of designs: what every one of them would repeat is compiled once.
+    TControlDesign();
+    TControlDesign(const TControlDesign& other);
+    TControlDesign(TControlDesign&& other) noexcept;
+    TControlDesign& operator=(const TControlDesign& other);
+    TControlDesign& operator=(TControlDesign&& other) noexcept;
+    ~TControlDesign();
+
+    TControlDesign&& Hidden() &&;
+    TControlDesign&& Disabled() &&;
+    TControlDesign&& Checked() &&;
+    TControlDesign&& DigitsOnly() &&;
+    TControlDesign&& Password() &&;
+    TControlDesign&& Width(int characters) &&;
 };
 
 /// What the functions below are made of: a container or arrangement with its content.
 TControlDesign Arrangement(TLayoutKind layout, TDesigns content);
-TControlDesign Container(TComponentKind kind, std::wstring name, std::wstring caption, TDesigns content);
+TControlDesign Container(TComponentKind kind, const wchar_t* name, const wchar_t* caption, TDesigns content);
+
+/// Moves the designs out of the array.
+TDesigns Collect(TControlDesign* const* designs, std::size_t count);
 
 template <typename... TContent>
-TDesigns Designs(TContent... content) {
-    TDesigns designs;
-    designs.reserve(sizeof...(content));
-    (designs.push_back(std::move(content)), ...);
-    return designs;
+TDesigns Designs(TContent&&... content) {
+    TControlDesign* const designs[] = {&content..., nullptr};
+    return Collect(designs, sizeof...(content));
 }
 
 // Arrangements.
 template <typename... TContent>
-TControlDesign Column(TContent... content) {
-    return Arrangement(TLayoutKind::Column, Designs(std::move(content)...));
+TControlDesign Column(TContent&&... content) {
+    return Arrangement(TLayoutKind::Column, Designs(content...));
 }
 template <typename... TContent>
-TControlDesign Row(TContent... content) {
-    return Arrangement(TLayoutKind::Row, Designs(std::move(content)...));
+TControlDesign Row(TContent&&... content) {
+    return Arrangement(TLayoutKind::Row, Designs(content...));
 }
 template <typename... TContent>
-TControlDesign Buttons(TContent... content) {
-    return Arrangement(TLayoutKind::Buttons, Designs(std::move(content)...));
+TControlDesign Buttons(TContent&&... content) {
+    return Arrangement(TLayoutKind::Buttons, Designs(content...));
 }
 template <typename... TContent>
-TControlDesign Fields(TContent... rows) {
-    return Arrangement(TLayoutKind::Fields, Designs(std::move(rows)...));
+TControlDesign Fields(TContent&&... rows) {
+    return Arrangement(TLayoutKind::Fields, Designs(rows...));
 }
 template <typename... TContent>
-TControlDesign Indent(TContent... content) {
-    return Arrangement(TLayoutKind::Indent, Designs(std::move(content)...));
+TControlDesign Indent(TContent&&... content) {
+    return Arrangement(TLayoutKind::Indent, Designs(content...));
 }
 template <typename... TContent>
-TControlDesign Center(TContent... content) {
-    return Arrangement(TLayoutKind::Center, Designs(std::move(content)...));
+TControlDesign Center(TContent&&... content) {
+    return Arrangement(TLayoutKind::Center, Designs(content...));
 }
 template <typename... TContent>
-TControlDesign Overlay(TContent... content) {
-    return Arrangement(TLayoutKind::Overlay, Designs(std::move(content)...));
+TControlDesign Overlay(TContent&&... content) {
+    return Arrangement(TLayoutKind::Overlay, Designs(content...));
 }
 
 // Containers.
 template <typename... TContent>
-TControlDesign NotebookPage(int tag, TContent... content) {
-    return Container(TComponentKind::NotebookPage, std::to_wstring(tag), {}, Designs(std::move(content)...));
+TControlDesign NotebookPage(int tag, TContent&&... content) {
+    return Container(TComponentKind::NotebookPage, std::to_wstring(tag).c_str(), L"", Designs(content...));
 }
 /// The tabs of a notebook page.
 template <typename... TSheets>
-TControlDesign PageControl(std::wstring name, TSheets... sheets) {
-    return Container(TComponentKind::PageControl, std::move(name), {}, Designs(std::move(sheets)...));
+TControlDesign PageControl(const wchar_t* name, TSheets&&... sheets) {
+    return Container(TComponentKind::PageControl, name, L"", Designs(sheets...));
 }
 template <typename... TContent>
-TControlDesign Sheet(std::wstring name, std::wstring caption, TContent... content) {
-    return Container(TComponentKind::TabSheet, std::move(name), std::move(caption),
-                     Designs(std::move(content)...));
+TControlDesign Sheet(const wchar_t* name, const wchar_t* caption, TContent&&... content) {
+    return Container(TComponentKind::TabSheet, name, caption, Designs(content...));
 }
 template <typename... TContent>
-TControlDesign Group(std::wstring name, std::wstring caption, TContent... content) {
-    return Container(TComponentKind::GroupBox, std::move(name), std::move(caption),
-                     Designs(std::move(content)...));
+TControlDesign Group(const wchar_t* name, const wchar_t* caption, TContent&&... content) {
+    return Container(TComponentKind::GroupBox, name, caption, Designs(content...));
 }
 template <typename... TContent>
-TControlDesign Panel(std::wstring name, TContent... content) {
-    return Container(TComponentKind::Panel, std::move(name), {}, Designs(std::move(content)...));
+TControlDesign Panel(const wchar_t* name, TContent&&... content) {
+    return Container(TComponentKind::Panel, name, L"", Designs(content...));
 }
 
 // Controls.
-TControlDesign Label(std::wstring name, std::wstring caption);
-TControlDesign CheckBox(std::wstring name, std::wstring caption);
-TControlDesign RadioButton(std::wstring name, std::wstring caption);
-TControlDesign Button(std::wstring name, std::wstring caption);
-TControlDesign Edit(std::wstring name, std::wstring text = {});
+TControlDesign Label(const wchar_t* name, const wchar_t* caption);
+TControlDesign CheckBox(const wchar_t* name, const wchar_t* caption);
+TControlDesign RadioButton(const wchar_t* name, const wchar_t* caption);
+TControlDesign Button(const wchar_t* name, const wchar_t* caption);
+TControlDesign Edit(const wchar_t* name, const wchar_t* text = L"");
 /// Stands right after its edit.
-TControlDesign UpDown(std::wstring name, std::wstring edit, int min, int max, int position);
-TControlDesign TrackBar(std::wstring name, int min, int max, int position);
-TControlDesign ComboBox(std::wstring name, std::vector<std::wstring> items);
-TControlDesign ColorSwatch(std::wstring name);
-TControlDesign Image(std::wstring name, std::wstring picture, int frames = 1);
-TControlDesign ListView(std::wstring name, std::vector<std::wstring> columns);
-TControlDesign Timer(std::wstring name, int milliseconds);
+TControlDesign UpDown(const wchar_t* name, const wchar_t* edit, int min, int max, int position);
+TControlDesign TrackBar(const wchar_t* name, int min, int max, int position);
+/// The items of a list that stands in more than one place.
+using TItems = std::span<const wchar_t* const>;
+TControlDesign ComboBox(const wchar_t* name, TItems items);
+TControlDesign ComboBox(const wchar_t* name, std::initializer_list<const wchar_t*> items);
+TControlDesign ColorSwatch(const wchar_t* name);
+TControlDesign Image(const wchar_t* name, const wchar_t* picture, int frames = 1);
+/// An image that is no icon, of that many dots at 96 per inch.
+TControlDesign Image(const wchar_t* name, const wchar_t* picture, int width, int height);
+TControlDesign ListView(const wchar_t* name, std::initializer_list<const wchar_t*> columns);
+TControlDesign Timer(const wchar_t* name, int milliseconds);
 
 // The main window's navigation.
-TControlDesign CategoryBar(std::wstring name, TDesigns groups);
-TControlDesign CategoryGroup(std::wstring name, std::wstring caption, TDesigns items);
-TControlDesign CategoryItem(std::wstring name, std::wstring caption, int tag, std::wstring picture);
-TControlDesign Notebook(std::wstring name, TDesigns pages);
+TControlDesign CategoryBar(const wchar_t* name, TDesigns groups);
+TControlDesign CategoryGroup(const wchar_t* name, const wchar_t* caption, TDesigns items);
+TControlDesign CategoryItem(const wchar_t* name, const wchar_t* caption, int tag, const wchar_t* picture);
+TControlDesign Notebook(const wchar_t* name, TDesigns pages);

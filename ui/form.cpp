@@ -42,7 +42,8 @@ std::unique_ptr<TControl> Make(const TControlDesign& design) {
         case TComponentKind::ColorSwatch:
             return std::make_unique<TColorSwatch>(design.Name);
         case TComponentKind::Image:
-            return std::make_unique<TImage>(design.Name, design.Picture, design.Position);
+            return std::make_unique<TImage>(design.Name, design.Picture, design.Position, design.PictureWidth,
+                                            design.PictureHeight);
         case TComponentKind::ListView:
             return std::make_unique<TListView>(design.Name, design.Items);
         case TComponentKind::CategoryBar:
@@ -145,4 +146,8 @@ const TLayoutBox& TForm::Layout(const TControl& container) const {
 void TForm::Close() {
     FClosed = true;
     if (Peer() != nullptr) static_cast<TFormPeer*>(Peer())->Close();
+}
+
+void TForm::ShowModal(TForm& dialog) {
+    if (Peer() != nullptr) static_cast<TFormPeer*>(Peer())->ShowModal(dialog);
 }

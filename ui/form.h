@@ -13,6 +13,8 @@ class TFormPeer : public TPeer {
   public:
     /// Closes the window, which ends in TForm::Destroyed.
     virtual void Close() = 0;
+    /// See TForm::ShowModal.
+    virtual void ShowModal(TForm& dialog) = 0;
 };
 
 class TForm : public TControl {
@@ -44,6 +46,15 @@ class TForm : public TControl {
     /// Closes the window. Without a native window only the mark is set.
     void Close();
     [[nodiscard]] bool Closed() const { return FClosed; }
+
+    /// Shows the dialog over this form, which waits until it is closed. A dialog is shown once. Does nothing without a
+    /// native window.
+    void ShowModal(TForm& dialog);
+
+    /// Size of the client area at 96 dots per inch, of which no user can make it smaller. The main window's leaves
+    /// room for the frame on a screen of 800 by 600.
+    int ClientWidth = 740;
+    int ClientHeight = 504;
 
     TNotifyEvent OnShow;  ///< runs once, just before the window becomes visible
 

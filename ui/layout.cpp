@@ -25,7 +25,6 @@ constexpr int kTrackBarHeight = 30;
 constexpr int kEditWidth = 120;
 constexpr int kSwatchWidth = 40;
 constexpr int kListHeight = 140;
-constexpr int kPictureSize = 32;
 constexpr int kCategoryBarFrame = 60;   // what a category item needs beside its text: picture, margins
 constexpr int kCategoryBarWidth = 240;  // the most it takes
 constexpr int kUnlimited = 1 << 20;
@@ -219,8 +218,10 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
             return {scale(kTrackBarWidth), scale(kTrackBarHeight)};
         case TComponentKind::ColorSwatch:
             return {scale(kSwatchWidth), fieldHeight};
-        case TComponentKind::Image:
-            return {scale(kPictureSize), scale(kPictureSize)};
+        case TComponentKind::Image: {
+            const auto& image = static_cast<const TImage&>(control);
+            return {scale(image.Width()), scale(image.Height())};
+        }
         case TComponentKind::ListView:
             return {width, scale(kListHeight)};
         case TComponentKind::GroupBox: {

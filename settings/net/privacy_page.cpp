@@ -20,11 +20,7 @@ TControlDesign Design() {
             Sheet(L"TabSheet_Privacy_Common", L"General",
                   Group(L"GroupBox_Privacy_Common_AutoUpdate", L"Automatic Updates",
                         CheckBox(L"Checkbox_Privacy_Common_AutoUpdate_Active", L"&Turn on automatic updates"),
-                        Indent(ComboBox(
-                            L"CB_Privacy_Common_AutoUpdate_Type",
-                            {L"Use Windows default settings", L"Notify me before downloading updates",
-                             L"Notify me before auto downloading and installing updates",
-                             L"Download and install updates at a scheduled time"}))),
+                        Indent(ComboBox(L"CB_Privacy_Common_AutoUpdate_Type", kAutoUpdateTypes))),
                   Buttons(Button(L"Button_Privacy_Common_Default", L"&Default"))),
             Sheet(L"TabSheet_CleanTraces", L"Clean Traces",
                   Group(L"GroupBox_CleanTraces_ClearHistoryList", L"Recently used documents",

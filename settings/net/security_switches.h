@@ -36,5 +36,10 @@ inline constexpr TPlace kAutoUpdateOptions{
     L"AUOptions"};
 inline constexpr const wchar_t* kAutoUpdateRule =
     L"1: clear; else checked, and the items are 0, 2, 3, 4; missing: unchanged. Writes the same as DWORD";
+/// The items of the list.
+inline constexpr const wchar_t* kAutoUpdateTypes[] = {
+    L"Use Windows default settings", L"Notify me before downloading updates",
+    L"Notify me before auto downloading and installing updates",
+    L"Download and install updates at a scheduled time"};
 void LoadAutoUpdate(TPageContext& context, const TSpecialRow& row);
 void RecordAutoUpdate(TPageContext& context, const TSpecialRow& row, TComponent& sender);

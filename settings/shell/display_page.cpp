@@ -83,7 +83,7 @@ TControlDesign FontSheet() {
     return Sheet(L"TabSheet_Display_FontSmooth", L"Font Smoothing",
                  Group(L"GroupBox_Display_FontSmooth", L"Edges of screen fonts",
                        Row(Label(L"Label_Display_FontSmooth_SmoothType", L"&Method:"),
-                           ComboBox(L"CB_Display_FontSmooth_SmoothType", FontSmoothingTypes()))),
+                           ComboBox(L"CB_Display_FontSmooth_SmoothType", kFontSmoothingTypes))),
                  Buttons(Button(L"Button_Display_FontSmooth_Clear", L"Clear Type Settings").Hidden()));
 }
 
@@ -113,7 +113,7 @@ std::vector<std::uint8_t> AnimationInfo(bool animates) {
 
 void LoadMinimizeAnimation(TPageContext& context, const TSpecialRow& row) {
     auto info = AnimationInfo(false);
-    const bool known = context.System.Parameters.Get(kGetAnimation, 0, info);
+    const bool known = context.System.Parameters.Get(kGetAnimation, kAnimationSize, info);
     const bool animates =
         known && std::any_of(info.begin() + 4, info.end(), [](auto byte) { return byte != 0; });
     context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(animates);

@@ -54,10 +54,8 @@ TControlDesign ThumbnailSheet() {
                          Edit(L"Edit_Folder_Thumbnail_Size").Width(4),
                          UpDown(L"UpDown_Folder_Thumbnail_Size", L"Edit_Folder_Thumbnail_Size", 32, 256, 96),
                          Label(L"Label_Folder_Thumbnail_SizeUnit", L"pixels")),
-                     Row(Label(L"Label_Folder_Thumbnail_Quality", L"&Quality:"),
-                         Label(L"Label_Folder_Thumbnail_QualityLow", L"Low"),
-                         TrackBar(L"Trackbar_Folder_Thumbnail_Quality", 0, 100, 90),
-                         Label(L"Label_Folder_Thumbnail_QualityHigh", L"High"))),
+                     Row(Label(L"Label_Folder_Thumbnail_Quality", L"&Quality, low to high:"),
+                         TrackBar(L"Trackbar_Folder_Thumbnail_Quality", 0, 100, 90))),
               CheckBox(L"Checkbox_Folder_Thumbnail_Cache", L"&Cache thumbnails")),
         Buttons(Button(L"Button_Folder_Thumbnail_Default", L"&Default")));
 }

@@ -20,10 +20,6 @@ constexpr int kClearType = 2;  // FE_FONTSMOOTHINGCLEARTYPE
 
 }  // namespace
 
-std::vector<std::wstring> FontSmoothingTypes() {
-    return {L"No Smoothing", L"Standard Font Smoothing", L"ClearType"};
-}
-
 void LoadFontSmoothing(TPageContext& context, const TSpecialRow& row) {
     auto& list = *context.Form.Find<TComboBox>(row.Controls[0]);
     const bool on = ReadSwitch(context, kGetSmoothing);

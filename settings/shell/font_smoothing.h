@@ -6,7 +6,8 @@
 class TComboBox;
 
 /// The list's items: off, standard, ClearType.
-[[nodiscard]] std::vector<std::wstring> FontSmoothingTypes();
+inline constexpr const wchar_t* kFontSmoothingTypes[] = {L"No Smoothing", L"Standard Font Smoothing",
+                                                         L"ClearType"};
 
 /// Shows what is in force in the list that is the row's only control.
 void LoadFontSmoothing(TPageContext& context, const TSpecialRow& row);

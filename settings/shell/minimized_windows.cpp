@@ -38,10 +38,6 @@ TComboBox& List(const TPageContext& context, const TSpecialRow& row, std::size_t
 
 }  // namespace
 
-std::vector<std::wstring> MinimizedArrangements() { return {L"Hidden", L"In a row", L"In a column"}; }
-std::vector<std::wstring> MinimizedSides() { return {L"From the left", L"From the right"}; }
-std::vector<std::wstring> MinimizedEdges() { return {L"At the top", L"At the bottom"}; }
-
 void LoadMinimizedWindows(TPageContext& context, const TSpecialRow& row) {
     const std::uint8_t arrange = MinimizedMetrics(context)[kArrange];
     const int direction = (arrange & kUpOrDown) != 0 ? 2 : 1;

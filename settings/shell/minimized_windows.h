@@ -4,9 +4,9 @@
 #include "settings/rows.h"
 
 /// The items of the three lists.
-[[nodiscard]] std::vector<std::wstring> MinimizedArrangements();
-[[nodiscard]] std::vector<std::wstring> MinimizedSides();
-[[nodiscard]] std::vector<std::wstring> MinimizedEdges();
+inline constexpr const wchar_t* kMinimizedArrangements[] = {L"Hidden", L"In a row", L"In a column"};
+inline constexpr const wchar_t* kMinimizedSides[] = {L"From the left", L"From the right"};
+inline constexpr const wchar_t* kMinimizedEdges[] = {L"At the top", L"At the bottom"};
 
 void LoadMinimizedWindows(TPageContext& context, const TSpecialRow& row);
 void RecordMinimizedWindows(TPageContext& context, const TSpecialRow& row, TComponent& sender);

@@ -11,7 +11,7 @@ constexpr const wchar_t* kAdvanced = L"\\Software\\Microsoft\\Windows\\CurrentVe
 constexpr const wchar_t* kPolicies = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
 
 /// How Windows' own dialog lets an item of the Start menu appear.
-const std::vector<std::wstring> kAppearances{L"Don't display", L"Display as a link", L"Display as a menu"};
+constexpr const wchar_t* kAppearances[] = {L"Don't display", L"Display as a link", L"Display as a menu"};
 
 TControlDesign Design() {
     return NotebookPage(

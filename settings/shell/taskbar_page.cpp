@@ -63,11 +63,11 @@ TControlDesign Design() {
             Sheet(L"TabSheet_Taskbar_MinWindow", L"Minimized Windows",
                   Group(L"GroupBox_Taskbar_MinWindow", L"Place on the desktop",
                         Fields(Row(Label(L"Label_Taskbar_MinWindow_Arrange", L"A&rrangement:"),
-                                   ComboBox(L"CB_Taskbar_MinWindow_Arrange", MinimizedArrangements())),
+                                   ComboBox(L"CB_Taskbar_MinWindow_Arrange", kMinimizedArrangements)),
                                Row(Label(L"Label_Taskbar_MinWindow_Left", L"&Side:"),
-                                   ComboBox(L"CB_Taskbar_MinWindow_Left", MinimizedSides())),
+                                   ComboBox(L"CB_Taskbar_MinWindow_Left", kMinimizedSides)),
                                Row(Label(L"Label_Taskbar_MinWindow_Top", L"&Edge:"),
-                                   ComboBox(L"CB_Taskbar_MinWindow_Top", MinimizedEdges())))),
+                                   ComboBox(L"CB_Taskbar_MinWindow_Top", kMinimizedEdges)))),
                   Buttons(Button(L"Button_Taskbar_MinWindow_Default", L"&Default")))));
 }
 

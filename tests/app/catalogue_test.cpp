@@ -4,14 +4,17 @@
 
 #include <gtest/gtest.h>
 
+#include "app/folder_form.h"
 #include "app/main_window.h"
+#include "settings/shell/desktop_icons.h"
 #include "tests/fakes/fake_system.h"
 
 namespace {
 
 /// Whether a row of its kind can stand for a control of that kind.
 bool Fits(const TRow& row, TComponentKind kind) {
-    if (std::holds_alternative<TCheckBoxRow>(row)) return kind == TComponentKind::CheckBox;
+    if (std::holds_alternative<TCheckBoxRow>(row) || std::holds_alternative<TKeyRow>(row))
+        return kind == TComponentKind::CheckBox;
     if (std::holds_alternative<TRadioPairRow>(row)) return kind == TComponentKind::RadioButton;
     if (std::holds_alternative<TChoiceRow>(row)) return kind == TComponentKind::ComboBox;
     if (std::holds_alternative<TTextRow>(row)) return kind == TComponentKind::Edit;
@@ -27,12 +30,10 @@ bool Records(TComponentKind kind) {
     return kind == CheckBox || kind == RadioButton || kind == ComboBox || kind == TrackBar || kind == UpDown;
 }
 
-TEST(TCatalogue, RowsAndControlsBelongTogether) {
-    TFakeSystem fake;
-    TQuilltune_FormMain window(fake.System);
+void ExpectBelongTogether(const TForm& window, std::span<const TPageDefinition* const> pages,
+                          std::set<std::wstring>& handlers) {
     std::map<std::wstring, int> rows;
-    std::set<std::wstring> handlers;
-    for (const TPageDefinition* page : PageDefinitions()) {
+    for (const TPageDefinition* page : pages) {
         EXPECT_TRUE(handlers.insert(page->SharedHandler).second);
         for (const TLoader& loader : page->Loaders) {
             for (const TRow& row : loader) {
@@ -57,6 +58,17 @@ TEST(TCatalogue, RowsAndControlsBelongTogether) {
         if (!Records(component->Kind())) continue;
         EXPECT_EQ(rows[component->Name()], 1) << testing::PrintToString(component->Name());
     }
+}
+
+TEST(TCatalogue, RowsAndControlsBelongTogether) {
+    TFakeSystem fake;
+    const TQuilltune_FormMain window(fake.System);
+    const TLanguage language(fake.System, L"Scanner");
+    const TQuilltune_FormFolder dialog(window.Context(), language);
+    const TPageDefinition* const desktopIcons[] = {&DesktopIcons()};
+    std::set<std::wstring> handlers;
+    ExpectBelongTogether(window, PageDefinitions(), handlers);
+    ExpectBelongTogether(dialog, desktopIcons, handlers);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/folder_form.h"
 #include "app/main_window.h"
 #include "platform/text.h"
 #include "tests/fakes/fake_system.h"
@@ -34,6 +35,14 @@ TTexts FormTexts(const TForm& form) {
                                     kind) > 0)
             texts[control.Name() + L".Caption"] = control.Caption();
     }
+    return texts;
+}
+
+/// Those of the desktop-icons dialog. Two of its sheets are named by texts of the program.
+TTexts FolderFormTexts(const TForm& form) {
+    TTexts texts = FormTexts(form);
+    texts.erase(L"TabSheet_Folder_Desktop.Caption");
+    texts.erase(L"TabSheet_Folder_Drivers.Caption");
     return texts;
 }
 
@@ -66,14 +75,18 @@ TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
     const TQuilltune_FormMain window(fake.System);
     TTexts captions;
     for (const TCaptionKey& key : kCaptionKeys) captions[key.Key] = key.English;
+    const TLanguage none(fake.System, L"Scanner");
+    const TQuilltune_FormFolder dialog(window.Context(), none);
     for (const char* language : {"English", "German"}) {
         SCOPED_TRACE(language);
         const bool english = language == std::string("English");
         const TExtIniFile ini = LoadDelivered(language);
         ExpectKeys(ini, L"Scanner_Quilltune_FormMain", FormTexts(window), english);
+        ExpectKeys(ini, L"Scanner_Quilltune_FormFolder", FolderFormTexts(dialog), english);
         ExpectKeys(ini, L"Quilltune_M", captions, english);
         EXPECT_EQ(ini.ReadSections(),
-                  (std::vector<std::wstring>{L"Main", L"Scanner_Quilltune_FormMain", L"Quilltune_M"}));
+                  (std::vector<std::wstring>{L"Main", L"Scanner_Quilltune_FormMain", L"Quilltune_M",
+                                             L"Scanner_Quilltune_FormFolder"}));
     }
 }
 
@@ -110,13 +123,17 @@ TEST(TLanguageFiles, AccessKeysDifferOnEverySheet) {
         SCOPED_TRACE(language);
         TFakeSystem fake;
         TQuilltune_FormMain window(fake.System);
+        const TLanguage none(fake.System, L"Scanner");
+        TQuilltune_FormFolder dialog(window.Context(), none);
         const TExtIniFile ini = LoadDelivered(language);
-        for (const auto& component : window.Components()) {
-            auto& control = static_cast<TControl&>(*component);
-            control.SetCaption(ini.ReadString(L"Scanner_Quilltune_FormMain", control.Name() + L".Caption",
-                                              control.Caption()));
+        for (TForm* form : {static_cast<TForm*>(&window), static_cast<TForm*>(&dialog)}) {
+            for (const auto& component : form->Components()) {
+                auto& control = static_cast<TControl&>(*component);
+                control.SetCaption(ini.ReadString(L"Scanner_" + form->Name(), control.Name() + L".Caption",
+                                                  control.Caption()));
+            }
+            ExpectAccessKeysDiffer(*form, {});
         }
-        ExpectAccessKeysDiffer(window, {});
     }
 }
 

@@ -4,12 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/faults.h"
 #include "tests/fakes/fake_system.h"
 
 namespace {
 
 constexpr const wchar_t* kLastAccess = L"Checkbox_Drives_Common_NTFS_SaveLastVisitData";
 constexpr const wchar_t* kUdma = L"Checkbox_Drives_Common_Enable";
+constexpr const wchar_t* kBlink = L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing";
 constexpr const wchar_t* kDriverItem = L"RzGroup_Communication.Items[3]";
 const TRegistryPlace kLastAccessValue{TRootKey::LocalMachine,
                                       L"System\\CurrentControlSet\\Control\\FileSystem",
@@ -191,12 +193,53 @@ TEST_F(TMainWindow, SavesFirefoxPreferencesOnlyWhenTheyWereLoadedAndChanged) {
     EXPECT_TRUE(Fake.Files.Replaced().empty()) << "no page said that something changed";
 
     Marks().FirefoxChanged = true;
+    Fake.Files.FailReplace(1);
+    EXPECT_THROW(Apply(), std::runtime_error);
+    EXPECT_TRUE(Enabled(L"Button_Apply"));
     Apply();
     EXPECT_EQ(Fake.Files.Text(userFile), "user_pref(\"b\", 2);\r\n");
     const TQuestion message{L"Quilltune", L"Need to restart Firefox to take effect.", TMessageButtons::Ok,
                             TMessageIcon::None};
     EXPECT_EQ(Fake.Dialogs.Questions(), std::vector{message});
     EXPECT_FALSE(Window->Context().FirefoxChanged);
+}
+
+/// Makes an installed Firefox whose profile holds the preferences.
+void InstallFirefox(TFakeSystem& fake, std::string_view prefs) {
+    fake.Registry.PutKey(TRootKey::LocalMachine,
+                         L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Mozilla Firefox");
+    const std::wstring firefox = L"C:\\Users\\Me\\AppData\\Mozilla\\Firefox\\";
+    fake.Files.PutText(firefox + L"profiles.ini", "[Profile0]\nIsRelative=1\nPath=a\n");
+    fake.Files.PutText(firefox + L"a\\user.js", prefs);
+}
+
+TEST_F(TMainWindow, AFaultWhileAPageLoadsEndsItsLoaderOnly) {
+    InstallFirefox(Fake,
+                   "user_pref(\"browser.blink_allowed\", false);"
+                   "user_pref(\"browser.tabs.closeButtons\", \"1\");"
+                   "user_pref(\"browser.tabs.tabMinWidth\", 100);");
+    Open();
+    EXPECT_THROW(Click(L"RzGroup_Use.Items[1]"), EConvertError);
+    EXPECT_FALSE(Window->Context().Loading);
+    EXPECT_EQ(Get<TNotebook>(L"Notebook_Main").ActivePage()->Name(), L"9");
+    EXPECT_TRUE(Get<TCheckBox>(kBlink).Checked());
+    EXPECT_EQ(Get<TUpDown>(L"Updown_Firefox_Tab_MinWidth_Min").Position(), 125) << "comes after the fault";
+    Toggle(kBlink);
+    EXPECT_TRUE(Enabled(L"Button_Apply"));
+}
+
+TEST_F(TMainWindow, APageOpenedWhileAnotherLoadsDoesNotEndItsLoading) {
+    InstallFirefox(Fake, "user_pref(\"browser.blink_allowed\", false);");
+    Open();
+    Fake.Clock.OnProcessMessages = [this] {
+        Fake.Clock.OnProcessMessages = nullptr;
+        Click(kDriverItem);
+    };
+    Click(L"RzGroup_Use.Items[1]");
+    EXPECT_TRUE(Get<TCheckBox>(kBlink).Checked());
+    EXPECT_FALSE(Window->Context().FirefoxChanged) << "its controls are still being filled";
+    EXPECT_FALSE(Enabled(L"Button_Apply"));
+    EXPECT_FALSE(Window->Context().Loading);
 }
 
 TEST_F(TMainWindow, SpeaksTheLanguageOfTheSuite) {

@@ -112,16 +112,21 @@ std::vector<std::wstring> TPageBench::Pending() const {
 
 void ExpectShown(const TPageDefinition& page, std::span<const TShownCase> cases) {
     for (const TShownCase& c : cases) {
-        TPageBench bench(page);
-        bench.Context.WindowsLevel = c.Level;
-        const std::wstring designed = bench.State(c.Control);
-        if (c.Stored) bench.Store(c.Value, *c.Stored);
-        bench.Load();
-        EXPECT_EQ(bench.State(c.Control), c.Shows == L"kept" ? designed : c.Shows)
-            << Narrow(c.Control) << " on level " << c.Level << ", "
-            << (c.Stored ? testing::PrintToString(c.Stored->Value.index()) : "missing");
-        EXPECT_TRUE(bench.Pending().empty()) << "loading records nothing";
-        EXPECT_FALSE(bench.Context.Loading);
+        for (const bool before : {false, true}) {
+            TPageBench bench(page);
+            bench.Context.WindowsLevel = c.Level;
+            const bool isBox = bench.Get<TControl>(c.Control).Kind() == TComponentKind::CheckBox;
+            if (before && !isBox) break;
+            if (isBox) bench.Preset(c.Control, before);
+            const std::wstring kept = bench.State(c.Control);
+            if (c.Stored) bench.Store(c.Value, *c.Stored);
+            bench.Load();
+            EXPECT_EQ(bench.State(c.Control), c.Shows == L"kept" ? kept : c.Shows)
+                << Narrow(c.Control) << " on level " << c.Level << ", "
+                << (c.Stored ? testing::PrintToString(c.Stored->Value.index()) : "missing");
+            EXPECT_TRUE(bench.Pending().empty()) << "loading records nothing";
+            EXPECT_FALSE(bench.Context.Loading);
+        }
     }
 }
 

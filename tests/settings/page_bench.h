@@ -76,7 +76,7 @@ struct TShownCase {
     const wchar_t* Control;
     TPlace Value;
     std::optional<TRegistryData> Stored;  ///< none = missing
-    std::wstring Shows;                   ///< as TPageBench::State words it; "kept" = as designed
+    std::wstring Shows;                   ///< as TPageBench::State words it; "kept" = as before
     int Level = 7;
 };
 
@@ -92,7 +92,7 @@ inline TRegistryData Number(std::int32_t number) { return {TRegDataType::Dword, 
 inline TRegistryData String(const wchar_t* text) { return {TRegDataType::String, std::wstring(text)}; }
 inline TRegistryData Bytes(TBytes bytes) { return {TRegDataType::Binary, std::move(bytes)}; }
 
-/// Loads the page once per case, and checks that loading records nothing.
+/// Loads the page for each case, from both states of a check box, and checks that loading records nothing.
 void ExpectShown(const TPageDefinition& page, std::span<const TShownCase> cases);
 
 /// Does what each case says on a page of its own that was not loaded. A check box that is in the state already is

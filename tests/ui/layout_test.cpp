@@ -58,9 +58,11 @@ class TLaidOut {
     std::map<std::wstring, TRect> FPlaces;
 };
 
+const std::wstring kLongCaption(120, L'x');
+
 TDesigns SettingsSheet() {
     return {
-        Group(L"Group", L"A group", CheckBox(L"Short", L"Short"), CheckBox(L"Long", std::wstring(120, L'x')),
+        Group(L"Group", L"A group", CheckBox(L"Short", L"Short"), CheckBox(L"Long", kLongCaption.c_str()),
               Indent(RadioButton(L"Inner", L"Depends on the box above")),
               Fields(
                   Row(Label(L"LabelA", L"A"), Edit(L"EditA").Width(5), UpDown(L"UpDownA", L"EditA", 0, 9, 0)),

@@ -38,7 +38,7 @@ void TContainerPeer::CreateContainer(HWND parent, const wchar_t* windowClass, DW
         description.lpszClassName = windowClass;
         RegisterClassExW(&description);
     }
-    if (IsShown() && parent != nullptr) style |= WS_VISIBLE;
+    if (IsShown() && (style & WS_CHILD) != 0) style |= WS_VISIBLE;
     const std::vector<WORD> dialog = EmptyDialog(windowClass, style, extendedStyle | WS_EX_CONTROLPARENT);
     const HWND window = CreateDialogIndirectParamW(
         FForm.Instance(), reinterpret_cast<const DLGTEMPLATE*>(dialog.data()), parent, nullptr, 0);

@@ -11,21 +11,45 @@ namespace {
 
 constexpr UINT kLayOutMessage = WM_APP;  // posted to itself: containers wait to be laid out
 constexpr int kFormMargin = 8;
-// The size of the client area at 96 dots per inch: it leaves room for the frame on a screen of 800 by 600.
-constexpr int kClientWidth = 740;
-constexpr int kClientHeight = 504;
+
+/// A window that takes no input while another one is shown over it.
+class TDisabledWindow {
+  public:
+    explicit TDisabledWindow(HWND window) : FWindow(window), FFocus(GetFocus()) {
+        EnableWindow(FWindow, FALSE);
+    }
+    ~TDisabledWindow() {
+        EnableWindow(FWindow, TRUE);
+        SetFocus(FFocus);
+    }
+    TDisabledWindow(const TDisabledWindow&) = delete;
+    TDisabledWindow& operator=(const TDisabledWindow&) = delete;
+
+  private:
+    HWND FWindow;
+    HWND FFocus;
+};
+
+/// The part of the screen that the task bar leaves to a window of the owner's screen, or of the main one.
+RECT WorkArea(HWND owner) {
+    MONITORINFO screen{};
+    screen.cbSize = sizeof screen;
+    GetMonitorInfoW(MonitorFromWindow(owner, MONITOR_DEFAULTTOPRIMARY), &screen);
+    return screen.rcWork;
+}
 
 }  // namespace
 
-TFormWindow::TFormWindow(TForm& form, HINSTANCE instance, TFaultHandler faultHandler)
+TFormWindow::TFormWindow(TForm& form, HINSTANCE instance, TFaultHandler faultHandler, HWND owner)
     : FForm(form),
       FInstance(instance),
+      FOwner(owner),
       FFaultHandler(std::move(faultHandler)),
       FPictures(instance),
       FWindow(*this, form) {}
 
-TFormWindow& TFormWindow::Attach(TForm& form, HINSTANCE instance, TFaultHandler faultHandler) {
-    auto window = std::make_unique<TFormWindow>(form, instance, std::move(faultHandler));
+TFormWindow& TFormWindow::Attach(TForm& form, HINSTANCE instance, TFaultHandler faultHandler, HWND owner) {
+    auto window = std::make_unique<TFormWindow>(form, instance, std::move(faultHandler), owner);
     TFormWindow& attached = *window;
     form.SetPeer(std::move(window));
     return attached;
@@ -46,10 +70,11 @@ void TFormWindow::Show(int showCommand) {
 
 int TFormWindow::Run() {
     HWND focus = nullptr;
-    for (;;) {
+    while (!IsOver()) {
         MSG message;
         if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            if (!CreateNextPage()) WaitMessage();
+            // Looking for a message has handled those that were sent; one of them may have closed the dialog.
+            if (!IsOver() && !CreateNextPage()) WaitMessage();
             continue;
         }
         if (StepSheet(message)) continue;
@@ -62,6 +87,19 @@ int TFormWindow::Run() {
             focus = now;
             FollowFocus(now);
         }
+    }
+    return 0;
+}
+
+void TFormWindow::ShowModal(TForm& dialog) {
+    TFormWindow& window = Attach(dialog, FInstance, FFaultHandler, Handle());
+    const TDisabledWindow disabled(Handle());
+    window.Show(SW_SHOW);
+    SetFocus(GetNextDlgTabItem(window.Handle(), nullptr, FALSE));
+    // The end of the program is the outer loop's affair.
+    if (const int exitCode = window.Run(); window.Handle() != nullptr) {
+        PostQuitMessage(exitCode);
+        DestroyWindow(window.Handle());
     }
 }
 
@@ -90,8 +128,9 @@ void TFormWindow::FollowFocus(HWND focus) const {
 
 void TFormWindow::ComeForward() {
     if (IsIconic(Handle())) ShowWindow(Handle(), SW_RESTORE);
-    SetForegroundWindow(Handle());
-    BringWindowToTop(Handle());
+    const HWND front = GetLastActivePopup(Handle());  // the dialog, while one is shown
+    SetForegroundWindow(front);
+    BringWindowToTop(front);
 }
 
 void TFormWindow::Close() {
@@ -186,12 +225,15 @@ void TFormWindow::Destroyed() {
     // Windows destroys the inner windows next; their names must be withdrawn while they still exist.
     while (!FPeers.empty()) FPeers.begin()->second->Detach();
     FTimers.clear();
-    PostQuitMessage(0);
+    if (FOwner == nullptr) PostQuitMessage(0);
 }
 
-TFormWindow::TWindow::TWindow(TFormWindow& owner, TForm& form)
-    : TContainerPeer(owner, form, kFormMargin), FOwner(owner) {
-    CreateContainer(nullptr, form.ClassName().c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0);
+TFormWindow::TWindow::TWindow(TFormWindow& formWindow, TForm& form)
+    : TContainerPeer(formWindow, form, kFormMargin), FFormWindow(formWindow) {
+    const HWND owner = formWindow.FOwner;
+    const DWORD frame =
+        owner == nullptr ? WS_OVERLAPPEDWINDOW : WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME;
+    CreateContainer(owner, form.ClassName().c_str(), frame | WS_CLIPCHILDREN, 0);
 }
 
 void TFormWindow::TWindow::Open() {
@@ -200,28 +242,31 @@ void TFormWindow::TWindow::Open() {
     SetInitialSize();
 }
 
-/// Centres the window in the work area, no larger than that.
+/// Centres the window in the work area, a dialog over its owner, no larger than the work area and within it.
 void TFormWindow::TWindow::SetInitialSize() {
-    const TScreen& screen = FOwner.Screen();
-    RECT work{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    RECT frame{0, 0, screen.Scale(kClientWidth), screen.Scale(kClientHeight)};
+    const TScreen& screen = FFormWindow.Screen();
+    const TForm& form = FFormWindow.FForm;
+    const RECT work = WorkArea(FFormWindow.FOwner);
+    RECT around = work;
+    if (FFormWindow.FOwner != nullptr) GetWindowRect(FFormWindow.FOwner, &around);
+    RECT frame{0, 0, screen.Scale(form.ClientWidth), screen.Scale(form.ClientHeight)};
     AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongPtrW(Handle(), GWL_STYLE)), FALSE,
                        static_cast<DWORD>(GetWindowLongPtrW(Handle(), GWL_EXSTYLE)));
-    const int width = std::min(frame.right - frame.left, work.right - work.left);
-    const int height = std::min(frame.bottom - frame.top, work.bottom - work.top);
+    const LONG width = std::min(frame.right - frame.left, work.right - work.left);
+    const LONG height = std::min(frame.bottom - frame.top, work.bottom - work.top);
     FMinimum = {width, height};
-    SetWindowPos(Handle(), nullptr, work.left + (work.right - work.left - width) / 2,
-                 work.top + (work.bottom - work.top - height) / 2, width, height,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(Handle(), nullptr,
+                 std::clamp((around.left + around.right - width) / 2, work.left, work.right - width),
+                 std::clamp((around.top + around.bottom - height) / 2, work.top, work.bottom - height), width,
+                 height, SWP_NOZORDER | SWP_NOACTIVATE);
     LayOut();
 }
 
 LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_TIMER:
-            if (const auto timer = FOwner.FTimers.find(static_cast<unsigned>(wParam));
-                timer != FOwner.FTimers.end()) {
+            if (const auto timer = FFormWindow.FTimers.find(static_cast<unsigned>(wParam));
+                timer != FFormWindow.FTimers.end()) {
                 timer->second->Tick();
                 return 0;
             }
@@ -230,16 +275,18 @@ LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lPar
             reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {FMinimum.cx, FMinimum.cy};
             return 0;
         case WM_CLOSE:
+            // While it is disabled, the owner could not be activated in the dialog's place.
+            if (FFormWindow.FOwner != nullptr) EnableWindow(FFormWindow.FOwner, TRUE);
             DestroyWindow(Handle());
             return 0;
         case WM_DESTROY:
-            FOwner.Destroyed();
+            FFormWindow.Destroyed();
             return 0;
         case kLayOutMessage:
-            FOwner.LayOutChanged();
+            FFormWindow.LayOutChanged();
             return 0;
         default:
-            if (message >= WM_USER && FOwner.OnMessage && FOwner.OnMessage(message)) return 0;
+            if (message >= WM_USER && FFormWindow.OnMessage && FFormWindow.OnMessage(message)) return 0;
             break;
     }
     return TContainerPeer::OnMessage(message, wParam, lParam);

@@ -20,19 +20,23 @@ class TFormWindow : public TFormPeer {
     using TMessageHandler = std::function<bool(UINT message)>;
 
     /// Creates the window, invisible and empty. See Attach.
-    TFormWindow(TForm& form, HINSTANCE instance, TFaultHandler faultHandler);
+    TFormWindow(TForm& form, HINSTANCE instance, TFaultHandler faultHandler, HWND owner = nullptr);
 
-    /// Makes the native window of a form, owned by the form.
-    static TFormWindow& Attach(TForm& form, HINSTANCE instance, TFaultHandler faultHandler);
+    /// Makes the native window of a form, owned by the form. With an owner it is a dialog over that window.
+    static TFormWindow& Attach(TForm& form, HINSTANCE instance, TFaultHandler faultHandler,
+                               HWND owner = nullptr);
 
     /// Runs the form's OnShow, then creates its controls and shows the window.
     void Show(int showCommand);
-    /// Handles messages until the window is closed. Creates hidden pages while there is nothing else to do.
+    /// Handles messages until the program is to end; a dialog's, until the dialog is closed. Creates hidden pages
+    /// while there is nothing else to do. The answer is the program's exit code.
     int Run();
     /// Restores the window when it is minimised, and brings it to the front.
     void ComeForward();
 
     void Close() override;
+    /// Its faults are told to this window's handler.
+    void ShowModal(TForm& dialog) override;
     void Update(TControlAspect aspect) override;
 
     TMessageHandler OnMessage;
@@ -61,17 +65,19 @@ class TFormWindow : public TFormPeer {
     /// The window itself.
     class TWindow : public TContainerPeer {
       public:
-        TWindow(TFormWindow& owner, TForm& form);
+        TWindow(TFormWindow& formWindow, TForm& form);
         void Open();
         LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
       private:
         void SetInitialSize();
 
-        TFormWindow& FOwner;
+        TFormWindow& FFormWindow;
         SIZE FMinimum{};
     };
 
+    /// Whether this is a dialog that is closed.
+    [[nodiscard]] bool IsOver() const { return FOwner != nullptr && Handle() == nullptr; }
     bool CreateNextPage();
     bool StepSheet(const MSG& message) const;
     void FollowFocus(HWND focus) const;
@@ -80,6 +86,7 @@ class TFormWindow : public TFormPeer {
 
     TForm& FForm;
     HINSTANCE FInstance;
+    HWND FOwner;  ///< of a dialog: the window that waits for it
     TFaultHandler FFaultHandler;
     TScreen FScreen;
     TPictureStore FPictures;

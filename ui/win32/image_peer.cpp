@@ -26,7 +26,8 @@ void TImagePeer::OnDraw(const DRAWITEMSTRUCT& item) {
 
     std::wstring name = image.Picture();
     if (image.Frames() > 1) name += L"_" + std::to_wstring(image.Frame());
-    const TPicture* picture = FForm.Pictures().Find(name, std::min(width, height));
+    const TPicture* picture =
+        FForm.Pictures().Find(name, std::min(height, width * image.Height() / image.Width()));
     if (picture == nullptr) return;
     picture->Draw(buffer.Handle(), area.left + (width - picture->Width()) / 2,
                   area.top + (height - picture->Height()) / 2);

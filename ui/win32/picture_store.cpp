@@ -8,8 +8,8 @@
 
 namespace {
 
-/// The sizes that pictures are kept in, ascending. Not every picture has all of them.
-constexpr int kSizes[] = {16, 20, 24, 32, 40, 48, 64};
+/// The heights that pictures are kept in, ascending. Not every picture has all of them.
+constexpr int kSizes[] = {16, 20, 24, 32, 40, 48, 64, 100, 200};
 
 }  // namespace
 
@@ -34,7 +34,7 @@ std::optional<TPixels> TPictureStore::Load(const std::wstring& name, int size) c
     const auto* const enough = std::lower_bound(std::begin(kSizes), std::end(kSizes), size);
     for (const auto* kept = enough; kept != std::end(kSizes); ++kept) {
         std::optional<TPixels> pixels = Decode(name + L"_" + std::to_wstring(*kept));
-        if (pixels && *kept > size) pixels = ScalePixels(*pixels, size, size);
+        if (pixels && *kept > size) pixels = ScalePixels(*pixels, pixels->Width * size / *kept, size);
         if (pixels) return pixels;
     }
     for (const auto* kept = enough; kept != std::begin(kSizes); --kept) {

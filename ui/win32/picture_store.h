@@ -30,7 +30,7 @@ class TPictureStore {
   public:
     explicit TPictureStore(HINSTANCE instance) : FInstance(instance) {}
 
-    /// The picture of that base name in `size` pixels, from the program's PNG resources ("name_16", "name_20",
+    /// The picture of that base name, `size` pixels high, from the program's PNG resources ("name_16", "name_20",
     /// …): the resource of exactly that size, else the next larger one scaled down, else the largest. Null when
     /// there is none. The picture lives as long as the store.
     [[nodiscard]] const TPicture* Find(const std::wstring& name, int size);

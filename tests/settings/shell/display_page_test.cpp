@@ -13,6 +13,8 @@ constexpr const wchar_t* kHotTracking = L"Checkbox_Display_Effect_BehaviorSettin
 constexpr const wchar_t* kFlat = L"Checkbox_Display_MenuAppearance_DynamicElements_GraphicMenu";
 constexpr const wchar_t* kVersion = L"Checkbox_Display_Effect_BehaviorSettings_DesktopWinVersion";
 constexpr const wchar_t* kScroll = L"Checkbox_Display_Animation_DynamicElements_ListAndTree";
+constexpr const wchar_t* kListBox = L"Checkbox_Display_Animation_DynamicElements_SmoothListBox";
+constexpr const wchar_t* kFolder = L"Checkbox_Display_Effect_BehaviorSettings_Folder";
 constexpr const wchar_t* kMaxAndMin = L"Checkbox_Display_Animation_MessageAndAnimation_MaxAndMin";
 constexpr const wchar_t* kSmooth = L"CB_Display_FontSmooth_SmoothType";
 
@@ -67,6 +69,12 @@ TEST(TDisplayPage, Records) {
         {kHotTracking, L"off", {Line(kHotTracking, L"parameter 0x100F(0, 0)")}, true},
         {kToolTipType, L"1", {Line(kToolTipType, L"parameter 0x1019(0, 1)")}},
         {kMaxAndMin, L"on", {Line(kMaxAndMin, L"parameter 0x49(8, 08 00 00 00 01 00 00 00)")}},
+        {kListBox, L"on", {Line(kListBox, L"parameter 0x1007(0, 1)")}, true},
+        {kFolder,
+         L"off",
+         {Line(kFolder,
+               L"HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\[WebView] = 0")},
+         true},
         {kVersion, L"on", {Line(kVersion, L"HKCU\\Control Panel\\Desktop\\[PaintDesktopVersion] = 1")}, true},
     };
     ExpectRecorded(DisplayPage(), cases);
@@ -134,6 +142,9 @@ TEST(TDisplayPage, PresetsAreOddOnPurpose) {
     EXPECT_EQ(bench.State(kToolTipType), L"1");
     bench.Act(L"Button_Display_Animation_HighestPerformance", L"");
     EXPECT_EQ(bench.State(kToolTipType), L"1") << "not touched";
+    bench.Act(L"Button_Display_MenuAppearance_HighestPerformance", L"");
+    EXPECT_TRUE(bench.Checked(kFlat));
+    EXPECT_EQ(bench.State(kMenuType), L"-1") << "not touched";
 }
 
 }  // namespace

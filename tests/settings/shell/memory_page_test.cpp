@@ -12,74 +12,52 @@ constexpr const wchar_t* kProgram = L"Radio_MemoryAndCache_MemoryUse_Program";
 
 constexpr const wchar_t* kKey = L"\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management\\";
 
-struct TPair {
-    const wchar_t* First;
-    const wchar_t* Second;
-    const wchar_t* ValueName;
-    const wchar_t* ChangeName;
-};
-constexpr TPair kPairs[] = {
-    {kAlways, kPage, L"DisablePagingExecutive", L"RadPagingExecutive"},
-    {kSystem, kProgram, L"LargeSystemCache", L"RadLargeSystem"},
-};
+std::wstring Line(const wchar_t* changeName, const wchar_t* rest) {
+    return changeName + std::wstring(L": HKLM") + kKey + rest;
+}
 
-TEST(TMemoryPage, RadioPairsShowTheStoredValue) {
-    for (const TPair& pair : kPairs) {
-        TPageBench missing(MemoryPage());
-        missing.Load();
-        EXPECT_FALSE(missing.Checked(pair.First));
-        EXPECT_FALSE(missing.Checked(pair.Second)) << "a missing value leaves both alone";
-
-        for (const std::int32_t stored : {0, 1, 2}) {
-            TPageBench bench(MemoryPage());
-            bench.Store({kLocalMachine, kKey, pair.ValueName}, stored);
-            bench.Load();
-            EXPECT_EQ(bench.Checked(pair.First), stored == 1);
-            EXPECT_EQ(bench.Checked(pair.Second), stored != 1);
-            EXPECT_EQ(bench.Recorded, 0);
+TEST(TMemoryPage, ShowsTheStoredValues) {
+    std::vector<TShownCase> shown;
+    const auto add = [&](const wchar_t* control, const wchar_t* name, std::optional<TRegistryData> stored,
+                         const wchar_t* shows) {
+        shown.push_back({control, {kLocalMachine, kKey, name}, std::move(stored), shows});
+    };
+    for (const auto& [first, second, name] :
+         {std::tuple{kAlways, kPage, L"DisablePagingExecutive"}, {kSystem, kProgram, L"LargeSystemCache"}}) {
+        for (const auto& [number, firstShows, secondShows] :
+             {std::tuple{0, L"off", L"on"}, {1, L"on", L"off"}, {2, L"off", L"on"}}) {
+            add(first, name, Number(number), firstShows);
+            add(second, name, Number(number), secondShows);
         }
+        add(first, name, std::nullopt, L"off");  // as designed: a missing value leaves both alone
+        add(second, name, std::nullopt, L"off");
     }
+    for (const auto& [number, shows] : {std::pair{0, L"off"}, {1, L"on"}, {2, L"off"}})
+        add(kClearPageFile, L"ClearPageFileAtShutdown", Number(number), shows);
+    add(kClearPageFile, L"ClearPageFileAtShutdown", std::nullopt, L"kept");
+    ExpectShown(MemoryPage(), shown);
 }
 
-TEST(TMemoryPage, TheLastClickOfAPairWins) {
-    for (const TPair& pair : kPairs) {
-        TPageBench bench(MemoryPage());
-        const auto line = [&](const wchar_t* number) {
-            return std::vector{pair.ChangeName + std::wstring(L": HKLM") + kKey + L"[" + pair.ValueName +
-                               L"] = " + number};
-        };
-        bench.Click(pair.First, true);
-        EXPECT_EQ(bench.Pending(), line(L"1"));
-        bench.Click(pair.Second, true);
-        EXPECT_EQ(bench.Pending(), line(L"0"));
-        EXPECT_EQ(bench.Recorded, 2) << "a cleared sibling records nothing by itself";
-        EXPECT_TRUE(bench.Context.RestartNeeded);
-    }
-}
-
-TEST(TMemoryPage, ThePageFileBoxIsPlain) {
-    for (const auto& [stored, shown] : {std::pair{0, false}, {1, true}, {2, false}}) {
-        TPageBench bench(MemoryPage());
-        bench.Preset(kClearPageFile, !shown);
-        bench.Store({kLocalMachine, kKey, L"ClearPageFileAtShutdown"}, stored);
-        bench.Load();
-        EXPECT_EQ(bench.Checked(kClearPageFile), shown);
-        bench.Click(kClearPageFile, !shown);
-        EXPECT_EQ(bench.Pending(), std::vector{std::wstring(kClearPageFile) + L": HKLM" + kKey +
-                                               L"[ClearPageFileAtShutdown] = " + (shown ? L"0" : L"1")});
-        EXPECT_FALSE(bench.Context.RestartNeeded);
-    }
+TEST(TMemoryPage, RecordsWhatEachStateStandsFor) {
+    const TRecordedCase recorded[] = {
+        {kAlways, L"on", {Line(L"RadPagingExecutive", L"[DisablePagingExecutive] = 1")}, true},
+        {kPage, L"on", {Line(L"RadPagingExecutive", L"[DisablePagingExecutive] = 0")}, true},
+        {kSystem, L"on", {Line(L"RadLargeSystem", L"[LargeSystemCache] = 1")}, true},
+        {kProgram, L"on", {Line(L"RadLargeSystem", L"[LargeSystemCache] = 0")}, true},
+        {kClearPageFile, L"on", {Line(kClearPageFile, L"[ClearPageFileAtShutdown] = 1")}},
+        {kClearPageFile, L"off", {Line(kClearPageFile, L"[ClearPageFileAtShutdown] = 0")}},
+    };
+    ExpectRecorded(MemoryPage(), recorded);
 }
 
 TEST(TMemoryPage, DefaultButtonsChooseTheUsualSettings) {
     TPageBench bench(MemoryPage());
-    bench.Preset(kAlways, true);
-    bench.Preset(kClearPageFile, true);
-    bench.Get<TButton>(L"Button_MemoryAndCache_MemoryManage_Default").Click();
+    for (const wchar_t* name : {kAlways, kClearPageFile, kSystem}) bench.Preset(name, true);
+    bench.Act(L"Button_MemoryAndCache_MemoryManage_Default", {});
     EXPECT_TRUE(bench.Checked(kPage));
     EXPECT_FALSE(bench.Checked(kClearPageFile));
-    EXPECT_EQ(bench.Recorded, 2);
-    bench.Get<TButton>(L"Button_MemoryAndCache_MemoryUse_Default").Click();
+    EXPECT_EQ(bench.Recorded, 2) << "the cleared radio button records nothing by itself";
+    bench.Act(L"Button_MemoryAndCache_MemoryUse_Default", {});
     EXPECT_TRUE(bench.Checked(kProgram));
 }
 

@@ -41,7 +41,7 @@ TEST(TStartMenuPage, ShowsTheMenuAsWindowsDoes) {
         {kComputer, kShowComputer, Number(7), L"kept"},
         {kComputer, kShowComputer, Number(2), L"kept", 4},
         {kCascade, kPrinters, String(L"yes"), L"on", 5},
-        {kCascade, kPrinters, String(L"yes"), L"off", 6},
+        {kCascade, kPrinters, String(L"yes"), L"kept", 6},
         {kUser, kNoUserName, Number(1), L"off"},
         {kUser, kNoUserName, std::nullopt, L"on"},
     };

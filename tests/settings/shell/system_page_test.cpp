@@ -40,7 +40,7 @@ TEST(TSystemPage, ShowsWhatIsStored) {
         {kShowReturn, kNoBack, Number(1), L"off"},
         {kNoIndex, kStart, Number(4), L"on"},
         {kNoIndex, kStart, Number(3), L"off"},
-        {kClassic, kAssistant, std::nullopt, L"off"},
+        {kClassic, kAssistant, std::nullopt, L"kept"},
         {kClassic, kAssistant, String(L"yes"), L"off"},
         {kClassic, kAssistant, String(L"maybe"), L"on"},
         {kBackground, kColor, Number(0x1F), L"1"},

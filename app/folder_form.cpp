@@ -1,0 +1,48 @@
+#include "app/folder_form.h"
+
+#include "settings/shell/desktop_icons.h"
+#include "ui/containers.h"
+#include "ui/controls.h"
+
+TQuilltune_FormFolder::TQuilltune_FormFolder(const TPageContext& owner, const TLanguage& language)
+    : TForm(L"Quilltune_FormFolder", L"TQuilltune_FormFolder"),
+      FLanguage(language),
+      FChanges(owner.System),
+      FContext{.System = owner.System,
+               .Form = *this,
+               .Changes = FChanges,
+               .Firefox = owner.Firefox,
+               .Captions = owner.Captions,
+               .WindowsLevel = owner.WindowsLevel},
+      FPage(DesktopIcons(), FContext, *this, [](TComponent&) {}) {
+    ClientWidth = 360;
+    ClientHeight = 330;
+    SetCaption(L"Desktop and My Computer");
+    Build(*this, Buttons(Button(L"Button_OK", L"OK"), Button(L"Button_Cancel", L"Cancel")));
+    auto* ok = Find<TButton>(L"Button_OK");
+    ok->Default = true;
+    ok->OnClick = [this](TComponent&) { Button_OKClick(); };
+    auto* cancel = Find<TButton>(L"Button_Cancel");
+    cancel->Cancel = true;
+    cancel->OnClick = [this](TComponent&) { Close(); };
+    OnShow = [this](TComponent&) { FormShow(); };
+}
+
+void TQuilltune_FormFolder::ChooseSheet(const wchar_t* name) {
+    Find<TPageControl>(L"PageControl_Folder")->SetActiveSheet(*Find<TTabSheet>(name));
+}
+
+void TQuilltune_FormFolder::FormShow() {
+    FLanguage.Translate(*this);
+    Find(L"TabSheet_Folder_Desktop")->SetCaption(FContext.Captions[TCaption::Desktop]);
+    Find(L"TabSheet_Folder_Drivers")->SetCaption(FContext.Captions[TCaption::Drivers]);
+    FPage.Load();
+}
+
+void TQuilltune_FormFolder::Button_OKClick() {
+    FChanges.WriteAll();
+    Close();
+    // The desktop builds its icons anew when associations change.
+    FContext.System.Shell.NotifyChange(kAllEvents, kFlush);
+    FContext.System.Shell.NotifyChange(kAssociationsChanged, kIdList);
+}

@@ -1,0 +1,341 @@
+#include "settings/net/firefox_page.h"
+
+#include "engine/reg_value.h"
+#include "platform/faults.h"
+#include "settings/net/firefox_home_page.h"
+#include "settings/store.h"
+#include "ui/containers.h"
+#include "ui/controls.h"
+
+namespace {
+
+constexpr const wchar_t* kTabs = L"PagFirefox";
+constexpr const wchar_t* kNoFirefoxSheet = L"TabSheet_Firefox_NoFirefox";
+
+TControlDesign CommonSheet() {
+    return Sheet(
+        L"TabSheet_Firefox_Common", L"General",
+        Group(L"GroupBox_Firefox_Common_DynamicText", L"Blinking text",
+              CheckBox(L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing", L"Do not let text &blink")),
+        Group(L"GroupBox_Firefox_Common_ErrorMessage", L"Show error messages in",
+              RadioButton(L"Radio_Firefox_Common_ErrorMessage_Windows", L"A &message box"),
+              RadioButton(L"Radio_Firefox_Common_ErrorMessage_WebPage", L"The web &page")),
+        Group(L"GroupBox_Firefox_Common_Homepage", L"Home page",
+              Row(Label(L"Label_Firefox_Common_Homepage_Address", L"Add&ress:"),
+                  Edit(L"Edit_Firefox_Common_Homepage_Address"))),
+        Buttons(Button(L"Button_Firefox_Common_Default", L"&Default")));
+}
+
+TControlDesign UseSheet() {
+    return Sheet(
+        L"TabSheet_Firefox_Use", L"Usage",
+        Group(L"GroupBox_Firefox_Use_AddressBar", L"Address bar",
+              CheckBox(L"Checkbox_Firefox_Use_AddressBar_AutoFill", L"&Complete addresses while I type"),
+              CheckBox(L"Checkbox_Firefox_Use_AddressBar_ShowLoadAddressButton", L"Show the &Go button")),
+        Group(L"GroupBox_Firefox_Use_MenuSpeed", L"Open submenus",
+              RadioButton(L"Radio_Firefox_Use_MenuSpeed_UseWinSet", L"As &Windows does").Checked(),
+              RadioButton(L"Radio_Firefox_Use_MenuSpeed_Click", L"When I c&lick them"),
+              Row(RadioButton(L"Radio_Firefox_Use_MenuSpeed_Delay", L"When I &point to them, after"),
+                  Label(L"Label_Firefox_Use_MenuSpeed_Delay", L"217 ms")),
+              Indent(TrackBar(L"TrackBar_Firefox_Use_MenuSpeed_Delay", 0, 1200, 217))),
+        Buttons(Button(L"Button_Firefox_Use_Default", L"&Default")));
+}
+
+TControlDesign PopupSheet() {
+    return Sheet(L"TabSheet_Firefox_Popup", L"Popup Window",
+                 Group(L"GroupBox_Firefox_Popup_Open", L"Links that open a new window",
+                       CheckBox(L"Checkbox_Firefox_Popup_Open_Type", L"&Open them in a tab instead"),
+                       Indent(RadioButton(L"Radio_Firefox_Popup_Open_SameTab", L"In the &current tab"),
+                              RadioButton(L"Radio_Firefox_Popup_Open_NewTab", L"In a &new tab").Checked())),
+                 Group(L"GroupBox_Firefox_Popup_JavaScript", L"Scripts may open windows",
+                       CheckBox(L"Checkbox_Firefox_Popup_JavaScript_Size", L"That cannot be &resized"),
+                       CheckBox(L"Checkbox_Firefox_Popup_JavaScript_Min", L"Without a &Minimize button"),
+                       CheckBox(L"Checkbox_Firefox_Popup_JavaScript_HideMenu", L"Without a men&u bar"),
+                       CheckBox(L"Checkbox_Firefox_Popup_JavaScript_HideTask", L"Without an address &bar"),
+                       CheckBox(L"Checkbox_Firefox_Popup_JavaScript_HideSroll", L"Without &scroll bars")),
+                 Buttons(Button(L"Button_Firefox_Popup_Default", L"&Default")));
+}
+
+TControlDesign TabsSheet() {
+    return Sheet(
+        L"TabSheet_Firefox_Label", L"Tabs",
+        Group(L"GroupBox_Firefox_Tab_CloseButton", L"Close button",
+              Row(Label(L"Label_Firefox_Tab_CloseButton_Pos", L"&Position:"),
+                  ComboBox(L"CB_Firefox_Tab_CloseButton_Pos",
+                           {L"Only on the current tab", L"On all tabs", L"Do not show \"Close\" button",
+                            L"On the right end of the tab menu"}))),
+        Group(L"GroupBox_Firefox_Tab_MinWidth", L"Width of tabs",
+              Row(Label(L"Label_Firefox_Tab_MinWidth_Min", L"At &least:"),
+                  Edit(L"Edit_Firefox_Tab_MinWidth_Min", L"125").Width(4),
+                  UpDown(L"Updown_Firefox_Tab_MinWidth_Min", L"Edit_Firefox_Tab_MinWidth_Min", 36, 500, 125),
+                  Label(L"Label_Firefox_Tab_MinWidth_Unit", L"pixels"))));
+}
+
+TControlDesign Design() {
+    return NotebookPage(9, PageControl(kTabs, CommonSheet(), UseSheet(), PopupSheet(), TabsSheet(),
+                                       Sheet(kNoFirefoxSheet, L"No fireFox",
+                                             Label(L"Label_Firefox_NoFirefox_Info",
+                                                   L"Mozilla Firefox is not installed on this computer."),
+                                             Label(L"Label_Firefox_NoFirefox_Link",
+                                                   L"It is available from www.mozilla.org/firefox."))));
+}
+
+// Written in these spellings, read in any case.
+constexpr const wchar_t* kTrue = L"True";
+constexpr const wchar_t* kFalse = L"false";
+
+constexpr TBoxRecord kTrueWhenChecked{.Checked = Text(kTrue), .Clear = Text(kFalse)};
+constexpr TBoxRecord kFalseWhenChecked{.Checked = Text(kFalse), .Clear = Text(kTrue)};
+
+// A missing preference shows as Firefox's own default for it.
+constexpr TBoxRule kCheckedOnlyWhenTrue{
+    .Missing = kClear, .When = {{AnyCase(kTrue), kChecked}}, .Otherwise = kClear};
+constexpr TBoxRule kCheckedOnlyWhenFalse{
+    .Missing = kClear, .When = {{AnyCase(kFalse), kChecked}}, .Otherwise = kClear};
+constexpr TBoxRule kCheckedUnlessTrue{
+    .Missing = kChecked, .When = {{AnyCase(kTrue), kClear}}, .Otherwise = kChecked};
+
+constexpr const wchar_t* kHomePage[] = {L"Edit_Firefox_Common_Homepage_Address"};
+constexpr TRow kCommonRows[] = {
+    TCheckBoxRow{.Control = L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing",
+                 .Value = Pref(L"\"browser.blink_allowed\""),
+                 .Shows = kCheckedOnlyWhenFalse,
+                 .Records = kFalseWhenChecked},
+    TRadioPairRow{.First = L"Radio_Firefox_Common_ErrorMessage_WebPage",
+                  .Second = L"Radio_Firefox_Common_ErrorMessage_Windows",
+                  .ChangeName = L"",
+                  .Value = Pref(L"\"browser.xul.error_pages.enabled\""),
+                  .Missing = TPairState::Second,
+                  .FirstWhen = AnyCase(kTrue),
+                  .FirstRecords = Text(kTrue),
+                  .SecondRecords = Text(kFalse)},
+    FirefoxHomePageRow(kHomePage),
+};
+
+// The delay is read from one preference and written to another, which the Go button has too. A delay of 65000
+// stands for a click.
+constexpr TPlace kGoButtonPref = Pref(L"\"browser.urlbar.hideGoButton\"");
+constexpr const wchar_t* kOnClick = L"65000";
+
+constexpr const wchar_t* kSpeedAsWindows = L"Radio_Firefox_Use_MenuSpeed_UseWinSet";
+constexpr const wchar_t* kSpeedClick = L"Radio_Firefox_Use_MenuSpeed_Click";
+constexpr const wchar_t* kSpeedDelay = L"Radio_Firefox_Use_MenuSpeed_Delay";
+constexpr const wchar_t* kDelayBar = L"TrackBar_Firefox_Use_MenuSpeed_Delay";
+constexpr const wchar_t* kMenuSpeedControls[] = {kSpeedAsWindows, kSpeedClick, kSpeedDelay, kDelayBar};
+
+TRadioButton& Radio(const TPageContext& context, const wchar_t* name) {
+    return *context.Form.Find<TRadioButton>(name);
+}
+
+void ShowDelay(const TPageContext& context, int milliseconds) {
+    context.Form.Find(L"Label_Firefox_Use_MenuSpeed_Delay")
+        ->SetCaption(std::to_wstring(milliseconds) + L" ms");
+}
+
+// Special because three radio buttons and a track bar make one value.
+void LoadMenuSpeed(TPageContext& context, const TSpecialRow& row) {
+    auto& bar = *context.Form.Find<TTrackBar>(kDelayBar);
+    const auto value = Stored(context, row.Value);
+    const bool isClick = value && TMatch(kOnClick)(*value);
+    const bool isDelay = value && !isClick;
+    Radio(context, isClick ? kSpeedClick : isDelay ? kSpeedDelay : kSpeedAsWindows).SetChecked(true);
+    bar.SetEnabled(isDelay);
+    if (isDelay) bar.SetPosition(AsInteger(*value).value_or(bar.Position()));
+    ShowDelay(context, bar.Position());
+}
+
+void RecordMenuSpeed(TPageContext& context, const TSpecialRow& /*row*/, TComponent& sender) {
+    auto& bar = *context.Form.Find<TTrackBar>(kDelayBar);
+    const bool isDelay = Radio(context, kSpeedDelay).Checked();
+    bar.SetEnabled(isDelay);
+    if (isDelay)
+        RecordNumber(context, sender.Name(), kGoButtonPref, bar.Position());
+    else
+        RecordText(context, sender.Name(), kGoButtonPref,
+                   Radio(context, kSpeedClick).Checked() ? kOnClick : L"");
+    ShowDelay(context, bar.Position());
+}
+
+constexpr const wchar_t* kMenuSpeedRule =
+    L"exactly 65000: on click; missing: as Windows; else the delay, and no number leaves the track bar "
+    L"alone; writes `\"browser.urlbar.hideGoButton\"`: 65000, the track bar's number, or removes it";
+
+constexpr TRow kUseRows[] = {
+    TCheckBoxRow{.Control = L"Checkbox_Firefox_Use_AddressBar_AutoFill",
+                 .Value = Pref(L"\"browser.urlbar.autoFill\""),
+                 .Shows = kCheckedOnlyWhenTrue,
+                 .Records = kTrueWhenChecked},
+    TCheckBoxRow{.Control = L"Checkbox_Firefox_Use_AddressBar_ShowLoadAddressButton",
+                 .Value = kGoButtonPref,
+                 .Shows = kCheckedUnlessTrue,
+                 .Records = kFalseWhenChecked},
+    TSpecialRow{.Controls = kMenuSpeedControls,
+                .Value = Pref(L"\"ui.submenuDelay\""),
+                .Rule = kMenuSpeedRule,
+                .Load = LoadMenuSpeed,
+                .Record = RecordMenuSpeed},
+};
+
+constexpr const wchar_t* kOpenInTab = L"Checkbox_Firefox_Popup_Open_Type";
+constexpr const wchar_t* kOpenInSameTab = L"Radio_Firefox_Popup_Open_SameTab";
+constexpr const wchar_t* kOpenInNewTab = L"Radio_Firefox_Popup_Open_NewTab";
+constexpr const wchar_t* kOpenControls[] = {kOpenInTab, kOpenInSameTab, kOpenInNewTab};
+
+// The values, as Firefox documents them for this preference.
+constexpr const wchar_t* kSameTab = L"1";
+constexpr const wchar_t* kNewWindow = L"2";
+constexpr const wchar_t* kNewTab = L"3";
+
+void EnableOpenTabs(const TPageContext& context, bool enabled) {
+    Radio(context, kOpenInSameTab).SetEnabled(enabled);
+    Radio(context, kOpenInNewTab).SetEnabled(enabled);
+}
+
+// Special because the radio buttons count only while the box is checked, and share its preference.
+void LoadOpenType(TPageContext& context, const TSpecialRow& row) {
+    const std::wstring value = AsText(Stored(context, row.Value).value_or(TRegValue{}));
+    context.Form.Find<TCheckBox>(kOpenInTab)->SetChecked(value != kNewWindow);
+    Radio(context, value == kSameTab ? kOpenInSameTab : kOpenInNewTab).SetChecked(true);
+    EnableOpenTabs(context, value != kNewWindow);
+}
+
+void RecordOpenType(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
+    const bool inTab = context.Form.Find<TCheckBox>(kOpenInTab)->Checked();
+    EnableOpenTabs(context, inTab);
+    const wchar_t* tab = Radio(context, kOpenInSameTab).Checked() ? kSameTab : kNewTab;
+    RecordText(context, sender.Name(), row.Value, inTab ? tab : kNewWindow);
+}
+
+constexpr const wchar_t* kOpenRule =
+    L"2: the box clear, a new tab; 1: the current tab; else a new tab; writes 2 while the box is clear, "
+    L"else 1 or 3";
+
+// Each of these preferences keeps scripts from taking something away from the windows that they open.
+constexpr TRow kPopupRows[] = {
+    TSpecialRow{.Controls = kOpenControls,
+                .Value = Pref(L"\"browser.link.open_newwindow\""),
+                .Rule = kOpenRule,
+                .Load = LoadOpenType,
+                .Record = RecordOpenType},
+    TCheckBoxRow{.Control = L"Checkbox_Firefox_Popup_JavaScript_Size",
+                 .Value = Pref(L"\"dom.disable_window_open_feature.resizable\""),
+                 .Shows = kCheckedOnlyWhenFalse,
+                 .Records = kFalseWhenChecked},
+    TCheckBoxRow{.Control = L"Checkbox_Firefox_Popup_JavaScript_Min",
+                 .Value = Pref(L"\"dom.disable_window_open_feature.minimizable\""),
+                 .Shows = kCheckedUnlessTrue,
+                 .Records = kFalseWhenChecked},
+    TCheckBoxRow{.Control = L"Checkbox_Firefox_Popup_JavaScript_HideMenu",
+                 .Value = Pref(L"\"dom.disable_window_open_feature.menubar\""),
+                 .Shows = kCheckedUnlessTrue,
+                 .Records = kFalseWhenChecked},
+    TCheckBoxRow{.Control = L"Checkbox_Firefox_Popup_JavaScript_HideTask",
+                 .Value = Pref(L"\"dom.disable_window_open_feature.location\""),
+                 .Shows = kCheckedOnlyWhenFalse,
+                 .Records = kFalseWhenChecked},
+    TCheckBoxRow{.Control = L"Checkbox_Firefox_Popup_JavaScript_HideSroll",
+                 .Value = Pref(L"\"dom.disable_window_open_feature.scrollbars\""),
+                 .Shows = kCheckedUnlessTrue,
+                 .Records = kFalseWhenChecked},
+};
+
+constexpr const wchar_t* kCloseButton[] = {L"CB_Firefox_Tab_CloseButton_Pos"};
+
+// Special because a value that is no number is a fault, which ends the loader.
+void LoadCloseButton(TPageContext& context, const TSpecialRow& row) {
+    constexpr int kOnAllTabs = 1;  // Firefox's own default
+    int item = kOnAllTabs;
+    if (const auto value = Stored(context, row.Value)) {
+        const auto number = AsInteger(*value);
+        if (!number) throw EConvertError(AsText(*value));
+        item = *number;
+    }
+    context.Form.Find<TComboBox>(kCloseButton[0])->SetItemIndex(item);
+}
+
+void RecordCloseButton(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
+    RecordNumber(context, sender.Name(), row.Value, static_cast<TComboBox&>(sender).ItemIndex());
+}
+
+constexpr const wchar_t* kTabWidthUpDown = L"Updown_Firefox_Tab_MinWidth_Min";
+constexpr const wchar_t* kTabWidthControls[] = {kTabWidthUpDown, L"Edit_Firefox_Tab_MinWidth_Min"};
+constexpr int kDefaultTabWidth = 125;
+
+// Special because Firefox's own default removes the preference.
+void LoadTabWidth(TPageContext& context, const TSpecialRow& row) {
+    const auto value = Stored(context, row.Value);
+    const auto width = value ? AsInteger(*value) : kDefaultTabWidth;
+    if (width) context.Form.Find<TUpDown>(kTabWidthUpDown)->SetPosition(*width);
+}
+
+void RecordTabWidth(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
+    const int width = context.Form.Find<TUpDown>(kTabWidthUpDown)->Position();
+    if (width != kDefaultTabWidth) return RecordNumber(context, sender.Name(), row.Value, width);
+    // One click of the arrows may come twice, as the edit's change and as theirs, and removing a preference
+    // that is gone would leave an empty one.
+    context.FirefoxChanged = true;
+    if (Stored(context, row.Value)) RecordText(context, sender.Name(), row.Value, L"");
+}
+
+constexpr TRow kTabsRows[] = {
+    TSpecialRow{
+        .Controls = kCloseButton,
+        .Value = Pref(L"\"browser.tabs.closeButtons\""),
+        .Rule = L"the item of that number; missing: item 1; no number: a fault; writes the item's number",
+        .Load = LoadCloseButton,
+        .Record = RecordCloseButton},
+    TSpecialRow{.Controls = kTabWidthControls,
+                .Value = Pref(L"\"browser.tabs.tabMinWidth\""),
+                .Rule = L"the number; missing: 125; no number: unchanged; writes the number, and 125 removes "
+                        L"the preference",
+                .Load = LoadTabWidth,
+                .Record = RecordTabWidth},
+};
+
+constexpr TLoader kLoaders[] = {kCommonRows, kUseRows, kPopupRows, kTabsRows};
+
+constexpr TPresetState kCommonDefault[] = {
+    {L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing", 0},
+    {L"Radio_Firefox_Common_ErrorMessage_Windows", 1},
+};
+constexpr TPresetState kUseDefault[] = {
+    {L"Checkbox_Firefox_Use_AddressBar_AutoFill", 0},
+    {L"Checkbox_Firefox_Use_AddressBar_ShowLoadAddressButton", 1},
+    {L"Radio_Firefox_Use_MenuSpeed_UseWinSet", 1},
+};
+constexpr TPresetState kPopupDefault[] = {
+    {L"Checkbox_Firefox_Popup_Open_Type", 1},
+    {L"Radio_Firefox_Popup_Open_NewTab", 1},
+    {L"Checkbox_Firefox_Popup_JavaScript_Size", 0},
+    {L"Checkbox_Firefox_Popup_JavaScript_Min", 0},
+    {L"Checkbox_Firefox_Popup_JavaScript_HideMenu", 0},
+    {L"Checkbox_Firefox_Popup_JavaScript_HideTask", 0},
+    {L"Checkbox_Firefox_Popup_JavaScript_HideSroll", 0},
+};
+constexpr TPreset kPresets[] = {
+    {L"Button_Firefox_Common_Default", kCommonDefault},
+    {L"Button_Firefox_Use_Default", kUseDefault},
+    {L"Button_Firefox_Popup_Default", kPopupDefault},
+};
+
+/// Offers the settings or, without a Firefox, the sheet that says so. Answers whether there are any to load.
+bool Prepare(TPageContext& context) {
+    const bool installed = context.Firefox.IsFirefoxInstalled();
+    auto& tabs = *context.Form.Find<TPageControl>(kTabs);
+    for (TControl* sheet : tabs.Children())
+        tabs.SetTabVisible(static_cast<TTabSheet&>(*sheet), installed != (sheet->Name() == kNoFirefoxSheet));
+    if (installed) context.Firefox.LoadFirefoxPrefs();
+    return installed;
+}
+
+constexpr TPageDefinition kPage{.Tag = 9,
+                                .SharedHandler = L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashingClick",
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = kPresets,
+                                .LoadsEveryVisit = true,
+                                .Prepare = Prepare};
+
+}  // namespace
+
+const TPageDefinition& FirefoxPage() { return kPage; }

@@ -1,0 +1,187 @@
+#include "settings/shell/desktop_icons.h"
+
+#include "settings/store.h"
+#include "ui/controls.h"
+
+namespace {
+
+// Windows keeps a set of hidden icons for each of its two Start menus; its own dialog writes both.
+constexpr const wchar_t* kNewStartPanel =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideDesktopIcons\\NewStartPanel\\";
+constexpr const wchar_t* kClassicStartMenu =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideDesktopIcons\\ClassicStartMenu\\";
+constexpr const wchar_t* kHideMyComputerIcons =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideMyComputerIcons\\";
+constexpr const wchar_t* kUserExplorerPolicies =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
+
+// Class identifiers of the shell's folders.
+constexpr const wchar_t* kMyComputer = L"{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
+constexpr const wchar_t* kMyDocuments = L"{450D8FBA-AD25-11D0-98A8-0800361B1103}";
+constexpr const wchar_t* kUserFiles = L"{59031a47-3f72-44a7-89c5-5595fe6b30ee}";
+constexpr const wchar_t* kMyNetworkPlaces = L"{208D2C60-3AEA-1069-A2D7-08002B30309D}";
+constexpr const wchar_t* kNetwork = L"{F02C1A0D-BE21-4350-88B0-7367FC96EF3C}";
+constexpr const wchar_t* kInternetExplorer = L"{871C5380-42A0-1069-A2EA-08002B30309D}";
+constexpr const wchar_t* kControlPanelByCategory = L"{5399E694-6CE5-4D6C-8FCE-1D8870FDCBA0}";
+constexpr const wchar_t* kControlPanel = L"{21EC2020-3AEA-1069-A2DD-08002B30309D}";
+constexpr const wchar_t* kRecycleBin = L"{645FF040-5081-101B-9F08-00AA002F954E}";
+
+TControlDesign Design() {
+    return PageControl(
+        L"PageControl_Folder",
+        Sheet(L"TabSheet_Folder_Desktop", L"Desktop",
+              Group(L"GroupBox_Folder_Desktop", L"Icons on the desktop",
+                    CheckBox(L"Checkbox_Folder_Desktop_MyComputer", L"My &Computer"),
+                    CheckBox(L"Checkbox_Folder_Desktop_MyDocuments", L"My &Documents"),
+                    CheckBox(L"Checkbox_Folder_Desktop_UserFiles", L"User's &Files"),
+                    CheckBox(L"Checkbox_Folder_Desktop_MyNetworkPlaces", L"My Network P&laces"),
+                    CheckBox(L"Checkbox_Folder_Desktop_Network", L"&Network"),
+                    CheckBox(L"Checkbox_Folder_Desktop_InternetExplorer", L"&Internet Explorer"),
+                    CheckBox(L"Checkbox_Folder_Desktop_ControlPanel", L"Control &Panel"),
+                    CheckBox(L"Checkbox_Folder_Desktop_RecycleBin", L"&Recycle Bin"),
+                    CheckBox(L"Checkbox_Folder_Desktop_RecycleBinKey", L"Recycle &Bin"))),
+        Sheet(L"TabSheet_Folder_MyComputer", L"My Computer",
+              Group(L"GroupBox_Folder_MyComputer", L"Folders in My Computer",
+                    CheckBox(L"Checkbox_Folder_MyComputer_ShowControlPanel", L"Control &Panel"),
+                    CheckBox(L"Checkbox_Folder_MyComputer_ControlPanel", L"&Control Panel"),
+                    CheckBox(L"Checkbox_Folder_MyComputer_Printers", L"P&rinters"),
+                    CheckBox(L"Checkbox_Folder_MyComputer_NetworkConnections", L"&Network Connections"),
+                    CheckBox(L"Checkbox_Folder_MyComputer_AdministrativeTools", L"&Administrative Tools"),
+                    CheckBox(L"Checkbox_Folder_MyComputer_ScheduledTasks", L"&Scheduled Tasks"),
+                    CheckBox(L"Checkbox_Folder_MyComputer_RecycleBin", L"Recycle &Bin"))),
+        Sheet(L"TabSheet_Folder_Drivers", L"Drivers",
+              Label(L"Label_Folder_Drivers", L"&Hide the checked drives in My Computer:"),
+              ListView(L"ListView_Folder_Drivers", {L"Drive"})));
+}
+
+/// An icon on the desktop; 0 shows it. As delivered, Windows shows the Recycle Bin alone.
+constexpr TRow Icon(const wchar_t* control, const wchar_t* folder, TBoxState missing = kClear) {
+    constexpr TBoxRecord kHides{.Checked = Dword(0), .Clear = Dword(1)};
+    return TCheckBoxRow{
+        .Control = control,
+        .Value = {kCurrentUser, kNewStartPanel, folder},
+        .Shows = {.Missing = missing, .When = {{0, kChecked}}, .Otherwise = kClear},
+        .Records = kHides,
+        .Further = TBoxFurther{
+            .Suffix = L"1", .Value = {kCurrentUser, kClassicStartMenu, folder}, .Records = kHides}};
+}
+
+constexpr TRow kDesktopRows[] = {
+    Icon(L"Checkbox_Folder_Desktop_MyComputer", kMyComputer),
+    Icon(L"Checkbox_Folder_Desktop_MyDocuments", kMyDocuments),
+    Icon(L"Checkbox_Folder_Desktop_UserFiles", kUserFiles),
+    Icon(L"Checkbox_Folder_Desktop_MyNetworkPlaces", kMyNetworkPlaces),
+    Icon(L"Checkbox_Folder_Desktop_Network", kNetwork),
+    Icon(L"Checkbox_Folder_Desktop_InternetExplorer", kInternetExplorer),
+    Icon(L"Checkbox_Folder_Desktop_ControlPanel", kControlPanelByCategory),
+    Icon(L"Checkbox_Folder_Desktop_RecycleBin", kRecycleBin, kChecked),
+    TKeyRow{.Control = L"Checkbox_Folder_Desktop_RecycleBinKey",
+            .Value = {kLocalMachine,
+                      L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace\\"
+                      L"{645FF040-5081-101B-9F08-00AA002F954E}\\",
+                      L""}},
+};
+
+constexpr TRow kMyComputerRows[] = {
+    // Windows XP has the Control Panel there, and hides it unless this value is 0.
+    TCheckBoxRow{.Control = L"Checkbox_Folder_MyComputer_ShowControlPanel",
+                 .Value = {kCurrentUser, kHideMyComputerIcons, kControlPanel},
+                 .Shows = {.Missing = kClear, .When = {{0, kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+    TKeyRow{.Control = L"Checkbox_Folder_MyComputer_ControlPanel",
+            .Value = {kLocalMachine,
+                      L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\MyComputer\\NameSpace\\"
+                      L"{21EC2020-3AEA-1069-A2DD-08002B30309D}\\",
+                      L""}},
+    TKeyRow{.Control = L"Checkbox_Folder_MyComputer_Printers",
+            .Value = {kLocalMachine,
+                      L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\MyComputer\\NameSpace\\"
+                      L"{2227A280-3AEA-1069-A2DE-08002B30309D}\\",
+                      L""}},
+    TKeyRow{.Control = L"Checkbox_Folder_MyComputer_NetworkConnections",
+            .Value = {kLocalMachine,
+                      L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\MyComputer\\NameSpace\\"
+                      L"{7007ACC7-3202-11D1-AAD2-00805FC1270E}\\",
+                      L""}},
+    TKeyRow{.Control = L"Checkbox_Folder_MyComputer_AdministrativeTools",
+            .Value = {kLocalMachine,
+                      L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\MyComputer\\NameSpace\\"
+                      L"{D20EA4E1-3957-11d2-A40B-0C5020524153}\\",
+                      L""}},
+    TKeyRow{.Control = L"Checkbox_Folder_MyComputer_ScheduledTasks",
+            .Value = {kLocalMachine,
+                      L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\MyComputer\\NameSpace\\"
+                      L"{D6277990-4C6A-11CF-8D87-00AA0060F5BF}\\",
+                      L""}},
+    TKeyRow{.Control = L"Checkbox_Folder_MyComputer_RecycleBin",
+            .Value = {kLocalMachine,
+                      L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\MyComputer\\NameSpace\\"
+                      L"{645FF040-5081-101B-9F08-00AA002F954E}\\",
+                      L""}},
+};
+
+// "NoDrives" is a mask with one bit for each drive that is hidden, A: in the lowest. The list shows and changes them
+// all, so no row of it has a fixed number to record.
+constexpr int kDriveCount = 26;
+constexpr std::int32_t kAllDrives = (1 << kDriveCount) - 1;
+
+void LoadDrives(TPageContext& context, const TSpecialRow& row) {
+    const std::int32_t mask = StoredNumber(context, row.Value).value_or(0);
+    std::vector<TListView::TRow> drives;
+    drives.reserve(kDriveCount);
+    for (int i = 0; i < kDriveCount; ++i)
+        drives.push_back(
+            {.Cells = {{static_cast<wchar_t>(L'A' + i), L':'}}, .Checked = (mask >> i & 1) != 0});
+    context.Form.Find<TListView>(row.Controls[0])->SetRows(std::move(drives));
+}
+
+void RecordDrives(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
+    std::int32_t mask = StoredNumber(context, row.Value).value_or(0) & ~kAllDrives;
+    std::int32_t bit = 1;
+    for (const TListView::TRow& drive : static_cast<TListView&>(sender).Rows()) {
+        if (drive.Checked) mask |= bit;
+        bit <<= 1;
+    }
+    RecordNumber(context, sender.Name(), row.Value, mask);
+}
+
+constexpr const wchar_t* kDrives[] = {L"ListView_Folder_Drivers"};
+constexpr TRow kDriveRows[] = {
+    TSpecialRow{
+        .Controls = kDrives,
+        .Value = {kCurrentUser, kUserExplorerPolicies, L"NoDrives"},
+        .Rule = L"a drive is checked while its bit is set, A: the lowest; changes these 26 bits alone",
+        .Load = LoadDrives,
+        .Record = RecordDrives},
+};
+
+constexpr TLoader kLoaders[] = {kDesktopRows, kMyComputerRows, kDriveRows};
+
+constexpr TLevels kWindowsXp{5, 5};
+constexpr TOffer kOffers[] = {
+    {L"Checkbox_Folder_Desktop_MyComputer", kSinceXp},
+    {L"Checkbox_Folder_Desktop_MyDocuments", kWindowsXp},
+    {L"Checkbox_Folder_Desktop_UserFiles", kSinceVista},
+    {L"Checkbox_Folder_Desktop_MyNetworkPlaces", kWindowsXp},
+    {L"Checkbox_Folder_Desktop_Network", kSinceVista},
+    // Vista's own dialog no longer offers it, but its desktop still knows it.
+    {L"Checkbox_Folder_Desktop_InternetExplorer", {5, 6}},
+    {L"Checkbox_Folder_Desktop_ControlPanel", kSinceVista},
+    {L"Checkbox_Folder_Desktop_RecycleBin", kSinceXp},
+    // Windows 2000 has no list of hidden icons: what its desktop shows are keys.
+    {L"Checkbox_Folder_Desktop_RecycleBinKey", {.Last = 4}},
+    {L"Checkbox_Folder_MyComputer_ShowControlPanel", kWindowsXp},
+    {L"Checkbox_Folder_MyComputer_ControlPanel", kSinceVista},
+    {L"Checkbox_Folder_MyComputer_ScheduledTasks", kUntilXp},
+};
+
+constexpr TPageDefinition kDialog{.Tag = 0,
+                                  .SharedHandler = L"ListView_Folder_DriversChange",
+                                  .Design = Design,
+                                  .Loaders = kLoaders,
+                                  .Presets = {},
+                                  .Offers = kOffers};
+
+}  // namespace
+
+const TPageDefinition& DesktopIcons() { return kDialog; }

@@ -1,0 +1,7 @@
+// What the desktop-icons dialog sets: the icons on the desktop and in My Computer, and the drives that are hidden.
+#pragma once
+
+#include "settings/page.h"
+
+/// A page outside the notebook: three sheets.
+[[nodiscard]] const TPageDefinition& DesktopIcons();

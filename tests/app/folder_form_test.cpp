@@ -1,0 +1,101 @@
+// The desktop-icons dialog, and how the main window opens it.
+#include "app/folder_form.h"
+
+#include <gtest/gtest.h>
+
+#include "app/main_window.h"
+#include "tests/fakes/fake_system.h"
+
+namespace {
+
+constexpr const wchar_t* kRecycleBin = L"Checkbox_Folder_Desktop_RecycleBin";
+const TRegistryPlace kRecycleBinHidden{
+    TRootKey::CurrentUser,
+    L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideDesktopIcons\\NewStartPanel",
+    L"{645FF040-5081-101B-9F08-00AA002F954E}"};
+
+/// Stands for the main window's native side: a dialog meets a user who acts in it.
+class TFakeFormPeer : public TFormPeer {
+  public:
+    explicit TFakeFormPeer(std::function<void(TForm& dialog)> user) : FUser(std::move(user)) {}
+
+    void Close() override {}
+    void Update(TControlAspect /*aspect*/) override {}
+    void ShowModal(TForm& dialog) override {
+        dialog.Show();
+        FUser(dialog);
+    }
+
+  private:
+    std::function<void(TForm& dialog)> FUser;
+};
+
+class TFolderForm : public testing::Test {
+  protected:
+    TFolderForm() {
+        Fake.Windows.SetVersion({.PlatformId = 2, .Major = 6, .Minor = 1});
+        Fake.Files.PutText(L"C:\\Program Files\\Quilltune\\Toolbox_Language\\English.lng",
+                           "[Quilltune_M]\nD_Drivers=Drives!\n"
+                           "[Scanner_Quilltune_FormFolder]\nQuilltune_FormFolder.Caption=Title\n");
+        Window = std::make_unique<TQuilltune_FormMain>(Fake.System);
+        Window->Show();
+    }
+    /// Opens the dialog with a button of the main window.
+    void Open(const wchar_t* button, const std::function<void(TForm& dialog)>& user) {
+        int shown = 0;
+        Window->SetPeer(std::make_unique<TFakeFormPeer>([&](TForm& dialog) {
+            ++shown;
+            user(dialog);
+        }));
+        Window->Find<TButton>(button)->Click();
+        EXPECT_EQ(shown, 1);
+    }
+    std::optional<std::int32_t> RecycleBinHidden() const {
+        const TRegistryData* data = Fake.Registry.Find(kRecycleBinHidden);
+        return data == nullptr ? std::nullopt : std::optional(std::get<std::int32_t>(data->Value));
+    }
+
+    TFakeSystem Fake;
+    std::unique_ptr<TQuilltune_FormMain> Window;
+};
+
+constexpr const wchar_t* kDesktopButton = L"Button_Folder_Advanced_Desktop_Set";
+
+TEST_F(TFolderForm, EachButtonOpensItTranslatedAtItsSheet) {
+    for (const auto& [button, sheet] :
+         {std::pair(kDesktopButton, L"TabSheet_Folder_Desktop"),
+          {L"Button_Folder_Advanced_MyComputer_Set", L"TabSheet_Folder_MyComputer"}}) {
+        Open(button, [sheet = sheet](TForm& dialog) {
+            EXPECT_EQ(dialog.Caption(), L"Title");
+            EXPECT_EQ(dialog.Find(L"TabSheet_Folder_Drivers")->Caption(), L"Drives!");
+            EXPECT_EQ(dialog.Find<TPageControl>(L"PageControl_Folder")->ActiveSheet()->Name(), sheet);
+        });
+    }
+}
+
+TEST_F(TFolderForm, OkWritesAndTellsTheShellAndNothingElseDoes) {
+    const auto clear = [](TForm& dialog) {
+        EXPECT_TRUE(dialog.Find<TCheckBox>(kRecycleBin)->Checked()) << "loaded at each showing";
+        dialog.Find<TCheckBox>(kRecycleBin)->SetChecked(false);
+    };
+    Open(kDesktopButton, [&](TForm& dialog) {
+        clear(dialog);
+        dialog.Find<TButton>(L"Button_Cancel")->Click();
+        EXPECT_TRUE(dialog.Closed());
+    });
+    Open(kDesktopButton, clear);  // and the window's cross
+    EXPECT_EQ(RecycleBinHidden(), std::nullopt);
+    EXPECT_TRUE(Fake.Shell.Notifications().empty());
+
+    Open(kDesktopButton, [&](TForm& dialog) {
+        clear(dialog);
+        dialog.Find<TButton>(L"Button_OK")->Click();
+        EXPECT_TRUE(dialog.Closed());
+    });
+    EXPECT_EQ(RecycleBinHidden(), 1);
+    EXPECT_EQ(Fake.Shell.Notifications(),
+              (std::vector<TShellNotification>{{0x7FFFFFFF, 0x1000}, {0x08000000, 0}}));
+    EXPECT_FALSE(Window->Find(L"Button_Apply")->Enabled()) << "no business of the main window's";
+}
+
+}  // namespace

@@ -1,0 +1,86 @@
+// A form shown over another one that waits for it.
+#include "tests/win32/peer_bench.h"
+
+namespace {
+
+class TModal : public TPeerBench {
+  protected:
+    TModal() {
+        Form.Build(Form, Column(Button(L"Before", L"Before"), Button(L"Opens", L"Opens")));
+        Show();
+        Dialog.ClientWidth = 300;
+        Dialog.ClientHeight = 200;
+        Dialog.Build(Dialog, Column(CheckBox(L"Box", L"Box"), Timer(L"User", 10),
+                                    Buttons(Button(L"OK", L"OK"), Button(L"Cancel", L"Cancel"))));
+        Dialog.Find<TButton>(L"OK")->Default = true;
+        Dialog.Find<TButton>(L"Cancel")->Cancel = true;
+        Dialog.Find<TButton>(L"Cancel")->OnClick = [this](TComponent&) { Dialog.Close(); };
+        Dialog.Find(L"User")->SetEnabled(true);
+    }
+    /// Opens the dialog; the user acts once in it.
+    void Open(const std::function<void()>& user) {
+        Dialog.Find<TTimer>(L"User")->OnTimer = [this, user](TComponent& timer) {
+            static_cast<TTimer&>(timer).SetEnabled(false);
+            user();
+        };
+        SetFocus(Window(L"Opens"));
+        Form.ShowModal(Dialog);
+    }
+    static HWND HandleOf(const TForm& form) { return static_cast<TFormWindow*>(form.Peer())->Handle(); }
+    HWND BoxWindow() const { return static_cast<TWindowPeer*>(Dialog.Find(L"Box")->Peer())->Handle(); }
+
+    TForm Dialog{L"Dialog", L"TPeerBenchDialog"};
+};
+
+TEST_F(TModal, TheOwnerWaitsAndGetsTheFocusBack) {
+    const HWND owner = HandleOf(Form);
+    Open([&] {
+        const HWND dialog = HandleOf(Dialog);
+        EXPECT_FALSE(IsWindowEnabled(owner));
+        EXPECT_EQ(GetWindow(dialog, GW_OWNER), owner);
+        EXPECT_EQ(GetFocus(), BoxWindow());
+        RECT place{};
+        RECT around{};
+        GetWindowRect(dialog, &place);
+        GetWindowRect(owner, &around);
+        EXPECT_NEAR(place.left + place.right, around.left + around.right, 2);
+        EXPECT_NEAR(place.top + place.bottom, around.top + around.bottom, 2);
+        SetWindowPos(dialog, nullptr, 0, 0, 50, 50, SWP_NOMOVE | SWP_NOZORDER);
+        RECT shrunk{};
+        GetWindowRect(dialog, &shrunk);
+        EXPECT_EQ(shrunk.right - shrunk.left, place.right - place.left) << "no smaller than designed";
+        // Told to the owner's handler; the dialog goes on.
+        Dialog.Find<TCheckBox>(L"Box")->OnClick = [](TComponent&) { throw std::runtime_error("fault"); };
+        SendMessageW(BoxWindow(), BM_CLICK, 0, 0);
+        EXPECT_EQ(std::exchange(Faults, 0), 1);
+        PostMessageW(BoxWindow(), WM_KEYDOWN, VK_ESCAPE, 1);
+    });
+    EXPECT_TRUE(Dialog.Closed());
+    EXPECT_EQ(HandleOf(Dialog), nullptr);
+    EXPECT_TRUE(IsWindowEnabled(owner));
+    EXPECT_EQ(GetFocus(), Window(L"Opens"));
+}
+
+TEST_F(TModal, ASentCloseEndsItAtOnce) {
+    Open([&] { SendMessageW(HandleOf(Dialog), WM_CLOSE, 0, 0); });
+    EXPECT_TRUE(IsWindowEnabled(HandleOf(Form)));
+    MSG message;
+    EXPECT_FALSE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "the program goes on";
+}
+
+TEST_F(TModal, EndsWithItsOwner) {
+    Open([&] { SendMessageW(HandleOf(Form), WM_CLOSE, 0, 0); });
+    EXPECT_EQ(HandleOf(Dialog), nullptr);
+    MSG message;
+    EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
+TEST_F(TModal, LeavesTheEndOfTheProgramToTheOuterLoop) {
+    Open([] { PostQuitMessage(7); });
+    EXPECT_EQ(HandleOf(Dialog), nullptr);
+    MSG message;
+    ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, 7u);
+}
+
+}  // namespace
