@@ -4,134 +4,110 @@
 
 namespace {
 
-constexpr const wchar_t* kTask = L"Checkbox_Net_Neighbor_Common_Task";
-constexpr const wchar_t* kPrinter = L"Checkbox_Net_Neighbor_Common_Printer";
-constexpr const wchar_t* kAdd = L"Checkbox_Net_Neighbor_Common_Add";
-constexpr const wchar_t* kUPnp = L"Checkbox_Net_Advanced_UPnp_Enable";
-constexpr const wchar_t* kQos = L"Checkbox_Net_Advanced_Qos_Keep";
-constexpr const wchar_t* kQosPercent = L"Updown_Net_Advanced_Qos_Count";
-constexpr const wchar_t* kQosEdit = L"Edit_Net_Advanced_Qos_Count";
-constexpr const wchar_t* kNoClose = L"Radio_Net_Internet_CloseConnection_NoClose";
-constexpr const wchar_t* kFirewall = L"Checkbox_Net_Internet_WindowsFirewall_Enable";
+#define TASK L"Checkbox_Net_Neighbor_Common_Task"
+#define PRINTER L"Checkbox_Net_Neighbor_Common_Printer"
+#define ADD L"Checkbox_Net_Neighbor_Common_Add"
+#define UPNP L"Checkbox_Net_Advanced_UPnp_Enable"
+#define QOS L"Checkbox_Net_Advanced_Qos_Keep"
+#define QOS_PERCENT L"Updown_Net_Advanced_Qos_Count"
+#define QOS_EDIT L"Edit_Net_Advanced_Qos_Count"
+#define ASK L"Radio_Net_Internet_CloseConnection_Ask"
+#define NO_CLOSE L"Radio_Net_Internet_CloseConnection_NoClose"
+#define FIREWALL L"Checkbox_Net_Internet_WindowsFirewall_Enable"
 
-// Written as Windows has them, not as the page spells them.
 #define NAME_SPACE L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RemoteComputer\\NameSpace\\"
-#define SERVICES L"System\\CurrentControlSet\\Services\\"
-constexpr TPlace kTaskKey{kLocalMachine, NAME_SPACE L"{d6277990-4c6a-11cf-8d87-00aa0060f5bf}", L""};
-constexpr TPlace kPrinterKey{kLocalMachine, NAME_SPACE L"{2227a280-3aea-1069-a2de-08002b30309d}", L""};
+#define SERVICES L"SYSTEM\\CurrentControlSet\\Services\\"
+#define WINLOGON L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon\\"
+#define SCHEDULER L"SOFTWARE\\Policies\\Microsoft\\Windows\\PSched\\"
+#define PROFILE SERVICES L"SharedAccess\\Parameters\\FirewallPolicy\\StandardProfile\\"
+constexpr TPlace kTaskKey{kLocalMachine, NAME_SPACE L"{D6277990-4C6A-11CF-8D87-00AA0060F5BF}", L""};
+constexpr TPlace kPrinterKey{kLocalMachine, NAME_SPACE L"{2227A280-3AEA-1069-A2DE-08002B30309D}", L""};
 constexpr TPlace kAddValue{kCurrentUser, L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer",
                            L"NoRecentDocsNetHood"};
-constexpr TPlace kQosValue{kLocalMachine, L"Software\\Policies\\Microsoft\\Windows\\Psched",
-                           L"NonBestEffortLimit"};
-constexpr TPlace kKeep{kLocalMachine, L"Software\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon",
-                       L"KeepRasConnections"};
-constexpr TPlace kFirewallValue{
-    kLocalMachine, SERVICES L"SharedAccess\\Parameters\\FirewallPolicy\\StandardProfile", L"EnableFirewall"};
+constexpr TPlace kUPnpValue{kLocalMachine, SERVICES L"SSDPSRV", L"Start"};
+constexpr TPlace kQosValue{kLocalMachine, SCHEDULER, L"NonBestEffortLimit"};
+constexpr TPlace kKeep{kLocalMachine, WINLOGON, L"KeepRASConnections"};
+constexpr TPlace kFirewallValue{kLocalMachine, PROFILE, L"EnableFirewall"};
 
-TEST(TNetworkPage, ShowsStoredValues) {
-    const TShownCase cases[] = {
-        {kTask, kTaskKey, String(L""), L"on", 5},
-        {kTask, kTaskKey, String(L"1"), L"kept", 6},
-        {kPrinter, kPrinterKey, String(L"Printers"), L"on", 6},
-        {kPrinter, kPrinterKey, String(L"Printers"), L"kept", 5},
-        {kAdd, kAddValue, Number(2), L"off"},
-        {kUPnp, {kLocalMachine, SERVICES L"SSDPSRV", L"Start"}, Number(3), L"on"},
-        {L"Radio_Net_Internet_CloseConnection_Ask", kKeep, std::nullopt, L"on"},
-        {kNoClose, kKeep, String(L"2"), L"on"},
-        {kQos, kQosValue, std::nullopt, L"on"},
-        {kQosPercent, kQosValue, std::nullopt, L"kept"},
-        {kQosEdit, kQosValue, Number(35), L"35"},
-        {kQos, kQosValue, Bytes(TBytes(8, 1)), L"off"},
-        {kFirewall, kFirewallValue, std::nullopt, L"on", 5},
+TEST(TNetworkPage, ShowsAndRecordsValues) {
+    const TShownCase shown[] = {
+        {TASK, kTaskKey, String(L""), L"on", 5},
+        {TASK, kTaskKey, String(L"1"), L"kept", 6},
+        {PRINTER, kPrinterKey, String(L"Printers"), L"on", 6},
+        {PRINTER, kPrinterKey, String(L"Printers"), L"kept", 5},
+        {ADD, kAddValue, Number(2), L"off"},
+        {UPNP, kUPnpValue, Number(3), L"on"},
+        {ASK, kKeep, std::nullopt, L"on"},
+        {NO_CLOSE, kKeep, String(L"2"), L"on"},
+        {QOS, kQosValue, std::nullopt, L"on"},
+        {QOS_PERCENT, kQosValue, std::nullopt, L"kept"},
+        {QOS_EDIT, kQosValue, Number(35), L"35"},
+        {QOS, kQosValue, Bytes(TBytes(8, 1)), L"off"},
+        {FIREWALL, kFirewallValue, std::nullopt, L"on", 5},
     };
-    ExpectShown(NetworkPage(), cases);
-}
-
-TEST(TNetworkPage, RecordsWhatEachStateStandsFor) {
-    const TRecordedCase cases[] = {
-        {kTask,
-         L"off",
-         {L"Checkbox_Net_Neighbor_Common_Task: delete "
-          L"HKLM\\" NAME_SPACE L"{D6277990-4C6A-11CF-8D87-00AA0060F5BF}"}},
-        {kPrinter,
+    ExpectShown(NetworkPage(), shown);
+    const TRecordedCase recorded[] = {
+        {TASK, L"off", {TASK L": delete HKLM\\" NAME_SPACE L"{D6277990-4C6A-11CF-8D87-00AA0060F5BF}"}},
+        {PRINTER,
          L"on",
-         {L"Checkbox_Net_Neighbor_Common_Printer: "
-          L"HKLM\\" NAME_SPACE L"{2227A280-3AEA-1069-A2DE-08002B30309D}[] = \"Printers\""}},
-        {kUPnp,
+         {PRINTER L": HKLM\\" NAME_SPACE L"{2227A280-3AEA-1069-A2DE-08002B30309D}[] = \"Printers\""}},
+        {UPNP,
          L"off",
-         {L"Checkbox_Net_Advanced_UPnp_Enable: "
-          L"HKLM\\SYSTEM\\CurrentControlSet\\Services\\SSDPSRV\\[Start] = 4",
-          L"Checkbox_Net_Advanced_UPnp_Enable1: "
-          L"HKLM\\SYSTEM\\CurrentControlSet\\Services\\upnphost\\[Start] = 4"}},
-        {kNoClose,
-         L"on",
-         {L"Radio_Net_Internet_CloseConnection_Ask: HKLM\\SOFTWARE\\Microsoft\\Windows NT\\"
-          L"CurrentVersion\\Winlogon\\[KeepRASConnections] = \"1\""}},
+         {UPNP L": HKLM\\" SERVICES L"SSDPSRV\\[Start] = 4",
+          UPNP L"1: HKLM\\" SERVICES L"upnphost\\[Start] = 4"}},
+        {NO_CLOSE, L"on", {ASK L": HKLM\\" WINLOGON L"[KeepRASConnections] = \"1\""}},
     };
-    ExpectRecorded(NetworkPage(), cases);
+    ExpectRecorded(NetworkPage(), recorded);
 }
 
 TEST(TNetworkPage, ReservedBandwidthIsOneChangeOfBoxAndPosition) {
     TPageBench bench(NetworkPage());
     bench.Store(kQosValue, 0);
     bench.Load();
-    EXPECT_FALSE(bench.Get<TEdit>(kQosEdit).Enabled() || bench.Get<TUpDown>(kQosPercent).Enabled());
-    struct TStep {
-        const wchar_t* Control;
-        const wchar_t* State;
-        const wchar_t* Records;
-        bool Enabled;
+    const auto enabled = [&] {
+        return std::pair(bench.Get<TEdit>(QOS_EDIT).Enabled(), bench.Get<TUpDown>(QOS_PERCENT).Enabled());
     };
-    constexpr TStep kSteps[] = {
-        {kQos, L"on", L"20", true},
-        {kQosEdit, L"150", L"100", true},
-        {kQosPercent, L"30", L"30", true},
-        {kQos, L"off", L"0", false},
-        {L"Button_Net_Advanced_Default", L"", L"20", true},
-    };
-    for (const TStep& step : kSteps) {
-        bench.Act(step.Control, step.State);
+    EXPECT_EQ(enabled(), std::pair(false, false));
+    for (const auto& [control, state, number] : {std::tuple(QOS, L"on", L"20"),
+                                                 {QOS_EDIT, L"150", L"100"},
+                                                 {QOS_PERCENT, L"30", L"30"},
+                                                 {QOS, L"off", L"0"},
+                                                 {L"Button_Net_Advanced_Default", L"", L"20"}}) {
+        bench.Act(control, state);
         EXPECT_EQ(bench.Pending().front(),
-                  L"Checkbox_Net_Advanced_Qos_Keep: HKLM\\SOFTWARE\\Policies\\Microsoft\\Windows\\PSched\\"
-                  L"[NonBestEffortLimit] = " +
-                      std::wstring(step.Records));
-        EXPECT_EQ(bench.Get<TEdit>(kQosEdit).Enabled(), step.Enabled);
-        EXPECT_EQ(bench.Get<TUpDown>(kQosPercent).Enabled(), step.Enabled);
+                  QOS L": HKLM\\" SCHEDULER L"[NonBestEffortLimit] = " + std::wstring(number));
+        const bool reserves = number != std::wstring(L"0");
+        EXPECT_EQ(enabled(), std::pair(reserves, reserves));
     }
     EXPECT_EQ(bench.Pending().size(), 3u) << "one change, and the two of the Default button";
 }
 
 TEST(TNetworkPage, TheFirewallIsAValueUntilXpAndAServiceSinceVista) {
-    struct TCase {
-        int Level;
-        TServiceState SharedAccess;
-        bool Offered;
-    };
-    constexpr TCase kCases[] = {{4, TServiceState::Running, false},
-                                {5, TServiceState::Stopped, false},
-                                {5, TServiceState::Paused, false},
-                                {5, TServiceState::Running, true},
-                                {6, TServiceState::Stopped, true}};
-    for (const TCase& c : kCases) {
+    using enum TServiceState;
+    for (const auto& [level, sharedAccess, offered] : {std::tuple(4, Running, false),
+                                                       {5, Stopped, false},
+                                                       {5, Paused, false},
+                                                       {5, Running, true},
+                                                       {6, Stopped, true}}) {
         TPageBench bench(NetworkPage());
-        bench.Context.WindowsLevel = c.Level;
-        bench.Fake.Services.Put(L"MpsSvc", {.State = TServiceState::Running});
-        bench.Fake.Services.Put(L"SharedAccess", {.State = c.SharedAccess});
+        bench.Context.WindowsLevel = level;
+        bench.Fake.Services.Put(L"MpsSvc", {.State = Running});
+        bench.Fake.Services.Put(L"SharedAccess", {.State = sharedAccess});
         bench.Store(kFirewallValue, 2);
         bench.Load();
-        const bool isService = c.Level >= 6;
-        EXPECT_EQ(bench.Get<TGroupBox>(L"GroupBox_Net_Internet_WindowsFirewall").Visible(), c.Offered);
-        EXPECT_EQ(bench.Checked(kFirewall), isService) << c.Level;
+        const bool isService = level >= 6;
+        EXPECT_EQ(bench.Get<TGroupBox>(L"GroupBox_Net_Internet_WindowsFirewall").Visible(), offered);
+        EXPECT_EQ(bench.Checked(FIREWALL), isService) << level;
 
         for (const bool on : {!isService, isService, !isService}) {
-            bench.Click(kFirewall, on);
-            const auto action = on ? TServiceAction::Enable : TServiceAction::Disable;
-            EXPECT_EQ(bench.Context.FirewallAction, isService ? action : TServiceAction::Nothing);
+            bench.Click(FIREWALL, on);
+            EXPECT_EQ(bench.Context.FirewallAction, !isService ? TServiceAction::Nothing
+                                                    : on       ? TServiceAction::Enable
+                                                               : TServiceAction::Disable);
         }
-        const std::vector value{std::wstring(kFirewall) +
-                                L": HKLM\\SYSTEM\\CurrentControlSet\\Services\\SharedAccess\\Parameters\\"
-                                L"FirewallPolicy\\StandardProfile\\[EnableFirewall] = 1"};
-        EXPECT_EQ(bench.Pending(), isService ? std::vector<std::wstring>{} : value);
+        std::vector<std::wstring> value{FIREWALL L": HKLM\\" PROFILE L"[EnableFirewall] = 1"};
+        if (isService) value.clear();
+        EXPECT_EQ(bench.Pending(), value);
         EXPECT_EQ(bench.Recorded, 3);
     }
 }
@@ -139,14 +115,10 @@ TEST(TNetworkPage, TheFirewallIsAValueUntilXpAndAServiceSinceVista) {
 TEST(TNetworkPage, ShowsWhatAnotherPageIsAboutToWrite) {
     TPageBench bench(NetworkPage());
     bench.Store(kAddValue, 0);
-    bench.Context.Changes.Add({.Name = L"Box of another page",
-                               .RootKey = kAddValue.Root,
-                               .Key = kAddValue.Key,
-                               .ValueName = kAddValue.ValueName,
-                               .DataType = TRegDataType::Dword,
-                               .Value = 1});
+    bench.Context.Changes.Add(
+        {L"Box of another page", kAddValue.Root, kAddValue.Key, kAddValue.ValueName, TRegDataType::Dword, 1});
     bench.Load();
-    EXPECT_FALSE(bench.Checked(kAdd));
+    EXPECT_FALSE(bench.Checked(ADD));
 }
 
 }  // namespace

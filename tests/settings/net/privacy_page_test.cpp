@@ -34,14 +34,19 @@ TEST(TPrivacyPage, RecordsWhatTheBoxesMean) {
     const TRecordedCase cases[] = {
         {kCache,
          L"on",
-         {L"Checkbox_CleanTraces_ClearIECache_ClearOnExit: "
-          L"HKCU\\" CURRENT_VERSION L"Internet Settings\\Cache\\[Persistent] = 0"}},
+         {kCache + std::wstring(L": HKCU\\" CURRENT_VERSION L"Internet Settings\\Cache\\[Persistent] = 0")}},
         {kAuthentication,
          L"on",
-         {L"Checkbox_Privacy_IE_Authentication_Enable: "
-          L"HKCU\\" CURRENT_VERSION L"Internet Settings\\[EnableNegotiate] = 0"}},
+         {kAuthentication +
+          std::wstring(L": HKCU\\" CURRENT_VERSION L"Internet Settings\\[EnableNegotiate] = 0")}},
     };
     ExpectRecorded(PrivacyPage(), cases);
+    TPageBench bench(PrivacyPage());
+    for (const wchar_t* box : {kCache, kAuthentication}) bench.Preset(box, true);
+    for (const wchar_t* button : {L"Button_CleanTraces_Default", L"Button_Privacy_IE_Default"})
+        bench.Act(button, L"");
+    EXPECT_FALSE(bench.Checked(kCache) || bench.Checked(kAuthentication));
+    EXPECT_EQ(bench.Recorded, 2);
 }
 
 TEST(TPrivacyPage, UpdateBoxAndListMakeOneChangeThatTheNextLoadShows) {
@@ -49,37 +54,22 @@ TEST(TPrivacyPage, UpdateBoxAndListMakeOneChangeThatTheNextLoadShows) {
     bench.Store(kOptions, 1);
     bench.Load();
     bench.Act(kKind, L"2");
-    struct TStep {
-        const wchar_t* Control;
-        const wchar_t* State;
-        const wchar_t* Records;
-        bool Enabled;
-    };
-    constexpr TStep kSteps[] = {
-        {kUpdates, L"on", L"3", true},   {kKind, L"0", L"0", true},
-        {kKind, L"1", L"2", true},       {kKind, L"3", L"4", true},
-        {kUpdates, L"off", L"1", false}, {L"Button_Privacy_Common_Default", L"", L"0", true},
-    };
-    for (const TStep& step : kSteps) {
-        bench.Act(step.Control, step.State);
+    for (const auto& [control, state, number] : {std::tuple(kUpdates, L"on", L"3"),
+                                                 {kKind, L"0", L"0"},
+                                                 {kKind, L"1", L"2"},
+                                                 {kKind, L"3", L"4"},
+                                                 {kUpdates, L"off", L"1"},
+                                                 {L"Button_Privacy_Common_Default", L"", L"0"}}) {
+        bench.Act(control, state);
         EXPECT_EQ(bench.Pending(),
                   std::vector{L"CHKAutoupdate: HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\"
                               L"WindowsUpdate\\Auto Update\\[AUOptions] = " +
-                              std::wstring(step.Records)});
-        EXPECT_EQ(bench.Get<TComboBox>(kKind).Enabled(), step.Enabled);
+                              std::wstring(number)});
+        EXPECT_EQ(bench.Get<TComboBox>(kKind).Enabled(), number != std::wstring(L"1"));
     }
     bench.Preset(kUpdates, false);
     bench.Load();
     EXPECT_TRUE(bench.Checked(kUpdates)) << "the pending change, not the stored value";
-}
-
-TEST(TPrivacyPage, DefaultButtonsClearTheBoxes) {
-    TPageBench bench(PrivacyPage());
-    for (const wchar_t* box : {kCache, kAuthentication}) bench.Preset(box, true);
-    bench.Act(L"Button_CleanTraces_Default", L"");
-    bench.Act(L"Button_Privacy_IE_Default", L"");
-    EXPECT_FALSE(bench.Checked(kCache) || bench.Checked(kAuthentication));
-    EXPECT_EQ(bench.Recorded, 2);
 }
 
 }  // namespace
