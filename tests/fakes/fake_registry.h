@@ -48,6 +48,8 @@ class TFakeRegistry : public TRegistry {
     /// The n-th change from now that reaches its key is refused; 1 is the next one.
     void FailChange(int n) { FChangesToFailure = n; }
 
+    void ClearFaults() { FDenied.clear(); }
+
     [[nodiscard]] TReadStatus Check(const TRegistryPlace& place, TRegistryView /*view*/) const override {
         if (!Opens(Path(place.Root, place.Key))) return TReadStatus::KeyUnavailable;
         return place.ValueName.empty() || Find(place) ? TReadStatus::Found : TReadStatus::ValueMissing;
