@@ -1,5 +1,6 @@
 #include "tests/settings/page_script.h"
 
+#include <algorithm>
 #include <fstream>
 #include <map>
 #include <memory>
@@ -8,6 +9,7 @@
 #include "app/page_table.h"
 #include "platform/text.h"
 #include "platform/unicode.h"
+#include "settings/shell/desktop_icons.h"
 #include "tests/settings/page_bench.h"
 
 namespace {
@@ -23,6 +25,18 @@ TLine Take(TLine& text, const wchar_t* separator) {
     TLine head = Trimmed(text.substr(0, end));
     text = end == TLine::npos ? TLine() : Trimmed(text.substr(end + wcslen(separator)));
     return head;
+}
+
+/// The controls that a line begins with, with commas between them.
+TLines TakeControls(TLine& rest) {
+    TLines controls;
+    for (bool more = true; more;) {
+        TLine control = Take(rest, L" ");
+        more = control.ends_with(L',');
+        if (more) control.pop_back();
+        controls.push_back(control);
+    }
+    return controls;
 }
 
 std::uint32_t Unsigned(const TLine& text) { return static_cast<std::uint32_t>(std::stoul(text, nullptr, 0)); }
@@ -56,15 +70,17 @@ class TScene {
 
     TPageBench& Bench() { return FBench; }
 
-    void Run(TLine line, const TLines& below) {
+    /// False when the line does not begin with a verb.
+    bool Run(TLine line, const TLines& below) {
         const TLine verb = Take(line, L" ");
         const auto step = kSteps.find(verb);
-        if (step == kSteps.end()) throw std::invalid_argument("no such verb");
+        if (step == kSteps.end()) return false;
         step->second(*this, line, below);
+        return true;
     }
 
-    void Expect(TLine rest) {
-        const TLine control = Take(rest, L" ");
+    void Expect(const TLine& control, const TLine& rest) {
+        SCOPED_TRACE(ToUtf8(control));
         TControl& c = FBench.Get<TControl>(control);
         if (rest == L"enabled" || rest == L"disabled") {
             EXPECT_EQ(c.Enabled(), rest == L"enabled");
@@ -95,6 +111,14 @@ class TScene {
         if (kind == L"file") return dialogs.AnswerFile(rest);
         if (kind == L"color") return dialogs.AnswerColor(Unsigned(rest));
         if (kind != L"nothing") dialogs.Answer(kind == L"yes" ? TMessageAnswer::Yes : TMessageAnswer::No);
+    }
+
+    static void Asked(TScene& scene, TLine rest, const TLines& /*below*/) {
+        const auto& dialogs = scene.FBench.Fake.Dialogs;
+        const bool isFile = Take(rest, L" ") == L"file";
+        ASSERT_FALSE(isFile ? dialogs.Filters().empty() : dialogs.InitialColors().empty());
+        EXPECT_TRUE(isFile ? dialogs.Filters().back() == rest
+                           : dialogs.InitialColors().back() == Unsigned(rest));
     }
 
     static void Now(TScene& scene, TLine rest, const TLines& /*below*/) {
@@ -149,12 +173,23 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
     {L"load", [](TScene& s, TLine, const TLines&) { s.FBench.Load(); }},
     {L"do",
      [](TScene& s, TLine rest, const TLines&) {
-         const TLine control = Take(rest, L" ");
-         s.FBench.Act(control, rest);
+         for (const TLine& control : TakeControls(rest)) s.FBench.Act(control, rest);
      }},
+    {L"preset",
+     [](TScene& s, TLine rest, const TLines&) {
+         const TLoadingScope loading(s.FBench.Context);
+         for (const TLine& control : TakeControls(rest)) s.FBench.Act(control, rest);
+     }},
+    {L"leave", [](TScene& s, TLine rest, const TLines&) { s.FBench.Get<TEdit>(rest).SetFocused(false); }},
     {L"apply", [](TScene& s, TLine, const TLines&) { s.FBench.Context.Changes.WriteAll(); }},
-    {L"expect", [](TScene& s, TLine rest, const TLines&) { s.Expect(rest); }},
+    {L"expect",
+     [](TScene& s, TLine rest, const TLines&) {
+         for (const TLine& control : TakeControls(rest)) s.Expect(control, rest);
+     }},
     {L"records", [](TScene& s, TLine, const TLines& below) { EXPECT_EQ(s.FBench.Pending(), below); }},
+    {L"recorded",
+     [](TScene& s, TLine rest, const TLines&) { EXPECT_EQ(s.FBench.Recorded, std::stoi(rest)); }},
+    {L"asked", Asked},
     {L"prefs", [](TScene& s, TLine,
                   const TLines& below) { EXPECT_EQ(s.FBench.Context.Firefox.FirefoxPrefLines(), below); }},
     {L"now", Now},
@@ -169,18 +204,17 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
     {L"restart", [](TScene& s, TLine, const TLines&) { s.FRestart = true; }},
 };
 
-void RunShows(const TPageDefinition& page, TLine rest) {
-    const TLine control = Take(rest, L" ");
-    const TLine shows = Take(rest, L" | ");
-    TLine stored = Take(rest, L" | ");
+void RunShows(const TPageDefinition& page, const TLine& control, const TLine& shows, const TLine& stored,
+              const TLine& level) {
+    SCOPED_TRACE(ToUtf8(stored));
     for (const bool before : {false, true}) {
         TScene scene(page);
         TPageBench& bench = scene.Bench();
-        if (!rest.empty()) bench.Context.WindowsLevel = std::stoi(rest);
+        if (!level.empty()) bench.Context.WindowsLevel = std::stoi(level);
         const bool isBox = bench.Get<TControl>(control).Kind() == TComponentKind::CheckBox;
         if (isBox) bench.Preset(control, before);
         const TLine kept = bench.State(control);
-        if (!stored.ends_with(L" missing")) scene.Run(L"stored " + stored, {});
+        if (!stored.ends_with(L" missing") && !scene.Run(stored, {})) scene.Run(L"stored " + stored, {});
         bench.Load();
         EXPECT_EQ(bench.State(control), shows == L"kept" ? kept : shows);
         EXPECT_TRUE(bench.Pending().empty()) << "loading records nothing";
@@ -188,25 +222,53 @@ void RunShows(const TPageDefinition& page, TLine rest) {
     }
 }
 
-void RunWrites(const TPageDefinition& page, TLine rest) {
-    const TLine control = Take(rest, L" ");
-    const TLine state = Take(rest, L" | ");
+void RunShows(const TPageDefinition& page, TLine rest) {
+    TLine state = Take(rest, L" | ");
+    const TLine control = Take(state, L" ");
+    const TLine place = Take(rest, L" | ");
+    if (!state.empty()) return RunShows(page, control, state, place, rest);
+    if (rest.empty()) throw std::invalid_argument("no case");
+    for (TLine level; !rest.empty();) {
+        TLine part = Take(rest, L" | ");
+        const TLine value = Take(part, L" -> ");
+        if (value.starts_with(L"level "))
+            level = value.substr(6);
+        else
+            RunShows(page, control, part, place + (value == L"missing" ? L" " : L" = ") + value, level);
+    }
+}
+
+void RunWrites(const TPageDefinition& page, const TLine& control, const TLine& state, const TLines& parts) {
+    SCOPED_TRACE(ToUtf8(state));
     TScene scene(page);
     TPageBench& bench = scene.Bench();
+    TLines expected;
+    for (TLine part : parts) {
+        if (part.starts_with(L'*')) part = control + part.substr(1);
+        if (!scene.Run(part, {})) expected.push_back(part);
+    }
     if (bench.Get<TControl>(control).Kind() == TComponentKind::CheckBox)
         bench.Preset(control, state == L"off");
     bench.Act(control, state);
-    TLines expected;
-    while (!rest.empty()) {
-        TLine change = Take(rest, L" | ");
-        if (change.starts_with(L'*')) change = control + change.substr(1);
-        if (change == L"restart")
-            scene.Run(change, {});
-        else
-            expected.push_back(change);
-    }
     EXPECT_EQ(bench.Pending(), expected);
     EXPECT_GE(bench.Recorded, 1) << "Apply is to be enabled";
+}
+
+void RunWrites(const TPageDefinition& page, TLine rest) {
+    TLine state = Take(rest, L" | ");
+    const TLine control = Take(state, L" ");
+    TLines parts;
+    while (!rest.empty()) parts.push_back(Take(rest, L" | "));
+    if (!state.empty()) return RunWrites(page, control, state, parts);
+    const auto cases = std::ranges::stable_partition(
+        parts, [](const TLine& part) { return part.find(L" -> ") == TLine::npos; });
+    if (cases.empty()) throw std::invalid_argument("no case");
+    const TLine change = parts[0];
+    for (TLine part : cases) {
+        state = Take(part, L" -> ");
+        parts[0] = change + L" = " + part;
+        RunWrites(page, control, state, {parts.begin(), cases.begin()});
+    }
 }
 
 class TScript {
@@ -230,7 +292,7 @@ class TScript {
             RunWrites(*FPage, rest);
         } else {
             if (!FScene) FScene = std::make_unique<TScene>(*FPage);
-            FScene->Run(whole, below);
+            if (!FScene->Run(whole, below)) throw std::invalid_argument("no such verb");
         }
     }
     void EndScene() { FScene = nullptr; }
@@ -245,7 +307,7 @@ class TScript {
         return line;
     }
 
-    const TPageDefinition* FPage = nullptr;
+    const TPageDefinition* FPage = &DesktopIcons();
     std::unique_ptr<TScene> FScene;
     std::map<TLine, TLine> FNames;
 };
