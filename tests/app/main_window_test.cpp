@@ -165,13 +165,14 @@ TEST_F(TMainWindow, ApplySwitchesServicesAndTellsTheShellOfAssociations) {
         Marks().SecurityCenterAction = TServiceAction::Disable;
         Marks().FirewallAction = TServiceAction::Enable;
         Marks().AssociationsChanged = true;
+        Fake.Services.Calls.clear();
         Apply();
         Apply();
         EXPECT_EQ(Fake.Services.Service(L"wscsvc").StartType, TServiceStartType::Disabled);
         EXPECT_EQ(Fake.Services.Service(L"MpsSvc").State,
                   vista ? TServiceState::Running : TServiceState::Stopped)
             << "on XP the firewall is left alone";
-        EXPECT_EQ(std::ranges::count(Fake.Services.Calls, "manager F003F"), vista ? 3 : 1) << "once each";
+        EXPECT_EQ(std::ranges::count(Fake.Services.Calls, "manager F003F"), vista ? 2 : 1) << "once each";
         EXPECT_EQ(std::ranges::count(Fake.Shell.Notifications(), TShellNotification{0x08000000, 0}),
                   vista ? 2 : 1);
     }
