@@ -54,7 +54,7 @@ void TQuilltune_FormMain::BuildControls() {
     for (int tag = 1; tag <= kPageCount; ++tag) {
         if (Find(std::to_wstring(tag)) == nullptr) Build(notebook, NotebookPage(tag));
     }
-    FTwins = std::make_unique<TTwinControls>(*this);
+    FTwins = std::make_unique<TTwinControls>(FContext);
     Find<TButton>(L"Button_OK")->Default = true;
     Find<TButton>(L"Button_Cancel")->Cancel = true;
     // The items of this group bear the plain colour by design; FormCreate gives it to the other groups.
@@ -272,7 +272,10 @@ void TQuilltune_FormMain::NotifyShell() {
 }
 
 void TQuilltune_FormMain::ApplyFirefox() {
-    if (std::exchange(FContext.FirefoxChanged, false) && FFirefox.SaveFirefoxPrefs()) {
+    if (!FContext.FirefoxChanged) return;
+    const bool saved = FFirefox.SaveFirefoxPrefs();  // a fault leaves the mark for the next Apply
+    FContext.FirefoxChanged = false;
+    if (saved) {
         FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartFirefox], TMessageButtons::Ok,
                                 TMessageIcon::None);
     }

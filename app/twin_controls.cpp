@@ -13,6 +13,18 @@ int PageOf(const TControl& control) {
     return std::stoi(page->Name());
 }
 
+/// Sets a mark for a scope, so that no path out of it leaves it set.
+class TMarkScope {
+  public:
+    explicit TMarkScope(bool& mark) : FMark(mark) { FMark = true; }
+    ~TMarkScope() { FMark = false; }
+    TMarkScope(const TMarkScope&) = delete;
+    TMarkScope& operator=(const TMarkScope&) = delete;
+
+  private:
+    bool& FMark;
+};
+
 void CopyState(const TControl& from, TControl& to) {
     switch (to.Kind()) {
         case TComponentKind::CheckBox:
@@ -37,27 +49,43 @@ void CopyState(const TControl& from, TControl& to) {
 
 }  // namespace
 
-TTwinControls::TTwinControls(const TForm& form) : FForm(form) {
+TTwinControls::TTwinControls(TPageContext& context) : FContext(context) {
     for (const TPageDefinition* page : PageDefinitions())
         FTwins.insert(FTwins.end(), page->Twins.begin(), page->Twins.end());
 }
 
 void TTwinControls::Changed(const TControl& control) {
+    if (FFollowing) return;
     FChanged.insert(&control);
-    for (const TTwin& twin : FTwins) {
-        if (control.Name() == twin.Control) Follow(control, twin.Twin);
-        if (control.Name() == twin.Twin) Follow(control, twin.Control);
-    }
+    Follow(control);
 }
 
 void TTwinControls::PageLoaded(int tag) {
     FLoadedPages.insert(tag);
-    // Following changes the set.
-    for (const TControl* leader : std::set(FChanged))
-        if (PageOf(*leader) != tag) Changed(*leader);
+    for (auto changed = FChanged.begin(); changed != FChanged.end();) {
+        const TControl& control = **changed;
+        if (PageOf(control) != tag) {
+            Follow(control);
+            ++changed;
+        } else {
+            // The page shows what is stored again, and so do the twins; that is no change.
+            changed = FChanged.erase(changed);
+            const TLoadingScope loading(FContext);
+            Follow(control);
+        }
+    }
 }
 
-void TTwinControls::Follow(const TControl& leader, const std::wstring& name) {
-    TControl& follower = *FForm.Find(name);
-    if (FLoadedPages.contains(PageOf(follower))) CopyState(leader, follower);
+void TTwinControls::Follow(const TControl& leader) {
+    const TMarkScope following(FFollowing);
+    for (const TTwin& twin : FTwins) {
+        if (leader.Name() == twin.Control) FollowOne(leader, twin.Twin);
+        if (leader.Name() == twin.Twin) FollowOne(leader, twin.Control);
+    }
+}
+
+void TTwinControls::FollowOne(const TControl& leader, const std::wstring& name) {
+    TControl& follower = *FContext.Form.Find(name);
+    // What this Windows does not offer stays as it is.
+    if (FLoadedPages.contains(PageOf(follower)) && follower.Visible()) CopyState(leader, follower);
 }

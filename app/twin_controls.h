@@ -1,4 +1,4 @@
-// Controls of different pages that stand for the same setting: what the user does to one happens to the other.
+// Controls of different pages that stand for the same setting: what the user does to one shows in the other.
 #pragma once
 
 #include <set>
@@ -7,24 +7,27 @@
 
 class TTwinControls {
   public:
-    /// Knows the twins of every page of the program. `form` outlives the object.
-    explicit TTwinControls(const TForm& form);
+    /// Knows the twins of every page of the program. `context` outlives the object.
+    explicit TTwinControls(TPageContext& context);
 
-    /// A user's change of `control` was recorded: its twins follow on the pages that are loaded, and record it too, so
+    /// The user's change of `control` was recorded: its twins follow on the pages that are loaded, and record it too, so
     /// that whichever entry is written last means the same. On a page that is not loaded yet they follow in PageLoaded.
     void Changed(const TControl& control);
 
-    /// The page's loaders have run and show what is stored: changes made to twins since the last Apply come on top.
+    /// The page's loaders have run. What the user did since the last Apply to twins on other pages comes on top; what he
+    /// did on this page itself is gone, should it have been loaded before.
     void PageLoaded(int tag);
 
     /// The changes were written: pages that are loaded from now on show them by themselves.
     void Written() { FChanged.clear(); }
 
   private:
-    void Follow(const TControl& leader, const std::wstring& name);
+    void Follow(const TControl& leader);
+    void FollowOne(const TControl& leader, const std::wstring& name);
 
-    const TForm& FForm;
+    TPageContext& FContext;
     std::vector<TTwin> FTwins;
-    std::set<const TControl*> FChanged;
+    std::set<const TControl*> FChanged;  ///< by the user; followers are not among them
     std::set<int> FLoadedPages;
+    bool FFollowing = false;
 };

@@ -174,13 +174,14 @@ class TComboBox : public TControl {
 /// A field that shows one colour.
 class TColorSwatch : public TControl {
   public:
-    explicit TColorSwatch(std::wstring name) : TControl(TComponentKind::ColorSwatch, std::move(name)) {}
+    TColorSwatch(std::wstring name, TColor color)
+        : TControl(TComponentKind::ColorSwatch, std::move(name)), FColor(color) {}
 
     [[nodiscard]] TColor Color() const { return FColor; }
     void SetColor(TColor color);
 
   private:
-    TColor FColor = 0;
+    TColor FColor;
 };
 
 /// A picture of the program's resources, or one frame of a series of them.

@@ -116,7 +116,11 @@ TControlDesign ComboBox(const wchar_t* name, TItems items) {
     return design;
 }
 
-TControlDesign ColorSwatch(const wchar_t* name) { return Control(TComponentKind::ColorSwatch, name); }
+TControlDesign ColorSwatch(const wchar_t* name, TColor color) {
+    TControlDesign design = Control(TComponentKind::ColorSwatch, name);
+    design.Position = static_cast<int>(color);
+    return design;
+}
 
 TControlDesign Image(const wchar_t* name, const wchar_t* picture, int frames) {
     TControlDesign design = Control(TComponentKind::Image, name);

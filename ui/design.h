@@ -11,6 +11,7 @@
 #include <span>
 
 #include "ui/component.h"
+#include "ui/dialogs.h"
 #include "ui/layout_box.h"
 
 struct TControlDesign;
@@ -31,7 +32,7 @@ struct TControlDesign {
     bool IsPassword = false;
     int Min = 0;
     int Max = 100;
-    int Position = 0;  ///< position, item index, interval, tag or number of frames, as the kind has it
+    int Position = 0;           ///< position, item index, interval, tag, colour or frames, as the kind has it
     int WidthInCharacters = 0;  ///< of an edit; 0 = what the row leaves
     std::vector<std::wstring> Items;
     std::wstring Associate;  ///< of an up-down: the edit it belongs to
@@ -134,7 +135,7 @@ TControlDesign TrackBar(const wchar_t* name, int min, int max, int position);
 using TItems = std::span<const wchar_t* const>;
 TControlDesign ComboBox(const wchar_t* name, TItems items);
 TControlDesign ComboBox(const wchar_t* name, std::initializer_list<const wchar_t*> items);
-TControlDesign ColorSwatch(const wchar_t* name);
+TControlDesign ColorSwatch(const wchar_t* name, TColor color = 0);
 TControlDesign Image(const wchar_t* name, const wchar_t* picture, int frames = 1);
 /// An image that is no icon, of that many dots at 96 per inch.
 TControlDesign Image(const wchar_t* name, const wchar_t* picture, int width, int height);

@@ -40,7 +40,7 @@ std::unique_ptr<TControl> Make(const TControlDesign& design) {
         case TComponentKind::Button:
             return std::make_unique<TButton>(design.Name);
         case TComponentKind::ColorSwatch:
-            return std::make_unique<TColorSwatch>(design.Name);
+            return std::make_unique<TColorSwatch>(design.Name, static_cast<TColor>(design.Position));
         case TComponentKind::Image:
             return std::make_unique<TImage>(design.Name, design.Picture, design.Position, design.PictureWidth,
                                             design.PictureHeight);

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr const wchar_t* kTabs = L"PageControl_Firefox";
+constexpr const wchar_t* kTabs = L"PagFirefox";
 constexpr const wchar_t* kNoFirefoxSheet = L"TabSheet_Firefox_NoFirefox";
 
 TControlDesign CommonSheet() {
@@ -19,7 +19,7 @@ TControlDesign CommonSheet() {
               CheckBox(L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing", L"Do not let text &blink")),
         Group(L"GroupBox_Firefox_Common_ErrorMessage", L"Show error messages in",
               RadioButton(L"Radio_Firefox_Common_ErrorMessage_Windows", L"A &message box"),
-              RadioButton(L"Radio_Firefox_Common_ErrorMessage_WebPage", L"The Web &page")),
+              RadioButton(L"Radio_Firefox_Common_ErrorMessage_WebPage", L"The web &page")),
         Group(L"GroupBox_Firefox_Common_Homepage", L"Home page",
               Row(Label(L"Label_Firefox_Common_Homepage_Address", L"Add&ress:"),
                   Edit(L"Edit_Firefox_Common_Homepage_Address"))),

@@ -33,7 +33,7 @@ TControlDesign CommonSheet() {
               CheckBox(L"Checkbox_UserLogin_Common_Set_ShowShutdown",
                        L"Allow &shutting down without logging on"),
               CheckBox(L"Checkbox_UserLogin_Common_Set_EndTask",
-                       L"&End programs that do not respond when I log off")),
+                       L"When I log off, &end programs that do not respond")),
         Buttons(Button(L"Button_UserLogin_Common_Set_Default", L"&Default").Hidden()));
 }
 

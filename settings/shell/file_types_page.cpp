@@ -18,7 +18,7 @@ TControlDesign MenuOperationSheet() {
         L"TabSheet_FileType_MenuOperation", L"Context Menus",
         Group(L"GroupBox_FileType_MenuOperation_Drive", L"Menu of drives and folders",
               CheckBox(L"Checkbox_FileType_MenuOperation_Drive_OpenDrive", L"Open &Explorer here"),
-              CheckBox(L"Checkbox_FileType_MenuOperation_Drive_OpenCmd", L"Open &Command Prompt here")),
+              CheckBox(L"Checkbox_FileType_MenuOperation_Drive_OpenCmd", L"Open &Cmd here")),
         Group(L"GroupBox_FileType_MenuOperation_FileAndFolder", L"Menu of files and folders",
               CheckBox(L"Checkbox_FileType_MenuOperation_FileAndFolder_SendTo", L"&Send To"),
               CheckBox(L"Checkbox_FileType_MenuOperation_FileAndFolder_CopyTo", L"Copy To &Folder"),

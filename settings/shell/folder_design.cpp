@@ -2,6 +2,11 @@
 
 namespace {
 
+// The colours that Explorer uses as long as none are stored, as 0x00BBGGRR.
+constexpr TColor kCompressedBlue = 0xFF0000;
+constexpr TColor kEncryptedGreen = 0x0D9213;
+constexpr TColor kHotTrackingBlue = 0xCC6600;
+
 TControlDesign ViewSheet() {
     return Sheet(
         L"TabSheet_Folder_View", L"View",
@@ -38,10 +43,10 @@ TControlDesign ListSheet() {
               CheckBox(L"Checkbox_Folder_List_EAndCFileWithColor",
                        L"&Show encrypted or compressed NTFS files in color"),
               Indent(Fields(Row(Label(L"Label_Folder_List_CompressedFile", L"Compressed files:"),
-                                ColorSwatch(L"Ctrbar_Folder_List_CompressedFile_Color"),
+                                ColorSwatch(L"Ctrbar_Folder_List_CompressedFile_Color", kCompressedBlue),
                                 Button(L"Button_Folder_List_CompressedFile_Change", L"C&hange...")),
                             Row(Label(L"Label_Folder_List_EncryptedFile", L"Encrypted files:"),
-                                ColorSwatch(L"Ctrbar_Folder_List_EncryptedFile_Color"),
+                                ColorSwatch(L"Ctrbar_Folder_List_EncryptedFile_Color", kEncryptedGreen),
                                 Button(L"Button_Folder_List_EncryptedFile_Change", L"Chan&ge..."))))),
         Buttons(Button(L"Button_Folder_List_Default", L"&Default")));
 }
@@ -54,10 +59,8 @@ TControlDesign ThumbnailSheet() {
                          Edit(L"Edit_Folder_Thumbnail_Size").Width(4),
                          UpDown(L"UpDown_Folder_Thumbnail_Size", L"Edit_Folder_Thumbnail_Size", 32, 256, 96),
                          Label(L"Label_Folder_Thumbnail_SizeUnit", L"pixels")),
-                     Row(Label(L"Label_Folder_Thumbnail_Quality", L"&Quality:"),
-                         Label(L"Label_Folder_Thumbnail_QualityLow", L"Low"),
-                         TrackBar(L"Trackbar_Folder_Thumbnail_Quality", 0, 100, 90),
-                         Label(L"Label_Folder_Thumbnail_QualityHigh", L"High"))),
+                     Row(Label(L"Label_Folder_Thumbnail_Quality", L"&Quality, low to high:"),
+                         TrackBar(L"Trackbar_Folder_Thumbnail_Quality", 0, 100, 90))),
               CheckBox(L"Checkbox_Folder_Thumbnail_Cache", L"&Cache thumbnails")),
         Buttons(Button(L"Button_Folder_Thumbnail_Default", L"&Default")));
 }
@@ -66,7 +69,7 @@ TControlDesign ChooseSheet() {
     return Sheet(L"TabSheet_Folder_Choose", L"Selection",
                  Group(L"GroupBox_Folder_Choose_Click", L"Single-click to open an item",
                        Row(Label(L"Label_Folder_Choose_Click", L"Color of the item under the pointer:"),
-                           ColorSwatch(L"Ctrbar_Folder_Choose_Click_Color"),
+                           ColorSwatch(L"Ctrbar_Folder_Choose_Click_Color", kHotTrackingBlue),
                            Button(L"Button_Folder_Choose_Click_Change", L"&Change..."))),
                  Group(L"GroupBox_Folder_Choose_AddCheckBox", L"Check boxes",
                        CheckBox(L"Checkbox_Folder_Choose_AddCheckBox", L"&Use check boxes to select items")));

@@ -22,7 +22,7 @@ TControlDesign Design() {
                   Buttons(Button(L"Button_MemoryAndCache_MemoryManage_Default", L"&Default"))),
             Sheet(L"TabSheet_MemoryAndCache_MemoryUse", L"Memory Usage",
                   Group(L"GroupBox_MemoryAndCache_MemoryUse", L"Adjust memory for best performance of",
-                        RadioButton(L"Radio_MemoryAndCache_MemoryUse_System", L"The &system cache"),
+                        RadioButton(L"Radio_MemoryAndCache_MemoryUse_System", L"&System cache"),
                         RadioButton(L"Radio_MemoryAndCache_MemoryUse_Program", L"&Programs")),
                   Buttons(Button(L"Button_MemoryAndCache_MemoryUse_Default", L"&Default")))));
 }

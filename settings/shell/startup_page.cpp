@@ -43,7 +43,7 @@ TControlDesign ExitSheet() {
                 Label(L"Label_Startup_Exit_WaitTime_Unit", L"milliseconds"))),
         Group(L"GroupBox_Startup_Exit_AutoClose", L"When Windows shuts down",
               RadioButton(L"Radio_Startup_Exit_AutoClose_AutoClose",
-                          L"&End programs that do not respond automatically"),
+                          L"Automatically &end programs that do not respond"),
               RadioButton(L"Radio_Startup_Exit_AutoClose_ShowCloseDialog", L"As&k before ending a program")),
         Buttons(Button(L"Button_Startup_Exit_Default", L"&Default")));
 }

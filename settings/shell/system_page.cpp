@@ -34,7 +34,7 @@ TControlDesign CommonSheet() {
                                   Edit(L"Edit_System_Common_Installer_Name")),
                               Row(Label(L"Label_System_Common_Installer_Company", L"&Company:"),
                                   Edit(L"Edit_System_Common_Installer_Company")))),
-                 Buttons(Button(L"Button_System_Common_Set", L"Settings ")));
+                 Buttons(Button(L"Button_System_Common_Set", L"&Settings ")));
 }
 
 TControlDesign CommonDialogSheet() {
@@ -54,11 +54,11 @@ TControlDesign SearchSheet() {
     return Sheet(
         L"TabSheet_System_Search", L"Search",
         Group(L"GroupBox_System_Search_IndexService", L"Indexing Service",
-              CheckBox(L"Checkbox_System_Search_IndexService_Enabled", L"Disable Indexing service.")),
+              CheckBox(L"Checkbox_System_Search_IndexService_Enabled", L"Disable &Indexing service.")),
         Group(L"GroupBox_System_Search_IndexService_ClassicSearch", L"Windows Explorer",
               CheckBox(L"Checkbox_System_Search_IndexService_ClassicSearch_InExplorer",
-                       L"Use classic search in Explorer."),
-              Row(Button(L"Button_System_Search_IndexService_SearchFileType_Type", L"File Type"))),
+                       L"Use classic search in &Explorer."),
+              Row(Button(L"Button_System_Search_IndexService_SearchFileType_Type", L"File &Type"))),
         Buttons(Button(L"Button_System_Search_Default", L"&Default")));
 }
 

@@ -1,5 +1,6 @@
 // The delivered language files against the program: no text without a key, no key without a text.
 #include <algorithm>
+#include <array>
 #include <cwctype>
 #include <fstream>
 #include <map>
@@ -18,32 +19,21 @@ using TTexts = std::map<std::wstring, std::wstring>;
 /// Everything that the walk through the form translates, with its English text.
 TTexts FormTexts(const TForm& form) {
     TTexts texts{{form.Name() + L".Caption", form.Caption()}};
+    const auto add = [&](const std::wstring& list, const std::vector<std::wstring>& items) {
+        for (std::size_t i = 0; i < items.size(); ++i)
+            texts[list + L'[' + std::to_wstring(i) + L"].Caption"] = items[i];
+    };
+    using enum TComponentKind;
     for (const auto& component : form.Components()) {
         const auto& control = static_cast<const TControl&>(*component);
-        switch (component->Kind()) {
-            case TComponentKind::Label:
-            case TComponentKind::Button:
-            case TComponentKind::GroupBox:
-            case TComponentKind::CheckBox:
-            case TComponentKind::RadioButton:
-            case TComponentKind::TabSheet:
-                texts[control.Name() + L".Caption"] = control.Caption();
-                break;
-            case TComponentKind::ComboBox: {
-                const auto& items = static_cast<const TComboBox&>(control).Items();
-                for (std::size_t i = 0; i < items.size(); ++i)
-                    texts[control.Name() + L".Items[" + std::to_wstring(i) + L"].Caption"] = items[i];
-                break;
-            }
-            case TComponentKind::ListView: {
-                const auto& columns = static_cast<const TListView&>(control).Columns();
-                for (std::size_t i = 0; i < columns.size(); ++i)
-                    texts[control.Name() + L".Columns[" + std::to_wstring(i) + L"].Caption"] = columns[i];
-                break;
-            }
-            default:
-                break;
-        }
+        const TComponentKind kind = control.Kind();
+        if (kind == ComboBox)
+            add(control.Name() + L".Items", static_cast<const TComboBox&>(control).Items());
+        else if (kind == ListView)
+            add(control.Name() + L".Columns", static_cast<const TListView&>(control).Columns());
+        else if (std::ranges::count(std::array{Label, Button, GroupBox, CheckBox, RadioButton, TabSheet},
+                                    kind) > 0)
+            texts[control.Name() + L".Caption"] = control.Caption();
     }
     return texts;
 }
@@ -53,12 +43,6 @@ TTexts FolderFormTexts(const TForm& form) {
     TTexts texts = FormTexts(form);
     texts.erase(L"TabSheet_Folder_Desktop.Caption");
     texts.erase(L"TabSheet_Folder_Drivers.Caption");
-    return texts;
-}
-
-TTexts CaptionTexts() {
-    TTexts texts;
-    for (const TCaptionKey& key : kCaptionKeys) texts[key.Key] = key.English;
     return texts;
 }
 
@@ -78,10 +62,9 @@ void ExpectKeys(const TExtIniFile& ini, const wchar_t* section, const TTexts& te
     for (const auto& [key, text] : texts) {
         EXPECT_EQ(std::ranges::count(keys, key), 1) << "missing or twice: " << testing::PrintToString(key);
         const std::wstring translated = ini.ReadString(section, key, L"");
-        if (sameTexts)
-            EXPECT_EQ(translated, Trim(text)) << "blanks around a value are not read";
-        else
-            EXPECT_FALSE(translated.empty()) << testing::PrintToString(key);
+        // Blanks around a value are not read.
+        EXPECT_TRUE(sameTexts ? translated == Trim(text) : !translated.empty())
+            << testing::PrintToString(key);
     }
     for (const std::wstring& key : keys)
         EXPECT_TRUE(texts.contains(key)) << "dead: " << testing::PrintToString(key);
@@ -90,6 +73,8 @@ void ExpectKeys(const TExtIniFile& ini, const wchar_t* section, const TTexts& te
 TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
     TFakeSystem fake;
     const TQuilltune_FormMain window(fake.System);
+    TTexts captions;
+    for (const TCaptionKey& key : kCaptionKeys) captions[key.Key] = key.English;
     const TLanguage none(fake.System, L"Scanner");
     const TQuilltune_FormFolder dialog(window.Context(), none);
     for (const char* language : {"English", "German"}) {
@@ -98,7 +83,7 @@ TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
         const TExtIniFile ini = LoadDelivered(language);
         ExpectKeys(ini, L"Scanner_Quilltune_FormMain", FormTexts(window), english);
         ExpectKeys(ini, L"Scanner_Quilltune_FormFolder", FolderFormTexts(dialog), english);
-        ExpectKeys(ini, L"Quilltune_M", CaptionTexts(), english);
+        ExpectKeys(ini, L"Quilltune_M", captions, english);
         EXPECT_EQ(ini.ReadSections(),
                   (std::vector<std::wstring>{L"Main", L"Scanner_Quilltune_FormMain", L"Quilltune_M",
                                              L"Scanner_Quilltune_FormFolder"}));

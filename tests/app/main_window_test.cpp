@@ -13,7 +13,9 @@ constexpr const wchar_t* kLastAccess = L"Checkbox_Drives_Common_NTFS_SaveLastVis
 constexpr const wchar_t* kUdma = L"Checkbox_Drives_Common_Enable";
 constexpr const wchar_t* kBlink = L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing";
 constexpr const wchar_t* kDriverItem = L"RzGroup_Communication.Items[3]";
-constexpr const wchar_t* kFileSystem = L"System\\CurrentControlSet\\Control\\FileSystem";
+const TRegistryPlace kLastAccessValue{TRootKey::LocalMachine,
+                                      L"System\\CurrentControlSet\\Control\\FileSystem",
+                                      L"NtfsDisableLastAccessUpdate"};
 
 class TMainWindow : public testing::Test {
   protected:
@@ -41,8 +43,7 @@ class TMainWindow : public testing::Test {
     void Toggle(const wchar_t* box) { Get<TCheckBox>(box).SetChecked(!Get<TCheckBox>(box).Checked()); }
     bool Enabled(const wchar_t* name) { return Window->Find(name)->Enabled(); }
     std::optional<std::int32_t> LastAccess() const {
-        const TRegistryData* data =
-            Fake.Registry.Find({TRootKey::LocalMachine, kFileSystem, L"NtfsDisableLastAccessUpdate"});
+        const TRegistryData* data = Fake.Registry.Find(kLastAccessValue);
         return data == nullptr ? std::nullopt : std::optional(std::get<std::int32_t>(data->Value));
     }
     /// The marks that the pages set, which later pages reach through their own context.
@@ -63,12 +64,14 @@ TEST_F(TMainWindow, OpensWithTheGeneralSettingsAndNothingToApply) {
     Window->Show();
     for (const wchar_t* button : {L"Button_OK", L"Button_Cancel", L"Button_Apply"})
         EXPECT_FALSE(Enabled(button));
-    EXPECT_TRUE(Window->Find(L"Panel_Loading")->Visible());
-
-    Tick(L"Timer_Loading");
-    EXPECT_EQ(Get<TImage>(L"ImageNote_Animate").Frame(), 1);
-    EXPECT_EQ(Window->Find(L"Label_Wait")->Caption(), L"Loading system settings..");
-    EXPECT_TRUE(Window->Find(L"Panel_Loading")->Visible()) << "not before the first page is loaded";
+    // The animation has seven frames, and goes on until the first page is loaded.
+    for (const auto& [ticks, frame, text] :
+         {std::tuple(1, 1, L"Loading system settings.."), std::tuple(6, 0, L"Loading system settings.")}) {
+        for (int i = 0; i < ticks; ++i) Tick(L"Timer_Loading");
+        EXPECT_EQ(Get<TImage>(L"ImageNote_Animate").Frame(), frame);
+        EXPECT_EQ(Window->Find(L"Label_Wait")->Caption(), text);
+        EXPECT_TRUE(Window->Find(L"Panel_Loading")->Visible());
+    }
 
     Tick(L"Timer_Click");
     EXPECT_EQ(Get<TNotebook>(L"Notebook_Main").ActivePage()->Name(), L"19");
@@ -76,53 +79,34 @@ TEST_F(TMainWindow, OpensWithTheGeneralSettingsAndNothingToApply) {
     Tick(L"Timer_Click");  // runs once
     Tick(L"Timer_Loading");
     EXPECT_FALSE(Window->Find(L"Panel_Loading")->Visible());
-    EXPECT_TRUE(Enabled(L"Button_OK"));
-    EXPECT_TRUE(Enabled(L"Button_Cancel"));
-    EXPECT_FALSE(Enabled(L"Button_Apply"));
-    EXPECT_FALSE(Enabled(L"Timer_Loading"));
-}
-
-TEST_F(TMainWindow, TheAnimationHasSevenFrames) {
-    Create(6, 1);
-    Window->Show();
-    for (int i = 0; i < 7; ++i) Tick(L"Timer_Loading");
-    EXPECT_EQ(Get<TImage>(L"ImageNote_Animate").Frame(), 0);
-    EXPECT_EQ(Window->Find(L"Label_Wait")->Caption(), L"Loading system settings.");
+    EXPECT_TRUE(Enabled(L"Button_OK") && Enabled(L"Button_Cancel"));
+    EXPECT_FALSE(Enabled(L"Button_Apply") || Enabled(L"Timer_Loading"));
 }
 
 TEST_F(TMainWindow, KnowsTheWindowsLevel) {
-    struct TCase {
-        std::uint32_t Major;
-        std::uint32_t Minor;
-        int Level;
-    };
-    for (const TCase& c :
-         {TCase{5, 0, 4}, {5, 1, 5}, {5, 2, 0}, {6, 0, 6}, {6, 1, 7}, {6, 2, 0}, {10, 0, 0}}) {
-        Create(c.Major, c.Minor);
-        EXPECT_EQ(Window->Context().WindowsLevel, c.Level);
-        EXPECT_EQ(Window->Find(L"RzGroup_Use.Items[1]")->Visible(), c.Level >= 5);
+    // The numbers of other versions than these are the name's business.
+    for (const auto& [minor, level] : {std::pair(0u, 4), {1u, 5}, {2u, 0}}) {
+        Create(5, minor);
+        EXPECT_EQ(Window->Context().WindowsLevel, level);
+        EXPECT_EQ(Window->Find(L"RzGroup_Use.Items[1]")->Visible(), level >= 5);
     }
 }
 
 TEST_F(TMainWindow, TheSelectedItemHasItsOwnColor) {
     Open();
-    auto& general = Get<TCategoryItem>(L"RzGroup_CommonSettings.Items[0]");
-    auto& driver = Get<TCategoryItem>(kDriverItem);
-    EXPECT_EQ(general.Color(), 0xC65D21u);
-    EXPECT_EQ(driver.Color(), 0xC56A31u);
-    EXPECT_EQ(Get<TCategoryItem>(L"RzGroup_Others.Items[0]").Color(), 0xC56A31u);
-    Click(kDriverItem);
-    Click(kDriverItem);
-    EXPECT_EQ(general.Color(), 0xC56A31u);
-    EXPECT_FALSE(general.Selected());
-    EXPECT_EQ(driver.Color(), 0xC65D21u);
-    EXPECT_TRUE(driver.Selected());
+    const wchar_t* items[] = {L"RzGroup_CommonSettings.Items[0]", kDriverItem, L"RzGroup_Others.Items[0]"};
+    for (const wchar_t* chosen : {items[0], items[1], items[1]}) {
+        Click(chosen);
+        for (const wchar_t* each : items) {
+            EXPECT_EQ(Get<TCategoryItem>(each).Selected(), each == chosen);
+            EXPECT_EQ(Get<TCategoryItem>(each).Color(), each == chosen ? 0xC65D21u : 0xC56A31u);
+        }
+    }
     EXPECT_EQ(Get<TNotebook>(L"Notebook_Main").ActivePage()->Name(), L"14");
 }
 
 TEST_F(TMainWindow, APageIsLoadedOnItsFirstVisitOnly) {
-    Fake.Registry.Put({TRootKey::LocalMachine, kFileSystem, L"NtfsDisableLastAccessUpdate"},
-                      {TRegDataType::Dword, 1});
+    Fake.Registry.Put(kLastAccessValue, {TRegDataType::Dword, 1});
     Open();
     Click(kDriverItem);
     EXPECT_FALSE(Get<TCheckBox>(kLastAccess).Checked());
@@ -133,31 +117,23 @@ TEST_F(TMainWindow, APageIsLoadedOnItsFirstVisitOnly) {
     EXPECT_TRUE(Get<TCheckBox>(kLastAccess).Checked()) << "the user's change is still there";
 }
 
-TEST_F(TMainWindow, ApplyWritesAndCancelDoesNot) {
-    Open();
-    Click(kDriverItem);
-    Toggle(kLastAccess);
-    EXPECT_TRUE(Enabled(L"Button_Apply"));
-    EXPECT_EQ(LastAccess(), std::nullopt);
-    Press(L"Button_Apply");
-    EXPECT_EQ(LastAccess(), 1);
-    EXPECT_FALSE(Enabled(L"Button_Apply"));
-    EXPECT_EQ(Fake.Shell.Notifications(), (std::vector<TShellNotification>{{0x7FFFFFFF, 0x1000}}));
+TEST_F(TMainWindow, ApplyAndOkWriteAndOkAndCancelClose) {
+    for (const wchar_t* button : {L"Button_Apply", L"Button_OK", L"Button_Cancel"}) {
+        SCOPED_TRACE(testing::PrintToString(std::wstring(button)));
+        (void)Fake.Registry.DeleteValue(kLastAccessValue);
+        Open();
+        Click(kDriverItem);
+        Toggle(kLastAccess);
+        EXPECT_TRUE(Enabled(L"Button_Apply"));
+        EXPECT_EQ(LastAccess(), std::nullopt);
+        Press(button);
+        EXPECT_EQ(Window->Closed(), button != std::wstring(L"Button_Apply"));
+        const bool writes = button != std::wstring(L"Button_Cancel");
+        EXPECT_EQ(Enabled(L"Button_Apply"), !writes);
+        EXPECT_EQ(LastAccess(), writes ? std::optional(1) : std::nullopt);
+    }
+    EXPECT_EQ(Fake.Shell.Notifications(), (std::vector<TShellNotification>(2, {0x7FFFFFFF, 0x1000})));
     EXPECT_TRUE(Fake.Dialogs.Questions().empty());
-
-    Toggle(kLastAccess);
-    Press(L"Button_Cancel");
-    EXPECT_EQ(LastAccess(), 1);
-    EXPECT_TRUE(Window->Closed());
-}
-
-TEST_F(TMainWindow, OkAppliesAndCloses) {
-    Open();
-    Click(kDriverItem);
-    Toggle(kLastAccess);
-    Press(L"Button_OK");
-    EXPECT_EQ(LastAccess(), 1);
-    EXPECT_TRUE(Window->Closed());
 }
 
 TEST_F(TMainWindow, AsksForARestartOnceForEachChangeThatNeedsIt) {
@@ -189,20 +165,17 @@ TEST_F(TMainWindow, ApplySwitchesServicesAndTellsTheShellOfAssociations) {
         Marks().SecurityCenterAction = TServiceAction::Disable;
         Marks().FirewallAction = TServiceAction::Enable;
         Marks().AssociationsChanged = true;
+        Fake.Services.Calls.clear();
         Apply();
         Apply();
+        EXPECT_EQ(Fake.Services.Service(L"wscsvc").StartType, TServiceStartType::Disabled);
+        EXPECT_EQ(Fake.Services.Service(L"MpsSvc").State,
+                  vista ? TServiceState::Running : TServiceState::Stopped)
+            << "on XP the firewall is left alone";
+        EXPECT_EQ(std::ranges::count(Fake.Services.Calls, "manager F003F"), vista ? 2 : 1) << "once each";
+        EXPECT_EQ(std::ranges::count(Fake.Shell.Notifications(), TShellNotification{0x08000000, 0}),
+                  vista ? 2 : 1);
     }
-    EXPECT_EQ(Fake.Services.Service(L"wscsvc").StartType, TServiceStartType::Disabled);
-    EXPECT_EQ(Fake.Services.Service(L"wscsvc").State, TServiceState::Stopped);
-    EXPECT_EQ(Fake.Services.Service(L"MpsSvc").State, TServiceState::Running);
-    const auto& log = Fake.Services.Log();
-    EXPECT_EQ(std::ranges::count_if(log, [](const auto& e) { return e.Call == TServiceCall::Start; }), 1)
-        << "on XP the firewall is left alone";
-    EXPECT_EQ(
-        std::ranges::count_if(log, [](const auto& e) { return e.Call == TServiceCall::ChangeStartType; }), 3);
-    EXPECT_EQ(Fake.Services.OpenHandles(), 0u);
-    const auto associations = TShellNotification{0x08000000, 0};
-    EXPECT_EQ(std::ranges::count(Fake.Shell.Notifications(), associations), 2);
 }
 
 TEST_F(TMainWindow, SavesFirefoxPreferencesOnlyWhenTheyWereLoadedAndChanged) {
@@ -221,6 +194,9 @@ TEST_F(TMainWindow, SavesFirefoxPreferencesOnlyWhenTheyWereLoadedAndChanged) {
     EXPECT_TRUE(Fake.Files.Replaced().empty()) << "no page said that something changed";
 
     Marks().FirefoxChanged = true;
+    Fake.Files.FailReplace(1);
+    EXPECT_THROW(Apply(), std::runtime_error);
+    EXPECT_TRUE(Enabled(L"Button_Apply"));
     Apply();
     EXPECT_EQ(Fake.Files.Text(userFile), "user_pref(\"b\", 2);\r\n");
     const TQuestion message{L"Quilltune", L"Need to restart Firefox to take effect.", TMessageButtons::Ok,
@@ -268,26 +244,26 @@ TEST_F(TMainWindow, APageOpenedWhileAnotherLoadsDoesNotEndItsLoading) {
 }
 
 TEST_F(TMainWindow, SpeaksTheLanguageOfTheSuite) {
-    constexpr const wchar_t* kFolder = L"C:\\Program Files\\Quilltune\\Toolbox_Language\\";
-    Fake.Files.PutText(kFolder + std::wstring(L"English.lng"), "[Main]\nDisplayName=English\n");
+    const std::wstring folder = L"C:\\Program Files\\Quilltune\\Toolbox_Language\\";
+    Fake.Files.PutText(folder + L"English.lng", "[Main]\nDisplayName=English\n");
     Fake.Files.PutText(
-        kFolder + std::wstring(L"Test.lng"),
+        folder + L"Test.lng",
         "[Quilltune_M]\nD_SystemDriver=Drives!\nD_System=System!\nD_RestartWindows=Restart?\n"
         "[Scanner_Quilltune_FormMain]\nQuilltune_FormMain.Caption=Title\nButton_Apply.Caption=Do it\n");
     Fake.Files.PutText(L"C:\\Users\\Me\\AppData\\Vandrel\\Orbicare V4\\Main.ini", "[Main]\nLanguage=TEST\n");
     Open();
+    // The last item is hidden, and keeps its own.
+    for (const auto& [name, caption] : {std::pair(L"Button_Apply", L"Do it"),
+                                        {L"RzGroup_Communication", L"System!"},
+                                        {kDriverItem, L"Drives!"},
+                                        {L"RzGroup_Communication.Items[4]", L"Memory and Cache"},
+                                        {L"RzGroup_Communication.Items[5]", L"Opera"}})
+        EXPECT_EQ(Window->Find(name)->Caption(), caption);
     EXPECT_EQ(Window->Caption(), L"Title");
-    EXPECT_EQ(Window->Find(L"Button_Apply")->Caption(), L"Do it");
-    EXPECT_EQ(Window->Find(L"RzGroup_Communication")->Caption(), L"System!");
-    EXPECT_EQ(Window->Find(kDriverItem)->Caption(), L"Drives!");
-    EXPECT_EQ(Window->Find(L"RzGroup_Communication.Items[4]")->Caption(), L"Memory and Cache");
-    EXPECT_EQ(Window->Find(L"RzGroup_Communication.Items[5]")->Caption(), L"Opera")
-        << "hidden items keep theirs";
     Marks().RestartNeeded = true;
     Apply();
-    ASSERT_EQ(Fake.Dialogs.Questions().size(), 1u);
-    EXPECT_EQ(Fake.Dialogs.Questions()[0].Title, L"Title");
-    EXPECT_EQ(Fake.Dialogs.Questions()[0].Text, L"Restart?");
+    EXPECT_EQ(Fake.Dialogs.Questions().at(0).Title, L"Title");
+    EXPECT_EQ(Fake.Dialogs.Questions().at(0).Text, L"Restart?");
 }
 
 }  // namespace

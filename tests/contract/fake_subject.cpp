@@ -13,12 +13,12 @@ TContractTest::TContractTest() : FSubject(std::make_unique<TSubject>()) {
     fakes.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Users\\tester\\AppData\\Roaming");
     fakes.Shell.PutFolder(TSpecialFolder::CommonAppData, L"C:\\ProgramData");
     fakes.Services.Put(InstalledService(), {.State = TServiceState::Running});
-    std::vector<std::uint8_t> fixedInfo = {0xBD, 0x04, 0xEF, 0xFE};
-    fixedInfo.resize(52);
-    fakes.Windows.PutVersionResource(
-        VersionedFile(),
-        {.Texts = {{L"\\StringFileInfo\\040904B0\\FileVersion", L"1.2.3.4"}},
-         .Blocks = {{L"\\", fixedInfo}, {L"\\VarFileInfo\\Translation", {0x09, 0x04, 0xB0, 0x04}}}});
+    TFakeVersionResource resource;
+    resource.Texts[L"\\StringFileInfo\\040904B0\\FileVersion"] = L"1.2.3.4";
+    resource.Blocks[L"\\"] = {0xBD, 0x04, 0xEF, 0xFE};
+    resource.Blocks[L"\\"].resize(52);
+    resource.Blocks[L"\\VarFileInfo\\Translation"] = {0x09, 0x04, 0xB0, 0x04};
+    fakes.Windows.PutVersionResource(VersionedFile(), resource);
     fakes.Parameters.RefuseAction(0x7FFF);                           // no action of Windows
     fakes.Parameters.PutNumber(1, 1);                                // SPI_GETBEEP
     fakes.Parameters.Pair(2, 1, Param);                              // SPI_SETBEEP

@@ -8,8 +8,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
-using TBytesOfFile = std::vector<std::uint8_t>;
-
 class TFilesContract : public TContractTest {
   protected:
     TFiles& Files() { return System().Files; }
@@ -20,10 +18,9 @@ class TFilesContract : public TContractTest {
 };
 
 TEST_F(TFilesContract, ReplaceCreatesAndOverwritesWhole) {
-    TBytesOfFile large(1'000'000);
+    TBytes large(1'000'000);
     for (std::size_t i = 0; i < large.size(); ++i) large[i] = static_cast<std::uint8_t>(i * 7 + i / 256);
-    for (const TBytesOfFile& bytes :
-         {TBytesOfFile{0, 13, 10, 26, 255}, large, TBytesOfFile{}, TBytesOfFile{1}}) {
+    for (const TBytes& bytes : {TBytes{0, 13, 10, 26, 255}, large, TBytes{}, TBytes{1}}) {
         ASSERT_TRUE(Files().Replace(Path(L"File \u03C0.dat"), bytes));
         EXPECT_EQ(Files().Read(Path(L"File \u03C0.dat")), bytes);
         EXPECT_TRUE(Files().Exists(Path(L"FILE \u03C0.DAT")));
@@ -59,30 +56,23 @@ TEST_F(TFilesContract, ListTakesThePatternAtItsWord) {
 
 TEST_F(TFilesContract, ProfileStrings) {
     Put(L"profiles.ini",
-        "Before=any section\r\n"
-        "[General]\r\nStartWithLastProfile=1\r\n\r\n"
-        "[Profile0]\r\nName=default\n Path = Profiles/ab c.default \r\nQuoted=\" x "
-        "\"\r\nEmpty=\r\nName=second\r\n"
-        "[Profile1]\r\nName=other=one");
-    const struct {
-        const wchar_t* Section;
-        const wchar_t* Key;
-        const wchar_t* Value;
-    } cases[] = {
+        "Before=any section\r\n[General]\r\nStartWithLastProfile=1\r\n\r\n[Profile0]\r\nName=default\n"
+        " Path = Profiles/ab c.default \r\nQuoted=\" x "
+        "\"\r\nEmpty=\r\nName=second\r\n[Profile1]\r\nName=a=b");
+    const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {
         {L"General", L"StartWithLastProfile", L"1"},
         {L"PROFILE0", L"name", L"default"},  // the first of its name counts
         {L"Profile0", L"Path", L"Profiles/ab c.default"},
         {L"Profile0", L"Quoted", L" x "},
         {L"Profile0", L"Empty", L""},
-        {L"Profile1", L"Name", L"other=one"},
+        {L"Profile1", L"Name", L"a=b"},
         {L"Profile1", L"Path", L"fallback"},
         {L"Profile2", L"Name", L"fallback"},
         {L"General", L"Before", L"fallback"},
     };
-    for (const auto& each : cases)
-        EXPECT_EQ(Files().ProfileString(Path(L"profiles.ini"), each.Section, each.Key, L"fallback"),
-                  each.Value)
-            << each.Section << L"." << each.Key;
+    for (const auto& [section, key, value] : cases)
+        EXPECT_EQ(Files().ProfileString(Path(L"profiles.ini"), section, key, L"fallback"), value)
+            << section << key;
     EXPECT_EQ(Files().ProfileString(Path(L"none.ini"), L"General", L"x", L""), L"");
 }
 

@@ -15,11 +15,17 @@ class TRegistryContract : public TContractTest {
     TRegistry& Registry() { return System().Registry; }
 
     /// A place below the test's key of the user.
-    static TRegistryPlace Place(const std::wstring& key, const std::wstring& valueName) {
+    static TRegistryPlace Place(const std::wstring& key, const std::wstring& valueName = {}) {
         return {kUserKey.Root, kUserKey.Path + key, valueName};
     }
     void Put(const std::wstring& key, const std::wstring& valueName, const TRegistryData& data) {
         ASSERT_EQ(Registry().Write(Place(key, valueName), data), TWriteStatus::Done);
+    }
+    TWriteStatus Delete(const std::wstring& key) {
+        return Registry().DeleteKey(kUserKey.Root, kUserKey.Path + key);
+    }
+    std::vector<std::wstring> Keys(const std::wstring& key = {}) {
+        return Registry().SubKeys(kUserKey.Root, kUserKey.Path + key);
     }
     /// What is stored there; of type Unknown when there is nothing.
     TRegistryData Get(const TRegistryPlace& place) {
@@ -37,7 +43,6 @@ TEST_F(TRegistryContract, EveryTypeRoundTrips) {
         {TRegDataType::String, std::wstring(100'000, L'x')},
         {TRegDataType::ExpandString, L"%SystemRoot%\\x"},
         Number(0),
-        Number(-1),
         Number(INT32_MIN),
         Number(INT32_MAX),
         {TRegDataType::Binary, TBytes{}},
@@ -45,63 +50,55 @@ TEST_F(TRegistryContract, EveryTypeRoundTrips) {
     };
     for (const TContractKey& key : kContractKeys) {
         for (const wchar_t* name : {L"", L"Value name"}) {
-            const TRegistryPlace place{key.Root, key.Path, name};
             // One over the other: the new type counts, nothing of a longer old value stays.
             for (const TRegistryData& data : values) {
-                ASSERT_EQ(Registry().Write(place, data), TWriteStatus::Done);
-                TRegistryData stored;
-                ASSERT_EQ(Registry().Read(place, stored), TReadStatus::Found);
-                EXPECT_EQ(stored, data) << key.Path << " type " << static_cast<int>(data.Type);
+                ASSERT_EQ(Registry().Write({key.Root, key.Path, name}, data), TWriteStatus::Done);
+                EXPECT_EQ(Get({key.Root, key.Path, name}), data)
+                    << key.Path << " type " << static_cast<int>(data.Type);
             }
         }
     }
-}
-
-TEST_F(TRegistryContract, TextEndsAtItsFirstNul) {
     Put(L"", L"v", {TRegDataType::String, std::wstring(L"front\0back", 10)});
-    EXPECT_EQ(Get(Place(L"", L"v")), Text(L"front"));
+    EXPECT_EQ(Get(Place(L"", L"v")), Text(L"front")) << "text ends at its first NUL";
 }
 
 TEST_F(TRegistryContract, WhatIsMissingIsToldApartAndLeavesTheOutput) {
+    using enum TReadStatus;
     Put(L"\\Key", L"There", Number(1));
+    Put(L"\\Empty", L"v", {});  // creates the key alone
     const struct {
         TRegistryPlace Place;
         TReadStatus Read;
         TReadStatus Check;
     } cases[] = {
-        {Place(L"\\None", L"There"), TReadStatus::KeyUnavailable, TReadStatus::KeyUnavailable},
-        {Place(L"\\None", L""), TReadStatus::KeyUnavailable, TReadStatus::KeyUnavailable},
-        {Place(L"\\Key", L"None"), TReadStatus::ValueMissing, TReadStatus::ValueMissing},
-        {Place(L"\\Key", L""), TReadStatus::ValueMissing, TReadStatus::Found},
-        {Place(L"\\Key", L"There"), TReadStatus::Found, TReadStatus::Found},
+        {Place(L"\\None", L"There"), KeyUnavailable, KeyUnavailable},
+        {Place(L"\\None"), KeyUnavailable, KeyUnavailable},
+        {Place(L"\\Key", L"None"), ValueMissing, ValueMissing},
+        {Place(L"\\Key"), ValueMissing, Found},
+        {Place(L"\\Key", L"There"), Found, Found},
+        {Place(L"\\Empty", L"v"), ValueMissing, ValueMissing},
     };
     for (const auto& each : cases) {
         TRegistryData data = Text(L"before");
         EXPECT_EQ(Registry().Read(each.Place, data), each.Read) << each.Place.Key << each.Place.ValueName;
-        EXPECT_EQ(data, each.Read == TReadStatus::Found ? Number(1) : Text(L"before"));
-        EXPECT_EQ(Registry().Check(each.Place, TRegistryView::Native), each.Check);
-        EXPECT_EQ(Registry().Check(each.Place, TRegistryView::Process), each.Check);
+        EXPECT_EQ(data, each.Read == Found ? Number(1) : Text(L"before"));
+        for (const TRegistryView view : {TRegistryView::Native, TRegistryView::Process})
+            EXPECT_EQ(Registry().Check(each.Place, view), each.Check);
     }
-    // Reading creates nothing.
-    EXPECT_THAT(Registry().SubKeys(kUserKey.Root, kUserKey.Path), UnorderedElementsAre(L"Key"));
-}
-
-TEST_F(TRegistryContract, UnknownTypeCreatesTheKeyAlone) {
-    Put(L"\\Empty", L"v", {});
-    EXPECT_EQ(Registry().Check(Place(L"\\Empty", L""), TRegistryView::Native), TReadStatus::Found);
-    EXPECT_EQ(Registry().Check(Place(L"\\Empty", L"v"), TRegistryView::Native), TReadStatus::ValueMissing);
+    EXPECT_THAT(Keys(), UnorderedElementsAre(L"Key", L"Empty")) << "reading creates nothing";
 }
 
 TEST_F(TRegistryContract, DataThatDoesNotFitItsTypeIsRefused) {
+    using enum TRegDataType;
     const TRegistryData wrong[] = {
-        {TRegDataType::String, 1},
-        {TRegDataType::String, {}},
-        {TRegDataType::ExpandString, TBytes{1}},
-        {TRegDataType::Dword, L"1"},
-        {TRegDataType::Dword, TBytes{1, 0, 0, 0}},
-        {TRegDataType::Dword, {}},
-        {TRegDataType::Binary, L"bytes"},
-        {TRegDataType::Binary, 1},
+        {String, 1},
+        {String, {}},
+        {ExpandString, TBytes{1}},
+        {Dword, L"1"},
+        {Dword, TBytes{1, 0, 0, 0}},
+        {Dword, {}},
+        {Binary, L"b"},
+        {Binary, 1},
     };
     Put(L"", L"v", Number(7));
     for (const TRegistryData& data : wrong)
@@ -109,74 +106,54 @@ TEST_F(TRegistryContract, DataThatDoesNotFitItsTypeIsRefused) {
     EXPECT_EQ(Get(Place(L"", L"v")), Number(7));
 }
 
-TEST_F(TRegistryContract, CaseDoesNotMatterAndSpellingStays) {
-    Put(L"\\Spelt", L"Value", Number(1));
-    Put(L"\\SPELT", L"VALUE", Number(2));
-    EXPECT_EQ(Get(Place(L"\\spelt", L"value")), Number(2));
-    EXPECT_THAT(Registry().SubKeys(kUserKey.Root, kUserKey.Path), UnorderedElementsAre(L"Spelt"));
-    EXPECT_EQ(Registry().DeleteValue(Place(L"\\spelt", L"vALUE")), TWriteStatus::Done);
-    EXPECT_EQ(Registry().Check(Place(L"\\Spelt", L"Value"), TRegistryView::Native),
-              TReadStatus::ValueMissing);
-    EXPECT_EQ(Registry().DeleteKey(kUserKey.Root, kUserKey.Path + std::wstring(L"\\sPELT")),
-              TWriteStatus::Done);
-    EXPECT_THAT(Registry().SubKeys(kUserKey.Root, kUserKey.Path), IsEmpty());
-}
-
-TEST_F(TRegistryContract, SurplusBackslashesDoNotMatter) {
+TEST_F(TRegistryContract, CaseAndSurplusBackslashesDoNotMatterAndSpellingStays) {
     const std::wstring bare = std::wstring(kUserKey.Path).substr(1);
-    Put(L"\\Key", L"v", Number(1));
+    Put(L"\\Spelt", L"Value", Number(1));
+    std::int32_t number = 1;
     for (const std::wstring& key :
-         {bare + L"\\Key", L"\\" + bare + L"\\Key\\", L"\\\\" + bare + L"\\\\Key\\\\"}) {
-        EXPECT_EQ(Get({kUserKey.Root, key, L"v"}), Number(1)) << key;
-        EXPECT_EQ(Registry().Write({kUserKey.Root, key, L"v"}, Number(1)), TWriteStatus::Done) << key;
-        EXPECT_EQ(Registry().Check({kUserKey.Root, key, L""}, TRegistryView::Process), TReadStatus::Found)
-            << key;
+         {bare + L"\\SPELT", L"\\" + bare + L"\\spelt\\", L"\\\\" + bare + L"\\\\Spelt\\\\"}) {
+        const TRegistryPlace place{kUserKey.Root, key, L"vALUE"};
+        EXPECT_EQ(Get(place), Number(number)) << key;
+        EXPECT_EQ(Registry().Write(place, Number(++number)), TWriteStatus::Done) << key;
+        EXPECT_EQ(Registry().Check(place, TRegistryView::Process), TReadStatus::Found) << key;
     }
-    EXPECT_THAT(Registry().SubKeys(kUserKey.Root, L"\\" + bare + L"\\"), UnorderedElementsAre(L"Key"));
-    EXPECT_EQ(Registry().DeleteKey(kUserKey.Root, L"\\" + bare + L"\\Key\\"), TWriteStatus::Done);
-    EXPECT_THAT(Registry().SubKeys(kUserKey.Root, bare), IsEmpty());
+    EXPECT_THAT(Registry().SubKeys(kUserKey.Root, L"\\" + bare + L"\\"), UnorderedElementsAre(L"Spelt"));
+    EXPECT_EQ(Registry().DeleteValue(Place(L"\\spelt", L"vALUE")), TWriteStatus::Done);
+    EXPECT_EQ(Get(Place(L"\\Spelt", L"Value")), TRegistryData{});
+    EXPECT_EQ(Registry().DeleteKey(kUserKey.Root, L"\\" + bare + L"\\sPELT\\"), TWriteStatus::Done);
+    EXPECT_THAT(Keys(), IsEmpty());
 }
 
 TEST_F(TRegistryContract, DeletingAValueLeavesTheOthers) {
     Put(L"", L"", Text(L"default"));
     Put(L"", L"a", Number(1));
     Put(L"", L"b", Number(2));
-    for (const wchar_t* name : {L"", L"a", L"a", L"never there"})
+    for (const wchar_t* name : {L"", L"a", L"a", L"never there"}) {
         EXPECT_EQ(Registry().DeleteValue(Place(L"", name)), TWriteStatus::Done) << name;
-    TRegistryData data;
-    EXPECT_EQ(Registry().Read(Place(L"", L""), data), TReadStatus::ValueMissing);
-    EXPECT_EQ(Registry().Read(Place(L"", L"a"), data), TReadStatus::ValueMissing);
+        EXPECT_EQ(Get(Place(L"", name)), TRegistryData{});
+    }
     EXPECT_EQ(Get(Place(L"", L"b")), Number(2));
     EXPECT_EQ(Registry().DeleteValue(Place(L"\\None", L"b")), TWriteStatus::KeyUnavailable);
 }
 
 TEST_F(TRegistryContract, DeletingAKeyTakesWhatIsBelowAndNothingElse) {
-    const std::wstring path = kUserKey.Path;
     Put(L"", L"v", Number(1));
     Put(L"\\Key", L"v", Number(2));
-    Put(L"\\Key\\A", L"", Text(L"a"));
     Put(L"\\Key\\A\\Deep\\Deeper", L"v", Number(3));
     Put(L"\\Key\\B", L"v", Number(4));
     Put(L"\\Key2", L"v", Number(5));
-    EXPECT_THAT(Registry().SubKeys(kUserKey.Root, path + L"\\Key"), UnorderedElementsAre(L"A", L"B"));
-
-    EXPECT_EQ(Registry().DeleteKey(kUserKey.Root, path + L"\\Key"), TWriteStatus::Done);
-    EXPECT_EQ(Registry().DeleteKey(kUserKey.Root, path + L"\\Key"), TWriteStatus::KeyUnavailable);
-    EXPECT_EQ(Registry().Check(Place(L"\\Key\\A\\Deep", L""), TRegistryView::Native),
-              TReadStatus::KeyUnavailable);
-    EXPECT_THAT(Registry().SubKeys(kUserKey.Root, path), UnorderedElementsAre(L"Key2"));
+    EXPECT_THAT(Keys(L"\\Key"), UnorderedElementsAre(L"A", L"B"));
+    EXPECT_EQ(Delete(L"\\Key"), TWriteStatus::Done);
+    EXPECT_EQ(Delete(L"\\Key"), TWriteStatus::KeyUnavailable);
+    EXPECT_EQ(Registry().Check(Place(L"\\Key\\A\\Deep"), TRegistryView::Native), TReadStatus::KeyUnavailable);
+    EXPECT_THAT(Keys(L"\\Key"), IsEmpty());
+    EXPECT_THAT(Keys(), UnorderedElementsAre(L"Key2"));
     EXPECT_EQ(Get(Place(L"", L"v")), Number(1));
     EXPECT_EQ(Get(Place(L"\\Key2", L"v")), Number(5));
-    EXPECT_THAT(Registry().SubKeys(kUserKey.Root, path + L"\\Key"), IsEmpty());
-}
 
-TEST_F(TRegistryContract, ARootIsNeverDeleted) {
-    Put(L"", L"v", Number(1));
-    for (const wchar_t* key : {L"", L"\\", L"\\\\"})
-        EXPECT_EQ(Registry().DeleteKey(TRootKey::CurrentUser, key), TWriteStatus::Refused);
-    EXPECT_EQ(Get(Place(L"", L"v")), Number(1));
-    EXPECT_EQ(Registry().Check({TRootKey::CurrentUser, L"\\", L""}, TRegistryView::Native),
-              TReadStatus::Found);
+    for (const wchar_t* root : {L"", L"\\", L"\\\\"})
+        EXPECT_EQ(Registry().DeleteKey(TRootKey::CurrentUser, root), TWriteStatus::Refused);
+    EXPECT_EQ(Get(Place(L"", L"v")), Number(1)) << "a root is never deleted";
 }
 
 }  // namespace

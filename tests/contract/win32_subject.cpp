@@ -1,4 +1,5 @@
 #include <windows.h>
+#include <shlwapi.h>
 
 #include <filesystem>
 
@@ -8,20 +9,11 @@
 
 namespace {
 
-/// Deletes a key with everything below it, without any help of the code under test.
-void Erase(HKEY parent, const wchar_t* name) {
-    HKEY key = nullptr;
-    if (RegOpenKeyExW(parent, name, 0, KEY_READ, &key) != ERROR_SUCCESS) return;
-    wchar_t child[256];
-    while (RegEnumKeyW(key, 0, child, 256) == ERROR_SUCCESS) Erase(key, child);
-    RegCloseKey(key);
-    ASSERT_EQ(RegDeleteKeyW(parent, name), ERROR_SUCCESS);
-}
-
+/// Without any help of the code under test.
 void EraseContractKeys() {
     for (const TContractKey& key : kContractKeys)
-        Erase(reinterpret_cast<HKEY>(static_cast<std::intptr_t>(static_cast<std::int32_t>(key.Root))),
-              key.Path + 1);
+        SHDeleteKeyW(reinterpret_cast<HKEY>(static_cast<std::intptr_t>(static_cast<std::int32_t>(key.Root))),
+                     key.Path + 1);
 }
 
 }  // namespace

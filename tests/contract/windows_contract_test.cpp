@@ -27,22 +27,18 @@ TEST_F(TWindowsContract, ReadsAVersionResource) {
     const auto resource = System().Windows.OpenVersionResource(VersionedFile());
     ASSERT_NE(resource, nullptr);
     const auto fixed = resource->Block(L"\\");
-    ASSERT_TRUE(fixed);
-    ASSERT_EQ(fixed->size(), 52U);
-    EXPECT_THAT(std::vector(fixed->begin(), fixed->begin() + 4),
-                testing::ElementsAre(0xBD, 0x04, 0xEF, 0xFE));
+    ASSERT_TRUE(fixed && fixed->size() == 52);
+    EXPECT_EQ(TBytes(fixed->begin(), fixed->begin() + 4), (TBytes{0xBD, 0x04, 0xEF, 0xFE}));
     const auto translation = resource->Block(L"\\VarFileInfo\\Translation");
-    ASSERT_TRUE(translation);
-    ASSERT_GE(translation->size(), 4U);
-    wchar_t language[9];
-    std::swprintf(language, 9, L"%02X%02X%02X%02X", (*translation)[1], (*translation)[0], (*translation)[3],
-                  (*translation)[2]);
-    const std::wstring prefix = std::wstring(L"\\StringFileInfo\\") + language + L"\\";
-    const auto text = resource->Text(prefix + L"FileVersion");
+    ASSERT_TRUE(translation && translation->size() >= 4);
+    const TBytes& ids = *translation;
+    wchar_t prefix[30];
+    std::swprintf(prefix, 30, L"\\StringFileInfo\\%02X%02X%02X%02X\\", ids[1], ids[0], ids[3], ids[2]);
+    const auto text = resource->Text(std::wstring(prefix) + L"FileVersion");
     ASSERT_TRUE(text) << prefix;
     EXPECT_THAT(*text, testing::Not(testing::IsEmpty()));
     EXPECT_EQ(text->find(L'\0'), std::wstring::npos);
-    EXPECT_EQ(resource->Text(prefix + L"No such name"), std::nullopt);
+    EXPECT_EQ(resource->Text(std::wstring(prefix) + L"No such name"), std::nullopt);
     EXPECT_EQ(resource->Block(L"\\NoSuchBlock"), std::nullopt);
 }
 
@@ -70,7 +66,7 @@ TEST_F(TWindowsContract, NamesTheApplicationDataFolders) {
     EXPECT_EQ(System().Shell.FolderPath(TSpecialFolder{0x7E}), L"");
 }
 
-TEST_F(TWindowsContract, TimePassesInSleep) {
+TEST_F(TWindowsContract, TimePassesInSleepAndIsWrittenWithTheDate) {
     constexpr int kDay = 24 * 60 * 60 * 1000;
     const auto now = [&] {
         const TTimeOfDay time = System().Clock.TimeOfDay();
@@ -82,14 +78,10 @@ TEST_F(TWindowsContract, TimePassesInSleep) {
     const int passed = (now() - before + kDay) % kDay;
     EXPECT_GE(passed, 180);  // the clock of Windows advances in steps of up to 16 milliseconds
     EXPECT_LT(passed, 60'000);
-}
 
-TEST_F(TWindowsContract, WritesDateAndTime) {
     const std::wstring text = System().Clock.DateTimeText();
-    const std::size_t blank = text.find(L' ');
-    ASSERT_NE(blank, std::wstring::npos) << text;
-    EXPECT_THAT(text.substr(0, blank), testing::Not(testing::IsEmpty()));
-    EXPECT_NE(text.find(L':', blank), std::wstring::npos) << text;
+    EXPECT_THAT(text.find(L' '), testing::AllOf(testing::Gt(0U), testing::Lt(text.find(L':')))) << text;
+    EXPECT_NE(text.find(L':'), std::wstring::npos) << text;
 }
 
 }  // namespace

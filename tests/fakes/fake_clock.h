@@ -2,28 +2,28 @@
 #pragma once
 
 #include <functional>
-#include <vector>
 
 #include "platform/clock.h"
 
 class TFakeClock : public TClock {
   public:
-    void SetTime(const TTimeOfDay& time) { FTime = time; }
-    void SetDateTimeText(const std::wstring& text) { FDateTimeText = text; }
+    std::function<void(std::uint32_t)> OnSleep = [](std::uint32_t) {};
+    std::function<void()> OnProcessMessages = [] {};  ///< the messages that ProcessMessages handles
+    std::function<void()> OnDateTimeText = [] {};
 
-    [[nodiscard]] const std::vector<std::uint32_t>& Sleeps() const { return FSleeps; }
-
-    std::function<void()> OnProcessMessages;  ///< the messages that ProcessMessages handles
-
-    [[nodiscard]] TTimeOfDay TimeOfDay() const override { return FTime; }
-    [[nodiscard]] std::wstring DateTimeText() const override { return FDateTimeText; }
-    void Sleep(std::uint32_t milliseconds) override;
-    void ProcessMessages() override {
-        if (OnProcessMessages) OnProcessMessages();
+    [[nodiscard]] TTimeOfDay TimeOfDay() const override {
+        return {.Second = static_cast<int>(FNow / 1000), .Millisecond = static_cast<int>(FNow % 1000)};
     }
+    [[nodiscard]] std::wstring DateTimeText() const override {
+        OnDateTimeText();
+        return L"01.02.2010 03:04:05";
+    }
+    void Sleep(std::uint32_t milliseconds) override {
+        FNow = (FNow + milliseconds) % 60'000;  // within the first minute of the day
+        OnSleep(milliseconds);
+    }
+    void ProcessMessages() override { OnProcessMessages(); }
 
   private:
-    TTimeOfDay FTime;
-    std::wstring FDateTimeText = L"01.02.2010 03:04:05";
-    std::vector<std::uint32_t> FSleeps;
+    std::uint32_t FNow = 0;
 };

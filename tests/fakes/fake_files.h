@@ -1,21 +1,33 @@
 // Files in memory. A path is a folder, a backslash and a name; its case does not matter.
 #pragma once
 
+#include <algorithm>
 #include <string_view>
 
 #include "platform/files.h"
+#include "platform/name_pattern.h"
+#include "platform/text.h"
 
 class TFakeFiles : public TFiles {
   public:
     /// Puts a file there, and its folder with it.
-    void Put(const std::wstring& path, std::vector<std::uint8_t> bytes);
+    void Put(const std::wstring& path, std::vector<std::uint8_t> bytes) {
+        Remove(path);
+        FFiles.emplace_back(path, std::move(bytes));
+        PutFolder(FolderOf(path));
+    }
     /// Put for text that is ASCII.
     void PutText(const std::wstring& path, std::string_view text) { Put(path, {text.begin(), text.end()}); }
-    /// Makes an empty folder; files can only be replaced in a folder that exists.
-    void PutFolder(const std::wstring& folder) { FFolders.push_back(folder); }
-    void Remove(const std::wstring& path);
+    /// Makes a folder; files can only be replaced in a folder that exists.
+    void PutFolder(const std::wstring& folder) { FFolders.push_back(folder + L'\\'); }
+    void Remove(const std::wstring& path) {
+        std::erase_if(FFiles, [&](const TFile& file) { return SameText(file.first, path); });
+    }
     /// The file's bytes as ASCII text, empty when there is no such file.
-    [[nodiscard]] std::string Text(const std::wstring& path) const;
+    [[nodiscard]] std::string Text(const std::wstring& path) const {
+        const TFile* file = Find(path);
+        return file == nullptr ? std::string() : std::string(file->second.begin(), file->second.end());
+    }
 
     /// Paths given to Replace, with or without success.
     [[nodiscard]] const std::vector<std::wstring>& Replaced() const { return FReplaced; }
@@ -25,26 +37,71 @@ class TFakeFiles : public TFiles {
     void Lock(const std::wstring& path) { FLocked.push_back(path); }
 
     [[nodiscard]] bool Exists(const std::wstring& path) const override { return Find(path) != nullptr; }
-    [[nodiscard]] std::optional<std::vector<std::uint8_t>> Read(const std::wstring& path) const override;
-    [[nodiscard]] bool Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override;
+    [[nodiscard]] std::optional<std::vector<std::uint8_t>> Read(const std::wstring& path) const override {
+        const TFile* file = Find(path);
+        const bool locked =
+            std::ranges::any_of(FLocked, [&](const auto& each) { return SameText(each, path); });
+        return file == nullptr || locked ? std::nullopt : std::optional(file->second);
+    }
+    [[nodiscard]] bool Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override {
+        FReplaced.push_back(path);
+        const bool fails = FReplacesToFailure > 0 && --FReplacesToFailure == 0;
+        if (fails || !HasFolder(FolderOf(path)) || HasFolder(path)) return false;
+        Put(path, bytes);
+        return true;
+    }
     [[nodiscard]] std::vector<std::wstring> List(const std::wstring& folder,
-                                                 const std::wstring& pattern) const override;
+                                                 const std::wstring& pattern) const override {
+        std::vector<std::wstring> names;
+        for (const auto& [path, bytes] : FFiles) {
+            const std::wstring name = path.substr(path.rfind(L'\\') + 1);
+            if (SameText(FolderOf(path), folder) && MatchesPattern(name, pattern)) names.push_back(name);
+        }
+        return names;
+    }
     /// The file must be ASCII.
     [[nodiscard]] std::wstring ProfileString(const std::wstring& path, const std::wstring& section,
                                              const std::wstring& key,
-                                             const std::wstring& fallback) const override;
+                                             const std::wstring& fallback) const override {
+        const std::string ascii = Text(path);
+        const std::wstring text(ascii.begin(), ascii.end());
+        TLineReader lines(text);
+        bool inSection = false;
+        for (std::wstring_view line; lines.Next(line);) {
+            line = Trim(line);
+            const std::size_t equals = std::min(line.find(L'='), line.size());
+            if (line.starts_with(L'[')) {
+                inSection = SameText(Trim(line.substr(1, line.find(L']') - 1)), section);
+            } else if (inSection && equals < line.size() && SameText(Trim(line.substr(0, equals)), key)) {
+                const std::wstring_view value = Trim(line.substr(equals + 1));
+                // Windows takes a pair of quotes off.
+                const bool quoted = value.size() > 1 && value.front() == L'"' && value.back() == L'"';
+                return std::wstring(quoted ? value.substr(1, value.size() - 2) : value);
+            }
+        }
+        return fallback;
+    }
 
   private:
-    struct TFile {
-        std::wstring Path;
-        std::vector<std::uint8_t> Bytes;
-    };
+    using TFile = std::pair<std::wstring, std::vector<std::uint8_t>>;
 
-    [[nodiscard]] const TFile* Find(std::wstring_view path) const;
-    [[nodiscard]] bool HasFolder(std::wstring_view folder) const;
+    static std::wstring FolderOf(const std::wstring& path) {
+        return path.substr(0, std::min(path.rfind(L'\\'), path.size()));
+    }
+    [[nodiscard]] const TFile* Find(const std::wstring& path) const {
+        const auto file =
+            std::ranges::find_if(FFiles, [&](const TFile& each) { return SameText(each.first, path); });
+        return file == FFiles.end() ? nullptr : &*file;
+    }
+    /// A folder has the folders above it too.
+    [[nodiscard]] bool HasFolder(const std::wstring& folder) const {
+        return std::ranges::any_of(FFolders, [head = folder + L'\\'](const std::wstring& each) {
+            return SameText(each.substr(0, head.size()), head);
+        });
+    }
 
     std::vector<TFile> FFiles;
-    std::vector<std::wstring> FFolders;
+    std::vector<std::wstring> FFolders;  ///< each with a backslash at its end
     std::vector<std::wstring> FLocked;
     std::vector<std::wstring> FReplaced;
     int FReplacesToFailure = 0;  ///< 0 = none will fail

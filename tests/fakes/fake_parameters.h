@@ -1,18 +1,11 @@
 // System parameters in memory.
 #pragma once
 
+#include <algorithm>
 #include <map>
+#include <set>
 
 #include "platform/system_parameters.h"
-
-/// A call of TSystemParameters::Set with its answer.
-struct TParameterLogEntry {
-    std::uint32_t Action = 0;
-    std::uint32_t Param = 0;
-    TSpiData Data;
-    std::uint32_t WinIni = 0;
-    bool Result = true;
-};
 
 class TFakeParameters : public TSystemParameters {
   public:
@@ -22,31 +15,45 @@ class TFakeParameters : public TSystemParameters {
     /// What Get answers for an action; actions never put fail.
     void Put(std::uint32_t action, std::vector<std::uint8_t> bytes) { FValues[action] = std::move(bytes); }
     /// Put for a parameter of four bytes (BOOL, UINT).
-    void PutNumber(std::uint32_t action, std::uint32_t number);
+    void PutNumber(std::uint32_t action, std::uint32_t number) {
+        FValues[action].clear();
+        for (int shift = 0; shift < 32; shift += 8)
+            FValues[action].push_back(static_cast<std::uint8_t>(number >> shift));
+    }
     /// From now on what `setAction` sets is what `getAction` answers. The codes are not systematic in Windows, so a
     /// test names the pairs it needs; other settings are only logged.
-    void Pair(std::uint32_t setAction, std::uint32_t getAction, TCarrier carrier);
-
-    [[nodiscard]] const std::vector<TParameterLogEntry>& Log() const { return FLog; }
-    /// The n-th Set from now fails; 1 is the next one.
-    void FailSet(int n) { FSetsToFailure = n; }
+    void Pair(std::uint32_t setAction, std::uint32_t getAction, TCarrier carrier) {
+        FPairs[setAction] = {getAction, carrier};
+    }
     /// Every Set of this action fails.
-    void RefuseAction(std::uint32_t action) { FRefused.push_back(action); }
+    void RefuseAction(std::uint32_t action) { FRefused.insert(action); }
+    /// What was passed to Set as data, with or without success.
+    [[nodiscard]] const std::vector<TSpiData>& Log() const { return FLog; }
 
-    [[nodiscard]] bool Get(std::uint32_t action, std::uint32_t param,
-                           std::span<std::uint8_t> buffer) const override;
+    [[nodiscard]] bool Get(std::uint32_t action, std::uint32_t /*param*/,
+                           std::span<std::uint8_t> buffer) const override {
+        const auto value = FValues.find(action);
+        if (value == FValues.end()) return false;
+        std::copy_n(value->second.begin(), std::min(value->second.size(), buffer.size()), buffer.begin());
+        return true;
+    }
     [[nodiscard]] bool Set(std::uint32_t action, std::uint32_t param, const TSpiData& data,
-                           std::uint32_t winIni) override;
+                           std::uint32_t /*winIni*/) override {
+        FLog.push_back(data);
+        if (FRefused.contains(action)) return false;
+        const auto pair = FPairs.find(action);
+        if (pair == FPairs.end()) return true;
+        const auto& [getAction, carrier] = pair->second;
+        if (const auto* bytes = std::get_if<std::vector<std::uint8_t>>(&data))
+            Put(getAction, *bytes);
+        else
+            PutNumber(getAction, carrier == TCarrier::Param ? param : std::get<std::uint32_t>(data));
+        return true;
+    }
 
   private:
-    struct TPair {
-        std::uint32_t GetAction = 0;
-        TCarrier Carrier = TCarrier::Param;
-    };
-
-    std::map<std::uint32_t, std::vector<std::uint8_t>> FValues;  ///< by asking action
-    std::map<std::uint32_t, TPair> FPairs;                       ///< by setting action
-    std::vector<TParameterLogEntry> FLog;
-    std::vector<std::uint32_t> FRefused;
-    int FSetsToFailure = 0;  ///< 0 = none will fail
+    std::map<std::uint32_t, std::vector<std::uint8_t>> FValues;          ///< by asking action
+    std::map<std::uint32_t, std::pair<std::uint32_t, TCarrier>> FPairs;  ///< by setting action
+    std::set<std::uint32_t> FRefused;
+    std::vector<TSpiData> FLog;
 };

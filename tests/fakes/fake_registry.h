@@ -1,83 +1,138 @@
-// A registry in memory, with a log of every change and faults on request.
+// A registry in memory, with faults on request.
 #pragma once
 
-#include <memory>
+#include <algorithm>
+#include <optional>
 #include <string_view>
 
 #include "platform/registry.h"
-
-/// What a logged call asked for.
-enum class TRegistryCall { Write, DeleteValue, DeleteKey };
-
-/// A call that was meant to change something, as it was passed, with its answer. DeleteKey has no value name and
-/// only Write has data.
-struct TRegistryLogEntry {
-    TRegistryCall Call = TRegistryCall::Write;
-    TRegistryPlace Place;
-    TRegistryData Data;
-    TWriteStatus Result = TWriteStatus::Done;
-};
+#include "platform/text.h"
 
 class TFakeRegistry : public TRegistry {
-  public:
-    TFakeRegistry();
-    ~TFakeRegistry() override;
-
-    /// Puts a value there; keys are created on the way. Not logged, and not subject to faults.
-    void Put(const TRegistryPlace& place, const TRegistryData& data);
-    void PutKey(TRootKey root, std::wstring_view key);
-    /// The stored value, whatever the faults; null when there is none.
-    [[nodiscard]] const TRegistryData* Find(const TRegistryPlace& place) const;
-    [[nodiscard]] bool HasKey(TRootKey root, std::wstring_view key) const;
-
-    [[nodiscard]] const std::vector<TRegistryLogEntry>& Log() const { return FLog; }
-    void ClearLog() { FLog.clear(); }
-
-    /// The key and everything below it cannot be opened. An empty key is the whole root.
-    void DenyAccess(TRootKey root, std::wstring_view key) { FDenied.push_back({root, std::wstring(key)}); }
-    /// The key and everything below it open, but refuse every change.
-    void RefuseChanges(TRootKey root, std::wstring_view key) {
-        FRefused.push_back({root, std::wstring(key)});
-    }
-    /// The key and everything below it are in the native view alone, as on a 64-bit Windows.
-    void HideFromProcessView(TRootKey root, std::wstring_view key) {
-        FHidden.push_back({root, std::wstring(key)});
-    }
-    /// The n-th change from now that reaches its key is refused; 1 is the next one.
-    void FailChange(int n) { FChangesToFailure = n; }
-    /// Lifts every fault.
-    void ClearFaults();
-
-    [[nodiscard]] TReadStatus Check(const TRegistryPlace& place, TRegistryView view) const override;
-    [[nodiscard]] TReadStatus Read(const TRegistryPlace& place, TRegistryData& data) const override;
-    [[nodiscard]] TWriteStatus Write(const TRegistryPlace& place, const TRegistryData& data) override;
-    [[nodiscard]] TWriteStatus DeleteValue(const TRegistryPlace& place) override;
-    [[nodiscard]] TWriteStatus DeleteKey(TRootKey root, const std::wstring& key) override;
-    [[nodiscard]] std::vector<std::wstring> SubKeys(TRootKey root, const std::wstring& key) const override;
-
-  private:
-    struct TKey;
-    struct TKeyPlace {
-        TRootKey Root;
-        std::wstring Key;
+    /// A key; those below it stand beside it, with longer paths.
+    struct TKey {
+        std::wstring Path;
+        std::vector<std::pair<std::wstring, TRegistryData>> Values;
     };
 
-    [[nodiscard]] TKey* FindKey(TRootKey root, std::wstring_view key) const;
-    /// The key as a caller may open it.
-    [[nodiscard]] TKey* Open(TRootKey root, std::wstring_view key) const;
-    TKey& Create(TRootKey root, std::wstring_view key);
+    static auto FindValue(auto& key, std::wstring_view name) {
+        return std::ranges::find_if(key.Values, [&](const auto& each) { return SameText(each.first, name); });
+    }
+
+  public:
+    TFakeRegistry() {
+        for (const TRootKey root : {TRootKey::ClassesRoot, TRootKey::CurrentUser, TRootKey::LocalMachine})
+            FKeys.push_back({Path(root, {}), {}});
+    }
+
+    /// Puts a value there, whatever the faults; keys are created on the way.
+    void Put(const TRegistryPlace& place, const TRegistryData& data) {
+        TKey& key = Create(Path(place.Root, place.Key));
+        if (const auto value = FindValue(key, place.ValueName); value != key.Values.end())
+            value->second = data;
+        else
+            key.Values.emplace_back(place.ValueName, data);
+    }
+    void PutKey(TRootKey root, std::wstring_view key) { Create(Path(root, key)); }
+    /// The stored value, whatever the faults; null when there is none.
+    [[nodiscard]] const TRegistryData* Find(const TRegistryPlace& place) const {
+        const TKey* key = FindKey(Path(place.Root, place.Key));
+        if (key == nullptr) return nullptr;
+        const auto value = FindValue(*key, place.ValueName);
+        return value == key->Values.end() ? nullptr : &value->second;
+    }
+    [[nodiscard]] bool HasKey(TRootKey root, std::wstring_view key) const { return FindKey(Path(root, key)); }
+
+    /// The key and everything below it cannot be opened. An empty key is the whole root.
+    void DenyAccess(TRootKey root, std::wstring_view key) { FDenied.push_back(Path(root, key)); }
+    /// The n-th change from now that reaches its key is refused; 1 is the next one.
+    void FailChange(int n) { FChangesToFailure = n; }
+
+    void ClearFaults() { FDenied.clear(); }
+
+    [[nodiscard]] TReadStatus Check(const TRegistryPlace& place, TRegistryView /*view*/) const override {
+        if (!Opens(Path(place.Root, place.Key))) return TReadStatus::KeyUnavailable;
+        return place.ValueName.empty() || Find(place) ? TReadStatus::Found : TReadStatus::ValueMissing;
+    }
+    [[nodiscard]] TReadStatus Read(const TRegistryPlace& place, TRegistryData& data) const override {
+        if (!Opens(Path(place.Root, place.Key))) return TReadStatus::KeyUnavailable;
+        const TRegistryData* stored = Find(place);
+        if (stored == nullptr) return TReadStatus::ValueMissing;
+        data = *stored;
+        return TReadStatus::Found;
+    }
+    [[nodiscard]] TWriteStatus Write(const TRegistryPlace& place, const TRegistryData& data) override {
+        if (IsDenied(Path(place.Root, place.Key))) return TWriteStatus::KeyUnavailable;
+        PutKey(place.Root, place.Key);
+        const std::size_t alternatives[] = {data.Value.index(), 2, 2, 1, 3};  // that fit the types
+        if (TakeFault() || data.Value.index() != alternatives[static_cast<std::size_t>(data.Type)])
+            return TWriteStatus::Refused;
+        TRegistryData stored = data;
+        // Text ends at its first NUL.
+        if (auto* text = std::get_if<std::wstring>(&stored.Value))
+            text->resize(std::min(text->find(L'\0'), text->size()));
+        if (data.Type != TRegDataType::Unknown) Put(place, stored);
+        return TWriteStatus::Done;
+    }
+    [[nodiscard]] TWriteStatus DeleteValue(const TRegistryPlace& place) override {
+        const std::wstring path = Path(place.Root, place.Key);
+        if (!Opens(path)) return TWriteStatus::KeyUnavailable;
+        if (TakeFault()) return TWriteStatus::Refused;
+        std::erase_if(Create(path).Values,
+                      [&](const auto& each) { return SameText(each.first, place.ValueName); });
+        return TWriteStatus::Done;
+    }
+    [[nodiscard]] TWriteStatus DeleteKey(TRootKey root, const std::wstring& key) override {
+        const std::wstring path = Path(root, key);
+        if (path == Path(root, {})) return TWriteStatus::Refused;
+        if (!Opens(path)) return TWriteStatus::KeyUnavailable;
+        if (TakeFault()) return TWriteStatus::Refused;
+        std::erase_if(FKeys, [&](const TKey& each) { return IsBelow(each.Path, path); });
+        return TWriteStatus::Done;
+    }
+    [[nodiscard]] std::vector<std::wstring> SubKeys(TRootKey root, const std::wstring& key) const override {
+        std::vector<std::wstring> names;
+        const std::wstring path = Path(root, key) + L'\\';
+        if (!IsDenied(path))
+            for (const TKey& each : FKeys)
+                if (SameText(each.Path.substr(0, each.Path.rfind(L'\\') + 1), path))
+                    names.push_back(each.Path.substr(path.size()));
+        return names;
+    }
+
+  private:
+    /// The root and the names from there on, with one backslash before each; surplus ones do not count.
+    static std::wstring Path(TRootKey root, std::wstring_view key) {
+        std::wstring path = std::to_wstring(static_cast<std::uint32_t>(root)) + L'\\';
+        for (const wchar_t c : key)
+            if (c != L'\\' || path.back() != L'\\') path += c;
+        if (path.back() == L'\\') path.pop_back();
+        return path;
+    }
+    static bool IsBelow(std::wstring_view path, std::wstring_view above) {
+        return SameText(path.substr(0, above.size()), above) &&
+               (path.size() == above.size() || path[above.size()] == L'\\');
+    }
+    [[nodiscard]] const TKey* FindKey(const std::wstring& path) const {
+        const auto key =
+            std::ranges::find_if(FKeys, [&](const TKey& each) { return SameText(each.Path, path); });
+        return key == FKeys.end() ? nullptr : &*key;
+    }
+    [[nodiscard]] bool IsDenied(const std::wstring& path) const {
+        return std::ranges::any_of(FDenied, [&](const std::wstring& above) { return IsBelow(path, above); });
+    }
+    /// Whether a caller may open the key.
+    [[nodiscard]] bool Opens(const std::wstring& path) const { return FindKey(path) && !IsDenied(path); }
+    TKey& Create(const std::wstring& path) {
+        if (const TKey* found = FindKey(path)) return const_cast<TKey&>(*found);
+        Create(path.substr(0, path.rfind(L'\\')));
+        FKeys.push_back({path, {}});
+        return FKeys.back();
+    }
     /// Counts a change that has reached its key, and answers whether it has to fail.
-    bool TakeFault(TRootKey root, std::wstring_view key);
-    static bool IsBelow(const std::vector<TKeyPlace>& places, TRootKey root, std::wstring_view key);
+    bool TakeFault() { return FChangesToFailure > 0 && --FChangesToFailure == 0; }
 
-    TWriteStatus DoWrite(const TRegistryPlace& place, const TRegistryData& data);
-    TWriteStatus DoDeleteValue(const TRegistryPlace& place);
-    TWriteStatus DoDeleteKey(TRootKey root, std::wstring_view key);
-
-    std::unique_ptr<TKey> FRoots;  ///< its children are the roots
-    std::vector<TRegistryLogEntry> FLog;
-    std::vector<TKeyPlace> FDenied;
-    std::vector<TKeyPlace> FRefused;
-    std::vector<TKeyPlace> FHidden;
-    int FChangesToFailure = 0;  ///< 0 = none will fail
+    std::vector<TKey> FKeys;
+    std::vector<std::wstring> FDenied;  ///< paths
+    int FChangesToFailure = 0;          ///< 0 = none will fail
 };

@@ -8,9 +8,16 @@
 #include "platform/windows_info.h"
 
 /// What the version resource of a file holds, by path ("\VarFileInfo\Translation").
-struct TFakeVersionResource {
+struct TFakeVersionResource : TVersionResource {
     std::map<std::wstring, std::wstring> Texts;
     std::map<std::wstring, std::vector<std::uint8_t>> Blocks;
+
+    [[nodiscard]] std::optional<std::wstring> Text(const std::wstring& path) const override {
+        return Texts.contains(path) ? std::optional(Texts.at(path)) : std::nullopt;
+    }
+    [[nodiscard]] std::optional<std::vector<std::uint8_t>> Block(const std::wstring& path) const override {
+        return Blocks.contains(path) ? std::optional(Blocks.at(path)) : std::nullopt;
+    }
 };
 
 class TFakeWindowsInfo : public TWindowsInfo {
@@ -26,7 +33,10 @@ class TFakeWindowsInfo : public TWindowsInfo {
     [[nodiscard]] bool IsWow64() const override { return FWow64; }
     [[nodiscard]] std::wstring ProgramFile() const override { return FProgramFile; }
     [[nodiscard]] std::unique_ptr<TVersionResource> OpenVersionResource(
-        const std::wstring& file) const override;
+        const std::wstring& file) const override {
+        if (!FResources.contains(file)) return nullptr;
+        return std::make_unique<TFakeVersionResource>(FResources.at(file));
+    }
     /// The code page is Latin-1.
     [[nodiscard]] std::wstring FromAnsi(std::span<const std::uint8_t> bytes) const override {
         return {bytes.begin(), bytes.end()};

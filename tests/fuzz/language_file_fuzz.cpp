@@ -3,34 +3,63 @@
 #include "platform/ext_ini_file.h"
 #include "tests/fakes/fake_system.h"
 #include "tests/fuzz/fuzz.h"
-#include "tests/fuzz/ini_model.h"
 
 namespace {
 
 constexpr const wchar_t* kFile = L"C:\\Language\\sample.lng";
 constexpr const wchar_t* kFallback = L"<none>";
 
-std::vector<std::wstring> LinesOf(const TNamedLines& lines) {
-    std::vector<std::wstring> all;
-    for (std::size_t i = 0; i < lines.Count(); ++i) all.emplace_back(lines.Line(i));
-    return all;
+using TLines = std::vector<std::wstring>;
+using TSections = std::vector<std::pair<std::wstring, TLines>>;
+
+/// What the file says, worked out line by line.
+TSections SectionsOf(const std::wstring& text) {
+    TSections sections;
+    TLineReader reader(text);
+    for (std::wstring_view view; reader.Next(view);) {
+        const std::wstring line(Trim(view));
+        const std::size_t equals = line.find(L'=');
+        const auto part = [&](std::size_t begin, std::size_t length) {
+            return std::wstring(Trim(std::wstring_view(line).substr(begin, length)));
+        };
+        if (line.size() > 1 && line[0] == L'[' && line.back() == L']')
+            sections.emplace_back(part(1, line.size() - 2), TLines());
+        else if (!line.empty() && line[0] != L';' && !sections.empty())
+            sections.back().second.push_back(
+                equals == std::wstring::npos ? line : part(0, equals) + L'=' + part(equals + 1, line.size()));
+    }
+    return sections;
 }
 
-void RequireSame(const TExtIniFile& file, TIniModel& model) {
-    const auto names = file.ReadSections();
-    Require(names.size() == model.Sections().size(), "as many sections as the file has");
+/// The last of the elements whose name, as `nameOf` finds it, is that one.
+auto LastOf(auto& all, const std::wstring& name, auto nameOf) {
+    return std::find_if(all.rbegin(), all.rend(),
+                        [&](const auto& each) { return SameText(nameOf(each), name); });
+}
+auto LastOf(TSections& sections, const std::wstring& name) {
+    return LastOf(sections, name, [](const auto& section) { return section.first; });
+}
+auto LastOf(TLines& lines, const std::wstring& key) {
+    return LastOf(lines, key + L'=', [](const auto& line) { return line.substr(0, line.find(L'=') + 1); });
+}
+
+void RequireSame(const TExtIniFile& file, TSections sections) {
+    const TLines names = file.ReadSections();
+    Require(names.size() == sections.size(), "as many sections as the file has");
     for (std::size_t i = 0; i < names.size(); ++i) {
-        Require(names[i] == model.Sections()[i].Name, "sections in their order");
-        const auto& lines = model.Find(names[i])->Lines;
-        Require(LinesOf(file.ReadSectionValues(names[i])) == lines,
-                "the lines of the last section of a name");
-        std::vector<std::wstring> keys;
-        for (const std::wstring& line : lines) {
-            const auto key = TIniModel::KeyOf(line);
-            if (!key) continue;
-            keys.push_back(*key);
-            Require(file.ValueExists(names[i], *key), "a value that is there is found");
-            Require(file.ReadString(names[i], *key, kFallback) == model.Value(names[i], *key),
+        Require(names[i] == sections[i].first, "sections in their order");
+        TLines lines = LastOf(sections, names[i])->second;
+        const TNamedLines read = file.ReadSectionValues(names[i]);
+        Require(read.Count() == lines.size(), "the lines of the last section of a name");
+        TLines keys;
+        for (std::size_t j = 0; j < lines.size(); ++j) {
+            Require(read.Line(j) == lines[j], "lines in their order");
+            const std::size_t equals = lines[j].find(L'=');
+            if (equals == std::wstring::npos) continue;
+            keys.push_back(lines[j].substr(0, equals));
+            Require(file.ValueExists(names[i], keys.back()), "a value that is there is found");
+            Require(file.ReadString(names[i], keys.back(), kFallback) ==
+                        LastOf(lines, keys.back())->substr(equals + 1),
                     "the last value");
         }
         Require(file.ReadSection(names[i]) == keys, "keys in their order");
@@ -44,26 +73,27 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     fake.Files.Put(kFile, {data, data + size});
     TExtIniFile file;
     Require(file.LoadFromFile(fake.System, kFile), "a file that can be read is loaded");
-    TIniModel model(DecodeText({data, size}, fake.Windows));
-    RequireSame(file, model);
+    TSections sections = SectionsOf(DecodeText({data, size}, fake.Windows));
+    RequireSame(file, sections);
     Require(file.ReadString(L"\x01", L"a", kFallback) == kFallback, "nothing is found in no section");
 
     // A section and a key to be changed: new ones, or of those that are there the one that the size chooses.
-    std::wstring section = L"New";
-    std::wstring key = L"Key";
-    if (!model.Sections().empty()) {
-        section = model.Sections()[size % model.Sections().size()].Name;
-        const auto keys = file.ReadSection(section);
-        if (!keys.empty() && size % 3 != 0) key = keys[size % keys.size()];
-    }
-    file.WriteString(section, key, L"a=b");
-    model.Write(section, key, L"a=b");
-    RequireSame(file, model);
-    file.DeleteKey(section, key);
-    model.DeleteKey(section, key);
-    RequireSame(file, model);
-    file.EraseSection(section);
-    model.EraseSection(section);
-    RequireSame(file, model);
+    const std::wstring name = sections.empty() ? L"New" : sections[size % sections.size()].first;
+    const TLines keys = file.ReadSection(name);
+    const std::wstring key = keys.empty() || size % 3 == 0 ? L"Key" : keys[size % keys.size()];
+    file.WriteString(name, key, L"a=b");
+    if (sections.empty()) sections.emplace_back(name, TLines());
+    TLines& lines = LastOf(sections, name)->second;
+    if (const auto line = LastOf(lines, key); line != lines.rend())
+        *line = key + L"=a=b";
+    else
+        lines.push_back(key + L"=a=b");
+    RequireSame(file, sections);
+    file.DeleteKey(name, key);
+    lines.erase(LastOf(lines, key).base() - 1);
+    RequireSame(file, sections);
+    file.EraseSection(name);
+    sections.erase(LastOf(sections, name).base() - 1);
+    RequireSame(file, sections);
     return 0;
 }

@@ -21,26 +21,18 @@ bool IsOpen(const std::wstring& piece) {
     return quotes % 2 == 1;
 }
 
-/// Takes the text up to its first semicolon off its beginning.
-std::wstring Cut(std::wstring& text) {
-    std::wstring piece = text.substr(0, text.find(L';') + 1);
-    text.erase(0, piece.size());
-    return piece;
-}
-
 /// The statements in a text without header, worked out by searching and cutting.
 TLines Split(std::wstring text) {
     TLines lines;
+    bool open = false;
     while (text.find(L';') != std::wstring::npos) {
-        std::wstring piece = Cut(text);
-        if (IsOpen(piece)) {
-            while (text.find(L';') != std::wstring::npos) {
-                const std::wstring chunk = Cut(text);
-                piece += chunk;
-                if (IsOpen(chunk)) break;
-            }
-        }
-        lines.push_back(piece);
+        const std::wstring piece = text.substr(0, text.find(L';') + 1);
+        text.erase(0, piece.size());
+        if (!open)
+            lines.push_back(piece);
+        else
+            lines.back() += piece;
+        open = open != IsOpen(piece);
     }
     return lines;
 }
@@ -72,9 +64,8 @@ std::wstring SomeValue(const std::wstring& body) {
 }
 
 bool Mentions(const std::wstring& line, const std::wstring& name) {
-    for (std::size_t i = 0; i + name.size() <= line.size(); ++i) {
+    for (std::size_t i = 0; i + name.size() <= line.size(); ++i)
         if (SameText(std::wstring_view(line).substr(i, name.size()), name)) return true;
-    }
     return false;
 }
 

@@ -1,28 +1,29 @@
 // The list of Firefox's profiles: whatever it says, the profile it calls the default is found and read, and nothing is
 // written.
+#include "platform/ext_ini_file.h"
 #include "settings/net/firefox_prefs.h"
 #include "tests/fakes/fake_system.h"
 #include "tests/fuzz/fuzz.h"
-#include "tests/fuzz/ini_model.h"
 
 namespace {
 
 constexpr const wchar_t* kFolder = L"C:\\Firefox\\";
 
-std::int32_t Number(TIniModel& model, const std::wstring& section, const wchar_t* key) {
-    const auto value = model.Value(section, key);
-    return value ? ParseInteger(*value).value_or(0) : 0;
-}
-
-std::wstring ProfileFolder(TIniModel model) {
+/// As the parser of such files has them, which has a fuzz target of its own.
+std::wstring ProfileFolder(const std::wstring& text) {
+    TExtIniFile ini;
+    ini.SetStrings(TLineReader(text));
+    const auto number = [&](const std::wstring& section, const wchar_t* key) {
+        return ParseInteger(ini.ReadString(section, key, L"")).value_or(0);
+    };
     std::wstring chosen = L"Profile0";
-    for (const TIniModel::TSection& section : model.Sections()) {
-        if (Number(model, section.Name, L"Default") == 0) continue;
-        chosen = section.Name;
+    for (const std::wstring& section : ini.ReadSections()) {
+        if (number(section, L"Default") == 0) continue;
+        chosen = section;
         break;
     }
-    const std::wstring path = model.Value(chosen, L"Path").value_or(L"");
-    return Number(model, chosen, L"IsRelative") == 1 ? kFolder + path : path;
+    const std::wstring path = ini.ReadString(chosen, L"Path", L"");
+    return number(chosen, L"IsRelative") == 1 ? kFolder + path : path;
 }
 
 }  // namespace
@@ -30,7 +31,7 @@ std::wstring ProfileFolder(TIniModel model) {
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     TFakeSystem fake;
     fake.Files.Put(kFolder + std::wstring(L"profiles.ini"), {data, data + size});
-    const std::wstring folder = ProfileFolder(TIniModel(DecodeUtf8OrAnsi({data, size}, fake.Windows).Text));
+    const std::wstring folder = ProfileFolder(DecodeUtf8OrAnsi({data, size}, fake.Windows).Text);
     fake.Files.PutText(folder + L"\\user.js", "user_pref(\"found\", true);\n");
     TFirefoxPrefs prefs(fake.System, kFolder);
     prefs.LoadFirefoxPrefs();

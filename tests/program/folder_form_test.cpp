@@ -20,7 +20,8 @@ const TValuePlace kPrintersKey{
     L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\MyComputer\\NameSpace\\"
     L"{2227A280-3AEA-1069-A2DE-08002B30309D}",
     L""};
-const TValuePlace kNoDrives{HKEY_CURRENT_USER, kExplorerPolicies, L"NoDrives"};
+const TValuePlace kNoDrives{HKEY_CURRENT_USER,
+                            L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer", L"NoDrives"};
 
 class TFolderForm : public TProgramTest {
   protected:

@@ -1,5 +1,33 @@
 #include "tests/program/program.h"
 
+#include <shlwapi.h>
+
+TStoredValue Dword(DWORD number) {
+    const auto* bytes = reinterpret_cast<const BYTE*>(&number);
+    return {REG_DWORD, {bytes, bytes + sizeof number}};
+}
+TStoredValue Text(const std::wstring& text) {
+    const auto* bytes = reinterpret_cast<const BYTE*>(text.c_str());
+    return {REG_SZ, {bytes, bytes + (text.size() + 1) * sizeof(wchar_t)}};
+}
+
+std::optional<TStoredValue> Stored(const TValuePlace& place) {
+    BYTE data[1024];
+    DWORD size = sizeof data;
+    DWORD type = 0;
+    if (SHGetValueW(place.Root, place.Key, place.Name, &type, data, &size) != ERROR_SUCCESS)
+        return std::nullopt;
+    return TStoredValue{type, {data, data + size}};
+}
+
+void Store(const TValuePlace& place, const std::optional<TStoredValue>& value) {
+    if (!value && !Stored(place)) return;
+    const DWORD error = value ? SHSetValueW(place.Root, place.Key, place.Name, value->first,
+                                            value->second.data(), static_cast<DWORD>(value->second.size()))
+                              : SHDeleteValueW(place.Root, place.Key, place.Name);
+    if (error != ERROR_SUCCESS) throw TAutomationError(L"storing fails: error " + std::to_wstring(error));
+}
+
 std::wstring ProgramFolder() {
     wchar_t folder[MAX_PATH];
     const DWORD length = GetEnvironmentVariableW(L"QUILLTUNE_DIR", folder, MAX_PATH);

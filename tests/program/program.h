@@ -3,8 +3,41 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/program/registry_values.h"
 #include "tools/automation.h"
+
+/// Where a value lives.
+struct TValuePlace {
+    HKEY Root;
+    const wchar_t* Key;
+    const wchar_t* Name;
+};
+
+/// A value: its type (REG_…) and its bytes.
+using TStoredValue = std::pair<DWORD, std::vector<BYTE>>;
+
+[[nodiscard]] TStoredValue Dword(DWORD number);
+[[nodiscard]] TStoredValue Text(const std::wstring& text);
+
+/// The stored value; nothing when it or its key is missing.
+[[nodiscard]] std::optional<TStoredValue> Stored(const TValuePlace& place);
+/// Stores a value, creating the key, or deletes it.
+void Store(const TValuePlace& place, const std::optional<TStoredValue>& value);
+
+/// Puts values back when it goes.
+class TValueKeeper {
+  public:
+    explicit TValueKeeper(const std::vector<TValuePlace>& places) {
+        for (const TValuePlace& place : places) FKept.emplace_back(place, Stored(place));
+    }
+    ~TValueKeeper() {
+        for (const auto& [place, value] : FKept) Store(place, value);
+    }
+    TValueKeeper(const TValueKeeper&) = delete;
+    TValueKeeper& operator=(const TValueKeeper&) = delete;
+
+  private:
+    std::vector<std::pair<TValuePlace, std::optional<TStoredValue>>> FKept;
+};
 
 /// The folder with the program, from the environment variable QUILLTUNE_DIR, without a trailing backslash.
 [[nodiscard]] std::wstring ProgramFolder();
@@ -18,7 +51,6 @@ class TProcess {
     TProcess(const TProcess&) = delete;
     TProcess& operator=(const TProcess&) = delete;
 
-    [[nodiscard]] HANDLE Handle() const { return FHandle; }
     [[nodiscard]] DWORD Id() const { return FId; }
     /// Waits until it ends by itself; throws when it does not.
     DWORD ExitCode() const;
@@ -49,31 +81,14 @@ class TProgram : public TProcess {
     TMainWindow FWindow;
 };
 
-// The values behind the Driver page …
+// Settings of the Driver page.
+inline constexpr const wchar_t* kUdmaBox = L"Checkbox_Drives_Common_Enable";  // needs a restart
 inline const TValuePlace kEnableUdma{
     HKEY_LOCAL_MACHINE,
     L"SYSTEM\\CurrentControlSet\\Control\\Class\\{4D36E96A-E325-11CE-BFC1-08002BE10318}\\0000",
     L"EnableUDMA66"};
-inline constexpr const wchar_t* kFileSystemKey = L"SYSTEM\\CurrentControlSet\\Control\\FileSystem";
-inline const TValuePlace kLastAccess{HKEY_LOCAL_MACHINE, kFileSystemKey, L"NtfsDisableLastAccessUpdate"};
-inline const TValuePlace kShortNames{HKEY_LOCAL_MACHINE, kFileSystemKey, L"NtfsDisable8dot3NameCreation"};
-inline constexpr const wchar_t* kExplorerPolicies =
-    L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer";
-inline const TValuePlace kSpaceChecks{HKEY_CURRENT_USER, kExplorerPolicies, L"NoLowDiskSpaceChecks"};
-inline const TValuePlace kDiscNotice{HKEY_LOCAL_MACHINE, kExplorerPolicies, L"CDRAutoRun"};
-inline const TValuePlace kDiscDriver{HKEY_LOCAL_MACHINE, L"SYSTEM\\CurrentControlSet\\Services\\Cdrom",
-                                     L"Autorun"};
-inline const TValuePlace kAutoPlayMask{HKEY_CURRENT_USER, kExplorerPolicies, L"NoDriveTypeAutoRun"};
-// … and behind the Memory and Cache page.
-inline constexpr const wchar_t* kMemoryKey =
-    L"SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management";
-inline const TValuePlace kPagingExecutive{HKEY_LOCAL_MACHINE, kMemoryKey, L"DisablePagingExecutive"};
-inline const TValuePlace kClearPageFile{HKEY_LOCAL_MACHINE, kMemoryKey, L"ClearPageFileAtShutdown"};
-inline const TValuePlace kSystemCache{HKEY_LOCAL_MACHINE, kMemoryKey, L"LargeSystemCache"};
-
-inline const std::vector<TValuePlace> kSettingPlaces = {
-    kEnableUdma, kLastAccess,   kShortNames,      kSpaceChecks,   kDiscNotice,
-    kDiscDriver, kAutoPlayMask, kPagingExecutive, kClearPageFile, kSystemCache};
+inline const TValuePlace kLastAccess{HKEY_LOCAL_MACHINE, L"SYSTEM\\CurrentControlSet\\Control\\FileSystem",
+                                     L"NtfsDisableLastAccessUpdate"};
 
 inline constexpr const wchar_t* kDriverItem = L"RzGroup_Communication.Items[3]";
 inline constexpr const wchar_t* kMemoryItem = L"RzGroup_Communication.Items[4]";
@@ -86,20 +101,15 @@ inline const TValuePlace kPlayedVersion{HKEY_CURRENT_USER, L"Software\\Wine\\App
 inline const TValuePlace kWindowManaged{
     HKEY_CURRENT_USER, L"Software\\Wine\\AppDefaults\\Quilltune.exe\\X11 Driver", L"Managed"};
 
-/// A test that begins with none of those values stored, and puts the found ones back.
+/// A test that begins with none of those settings stored, and puts the found ones back.
 class TProgramTest : public testing::Test {
   protected:
     TProgramTest() {
-        StoreAll(std::nullopt);
+        Store(kEnableUdma, std::nullopt);
+        Store(kLastAccess, std::nullopt);
         Store(kWindowManaged, Text(L"N"));
     }
 
-    /// Stores the same value in the places of all settings.
-    void StoreAll(const std::optional<TStoredValue>& value) const {
-        for (const TValuePlace& place : kSettingPlaces) Store(place, value);
-    }
-
   private:
-    TValueKeeper FKeeper{kSettingPlaces};
-    TValueKeeper FWineKeeper{{kPlayedVersion, kWindowManaged}};
+    TValueKeeper FKeeper{{kEnableUdma, kLastAccess, kPlayedVersion, kWindowManaged}};
 };

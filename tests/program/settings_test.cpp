@@ -36,34 +36,44 @@ struct TSetting {
 const HKEY kMachine = HKEY_LOCAL_MACHINE;
 const HKEY kUser = HKEY_CURRENT_USER;
 
-const TPlace kBootFiles{kMachine, L"SOFTWARE\\Microsoft\\Dfrg\\BootOptimizeFunction", L"Enable"};
-const TPlace kDelay{kMachine, L"SYSTEM\\CurrentControlSet\\Control\\Session Manager", L"AutoChkTimeOut"};
-const TPlace kEndTasks{kUser, L"Control Panel\\Desktop", L"AutoEndTasks"};
-const TPlace kProcess{kUser, L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced",
-                      L"SeparateProcess"};
-const TPlace kReboot{kMachine, L"SYSTEM\\CurrentControlSet\\Control\\CrashControl", L"AutoReboot"};
-const TPlace kRegistered{kMachine, L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion", L"RegisteredOwner"};
-const TPlace kBackButton{kUser, L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\comdlg32",
-                         L"NoBackButton"};
-const TPlace kColor{kUser, L"Software\\Microsoft\\Command Processor", L"DefaultColor"};
-
+constexpr const wchar_t* kVisits = L"Checkbox_Drives_Common_NTFS_SaveLastVisitData";
 constexpr const wchar_t* kStartup = L"RzGroup_Others.Items[1]";
 constexpr const wchar_t* kInformation = L"RzGroup_Communication.Items[0]";
 
 const TSetting kSettings[] = {
-    {kStartup, L"Checkbox_Startup_System_Defrag_Enable", Click, kBootFiles, Text(L"y")},
+    {kDriverItem, kUdmaBox, Click, kEnableUdma, Dword(1), true},
+    {kDriverItem, kVisits, Click, kLastAccess, Dword(1)},
+    // Changes one bit of a mask.
+    {kDriverItem, L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia", Click,
+     TPlace{kUser, L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer",
+            L"NoDriveTypeAutoRun"},
+     Dword(4)},
+    {kMemoryItem, L"Radio_MemoryAndCache_MemoryUse_System", Click,
+     TPlace{kMachine, L"SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management",
+            L"LargeSystemCache"},
+     Dword(1), true},
+    {kStartup, L"Checkbox_Startup_System_Defrag_Enable", Click,
+     TPlace{kMachine, L"SOFTWARE\\Microsoft\\Dfrg\\BootOptimizeFunction", L"Enable"}, Text(L"y")},
     // More than the field takes.
-    {kStartup, L"Edit_Startup_System_DelayTime_Time", Type(L"601"), kDelay, Dword(600)},
-    {kStartup, L"Radio_Startup_Exit_AutoClose_ShowCloseDialog", Click, kEndTasks, Text(L"0")},
-    {kStartup, L"Radio_Startup_DesktopAndTaskbar_DAndTSeparateProcess_Process", Click, kProcess, Dword(1),
-     true},
-    {kStartup, L"CB_Startup_Error_SystemError_Type", Choose(1), kReboot, Dword(1)},
-    {kInformation, L"Edit_System_Common_Infomation_Name", Type(L"Ada L\u00F8v"), kRegistered,
+    {kStartup, L"Edit_Startup_System_DelayTime_Time", Type(L"601"),
+     TPlace{kMachine, L"SYSTEM\\CurrentControlSet\\Control\\Session Manager", L"AutoChkTimeOut"}, Dword(600)},
+    {kStartup, L"Radio_Startup_Exit_AutoClose_ShowCloseDialog", Click,
+     TPlace{kUser, L"Control Panel\\Desktop", L"AutoEndTasks"}, Text(L"0")},
+    {kStartup, L"Radio_Startup_DesktopAndTaskbar_DAndTSeparateProcess_Process", Click,
+     TPlace{kUser, L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced", L"SeparateProcess"},
+     Dword(1), true},
+    {kStartup, L"CB_Startup_Error_SystemError_Type", Choose(1),
+     TPlace{kMachine, L"SYSTEM\\CurrentControlSet\\Control\\CrashControl", L"AutoReboot"}, Dword(1)},
+    {kInformation, L"Edit_System_Common_Infomation_Name", Type(L"Ada L\u00F8v"),
+     TPlace{kMachine, L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion", L"RegisteredOwner"},
      Text(L"Ada L\u00F8v")},
     // The box of the back button records what another box shows.
-    {kInformation, L"Checkbox_System_CommonDialog_FolderNavigation_ShowReturn", Click, kBackButton, Dword(0)},
+    {kInformation, L"Checkbox_System_CommonDialog_FolderNavigation_ShowReturn", Click,
+     TPlace{kUser, L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\comdlg32", L"NoBackButton"},
+     Dword(0)},
     // On it white text, which the other list shows without a stored value.
-    {kInformation, L"CMboundColor", Choose(4), kColor, Dword(0x47)},
+    {kInformation, L"CMboundColor", Choose(4),
+     TPlace{kUser, L"Software\\Microsoft\\Command Processor", L"DefaultColor"}, Dword(0x47)},
 };
 
 std::vector<TPlace> Places() {
@@ -72,27 +82,66 @@ std::vector<TPlace> Places() {
     return places;
 }
 
-class TSettings : public TProgramTest, public testing::WithParamInterface<const wchar_t*> {
+class TSettings : public TProgramTest {
   private:
     TValueKeeper FKeeper{Places()};
 };
 
-TEST_P(TSettings, AreWrittenByApply) {
-    for (const TSetting& setting : kSettings) Store(setting.Place, std::nullopt);
-    Store(kPlayedVersion, Text(GetParam()));
-    const TProgram program;
-    const TMainWindow& window = program.Window();
-    for (const TSetting& setting : kSettings) {
-        SCOPED_TRACE(Utf8(setting.Control));
-        Show(window, setting.Item, setting.Control);
-        EXPECT_FALSE(window.Enabled(L"Button_Apply")) << "loading is no change";
-        setting.Act(window, setting.Control);
-        EXPECT_EQ(Stored(setting.Place), std::nullopt) << "written before Apply";
-        setting.Restart ? (void)program.ApplyWithoutRestart() : program.Apply();
-        EXPECT_EQ(Stored(setting.Place), setting.Expected);
+TEST_F(TSettings, AreWrittenByApplyOnEveryWindows) {
+    for (const wchar_t* windows : {L"win2k", L"winxp", L"win7"}) {
+        for (const TSetting& setting : kSettings) Store(setting.Place, std::nullopt);
+        Store(kPlayedVersion, Text(windows));
+        const TProgram program;
+        const TMainWindow& window = program.Window();
+        EXPECT_EQ(window.Visible(L"RzGroup_Use.Items[1]"), windows != std::wstring(L"win2k"))
+            << "Firefox, from XP on";
+        for (const TSetting& setting : kSettings) {
+            SCOPED_TRACE(Utf8(setting.Control));
+            Show(window, setting.Item, setting.Control);
+            EXPECT_FALSE(window.Enabled(L"Button_Apply")) << "loading is no change";
+            setting.Act(window, setting.Control);
+            EXPECT_EQ(Stored(setting.Place), std::nullopt) << "written before Apply";
+            setting.Restart ? (void)program.ApplyWithoutRestart() : program.Apply();
+            EXPECT_EQ(Stored(setting.Place), setting.Expected);
+        }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(OnWindows, TSettings, testing::Values(L"winxp", L"win7"));
+TEST_F(TSettings, TheRestartQuestionComesAfterTheWritingAndOnce) {
+    const TProgram program;
+    const TMainWindow& window = program.Window();
+    Show(window, kDriverItem, kUdmaBox);
+    window.Click(kUdmaBox);
+    window.Click(L"Button_Apply");
+    const TMessageBox question = window.WaitForQuestion();
+    EXPECT_EQ(Stored(kEnableUdma), Dword(1));
+    EXPECT_EQ(question.Title(), L"Quilltune");
+    EXPECT_EQ(question.Text(), L"Need to restart Windows to take effect, restart now?");
+    EXPECT_TRUE(question.Offers(IDYES));
+    EXPECT_FALSE(IsWindowEnabled(window.Handle()));
+    question.Answer(IDNO);
+    window.Click(kVisits);
+    program.Apply();  // No has settled it
+}
+
+TEST_F(TSettings, AreWrittenByOkAndEnterAndByNoOtherWayOut) {
+    const std::pair<bool, void (*)(const TMainWindow& window)> ways[] = {
+        {true, [](const TMainWindow& window) { window.Click(L"Button_OK"); }},
+        {true, [](const TMainWindow& window) { window.Press(VK_RETURN); }},
+        {false, [](const TMainWindow& window) { window.Click(L"Button_Cancel"); }},
+        {false, [](const TMainWindow& window) { window.Press(VK_ESCAPE); }},
+        {false, [](const TMainWindow& window) { window.Close(); }},
+    };
+    for (const auto& [writes, leave] : ways) {
+        Store(kLastAccess, Dword(0));
+        const TProgram program;
+        program.Window().Click(kDriverItem);
+        EXPECT_TRUE(program.Window().Checked(kVisits));
+        program.Window().Click(kVisits);
+        leave(program.Window());
+        EXPECT_EQ(program.ExitCode(), 0u);
+        EXPECT_EQ(Stored(kLastAccess), Dword(writes ? 1 : 0));
+    }
+}
 
 }  // namespace

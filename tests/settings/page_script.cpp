@@ -1,6 +1,8 @@
 #include "tests/settings/page_script.h"
 
+#include <algorithm>
 #include <fstream>
+#include <functional>
 #include <map>
 #include <memory>
 #include <sstream>
@@ -8,6 +10,7 @@
 #include "app/page_table.h"
 #include "platform/text.h"
 #include "platform/unicode.h"
+#include "settings/shell/desktop_icons.h"
 #include "tests/settings/page_bench.h"
 
 namespace {
@@ -25,14 +28,25 @@ TLine Take(TLine& text, const wchar_t* separator) {
     return head;
 }
 
-/// The controls at the beginning of the text, parted by commas; they are taken off.
-TLines TakeControls(TLine& text) {
-    TLine list = Take(text, L" ");
-    while (list.ends_with(L',')) list += Take(text, L" ");
-    TLines names;
-    while (!list.empty()) names.push_back(Take(list, L","));
-    return names;
+/// The controls that a line begins with, with commas between them.
+TLines TakeControls(TLine& rest) {
+    TLines controls;
+    for (bool more = true; more;) {
+        TLine control = Take(rest, L" ");
+        more = control.ends_with(L',');
+        if (more) control.pop_back();
+        controls.push_back(control);
+    }
+    return controls;
 }
+
+TLines Parts(TLine rest) {
+    TLines parts;
+    while (!rest.empty()) parts.push_back(Take(rest, L" | "));
+    return parts;
+}
+
+bool IsPref(const TLine& change) { return change.starts_with(L"user_pref("); }
 
 std::uint32_t Unsigned(const TLine& text) { return static_cast<std::uint32_t>(std::stoul(text, nullptr, 0)); }
 
@@ -65,34 +79,44 @@ class TScene {
 
     TPageBench& Bench() { return FBench; }
 
-    /// Prepares what `shows` names: a registry value, or what else a line of the language can.
-    void Find(const TLine& line) {
-        TLine rest = line;
-        if (line.ends_with(L" missing")) return;
-        Run(kSteps.contains(Take(rest, L" ")) ? line : L"stored " + line, {});
-    }
-
-    void Run(TLine line, const TLines& below) {
+    /// False when the line does not begin with a verb.
+    bool Run(TLine line, const TLines& below) {
         const TLine verb = Take(line, L" ");
         const auto step = kSteps.find(verb);
-        if (step == kSteps.end()) throw std::invalid_argument("no such verb");
+        if (step == kSteps.end()) return false;
         step->second(*this, line, below);
+        return true;
     }
 
-    void Expect(TLine rest) {
-        for (const TLine& control : TakeControls(rest)) {
-            SCOPED_TRACE(ToUtf8(control));
-            TControl& c = FBench.Get<TControl>(control);
-            if (rest == L"enabled" || rest == L"disabled") {
-                EXPECT_EQ(c.Enabled(), rest == L"enabled");
-            } else if (rest == L"visible" || rest == L"hidden") {
-                const bool isSheet = c.Kind() == TComponentKind::TabSheet;
-                EXPECT_EQ(isSheet ? static_cast<TTabSheet&>(c).TabVisible() : c.Visible(),
-                          rest == L"visible");
-            } else {
-                EXPECT_EQ(FBench.State(control), rest);
-            }
+    void Expect(const TLine& control, const TLine& rest) {
+        SCOPED_TRACE(ToUtf8(control));
+        TControl& c = FBench.Get<TControl>(control);
+        if (rest == L"enabled" || rest == L"disabled") {
+            EXPECT_EQ(c.Enabled(), rest == L"enabled");
+        } else if (rest == L"visible" || rest == L"hidden") {
+            const bool isSheet = c.Kind() == TComponentKind::TabSheet;
+            EXPECT_EQ(isSheet ? static_cast<TTabSheet&>(c).TabVisible() : c.Visible(), rest == L"visible");
+        } else {
+            EXPECT_EQ(FBench.State(control), rest);
         }
+    }
+
+    /// The changes among the parts of a line, with the control's name for *; the parts that are verbs run.
+    TLines Changes(const TLine& control, const TLines& parts) {
+        TLines changes;
+        for (TLine part : parts) {
+            if (part.starts_with(L'*')) part = control + part.substr(1);
+            if (!Run(part, {})) changes.push_back(part);
+        }
+        return changes;
+    }
+
+    /// Expects them to be all that are pending and, when some are Firefox preferences, all of these.
+    void ExpectChanges(TLines changes) {
+        const auto prefs = std::ranges::stable_partition(changes, std::not_fn(IsPref));
+        if (!prefs.empty()) Prefs(*this, L"changed", {prefs.begin(), prefs.end()});
+        changes.erase(prefs.begin(), prefs.end());
+        EXPECT_EQ(FBench.Pending(), changes);
     }
 
   private:
@@ -117,24 +141,19 @@ class TScene {
         if (kind != L"nothing") dialogs.Answer(kind == L"yes" ? TMessageAnswer::Yes : TMessageAnswer::No);
     }
 
+    static void Asked(TScene& scene, TLine rest, const TLines& /*below*/) {
+        const auto& dialogs = scene.FBench.Fake.Dialogs;
+        const bool isFile = Take(rest, L" ") == L"file";
+        ASSERT_FALSE(isFile ? dialogs.Filters().empty() : dialogs.InitialColors().empty());
+        EXPECT_TRUE(isFile ? dialogs.Filters().back() == rest
+                           : dialogs.InitialColors().back() == Unsigned(rest));
+    }
+
     static void Do(TScene& scene, TLine rest, const TLines& /*below*/) {
-        const TLines controls = TakeControls(rest);
-        const bool tellsChanges = rest.find(L'|') != TLine::npos;
-        const TLine state = Take(rest, L"|");
+        TLine state = Take(rest, L" | ");
+        const TLines controls = TakeControls(state);
         for (const TLine& control : controls) scene.FBench.Act(control, state);
-        if (!tellsChanges) return;
-        TLines changes;
-        TLines prefs;
-        while (!rest.empty()) {
-            TLine change = Take(rest, L"|");
-            if (change.starts_with(L'*')) change = controls.front() + change.substr(1);
-            if (change == L"restart")
-                scene.FRestart = true;
-            else
-                (change.starts_with(L"user_pref(") ? prefs : changes).push_back(change);
-        }
-        EXPECT_EQ(scene.FBench.Pending(), changes);
-        if (!prefs.empty()) Prefs(scene, L"changed", prefs);
+        if (!rest.empty()) scene.ExpectChanges(scene.Changes(controls.front(), Parts(rest)));
     }
 
     static void Firefox(TScene& scene, TLine rest, const TLines& /*below*/) {
@@ -197,17 +216,22 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
     {L"firefox", Firefox},
     {L"answer", Answer},
     {L"load", [](TScene& s, TLine, const TLines&) { s.FBench.Load(); }},
+    {L"do", Do},
     {L"preset",
      [](TScene& s, TLine rest, const TLines&) {
          const TLoadingScope loading(s.FBench.Context);
          for (const TLine& control : TakeControls(rest)) s.FBench.Act(control, rest);
      }},
-    {L"do", Do},
     {L"leave", [](TScene& s, TLine rest, const TLines&) { s.FBench.Get<TEdit>(rest).SetFocused(false); }},
     {L"apply", [](TScene& s, TLine, const TLines&) { s.FBench.Context.Changes.WriteAll(); }},
-    {L"expect", [](TScene& s, TLine rest, const TLines&) { s.Expect(rest); }},
+    {L"expect",
+     [](TScene& s, TLine rest, const TLines&) {
+         for (const TLine& control : TakeControls(rest)) s.Expect(control, rest);
+     }},
     {L"records", [](TScene& s, TLine, const TLines& below) { EXPECT_EQ(s.FBench.Pending(), below); }},
-    {L"told", [](TScene& s, TLine rest, const TLines&) { EXPECT_EQ(s.FBench.Recorded, std::stoi(rest)); }},
+    {L"recorded",
+     [](TScene& s, TLine rest, const TLines&) { EXPECT_EQ(s.FBench.Recorded, std::stoi(rest)); }},
+    {L"asked", Asked},
     {L"prefs", Prefs},
     {L"now", Now},
     {L"security",
@@ -221,38 +245,72 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
     {L"restart", [](TScene& s, TLine, const TLines&) { s.FRestart = true; }},
 };
 
-void RunShows(const TPageDefinition& page, TLine rest) {
-    const TLines controls = TakeControls(rest);
-    const TLine shows = Take(rest, L"|");
-    const TLine found = Take(rest, L"|");
-    for (const TLine& control : controls) {
-        for (const bool before : {false, true}) {
-            TScene scene(page);
-            TPageBench& bench = scene.Bench();
-            if (!rest.empty()) bench.Context.WindowsLevel = std::stoi(rest);
-            const bool isBox = bench.Get<TControl>(control).Kind() == TComponentKind::CheckBox;
-            if (isBox) bench.Preset(control, before);
-            const TLine kept = bench.State(control);
-            scene.Find(found);
-            bench.Load();
-            scene.Expect(control + L' ' + (shows == L"kept" ? kept : shows));
-            EXPECT_TRUE(bench.Pending().empty() && bench.Recorded == 0 && !bench.Context.FirefoxChanged)
-                << "loading records nothing";
-            if (!isBox) break;
-        }
+void RunShows(const TPageDefinition& page, const TLine& control, const TLine& shows, const TLine& stored,
+              const TLine& level) {
+    SCOPED_TRACE(ToUtf8(stored));
+    for (const bool before : {false, true}) {
+        TScene scene(page);
+        TPageBench& bench = scene.Bench();
+        if (!level.empty()) bench.Context.WindowsLevel = std::stoi(level);
+        const bool isBox = bench.Get<TControl>(control).Kind() == TComponentKind::CheckBox;
+        if (isBox) bench.Preset(control, before);
+        const TLine kept = bench.State(control);
+        if (!stored.ends_with(L" missing") && !scene.Run(stored, {})) scene.Run(L"stored " + stored, {});
+        bench.Load();
+        scene.Expect(control, shows == L"kept" ? kept : shows);
+        EXPECT_TRUE(bench.Pending().empty() && bench.Recorded == 0 && !bench.Context.FirefoxChanged)
+            << "loading records nothing";
+        if (!isBox) break;
     }
 }
 
-void RunWrites(const TPageDefinition& page, const TLine& line) {
-    TLine rest = line;
-    const TLine control = Take(rest, L" ");
+void RunShows(const TPageDefinition& page, const TLine& control, const TLine& place, TLine cases) {
+    if (cases.empty()) throw std::invalid_argument("no case");
+    for (TLine level; !cases.empty();) {
+        TLine part = Take(cases, L" | ");
+        const TLine value = Take(part, L" -> ");
+        if (value.starts_with(L"level "))
+            level = value.substr(6);
+        else
+            RunShows(page, control, part, place + (value == L"missing" ? L" " : L" = ") + value, level);
+    }
+}
+
+void RunShows(const TPageDefinition& page, TLine rest) {
+    TLine state = Take(rest, L" | ");
+    const TLines controls = TakeControls(state);
+    const TLine place = Take(rest, L" | ");
+    for (const TLine& control : controls)
+        state.empty() ? RunShows(page, control, place, rest) : RunShows(page, control, state, place, rest);
+}
+
+void RunWrites(const TPageDefinition& page, const TLine& control, const TLine& state, const TLines& parts) {
+    SCOPED_TRACE(ToUtf8(state));
     TScene scene(page);
     TPageBench& bench = scene.Bench();
+    const TLines changes = scene.Changes(control, parts);
     if (bench.Get<TControl>(control).Kind() == TComponentKind::CheckBox)
-        bench.Preset(control, Take(rest, L"|") == L"off");
-    scene.Run(L"do " + line + L'|', {});
-    EXPECT_EQ(bench.Context.FirefoxChanged, line.find(L"user_pref(") != TLine::npos);
+        bench.Preset(control, state == L"off");
+    bench.Act(control, state);
+    scene.ExpectChanges(changes);
+    EXPECT_EQ(bench.Context.FirefoxChanged, std::ranges::any_of(changes, IsPref));
     EXPECT_GE(bench.Recorded, 1) << "Apply is to be enabled";
+}
+
+void RunWrites(const TPageDefinition& page, TLine rest) {
+    TLine state = Take(rest, L" | ");
+    const TLine control = Take(state, L" ");
+    TLines parts = Parts(rest);
+    if (!state.empty()) return RunWrites(page, control, state, parts);
+    const auto cases = std::ranges::stable_partition(
+        parts, [](const TLine& part) { return part.find(L" -> ") == TLine::npos; });
+    if (cases.empty()) throw std::invalid_argument("no case");
+    const TLine change = parts[0];
+    for (TLine part : cases) {
+        state = Take(part, L" -> ");
+        parts[0] = change + L" = " + part;
+        RunWrites(page, control, state, {parts.begin(), cases.begin()});
+    }
 }
 
 class TScript {
@@ -278,7 +336,7 @@ class TScript {
             RunWrites(*FPage, rest);
         } else {
             if (!FScene) FScene = std::make_unique<TScene>(*FPage);
-            FScene->Run(whole, below);
+            if (!FScene->Run(whole, below)) throw std::invalid_argument("no such verb");
         }
     }
     void EndScene() { FScene = nullptr; }
@@ -293,7 +351,7 @@ class TScript {
         return line;
     }
 
-    const TPageDefinition* FPage = nullptr;
+    const TPageDefinition* FPage = &DesktopIcons();
     std::unique_ptr<TScene> FScene;
     std::map<TLine, TLine> FNames;
 };

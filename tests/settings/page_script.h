@@ -1,7 +1,8 @@
 // Page tests as text, one file per page in tests/settings/pages. A file is a list of scenes, parted by blank lines; every scene
 // has a fresh page of its own. Lines that begin with # are comments; `let NAME = text` makes <NAME> stand for the text from there on.
 //
-//   page 14                               the page of this file, by its tag; `page 9 every visit` loads on every visit
+//   page 14                               the page of this file, by its tag; the desktop icons when nothing is said; `page 9 every
+//                                         visit` when every visit loads it
 //
 // What the scene finds:
 //   level 5                               the Windows level; 7 when nothing is said
@@ -12,21 +13,20 @@
 //   firefox user_pref("a", 1);            Firefox is installed, with this line in its user.js; without a line its user.js
 //                                         is empty, and with `none` it is not installed
 //   answer file C:\a.exe                  what the user will say to a dialog; also color 0x0000FF, yes, no, nothing
-//   preset CONTROL STATE                  a control is in the state already; the page is not told
 //   load                                  the page's loaders run
+//   preset CONTROL STATE                  brings it into the state and records nothing
 //
-// What happens:
+// What happens (where it says CONTROL, there may be more than one with commas between them):
 //   do CONTROL STATE                      as a user would: on, off, an item, a position, a text; nothing for a button
-//   do CONTROL STATE | CHANGE | …         these are all pending changes then, and lines of the Firefox preferences; * stands
-//                                         for the control's name
-//   leave CONTROL                         the focus goes from an edit, where `do` brought it
+//   do CONTROL STATE | CHANGE | …         and these are all pending changes then, or lines of the Firefox preferences
+//   leave EDIT                            the edit loses the focus
 //   apply                                 the pending changes are written
 //
 // What comes of it:
-//   expect CONTROL STATE                  also enabled, disabled, visible, hidden; this, do, preset and shows take several
-//                                         controls, as in: expect A, B on
-//   told 2                                so often the page said that it recorded something
+//   expect CONTROL STATE                  also enabled, disabled, visible, hidden
 //   records                               followed by all pending changes, a line each, set in; see TPageBench::Pending
+//   recorded 2                            how often the page told that it recorded something
+//   asked color 0x0000FF                  what the last dialog started from; also file FILTER
 //   prefs                                 followed by all lines of the Firefox preferences, set in; `prefs changed` and
 //                                         `prefs unchanged` also look at the mark for Apply
 //   now PLACE = VALUE                     what the registry holds; or: now PLACE missing
@@ -35,8 +35,12 @@
 //
 // A scene in one line:
 //   shows CONTROL STATE | PLACE = VALUE | 5      loads on the level (7 when nothing is said); a check box from both states. STATE
-//                                                may be `kept`, and the middle `PLACE missing`, or a service, a parameter, …
-//   writes CONTROL STATE | CHANGE | … | restart  does that on a page that was not loaded
+//                                                may be `kept`, and the middle `PLACE missing`, a parameter, a service or Firefox
+//   writes CONTROL STATE | CHANGE | … | restart  does that on a page that was not loaded; * stands for the control's name.
+//                                                The parts may also be verbs, such as `stored PLACE = VALUE` or `level 5`
+// Several of them in one line:
+//   shows CONTROL | PLACE | VALUE -> STATE | missing -> STATE | level 5 | VALUE -> STATE    the level is that of what follows
+//   writes CONTROL | *: PLACE | STATE -> VALUE | STATE -> VALUE | restart                   the change first
 #pragma once
 
 #include <string>

@@ -42,15 +42,11 @@ class TLaidOut {
 
     /// No control may touch another one, but for a group box, which contains its own.
     void ExpectNoOverlap() const {
-        for (const auto& [name, a] : FPlaces) {
-            for (const auto& [other, b] : FPlaces) {
-                if (name >= other || IsGroup(name) || IsGroup(other)) continue;
-                const bool apart =
-                    Right(a) <= b.Left || Right(b) <= a.Left || Bottom(a) <= b.Top || Bottom(b) <= a.Top;
-                EXPECT_TRUE(apart) << testing::PrintToString(name) << " and "
-                                   << testing::PrintToString(other);
-            }
-        }
+        for (const auto& [name, a] : FPlaces)
+            for (const auto& [other, b] : FPlaces)
+                EXPECT_TRUE(name >= other || IsGroup(name) || IsGroup(other) || Right(a) <= b.Left ||
+                            Right(b) <= a.Left || Bottom(a) <= b.Top || Bottom(b) <= a.Top)
+                    << testing::PrintToString(name) << " and " << testing::PrintToString(other);
     }
 
   private:
@@ -85,12 +81,11 @@ TEST(TLayoutTest, KeepsControlsApartAndInside) {
             laidOut.ExpectNoOverlap();
             const TRect& group = laidOut[L"Group"];
             EXPECT_EQ(group.Width, area.Width);
-            for (const wchar_t* name : {L"Short", L"Long", L"Inner", L"LabelA", L"UpDownA", L"ComboB"}) {
-                const TRect& place = laidOut[name];
-                EXPECT_GT(place.Left, group.Left);
-                EXPECT_LT(TLaidOut::Right(place), TLaidOut::Right(group)) << testing::PrintToString(name);
-                EXPECT_LT(TLaidOut::Bottom(place), TLaidOut::Bottom(group)) << testing::PrintToString(name);
-            }
+            for (const wchar_t* name : {L"Short", L"Long", L"Inner", L"LabelA", L"UpDownA", L"ComboB"})
+                EXPECT_TRUE(laidOut[name].Left > group.Left &&
+                            TLaidOut::Right(laidOut[name]) < TLaidOut::Right(group) &&
+                            TLaidOut::Bottom(laidOut[name]) < TLaidOut::Bottom(group))
+                    << testing::PrintToString(name);
             EXPECT_FALSE(laidOut.Has(L"Hidden"));
         }
     }

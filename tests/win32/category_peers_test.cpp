@@ -7,16 +7,11 @@ namespace {
 class CategoryPeersTest : public TPeerBench {
   protected:
     CategoryPeersTest() {
-        Form.Build(Form,
-                   CategoryBar(L"Bar", {CategoryGroup(L"A", L"First",
-                                                      {CategoryItem(L"A0", L"One", 1, L"general"),
-                                                       CategoryItem(L"A1", L"Two", 2, L"mail"),
-                                                       CategoryItem(L"A2", L"Three", 3, L"none").Hidden()}),
-                                        CategoryGroup(L"B", L"Second",
-                                                      {CategoryItem(L"B0", L"Four", 4, L"input"),
-                                                       CategoryItem(L"B1", L"Five", 5, L"input")})}));
-        for (const wchar_t* name : {L"A0", L"A1", L"A2", L"B0", L"B1"})
-            Item(name).OnClick = [this](TComponent& item) { Fired.push_back(item.Name()); };
+        const auto item = [](const wchar_t* name) { return CategoryItem(name, name, 1, L"general"); };
+        Form.Build(Form, CategoryBar(L"Bar", {CategoryGroup(L"A", L"First",
+                                                            {item(L"A0"), item(L"A1"), item(L"A2").Hidden()}),
+                                              CategoryGroup(L"B", L"Second", {item(L"B0"), item(L"B1")})}));
+        for (const wchar_t* name : {L"A0", L"A1", L"A2", L"B0", L"B1"}) Item(name).OnClick = Note;
         Show();
         HandleMessages();
     }
@@ -41,18 +36,18 @@ TEST_F(CategoryPeersTest, EveryWayOfPressingAnEnabledItemIsOneClick) {
 TEST_F(CategoryPeersTest, ArrowKeysCrossGroupsAndPassWhatCannotBeReached) {
     Item(L"B0").SetEnabled(false);
     SetFocus(Window(L"A0"));
-    const auto press = [this](WPARAM key, const wchar_t* expected) {
+    // Nothing is above the first and below the last; the hidden and the disabled one are left out.
+    for (const auto& [key, expected] : {std::pair(VK_UP, L"A0"),
+                                        {VK_DOWN, L"A1"},
+                                        {VK_DOWN, L"B1"},
+                                        {VK_DOWN, L"B1"},
+                                        {VK_UP, L"A1"},
+                                        {VK_END, L"B1"},
+                                        {VK_HOME, L"A0"}}) {
         EXPECT_NE(SendMessageW(GetFocus(), WM_GETDLGCODE, key, 0) & DLGC_WANTARROWS, 0);
         SendMessageW(GetFocus(), WM_KEYDOWN, key, 0);
         EXPECT_EQ(GetFocus(), Window(expected)) << key;
-    };
-    press(VK_UP, L"A0");  // nothing above the first
-    press(VK_DOWN, L"A1");
-    press(VK_DOWN, L"B1");  // the hidden and the disabled one are left out
-    press(VK_DOWN, L"B1");
-    press(VK_UP, L"A1");
-    press(VK_END, L"B1");
-    press(VK_HOME, L"A0");
+    }
     EXPECT_TRUE(Fired.empty()) << "moving is not choosing";
 }
 

@@ -21,12 +21,6 @@ void WriteToNowhere() {
     *reinterpret_cast<volatile int*>(address) = 1;
 }
 
-void DivideByZero() {
-    volatile int zero = 0;
-    volatile int result = 7 / zero;
-    (void)result;
-}
-
 /// Deeper than any stack.
 int Recurse(int depth) {
     volatile char frame[4096];
@@ -98,7 +92,8 @@ TEST_F(FaultHooksDeathTest, AFaultIsLoggedBeforeTheProcessEnds) {
         {WriteToNowhere, EXCEPTION_ACCESS_VIOLATION,
          "Exception Type=EAccessViolation\r\nError Message=Access violation at address "},
         {ClickOnFault, EXCEPTION_ACCESS_VIOLATION, "Exception Type=EAccessViolation\r\n"},
-        {DivideByZero, EXCEPTION_INT_DIVIDE_BY_ZERO, "Exception Type=EDivByZero\r\n"},
+        {[] { RaiseException(EXCEPTION_INT_DIVIDE_BY_ZERO, 0, 0, nullptr); }, EXCEPTION_INT_DIVIDE_BY_ZERO,
+         "Exception Type=EDivByZero\r\n"},
         {[] { Recurse(1'000'000); }, EXCEPTION_STACK_OVERFLOW, "Exception Type=EStackOverflow\r\n"},
         {[] { RaiseException(0xE1234567, EXCEPTION_NONCONTINUABLE, 0, nullptr); }, 0xE1234567,
          "Exception Type=EExternalException\r\nError Message=External exception E1234567 at address "},

@@ -59,5 +59,6 @@ class TPeerBench : public testing::Test {
 
     TForm Form;
     TNames Fired;
+    const TNotifyEvent Note = [this](TComponent& sender) { Fired.push_back(sender.Name()); };
     int Faults = 0;
 };

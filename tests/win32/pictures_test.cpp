@@ -17,8 +17,7 @@ std::vector<std::byte> ResourceFile(const wchar_t* name) {
 TEST(PngDecoderTest, DecodesColoursAndTransparency) {
     const std::optional<TPixels> icon = DecodePng(ResourceFile(L"general_16"));
     ASSERT_TRUE(icon.has_value());
-    EXPECT_EQ(icon->Width, 16);
-    EXPECT_EQ(icon->Height, 16);
+    EXPECT_TRUE(icon->Width == 16 && icon->Height == 16);
     ASSERT_EQ(icon->Pixels.size(), 256u);
     EXPECT_EQ(icon->Pixels[0], 0u) << "the corner of an icon is clear";
     TPixel mostOpaque = 0;
@@ -56,19 +55,16 @@ TEST(PngDecoderTest, BrokenFilesGiveNothing) {
 
 TEST(PictureStoreTest, FindsTheFittingSize) {
     TPictureStore store(nullptr);
-    const auto sizeOf = [&store](const wchar_t* name, int size) {
-        const TPicture* picture = store.Find(name, size);
-        return picture == nullptr ? 0 : picture->Width();
+    const std::tuple<const wchar_t*, int, int> cases[] = {
+        {L"general", 16, 16},         {L"general", 20, 20},   {L"general", 18, 18},  // scaled down
+        {L"general", 40, 32},         {L"loading_0", 16, 16},  // the largest, the smallest there is
+        {L"loading_6", 64, 64},       {L"missing", 16, 0},    {L"logon_classic", 100, 150},
+        {L"logon_classic", 150, 225},  // sizes are heights, scaling keeps the shape
     };
-    EXPECT_EQ(sizeOf(L"general", 16), 16);
-    EXPECT_EQ(sizeOf(L"general", 20), 20);
-    EXPECT_EQ(sizeOf(L"general", 18), 18) << "scaled down";
-    EXPECT_EQ(sizeOf(L"general", 40), 32) << "the largest there is";
-    EXPECT_EQ(sizeOf(L"loading_0", 16), 16) << "has no size below 32";
-    EXPECT_EQ(sizeOf(L"loading_6", 64), 64);
-    EXPECT_EQ(sizeOf(L"logon_classic", 100), 150) << "sizes are heights";
-    EXPECT_EQ(sizeOf(L"logon_classic", 150), 225) << "scaled down, of the same shape";
-    EXPECT_EQ(sizeOf(L"missing", 16), 0);
+    for (const auto& [name, size, found] : cases) {
+        const TPicture* picture = store.Find(name, size);
+        EXPECT_EQ(picture == nullptr ? 0 : picture->Width(), found) << size;
+    }
     EXPECT_EQ(store.Find(L"general", 18), store.Find(L"general", 18)) << "decoded once";
 }
 

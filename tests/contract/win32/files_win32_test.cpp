@@ -18,10 +18,11 @@ class TFilesWin32 : public TContractTest {
 };
 
 TEST_F(TFilesWin32, HiddenAndSystemFilesAreListed) {
-    ASSERT_TRUE(Files().Replace(Path(L"hidden.lng"), {}));
-    ASSERT_TRUE(Files().Replace(Path(L"system.lng"), {}));
-    ASSERT_TRUE(SetFileAttributesW(Path(L"hidden.lng").c_str(), FILE_ATTRIBUTE_HIDDEN));
-    ASSERT_TRUE(SetFileAttributesW(Path(L"system.lng").c_str(), FILE_ATTRIBUTE_SYSTEM));
+    for (const auto& [name, attribute] :
+         {std::pair(L"hidden.lng", FILE_ATTRIBUTE_HIDDEN), {L"system.lng", FILE_ATTRIBUTE_SYSTEM}}) {
+        ASSERT_TRUE(Files().Replace(Path(name), {}));
+        ASSERT_TRUE(SetFileAttributesW(Path(name).c_str(), static_cast<DWORD>(attribute)));
+    }
     EXPECT_THAT(Files().List(Folder(), L"*.lng"), UnorderedElementsAre(L"hidden.lng", L"system.lng"));
 }
 
@@ -47,11 +48,9 @@ TEST_F(TFilesWin32, LockedAndHugeFilesAreNotRead) {
 
 TEST_F(TFilesWin32, LongProfileStringsAreReadWhole) {
     for (const std::size_t length : {254U, 255U, 256U, 5000U}) {
-        std::vector<std::uint8_t> bytes(length, 'x');
-        const std::string_view head = "[s]\r\nk=";
-        bytes.insert(bytes.begin(), head.begin(), head.end());
+        const std::string text = "[s]\r\nk=" + std::string(length, 'x');
         const std::wstring name = std::to_wstring(length);
-        ASSERT_TRUE(Files().Replace(Path(name), bytes));
+        ASSERT_TRUE(Files().Replace(Path(name), {text.begin(), text.end()}));
         EXPECT_EQ(Files().ProfileString(Path(name), L"s", L"k", L""), std::wstring(length, L'x'));
     }
 }

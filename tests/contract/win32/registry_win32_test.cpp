@@ -13,12 +13,15 @@ class TRegistryWin32 : public TContractTest {
   protected:
     TRegistry& Registry() { return System().Registry; }
 
-    static TKeyHandle Key(const wchar_t* path = kUserKey.Path + 1, HKEY root = HKEY_CURRENT_USER,
-                          REGSAM view = 0) {
+    static TKeyHandle Key(const std::wstring& below = {}) {
         HKEY key = nullptr;
-        EXPECT_EQ(RegCreateKeyExW(root, path, 0, nullptr, 0, KEY_ALL_ACCESS | view, nullptr, &key, nullptr),
+        EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, (kUserKey.Path + 1 + below).c_str(), 0, nullptr, 0,
+                                  KEY_ALL_ACCESS, nullptr, &key, nullptr),
                   0);
         return TKeyHandle(key);
+    }
+    static TRegistryPlace Place(const std::wstring& below = {}) {
+        return {kUserKey.Root, kUserKey.Path + below, L"v"};
     }
 };
 
@@ -52,17 +55,14 @@ TEST_F(TRegistryWin32, ReadsWhateverIsStored) {
                                  static_cast<DWORD>(each.Bytes.size())),
                   ERROR_SUCCESS);
         TRegistryData data{Binary, 1};
-        ASSERT_EQ(Registry().Read({kUserKey.Root, kUserKey.Path, L"v"}, data), TReadStatus::Found)
-            << each.What;
+        ASSERT_EQ(Registry().Read(Place(), data), TReadStatus::Found) << each.What;
         EXPECT_TRUE(data == each.Expected) << each.What;
-        EXPECT_EQ(Registry().Check({kUserKey.Root, kUserKey.Path, L"v"}, TRegistryView::Native),
-                  TReadStatus::Found);
+        EXPECT_EQ(Registry().Check(Place(), TRegistryView::Native), TReadStatus::Found);
     }
 }
 
 TEST_F(TRegistryWin32, TextIsStoredWithItsNul) {
-    ASSERT_EQ(Registry().Write({kUserKey.Root, kUserKey.Path, L"v"}, {TRegDataType::String, L"ab"}),
-              TWriteStatus::Done);
+    ASSERT_EQ(Registry().Write(Place(), {TRegDataType::String, L"ab"}), TWriteStatus::Done);
     wchar_t stored[8];
     DWORD size = sizeof(stored);
     ASSERT_EQ(RegQueryValueExW(Key().Get(), L"v", nullptr, nullptr, reinterpret_cast<BYTE*>(stored), &size),
@@ -70,28 +70,27 @@ TEST_F(TRegistryWin32, TextIsStoredWithItsNul) {
     EXPECT_EQ(std::wstring(stored, size / sizeof(wchar_t)), std::wstring(L"ab\0", 3));
 }
 
-/// Leaves everybody the right to read the key, and to give back the other rights.
-void AllowReadingOnly(HKEY key, bool only) {
+/// Gives everybody these rights to the key and no others.
+void Allow(HKEY key, DWORD rights) {
     SID_IDENTIFIER_AUTHORITY world = SECURITY_WORLD_SID_AUTHORITY;
-    PSID everyone = nullptr;
-    ASSERT_TRUE(AllocateAndInitializeSid(&world, 1, SECURITY_WORLD_RID, 0, 0, 0, 0, 0, 0, 0, &everyone));
+    BYTE everyone[SECURITY_MAX_SID_SIZE];
+    InitializeSid(everyone, &world, 1);
+    *GetSidSubAuthority(everyone, 0) = SECURITY_WORLD_RID;
     alignas(ACL) BYTE buffer[256];
     const auto acl = reinterpret_cast<ACL*>(buffer);
     ASSERT_TRUE(InitializeAcl(acl, sizeof(buffer), ACL_REVISION));
-    ASSERT_TRUE(
-        AddAccessAllowedAce(acl, ACL_REVISION, only ? KEY_READ | WRITE_DAC : KEY_ALL_ACCESS, everyone));
+    ASSERT_TRUE(AddAccessAllowedAce(acl, ACL_REVISION, rights, everyone));
     SECURITY_DESCRIPTOR descriptor;
     ASSERT_TRUE(InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION));
     ASSERT_TRUE(SetSecurityDescriptorDacl(&descriptor, TRUE, acl, FALSE));
     EXPECT_EQ(RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, &descriptor), ERROR_SUCCESS);
-    FreeSid(everyone);
 }
 
 TEST_F(TRegistryWin32, AKeyForReadingOnlyIsUnavailable) {
-    const TRegistryPlace place{kUserKey.Root, kUserKey.Path + std::wstring(L"\\Guarded"), L"v"};
+    const TRegistryPlace place = Place(L"\\Guarded");
     ASSERT_EQ(Registry().Write(place, {TRegDataType::Dword, 1}), TWriteStatus::Done);
-    const TKeyHandle key = Key((place.Key.c_str() + 1));
-    AllowReadingOnly(key.Get(), true);
+    const TKeyHandle key = Key(L"\\Guarded");
+    Allow(key.Get(), KEY_READ | WRITE_DAC);
 
     TRegistryData data;
     EXPECT_EQ(Registry().Read(place, data), TReadStatus::KeyUnavailable);
@@ -102,7 +101,7 @@ TEST_F(TRegistryWin32, AKeyForReadingOnlyIsUnavailable) {
     EXPECT_EQ(Registry().DeleteKey(kUserKey.Root, kUserKey.Path), TWriteStatus::Refused);
     EXPECT_THAT(Registry().SubKeys(place.Root, place.Key), testing::IsEmpty());
 
-    AllowReadingOnly(key.Get(), false);
+    Allow(key.Get(), KEY_ALL_ACCESS);
     ASSERT_EQ(Registry().Read(place, data), TReadStatus::Found);
     EXPECT_EQ(data, (TRegistryData{TRegDataType::Dword, 1}));
 }
@@ -124,6 +123,8 @@ TEST_F(TRegistryWin32, WorksOnTheNativeView) {
     EXPECT_FALSE(exists(kPath, KEY_WOW64_32KEY));
     EXPECT_FALSE(exists(L"Software\\Wow6432Node\\Vandrel-View-Test", KEY_WOW64_64KEY));
 
+    TRegistryData data;
+    EXPECT_EQ(Registry().Read({kRoot, kPath, L"v"}, data), TReadStatus::Found);
     const bool redirected = System().Windows.IsWow64();
     EXPECT_EQ(Registry().Check({kRoot, kPath, L"v"}, TRegistryView::Native), TReadStatus::Found);
     EXPECT_EQ(Registry().Check({kRoot, kPath, L"v"}, TRegistryView::Process),

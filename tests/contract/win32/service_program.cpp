@@ -1,5 +1,5 @@
 // A service for the tests of service control.
-//   service_program.exe <key name> <milliseconds> <state>
+//   service_program.exe <milliseconds> <state>
 // It stays start-pending that long, and stop-pending as well; then it is in the given state (SERVICE_… number) until
 // it is stopped.
 #include <windows.h>
@@ -8,57 +8,46 @@
 
 namespace {
 
-struct TService {
-    std::wstring Name;
-    DWORD Pending = 0;
-    DWORD State = SERVICE_RUNNING;
-    DWORD Reported = SERVICE_STOPPED;
-    SERVICE_STATUS_HANDLE Handle = nullptr;
-    HANDLE StopAsked = nullptr;
+// Windows hands the service's functions no context of their own.
+DWORD Pending = 0;
+DWORD State = 0;
+DWORD Reported = 0;
+SERVICE_STATUS_HANDLE Service = nullptr;
+HANDLE StopAsked = nullptr;
+wchar_t Name[] = L"";  // of the only service in a process it does not matter
 
-    void Report(DWORD state) {
-        SERVICE_STATUS status{};
-        status.dwServiceType = SERVICE_WIN32_OWN_PROCESS;
-        status.dwCurrentState = Reported = state;
-        status.dwWaitHint = Pending + 1000;
-        const bool changing = state == SERVICE_START_PENDING || state == SERVICE_STOP_PENDING;
-        if (!changing && state != SERVICE_STOPPED) status.dwControlsAccepted = SERVICE_ACCEPT_STOP;
-        SetServiceStatus(Handle, &status);
-    }
-};
-
-/// Windows hands the service's functions no context of their own.
-TService Service;
+void Report(DWORD state) {
+    SERVICE_STATUS status{};
+    status.dwServiceType = SERVICE_WIN32_OWN_PROCESS;
+    status.dwCurrentState = Reported = state;
+    status.dwWaitHint = Pending + 1000;
+    if (state == SERVICE_RUNNING || state == SERVICE_PAUSED) status.dwControlsAccepted = SERVICE_ACCEPT_STOP;
+    SetServiceStatus(Service, &status);
+}
 
 void WINAPI Control(DWORD control) {
-    if (control == SERVICE_CONTROL_STOP) {
-        Service.Report(SERVICE_STOP_PENDING);
-        SetEvent(Service.StopAsked);
-    } else {
-        Service.Report(Service.Reported);
-    }
+    Report(control == SERVICE_CONTROL_STOP ? SERVICE_STOP_PENDING : Reported);
+    if (control == SERVICE_CONTROL_STOP) SetEvent(StopAsked);
 }
 
 void WINAPI ServiceMain(DWORD /*count*/, LPWSTR* /*arguments*/) {
-    Service.Handle = RegisterServiceCtrlHandlerW(Service.Name.c_str(), Control);
-    if (Service.Handle == nullptr) return;
-    Service.StopAsked = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    Service.Report(SERVICE_START_PENDING);
-    Sleep(Service.Pending);
-    Service.Report(Service.State);
-    if (Service.State == SERVICE_STOPPED) return;
-    WaitForSingleObject(Service.StopAsked, INFINITE);
-    Sleep(Service.Pending);
-    Service.Report(SERVICE_STOPPED);
+    StopAsked = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    Service = RegisterServiceCtrlHandlerW(Name, Control);
+    Report(SERVICE_START_PENDING);
+    Sleep(Pending);
+    Report(State);
+    if (State == SERVICE_STOPPED) return;
+    WaitForSingleObject(StopAsked, INFINITE);
+    Sleep(Pending);
+    Report(SERVICE_STOPPED);
 }
 
 }  // namespace
 
 int wmain(int count, wchar_t** arguments) {
-    if (count != 4) return 2;
-    Service.Name = arguments[1];
-    Service.Pending = static_cast<DWORD>(std::stoul(arguments[2]));
-    Service.State = static_cast<DWORD>(std::stoul(arguments[3]));
-    const SERVICE_TABLE_ENTRYW table[] = {{Service.Name.data(), ServiceMain}, {nullptr, nullptr}};
+    if (count != 3) return 2;
+    Pending = static_cast<DWORD>(std::stoul(arguments[1]));
+    State = static_cast<DWORD>(std::stoul(arguments[2]));
+    const SERVICE_TABLE_ENTRYW table[] = {{Name, ServiceMain}, {nullptr, nullptr}};
     return StartServiceCtrlDispatcherW(table) ? 0 : 1;
 }

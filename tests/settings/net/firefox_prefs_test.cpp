@@ -1,6 +1,7 @@
 #include "settings/net/firefox_prefs.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include <gmock/gmock.h>
 
@@ -74,13 +75,9 @@ TEST(TPrefsText, SplitsAtSemicolonsOutsideQuotations) {
 }
 
 TEST(TPrefsText, ReadsValuesAsTheyAreWritten) {
-    const struct {
-        const wchar_t* Statement;
-        const wchar_t* Name;
-        const wchar_t* Value;  ///< null = the statement does not name the pref
-    } cases[] = {
+    const std::tuple<const wchar_t*, const wchar_t*, std::optional<std::wstring>> cases[] = {
         {L"user_pref(\"browser.tabs.tabMinWidth\", 100);", L"\"Browser.Tabs.TabMinWidth\"", L"100"},
-        {L"user_pref(\"browser.tabs.tabMinWidth\", 100);", L"\"browser.tabs\"", nullptr},
+        {L"user_pref(\"browser.tabs.tabMinWidth\", 100);", L"\"browser.tabs\"", std::nullopt},
         {L"user_pref(\"a\", \"about:blank\");", L"\"a\"", L"\"about:blank\""},
         {L"user_pref(\"a\",100);", L"\"a\"", L"00"},
         {L"user_pref(\"a\",   1 2\t );", L"\"a\"", L"1 2"},
@@ -91,26 +88,17 @@ TEST(TPrefsText, ReadsValuesAsTheyAreWritten) {
         {L"// on \"a\": user_pref(\"b\", 1);", L"\"b\"", L"1"},
         {L"user_pref(\"\u00C4\", 1);", L"\"\u00E4\"", L"1"},
     };
-    for (const auto& each : cases) {
-        const auto expected = each.Value == nullptr ? std::nullopt : std::optional<std::wstring>(each.Value);
-        EXPECT_EQ(PrefValue(each.Statement, each.Name), expected)
-            << testing::PrintToString(std::wstring(each.Statement));
-    }
+    for (const auto& [statement, name, value] : cases) EXPECT_EQ(PrefValue(statement, name), value);
 }
 
 TEST_F(TFirefoxPrefsTest, IsInstalledWhenAProductBearsItsName) {
-    const auto install = [&](const std::wstring& product) {
-        Fake.Registry.Put({TRootKey::LocalMachine,
-                           L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + product, L""},
-                          {TRegDataType::String, L""});
-    };
-    EXPECT_FALSE(Prefs.IsFirefoxInstalled());
-    install(L"Firefox by Mozilla");
-    EXPECT_FALSE(Prefs.IsFirefoxInstalled());
-    install(L"The mozilla FIREFOX 3.6 (x86)");
-    EXPECT_TRUE(Prefs.IsFirefoxInstalled());
-    Fake.Registry.DenyAccess(TRootKey::LocalMachine,
-                             L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
+    const std::wstring products = L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
+    for (const auto& [product, installed] :
+         {std::pair(L"Firefox by Mozilla", false), {L"The mozilla FIREFOX 3.6 (x86)", true}}) {
+        Fake.Registry.PutKey(TRootKey::LocalMachine, products + product);
+        EXPECT_EQ(Prefs.IsFirefoxInstalled(), installed);
+    }
+    Fake.Registry.DenyAccess(TRootKey::LocalMachine, products);
     EXPECT_FALSE(Prefs.IsFirefoxInstalled());
 }
 
@@ -183,21 +171,20 @@ TEST_F(TFirefoxPrefsTest, TheLastStatementCountsAndAllAreChanged) {
 
 TEST_F(TFirefoxPrefsTest, SavesInTheEncodingThatWasRead) {
     const std::pair<std::string, std::string> cases[] = {
-        {"\xC3\xA9\xE2\x82\xAC", "\xC3\xA9\xE2\x82\xAC"},  // UTF-8
-        {"\xE9\xFC", "\xE9\xFC"},                          // the code page, which is Latin-1
-        {"\xEF\xBF\xBD", "\xEF\xBF\xBD"},                  // a replacement character is no fault
+        {"#\nuser_pref(\"b\", \xC3\xA9\xE2\x82\xAC);tail", "user_pref(\"b\", \xC3\xA4);\r\n"},  // UTF-8
+        {"user_pref(\"\xE9\", 1);user_pref(\"b\", 1);",  // the code page, which is Latin-1
+         "user_pref(\"\xE9\", 1);\r\nuser_pref(\"b\", \xE4);\r\n"},
+        {"user_pref(\"\xEF\xBF\xBD\", 1);user_pref(\"b\", 1);",  // a replacement character is no fault
+         "user_pref(\"\xEF\xBF\xBD\", 1);\r\nuser_pref(\"b\", \xC3\xA4);\r\n"},
+        {"\xEF\xBB\xBFuser_pref(\"b\", 1);user_pref(\xFF);",  // the mark decides
+         "user_pref(\"b\", \xC3\xA4);\r\nuser_pref(\xEF\xBF\xBD);\r\n"},
+        {"\xFF\xFE\"\0b\0\"\0,\0;\0"s, "\"b\", \xC3\xA4);\r\n"},
     };
     for (const auto& [read, written] : cases) {
-        Load("#\nuser_pref(\"a\", \"" + read + "\");\nuser_pref(\"b\", 1);tail");
-        Prefs.SetFirefoxPref(L"\"b\"", L"\"\u00E4\"");
-        const bool ansi = read[0] == '\xE9';
-        EXPECT_EQ(Saved(), "user_pref(\"a\", \"" + written + "\");\r\nuser_pref(\"b\", \"" +
-                               (ansi ? "\xE4" : "\xC3\xA4") + "\");\r\n");
+        Load(read);
+        Prefs.SetFirefoxPref(L"\"b\"", L"\u00E4");
+        EXPECT_EQ(Saved(), written);
     }
-    Load("\xEF\xBB\xBFuser_pref(\"\xC3\xA9\", \xFF);");
-    EXPECT_EQ(Saved(), "user_pref(\"\xC3\xA9\", \xEF\xBF\xBD);\r\n") << "the mark decides";
-    Load("\xFF\xFE"s + "u\0s\0e\0r\0_\0p\0r\0e\0f\0(\0\xE9\0;\0"s);
-    EXPECT_EQ(Saved(), "user_pref(\xC3\xA9;\r\n");
     Load("");
     EXPECT_EQ(Saved(), "");
 }
@@ -215,8 +202,9 @@ TEST_F(TFirefoxPrefsTest, SavingFailsAloud) {
 TEST_F(TFirefoxPrefsTest, AnApplyWhileItLoadsLosesNothing) {
     Load("user_pref(\"a\", 1);user_pref(\"b\", 1);");
     Prefs.SetFirefoxPref(L"\"a\"", L"2");
+    bool applied = false;
     Fake.Clock.OnProcessMessages = [&] {
-        Fake.Clock.OnProcessMessages = nullptr;
+        if (std::exchange(applied, true)) return;
         EXPECT_EQ(Saved(), "user_pref(\"a\", 2);\r\nuser_pref(\"b\", 1);\r\n");
     };
     Prefs.LoadFirefoxPrefs();

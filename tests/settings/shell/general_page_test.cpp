@@ -1,5 +1,4 @@
-#include "settings/shell/general_page.h"
-
+// The general page and the pages of its twins in the whole window; its script tells the rest.
 #include "app/main_window.h"
 #include "tests/settings/page_bench.h"
 
@@ -16,29 +15,6 @@ constexpr const wchar_t* kUpdateTypeTwin = L"CB_Privacy_Common_AutoUpdate_Type";
 constexpr const wchar_t* kDisplayItem = L"RzGroup_Others.Items[0]";
 constexpr const wchar_t* kFirefoxItem = L"RzGroup_Use.Items[1]";
 constexpr const wchar_t* kPrivacyItem = L"RzGroup_Manage.Items[2]";
-
-TEST(TGeneralPage, RecordsThroughTheRowsOfItsTwins) {
-    const TRecordedCase cases[] = {
-        {kDrag, L"on", {kDrag + std::wstring(L": parameter 0x25(1, 0)")}},
-        {L"CB_CommonSettings_Others_Font_SmoothType", L"1", {L"norCBfont: parameter 0x4B(1, 0)"}},
-        {L"Checkbox_CommonSettings_Display_StartMenu_AdminTools",
-         L"on",
-         {L"CHKmantools: HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\"
-          L"[StartMenuAdminTools] = \"YES\""}},
-        {L"UpDownCur_CommonSettings_Function_CursorWidth_Width",
-         L"3",
-         {L"UpDownCur_CommonSettings_Function_CursorWidth_Width: parameter 0x2007(0, 3)"}},
-        {L"Checkbox_CommonSettings_Function_Drives_LastVisit",
-         L"off",
-         {L"Checkbox_CommonSettings_Function_Drives_LastVisit: "
-          L"HKLM\\SYSTEM\\CurrentControlSet\\Control\\FileSystem\\[NtfsDisableLastAccessUpdate] = 1"}},
-        {kUpdates,
-         L"off",
-         {L"CHKAutoupdate: HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\WindowsUpdate\\Auto Update\\"
-          L"[AUOptions] = 1"}},
-    };
-    ExpectRecorded(GeneralPage(), cases);
-}
 
 /// The whole window, with Firefox.
 class TTwins : public testing::Test {
@@ -110,16 +86,9 @@ TEST_F(TTwins, TheHomePageOutlivesAReloadOfThePreferences) {
     EXPECT_EQ(Fake.Files.Text(kUserFile), "user_pref(\"browser.startup.homepage\", \"new\");\r\n");
     Type(kHomePageTwin, L"newer");
     EXPECT_EQ(Get<TEdit>(kHomePage).Text(), L"newer");
-}
-
-TEST_F(TTwins, WithoutFirefoxThereIsNoHomePage) {
-    EXPECT_TRUE(Get<TEdit>(kHomePage).Enabled());
-    TPageBench bench(GeneralPage());
-    bench.Load();
-    EXPECT_FALSE(bench.Get<TEdit>(kHomePage).Enabled());
-    EXPECT_FALSE(
-        bench.Get<TCheckBox>(L"ChkeckBox_CommonSettings_Security_SecuritySettings_StartWF").Visible())
-        << "Windows 2000 has no firewall";
+    Visit(kFirefoxItem);
+    EXPECT_EQ(Get<TEdit>(kHomePageTwin).Text(), L"new") << "the page begins anew from the files";
+    EXPECT_EQ(Get<TEdit>(kHomePage).Text(), L"new");
 }
 
 }  // namespace
