@@ -132,8 +132,8 @@ TMainWindow TMainWindow::WaitFor(DWORD process, const wchar_t* windowClass) {
 
 void TMainWindow::WaitReady() const {
     const HWND panel = Find(L"Panel_Loading");
-    const HWND ok = Find(L"Button_OK");
-    if (!WaitUntil([=] { return !IsWindowVisible(panel) && IsWindowEnabled(ok); }))
+    const HWND last = Find(L"Button_Cancel");  // to be enabled
+    if (!WaitUntil([=] { return !IsWindowVisible(panel) && IsWindowEnabled(last); }))
         throw TAutomationError(L"the window does not become ready");
 }
 
