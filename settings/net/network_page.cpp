@@ -1,6 +1,7 @@
 #include "settings/net/network_page.h"
 
 #include "engine/reg_value.h"
+#include "settings/explorer_keys.h"
 #include "settings/net/security_switches.h"
 #include "settings/store.h"
 #include "ui/controls.h"
@@ -13,10 +14,6 @@ constexpr const wchar_t* kRemoteTasks =
 constexpr const wchar_t* kRemotePrinters =
     L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RemoteComputer\\NameSpace\\"
     L"{2227A280-3AEA-1069-A2DE-08002B30309D}";
-constexpr const wchar_t* kExplorerAdvanced =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\";
-constexpr const wchar_t* kExplorerPolicies =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
 constexpr const wchar_t* kServer = L"\\SYSTEM\\CurrentControlSet\\Services\\lanmanserver\\parameters\\";
 constexpr const wchar_t* kWorkstation =
     L"\\SYSTEM\\CurrentControlSet\\Services\\lanmanworkstation\\parameters\\";

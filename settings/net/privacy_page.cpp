@@ -1,11 +1,10 @@
 #include "settings/net/privacy_page.h"
 
+#include "settings/explorer_keys.h"
 #include "settings/net/security_switches.h"
 
 namespace {
 
-constexpr const wchar_t* kExplorerPolicies =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
 constexpr const wchar_t* kInternetSettings =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\";
 constexpr const wchar_t* kInternetCache =

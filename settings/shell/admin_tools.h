@@ -1,14 +1,12 @@
 // The switch "Administrative Tools in the Start menu", which stands on more than one page.
 #pragma once
 
-#include "settings/rows.h"
+#include "settings/explorer_keys.h"
 
 void LoadAdminTools(TPageContext& context, const TSpecialRow& row);
 void RecordAdminTools(TPageContext& context, const TSpecialRow& row, TComponent& sender);
 
-inline constexpr TPlace kAdminToolsPlace{
-    kCurrentUser, L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\",
-    L"StartMenuAdminTools"};
+inline constexpr TPlace kAdminToolsPlace{kCurrentUser, kExplorerAdvanced, L"StartMenuAdminTools"};
 
 /// `controls` names the page's check box.
 [[nodiscard]] constexpr TSpecialRow AdminToolsRow(TControlNames controls) {

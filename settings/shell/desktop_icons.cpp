@@ -1,5 +1,6 @@
 #include "settings/shell/desktop_icons.h"
 
+#include "settings/explorer_keys.h"
 #include "settings/store.h"
 #include "ui/controls.h"
 
@@ -12,8 +13,6 @@ constexpr const wchar_t* kClassicStartMenu =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideDesktopIcons\\ClassicStartMenu\\";
 constexpr const wchar_t* kHideMyComputerIcons =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideMyComputerIcons\\";
-constexpr const wchar_t* kUserExplorerPolicies =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
 
 // Class identifiers of the shell's folders.
 constexpr const wchar_t* kMyComputer = L"{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
@@ -149,7 +148,7 @@ constexpr const wchar_t* kDrives[] = {L"ListView_Folder_Drivers"};
 constexpr TRow kDriveRows[] = {
     TSpecialRow{
         .Controls = kDrives,
-        .Value = {kCurrentUser, kUserExplorerPolicies, L"NoDrives"},
+        .Value = {kCurrentUser, kExplorerPolicies, L"NoDrives"},
         .Rule = L"a drive is checked while its bit is set, A: the lowest; changes these 26 bits alone",
         .Load = LoadDrives,
         .Record = RecordDrives},

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "settings/explorer_keys.h"
 #include "settings/shell/font_smoothing.h"
 #include "settings/store.h"
 #include "ui/controls.h"
@@ -9,7 +10,6 @@
 namespace {
 
 constexpr const wchar_t* kDesktop = L"\\Control Panel\\Desktop\\";
-constexpr const wchar_t* kAdvanced = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\";
 
 TControlDesign EffectSheet() {
     return Sheet(
@@ -193,10 +193,13 @@ constexpr TRow kRows[] = {
                 .Rule = kFontSmoothingRule,
                 .Load = LoadFontSmoothing,
                 .Record = RecordSmoothing},
-    Option(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Background", kAdvanced, L"ListviewWatermark"),
-    Option(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Rect", kAdvanced, L"ListviewAlphaSelect"),
-    Option(L"CheckBox_Display_Effect_DisplayAndEffectSettings_DesktopShadow", kAdvanced, L"ListviewShadow"),
-    Option(L"Checkbox_Display_Effect_BehaviorSettings_Folder", kAdvanced, L"WebView", true),
+    Option(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Background", kExplorerAdvanced,
+           L"ListviewWatermark"),
+    Option(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Rect", kExplorerAdvanced,
+           L"ListviewAlphaSelect"),
+    Option(L"CheckBox_Display_Effect_DisplayAndEffectSettings_DesktopShadow", kExplorerAdvanced,
+           L"ListviewShadow"),
+    Option(L"Checkbox_Display_Effect_BehaviorSettings_Folder", kExplorerAdvanced, L"WebView", true),
     TSpecialRow{.Controls = kMaxAndMin,
                 .Value = {kCurrentUser, L"\\Control Panel\\Desktop\\WindowMetrics\\", L"MinAnimate"},
                 .Rule = L"the system parameter 0x48 (ANIMATIONINFO); set by 0x49",

@@ -2,6 +2,7 @@
 
 #include "engine/reg_value.h"
 #include "platform/text.h"
+#include "settings/explorer_keys.h"
 #include "settings/store.h"
 #include "ui/controls.h"
 
@@ -128,9 +129,7 @@ constexpr const wchar_t* kUnknownChangeButton[] = {kUnknownChange};
 constexpr const wchar_t* kNoEndExeChangeButton[] = {kNoEndExeChange};
 
 constexpr const wchar_t* kAskByDialog = L"openas";  // the verb that shows the "Open With" dialog
-constexpr TPlace kNoInternetOpenWith{kCurrentUser,
-                                     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\",
-                                     L"NoInternetOpenWith"};
+constexpr TPlace kNoInternetOpenWith{kCurrentUser, kExplorerPolicies, L"NoInternetOpenWith"};
 
 void EnableUnknown(const TPageContext& context, TOpening opening) {
     context.Form.Find(kNet)->SetEnabled(opening == kWithDialog);

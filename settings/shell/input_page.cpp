@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "settings/explorer_keys.h"
 #include "settings/shell/input_design.h"
 #include "settings/store.h"
 #include "ui/controls.h"
@@ -10,7 +11,6 @@ namespace {
 
 constexpr const wchar_t* kMouse = L"\\Control Panel\\Mouse\\";
 constexpr const wchar_t* kDesktop = L"\\Control Panel\\Desktop\\";
-constexpr const wchar_t* kPolicies = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
 
 // Special because the width and the height of a rectangle are two parameters, which the page always sets alike.
 // Windows tells some of them only as a system metric; those are read where it keeps them.
@@ -223,7 +223,7 @@ constexpr TRow kKeyboardRows[] = {
                         .Set = 0x2007,  // SPI_SETCARETWIDTH
                         .Slot = TParameterSlot::Data},
     TCheckBoxRow{.Control = L"Checkbox_Use_Keyboard_WinKey_Active",
-                 .Value = {kCurrentUser, kPolicies, L"NoWinKeys"},
+                 .Value = {kCurrentUser, kExplorerPolicies, L"NoWinKeys"},
                  .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)},
                  .Restart = true},

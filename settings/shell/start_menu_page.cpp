@@ -1,14 +1,11 @@
 #include "settings/shell/start_menu_page.h"
 
+#include "settings/explorer_keys.h"
 #include "settings/shell/admin_tools.h"
 #include "settings/store.h"
 #include "ui/controls.h"
 
 namespace {
-
-constexpr const wchar_t* kAdvanced = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\";
-/// The values here are those of the group policies for the Start menu; a DWORD of 1 switches the item off.
-constexpr const wchar_t* kPolicies = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
 
 /// How Windows' own dialog lets an item of the Start menu appear.
 constexpr const wchar_t* kAppearances[] = {L"Don't display", L"Display as a link", L"Display as a menu"};
@@ -82,19 +79,10 @@ TControlDesign Design() {
                   Buttons(Button(L"Button_Use_StartMenu_RecentlyUse_Default", L"&Default")))));
 }
 
-/// A policy that removes something when it is 1.
-constexpr TCheckBoxRow Removable(const wchar_t* control, const wchar_t* policy, bool restart = false) {
-    return {.Control = control,
-            .Value = {kCurrentUser, kPolicies, policy},
-            .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-            .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-            .Restart = restart};
-}
-
 /// An option of the Start menu's own dialog, which is on by default.
 constexpr TCheckBoxRow Option(const wchar_t* control, const wchar_t* valueName) {
     return {.Control = control,
-            .Value = {kCurrentUser, kAdvanced, valueName},
+            .Value = {kCurrentUser, kExplorerAdvanced, valueName},
             .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
             .Records = {.Checked = Dword(1), .Clear = Dword(0)}};
 }
@@ -102,18 +90,18 @@ constexpr TCheckBoxRow Option(const wchar_t* control, const wchar_t* valueName) 
 /// The classic Start menu keeps its options as texts.
 constexpr TCheckBoxRow Cascading(const wchar_t* control, const wchar_t* valueName) {
     return {.Control = control,
-            .Value = {kCurrentUser, kAdvanced, valueName},
+            .Value = {kCurrentUser, kExplorerAdvanced, valueName},
             .Shows = {.Missing = kClear, .When = {{AnyCase(L"YES"), kChecked}}, .Otherwise = kClear},
             .Records = {.Checked = Text(L"YES"), .Clear = Text(L"NO")}};
 }
 
 constexpr TRow kCommonRows[] = {
-    Removable(L"Checkbox_Use_StartMenu_Common_User_ShowUserName", L"NoUserNameInStartMenu", true),
+    PolicyRow(L"Checkbox_Use_StartMenu_Common_User_ShowUserName", L"NoUserNameInStartMenu", true),
     Option(L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade", L"Start_AutoCascade"),
     Option(L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", L"Start_EnableDragDrop"),
     Option(L"Checkbox_Use_StartMenu_Common_Behaviour_NewApps", L"Start_NotifyNewApps"),
     Option(L"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons", L"Start_LargeMFUIcons"),
-    Removable(L"Checkbox_Use_StartMenu_Common_Behaviour_Personalized", L"Intellimenus", true),
+    PolicyRow(L"Checkbox_Use_StartMenu_Common_Behaviour_Personalized", L"Intellimenus", true),
     TParameterNumberRow{.Control = L"UpDown_Use_StartMenu_Common_Menu_Delay",
                         .Get = 0x6A,   // SPI_GETMENUSHOWDELAY
                         .Set = 0x6B},  // SPI_SETMENUSHOWDELAY
@@ -128,7 +116,7 @@ constexpr TDatum kAppearanceValues[] = {Dword(0), Dword(1), Dword(2)};
 
 constexpr TChoiceRow Folder(const wchar_t* control, const wchar_t* valueName) {
     return {.Control = control,
-            .Value = {kCurrentUser, kAdvanced, valueName},
+            .Value = {kCurrentUser, kExplorerAdvanced, valueName},
             .Items = kAppearanceValues,
             .Missing = 1};
 }
@@ -136,7 +124,7 @@ constexpr TChoiceRow Folder(const wchar_t* control, const wchar_t* valueName) {
 // Special because the command is there by default until XP and hidden by default since Vista, and because Windows 2000
 // has no option for it, only the policy that forbids it.
 constexpr const wchar_t* kRun[] = {L"Checkbox_Use_StartMenu_Items_Run"};
-constexpr TPlace kNoRun{kCurrentUser, kPolicies, L"NoRun"};
+constexpr TPlace kNoRun{kCurrentUser, kExplorerPolicies, L"NoRun"};
 
 void LoadRun(TPageContext& context, const TSpecialRow& row) {
     bool shown = StoredNumber(context, kNoRun) != 1;
@@ -164,31 +152,31 @@ constexpr TRow kItemRows[] = {
     Folder(L"CB_Use_StartMenu_Items_MyMusic", L"Start_ShowMyMusic"),
     Folder(L"CB_Use_StartMenu_Items_ControlPanel", L"Start_ShowControlPanel"),
     TSpecialRow{.Controls = kRun,
-                .Value = {kCurrentUser, kAdvanced, L"Start_ShowRun"},
+                .Value = {kCurrentUser, kExplorerAdvanced, L"Start_ShowRun"},
                 .Rule = L"clear when 0, else checked; missing: checked up to XP, else clear; writes 1 or 0; "
                         L"on Windows 2000 "
                         L"the policy `NoRun`: clear when 1, writes 0 or 1",
                 .Load = LoadRun,
                 .Record = RecordRun},
-    Removable(L"Checkbox_Use_StartMenu_Items_Search", L"NoFind"),
-    Removable(L"Checkbox_Use_StartMenu_Items_Help", L"NoSMHelp"),
+    PolicyRow(L"Checkbox_Use_StartMenu_Items_Search", L"NoFind", false),
+    PolicyRow(L"Checkbox_Use_StartMenu_Items_Help", L"NoSMHelp", false),
     TCheckBoxRow{.Control = L"Checkbox_Use_StartMenu_Items_Favorites",
-                 .Value = {kCurrentUser, kAdvanced, L"StartMenuFavorites"},
+                 .Value = {kCurrentUser, kExplorerAdvanced, L"StartMenuFavorites"},
                  .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
     Option(L"Checkbox_Use_StartMenu_Items_Programs", L"Start_ShowSetProgramAccessAndDefaults"),
     AdminToolsRow(kAdminTools),
-    Removable(L"Checkbox_Use_StartMenu_Items_LogOff", L"StartMenuLogOff"),
+    PolicyRow(L"Checkbox_Use_StartMenu_Items_LogOff", L"StartMenuLogOff", false),
 };
 
 constexpr TRow kRecentlyUsedRows[] = {
-    Removable(L"Checkbox_Use_StartMenu_RecentlyUse_Document_Keep", L"NoRecentDocsHistory", true),
-    Removable(L"Checkbox_Use_StartMenu_RecentlyUse_Document_Show", L"NoRecentDocsMenu", true),
+    PolicyRow(L"Checkbox_Use_StartMenu_RecentlyUse_Document_Keep", L"NoRecentDocsHistory", true),
+    PolicyRow(L"Checkbox_Use_StartMenu_RecentlyUse_Document_Show", L"NoRecentDocsMenu", true),
     TNumberRow{.Control = L"UpDown_Use_StartMenu_RecentlyUse_Document_FileCount",
-               .Value = {kCurrentUser, kPolicies, L"MaxRecentDocs"},
+               .Value = {kCurrentUser, kExplorerPolicies, L"MaxRecentDocs"},
                .Restart = true},
-    Removable(L"Checkbox_Use_StartMenu_RecentlyUse_Program_Keep", L"NoInstrumentation", true),
-    Removable(L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show", L"NoStartMenuMFUprogramsList", true),
+    PolicyRow(L"Checkbox_Use_StartMenu_RecentlyUse_Program_Keep", L"NoInstrumentation", true),
+    PolicyRow(L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show", L"NoStartMenuMFUprogramsList", true),
 };
 
 constexpr TLoader kLoaders[] = {kCommonRows, kItemRows, kRecentlyUsedRows};

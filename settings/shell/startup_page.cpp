@@ -1,5 +1,6 @@
 #include "settings/shell/startup_page.h"
 
+#include "settings/explorer_keys.h"
 #include "settings/store.h"
 #include "ui/controls.h"
 
@@ -11,8 +12,6 @@ constexpr const wchar_t* kSessionManager = L"\\SYSTEM\\CurrentControlSet\\Contro
 constexpr const wchar_t* kCrashControl = L"\\SYSTEM\\CurrentControlSet\\Control\\CrashControl\\";
 constexpr const wchar_t* kWinlogon = L"\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon\\";
 constexpr const wchar_t* kDesktop = L"\\Control Panel\\Desktop\\";
-constexpr const wchar_t* kExplorerAdvanced =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\";
 
 constexpr const wchar_t* kDelayEdit = L"Edit_Startup_System_DelayTime_Time";
 constexpr const wchar_t* kWaitEdit = L"Edit_Startup_Exit_WaitTime_Time";

@@ -1,5 +1,6 @@
 #include "settings/shell/taskbar_page.h"
 
+#include "settings/explorer_keys.h"
 #include "settings/shell/minimized_windows.h"
 #include "settings/store.h"
 #include "ui/controls.h"
@@ -7,9 +8,6 @@
 namespace {
 
 constexpr const wchar_t* kExplorer = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
-constexpr const wchar_t* kAdvanced = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\";
-/// The values here are those of the group policies for the taskbar; a DWORD of 1 switches the item off.
-constexpr const wchar_t* kPolicies = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
 
 TControlDesign Design() {
     return NotebookPage(
@@ -120,49 +118,40 @@ constexpr TDatum kCombineValues[] = {Dword(0), Dword(1), Dword(2)};
 
 constexpr TRow kButtonRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Group_Active",
-                 .Value = {kCurrentUser, kAdvanced, L"TaskbarGlomming"},
+                 .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarGlomming"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Restart = true},
     // 0 and 1 group by age and by size; from 2 on it is the number of windows.
     TNumberRow{.Control = L"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount",
-               .Value = {kCurrentUser, kAdvanced, L"TaskbarGroupSize"},
+               .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarGroupSize"},
                .Restart = true},
     TChoiceRow{.Control = L"CB_Taskbar_ButtonAppearance_Look_Combine",
-               .Value = {kCurrentUser, kAdvanced, L"TaskbarGlomLevel"},
+               .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarGlomLevel"},
                .Items = kCombineValues,
                .Missing = 0,
                .Restart = true},
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons",
-                 .Value = {kCurrentUser, kAdvanced, L"TaskbarSmallIcons"},
+                 .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarSmallIcons"},
                  .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Restart = true},
 };
 
-/// A policy that hides something when it is 1.
-constexpr TCheckBoxRow Hideable(const wchar_t* control, const wchar_t* policy) {
-    return {.Control = control,
-            .Value = {kCurrentUser, kPolicies, policy},
-            .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-            .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-            .Restart = true};
-}
-
 constexpr TRow kNotificationRows[] = {
-    Hideable(L"Checkbox_Taskbar_Notification_Icons_Show", L"NoTrayItemsDisplay"),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Show", L"NoTrayItemsDisplay", true),
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_Notification_Icons_HideInactive",
                  .Value = {kCurrentUser, kExplorer, L"EnableAutoTray"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Restart = true},
-    Hideable(L"Checkbox_Taskbar_Notification_Icons_Clock", L"HideClock"),
-    Hideable(L"Checkbox_Taskbar_Notification_Icons_Volume", L"HideSCAVolume"),
-    Hideable(L"Checkbox_Taskbar_Notification_Icons_Network", L"HideSCANetwork"),
-    Hideable(L"Checkbox_Taskbar_Notification_Icons_Power", L"HideSCAPower"),
-    Hideable(L"Checkbox_Taskbar_Notification_Icons_ActionCenter", L"HideSCAHealth"),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Clock", L"HideClock", true),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Volume", L"HideSCAVolume", true),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Network", L"HideSCANetwork", true),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Power", L"HideSCAPower", true),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_ActionCenter", L"HideSCAHealth", true),
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_Notification_Balloons_Show",
-                 .Value = {kCurrentUser, kAdvanced, L"EnableBalloonTips"},
+                 .Value = {kCurrentUser, kExplorerAdvanced, L"EnableBalloonTips"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Restart = true},
