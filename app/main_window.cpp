@@ -186,23 +186,25 @@ void TQuilltune_FormMain::RzGroup1Items0Click(TComponent& sender) {
     if (sender.Kind() != TComponentKind::CategoryItem) return;
     auto& item = static_cast<TCategoryItem&>(sender);
     // A fault of a loader is for the fault log; the page shows what was loaded until then.
-    std::exception_ptr fault;
-    try {
-        LoadPage(item.Tag());
-    } catch (...) {
-        fault = std::current_exception();
-    }
+    const std::exception_ptr fault = LoadPage(item.Tag());
     Find<TNotebook>(L"Notebook_Main")->ShowPage(std::to_wstring(item.Tag()));
     if (&item != FSelectedItem) SelectItem(item);
     if (fault) std::rethrow_exception(fault);
 }
 
-void TQuilltune_FormMain::LoadPage(int tag) {
+std::exception_ptr TQuilltune_FormMain::LoadPage(int tag) {
     const bool firstVisit = FVisitedPages.insert(tag).second;
+    std::exception_ptr fault;
     for (const auto& page : FPages) {
-        if (page->Tag() == tag && (firstVisit || page->LoadsEveryVisit())) page->Load();
+        if (page->Tag() != tag || (!firstVisit && !page->LoadsEveryVisit())) continue;
+        try {
+            page->Load();
+        } catch (...) {
+            fault = std::current_exception();
+        }
+        FTwins->PageLoaded(tag);
     }
-    FTwins->PageLoaded(tag);
+    return fault;
 }
 
 void TQuilltune_FormMain::SelectItem(TCategoryItem& item) {
@@ -222,8 +224,15 @@ void TQuilltune_FormMain::ShowFolderForm(const wchar_t* sheet) {
 }
 
 void TQuilltune_FormMain::PageChanged(TComponent& sender) {
-    Find(L"Button_Apply")->SetEnabled(true);
     FTwins->Changed(static_cast<TControl&>(sender));
+    EnableApply();
+}
+
+void TQuilltune_FormMain::EnableApply() {
+    Find(L"Button_Apply")
+        ->SetEnabled(!FChanges.Pending().empty() || FContext.FirefoxChanged ||
+                     FContext.SecurityCenterAction != TServiceAction::Nothing ||
+                     FContext.FirewallAction != TServiceAction::Nothing);
 }
 
 void TQuilltune_FormMain::Button_OKClick() {
@@ -234,13 +243,14 @@ void TQuilltune_FormMain::Button_OKClick() {
 void TQuilltune_FormMain::Button_CancelClick() { Close(); }
 
 void TQuilltune_FormMain::Button_ApplyClick() {
-    FChanges.WriteAll();
-    FTwins->Written();
+    const TWritten written = FChanges.WriteAll();
     ApplyServices();
-    OfferRestart();
-    NotifyShell();
+    // Only for what was written: while a service is waited for, the user may have changed more.
+    if (written.RestartNeeded) OfferRestart();
+    NotifyShell(written.AssociationsChanged);
     ApplyFirefox();
-    Find(L"Button_Apply")->SetEnabled(false);
+    FTwins->Written();
+    EnableApply();
 }
 
 void TQuilltune_FormMain::ApplyServices() {
@@ -256,19 +266,15 @@ void TQuilltune_FormMain::ApplyServices() {
 }
 
 void TQuilltune_FormMain::OfferRestart() {
-    if (!FContext.RestartNeeded) return;
     const TMessageAnswer answer =
         FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartWindows],
                                 TMessageButtons::YesNo, TMessageIcon::Question);
     if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartWindows();
-    FContext.RestartNeeded = false;
 }
 
-void TQuilltune_FormMain::NotifyShell() {
+void TQuilltune_FormMain::NotifyShell(bool associationsChanged) {
     FSystem.Shell.NotifyChange(kAllEvents, kFlush);
-    if (!FContext.AssociationsChanged) return;
-    FSystem.Shell.NotifyChange(kAssociationsChanged, kIdList);
-    FContext.AssociationsChanged = false;
+    if (associationsChanged) FSystem.Shell.NotifyChange(kAssociationsChanged, kIdList);
 }
 
 void TQuilltune_FormMain::ApplyFirefox() {

@@ -1,6 +1,7 @@
 // The main window: its life from creation to destruction, the category bar, and Apply.
 #pragma once
 
+#include <exception>
 #include <memory>
 #include <set>
 
@@ -37,12 +38,15 @@ class TQuilltune_FormMain : public TForm {
     void BindEvents();
     void ReinitialiseLists(TTimingLog& log);
     void SetCategoryCaptions();
-    void LoadPage(int tag);
+    /// The fault that ended the page's loaders, if one did.
+    std::exception_ptr LoadPage(int tag);
     void SelectItem(TCategoryItem& item);
     void ApplyServices();
     void OfferRestart();
-    void NotifyShell();
+    void NotifyShell(bool associationsChanged);
     void ApplyFirefox();
+    /// Apply is enabled exactly while something is pending.
+    void EnableApply();
     /// A control's change was recorded.
     void PageChanged(TComponent& sender);
     /// Opens the desktop-icons dialog with one of its sheets chosen.

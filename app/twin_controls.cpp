@@ -1,47 +1,39 @@
 #include "app/twin_controls.h"
 
+#include <algorithm>
+
 #include "app/page_table.h"
-#include "ui/containers.h"
 #include "ui/controls.h"
 
 namespace {
 
-/// The tag of the notebook page that the control lies on.
-int PageOf(const TControl& control) {
-    const TControl* page = &control;
-    while (page->Kind() != TComponentKind::NotebookPage) page = page->Parent();
-    return std::stoi(page->Name());
-}
-
-/// Sets a mark for a scope, so that no path out of it leaves it set.
-class TMarkScope {
-  public:
-    explicit TMarkScope(bool& mark) : FMark(mark) { FMark = true; }
-    ~TMarkScope() { FMark = false; }
-    TMarkScope(const TMarkScope&) = delete;
-    TMarkScope& operator=(const TMarkScope&) = delete;
-
-  private:
-    bool& FMark;
+/// The row that the control records through, on whatever page that is.
+struct TFoundRow {
+    const TRow* Row = nullptr;
+    int Page = 0;
 };
+
+TFoundRow RowOf(const std::wstring& control) {
+    for (const TPageDefinition* page : PageDefinitions())
+        for (const TLoader& loader : page->Loaders)
+            for (const TRow& row : loader)
+                if (std::ranges::count(ControlsOf(row), control) != 0) return {&row, page->Tag};
+    return {};
+}
 
 void CopyState(const TControl& from, TControl& to) {
     switch (to.Kind()) {
         case TComponentKind::CheckBox:
             return static_cast<TCheckBox&>(to).SetChecked(static_cast<const TCheckBox&>(from).Checked());
         case TComponentKind::ComboBox:
+            to.SetEnabled(from.Enabled());
             return static_cast<TComboBox&>(to).SetItemIndex(static_cast<const TComboBox&>(from).ItemIndex());
         case TComponentKind::TrackBar:
         case TComponentKind::UpDown:
             return static_cast<TRangeControl&>(to).SetPosition(
                 static_cast<const TRangeControl&>(from).Position());
-        case TComponentKind::Edit: {
-            auto& edit = static_cast<TEdit&>(to);
-            const std::wstring& text = static_cast<const TEdit&>(from).Text();
-            if (edit.Text() == text) return;
-            edit.SetText(text);
-            return edit.KeyUp();  // an edit records its text with a key
-        }
+        case TComponentKind::Edit:
+            return static_cast<TEdit&>(to).SetText(static_cast<const TEdit&>(from).Text());
         default:
             return;
     }
@@ -50,42 +42,79 @@ void CopyState(const TControl& from, TControl& to) {
 }  // namespace
 
 TTwinControls::TTwinControls(TPageContext& context) : FContext(context) {
-    for (const TPageDefinition* page : PageDefinitions())
-        FTwins.insert(FTwins.end(), page->Twins.begin(), page->Twins.end());
+    for (const TPageDefinition* page : PageDefinitions()) AddPairs(*page);
 }
 
-void TTwinControls::Changed(const TControl& control) {
-    if (FFollowing) return;
-    FChanged.insert(&control);
-    Follow(control);
-}
-
-void TTwinControls::PageLoaded(int tag) {
-    FLoadedPages.insert(tag);
-    for (auto changed = FChanged.begin(); changed != FChanged.end();) {
-        const TControl& control = **changed;
-        if (PageOf(control) != tag) {
-            Follow(control);
-            ++changed;
-        } else {
-            // The page shows what is stored again, and so do the twins; that is no change.
-            changed = FChanged.erase(changed);
-            const TLoadingScope loading(FContext);
-            Follow(control);
+/// The controls of one row, such as a box and its list, follow together: what they record, they record together.
+void TTwinControls::AddPairs(const TPageDefinition& page) {
+    for (const TLoader& loader : page.Loaders) {
+        for (const TRow& row : loader) {
+            TPair pair{.First = {.Controls = {}, .Row = &row, .Page = page.Tag}};
+            for (const std::wstring& control : ControlsOf(row)) {
+                const auto twin = std::ranges::find_if(
+                    page.Twins, [&](const TTwin& each) { return control == each.Control; });
+                if (twin == page.Twins.end()) continue;
+                const TFoundRow other = RowOf(twin->Twin);
+                pair.Second.Row = other.Row;
+                pair.Second.Page = other.Page;
+                pair.First.Controls.push_back(FContext.Form.Find(control));
+                pair.Second.Controls.push_back(FContext.Form.Find(twin->Twin));
+                pair.IsMarked = twin->IsMarked;
+            }
+            if (!pair.First.Controls.empty()) FPairs.push_back(std::move(pair));
         }
     }
 }
 
-void TTwinControls::Follow(const TControl& leader) {
-    const TMarkScope following(FFollowing);
-    for (const TTwin& twin : FTwins) {
-        if (leader.Name() == twin.Control) FollowOne(leader, twin.Twin);
-        if (leader.Name() == twin.Twin) FollowOne(leader, twin.Control);
+void TTwinControls::Changed(const TControl& control) {
+    for (TPair& pair : FPairs) {
+        const bool first = std::ranges::count(pair.First.Controls, &control) != 0;
+        if (!first && std::ranges::count(pair.Second.Controls, &control) == 0) continue;
+        pair.Changed = true;
+        const TSide& follower = first ? pair.Second : pair.First;
+        if (!FLoadedPages.contains(follower.Page)) continue;
+        Follow(first ? pair.First : pair.Second, follower);
+        Record(follower);
     }
 }
 
-void TTwinControls::FollowOne(const TControl& leader, const std::wstring& name) {
-    TControl& follower = *FContext.Form.Find(name);
-    // What this Windows does not offer stays as it is.
-    if (FLoadedPages.contains(PageOf(follower)) && follower.Visible()) CopyState(leader, follower);
+void TTwinControls::PageLoaded(int tag) {
+    FLoadedPages.insert(tag);
+    for (const TPair& pair : FPairs) {
+        const TSide& here = pair.First.Page == tag ? pair.First : pair.Second;
+        const TSide& there = pair.First.Page == tag ? pair.Second : pair.First;
+        if (here.Page != tag || !FLoadedPages.contains(there.Page)) continue;
+        if (IsPending(pair)) {
+            Follow(there, here);
+            Record(here);
+        } else {
+            Follow(here, there);
+        }
+    }
+}
+
+void TTwinControls::Written() {
+    for (TPair& pair : FPairs) pair.Changed = pair.Changed && IsPending(pair);
+}
+
+bool TTwinControls::IsPending(const TPair& pair) const {
+    if (pair.Changed && pair.IsMarked != nullptr && pair.IsMarked(FContext)) return true;
+    const auto recorded = [](const TSide& side, const TRegRecor& change) {
+        return std::ranges::count(side.Controls, change.Setting, &TControl::Name) != 0;
+    };
+    return std::ranges::any_of(FContext.Changes.Pending(), [&](const TRegRecor& change) {
+        return recorded(pair.First, change) || recorded(pair.Second, change);
+    });
+}
+
+void TTwinControls::Follow(const TSide& leader, const TSide& follower) {
+    const TLoadingScope loading(FContext);  // one control after the other: what is between is nobody's change
+    for (std::size_t i = 0; i < leader.Controls.size(); ++i) {
+        // What this Windows does not offer stays as it is.
+        if (follower.Controls[i]->Visible()) CopyState(*leader.Controls[i], *follower.Controls[i]);
+    }
+}
+
+void TTwinControls::Record(const TSide& side) {
+    if (side.Controls.front()->Visible()) RecordRow(FContext, *side.Row, *side.Controls.front());
 }

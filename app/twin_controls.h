@@ -1,4 +1,5 @@
-// Controls of different pages that stand for the same setting: what the user does to one shows in the other.
+// Pairs: controls of two pages that stand for one setting. At every moment both show the same, and what they show is
+// what Apply writes.
 #pragma once
 
 #include <set>
@@ -7,27 +8,40 @@
 
 class TTwinControls {
   public:
-    /// Knows the twins of every page of the program. `context` outlives the object.
+    /// Knows the pairs of every page of the program. `context` outlives the object.
     explicit TTwinControls(TPageContext& context);
 
-    /// The user's change of `control` was recorded: its twins follow on the pages that are loaded, and record it too, so
-    /// that whichever entry is written last means the same. On a page that is not loaded yet they follow in PageLoaded.
+    /// The user's change of `control` was recorded: its twin follows, when its page is loaded, and records it too, so
+    /// that whichever entry is written last means the same.
     void Changed(const TControl& control);
 
-    /// The page's loaders have run. What the user did since the last Apply to twins on other pages comes on top; what he
-    /// did on this page itself is gone, should it have been loaded before.
+    /// The page's loaders have run, and what was not written yet comes on top. Elsewhere the twins of the page follow what
+    /// it found; that is no change.
     void PageLoaded(int tag);
 
-    /// The changes were written: pages that are loaded from now on show them by themselves.
-    void Written() { FChanged.clear(); }
+    /// Forgets the changes that are not pending any more.
+    void Written();
 
   private:
-    void Follow(const TControl& leader);
-    void FollowOne(const TControl& leader, const std::wstring& name);
+    /// What a page has of a setting.
+    struct TSide {
+        std::vector<TControl*> Controls;  ///< those of one row, each where its twin is on the other side
+        const TRow* Row = nullptr;
+        int Page = 0;  ///< its tag
+    };
+    struct TPair {
+        TSide First;
+        TSide Second;
+        bool (*IsMarked)(const TPageContext& context) = nullptr;  ///< see TTwin
+        bool Changed = false;                                     ///< since it was last written
+    };
+
+    void AddPairs(const TPageDefinition& page);
+    [[nodiscard]] bool IsPending(const TPair& pair) const;
+    void Follow(const TSide& leader, const TSide& follower);
+    void Record(const TSide& side);
 
     TPageContext& FContext;
-    std::vector<TTwin> FTwins;
-    std::set<const TControl*> FChanged;  ///< by the user; followers are not among them
+    std::vector<TPair> FPairs;
     std::set<int> FLoadedPages;
-    bool FFollowing = false;
 };

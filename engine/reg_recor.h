@@ -22,4 +22,6 @@ struct TRegRecor {
     std::uint32_t SpiParam = 0;      ///< uiParam
     TSpiData SpiData;                ///< pvParam
     std::uint32_t SpiWinIni = 0;     ///< fWinIni; recorders set 1 = SPIF_UPDATEINIFILE
+    std::wstring Setting;            ///< the name of the control that recorded the change
+    bool RestartNeeded = false;      ///< Windows must restart before the change takes effect
 };

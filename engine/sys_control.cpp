@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "engine/reg_value.h"
 #include "platform/text.h"
@@ -30,6 +31,7 @@ void TSysControl::Add(const TRegRecor& record) {
     for (TRegRecor& entry : FPending) {
         if (entry.Name != record.Name) continue;
         found = true;
+        entry.RestartNeeded |= record.RestartNeeded;
         if (entry.IsSystemParameter) {
             entry.SpiAction = record.SpiAction;
             entry.SpiParam = record.SpiParam;
@@ -40,6 +42,10 @@ void TSysControl::Add(const TRegRecor& record) {
         }
     }
     if (!found) FPending.push_back(record);
+}
+
+void TSysControl::Remove(std::wstring_view name) {
+    std::erase_if(FPending, [&](const TRegRecor& entry) { return entry.Name == name; });
 }
 
 void TSysControl::ReadCurrent(TRegRecor& record) const {
@@ -68,16 +74,21 @@ TReadStatus TSysControl::CheckExists(const TRegRecor& record) const {
     return FSystem.Registry.Check(PlaceOf(record), TRegistryView::Process);
 }
 
-void TSysControl::WriteAll() {
-    for (const TRegRecor& record : FPending) {
+TWritten TSysControl::WriteAll() {
+    TWritten written;
+    for (TRegRecor& record : FPending) {
         if (record.IsSystemParameter) {
             // A parameter that Windows refuses is no reason to hold back the others.
             (void)FSystem.Parameters.Set(record.SpiAction, record.SpiParam, record.SpiData, record.SpiWinIni);
         } else if (Write(record) == TWriteStatus::Refused) {
-            return;
+            return written;
         }
+        // Of an entry that is kept for another pass the restart is told once.
+        written.RestartNeeded |= std::exchange(record.RestartNeeded, false);
+        written.AssociationsChanged |= !record.IsSystemParameter && record.RootKey == TRootKey::ClassesRoot;
     }
     FPending.clear();
+    return written;
 }
 
 TWriteStatus TSysControl::Write(const TRegRecor& record) {

@@ -2,9 +2,16 @@
 #pragma once
 
 #include <span>
+#include <string_view>
 
 #include "engine/reg_recor.h"
 #include "platform/system.h"
+
+/// What a pass of writes has done.
+struct TWritten {
+    bool RestartNeeded = false;        ///< something was written that waits for a restart, for the first time
+    bool AssociationsChanged = false;  ///< something was written below HKEY_CLASSES_ROOT
+};
 
 class TSysControl {
   public:
@@ -13,8 +20,12 @@ class TSysControl {
 
     /// Records a change. When its name is known already, only the value (for a system parameter: the four Spi
     /// fields) of the known entry changes: it keeps its place, address, type and action. A recorder that means
-    /// a different operation for the same control therefore uses a name of its own.
+    /// a different operation for the same control therefore uses a name of its own. The mark of a restart, once set,
+    /// stays.
     void Add(const TRegRecor& record);
+
+    /// Takes the changes of that name back.
+    void Remove(std::wstring_view name);
 
     /// Reads the stored value that `record` addresses into it: ReadResult and, when found, DataType and Value
     /// (Value stays as it was for types other than text, DWORD and binary). Never looks at the pending changes.
@@ -29,8 +40,9 @@ class TSysControl {
     [[nodiscard]] TReadStatus CheckExists(const TRegRecor& record) const;
 
     /// Carries out every change in order and empties the list. Keys that cannot be opened are skipped; a write
-    /// that the registry refuses ends the pass and keeps the whole list for the next one. Nothing is reported.
-    void WriteAll();
+    /// that the registry refuses ends the pass and keeps the whole list for the next one. The answer tells of what was
+    /// written until then; a failure is not reported.
+    TWritten WriteAll();
 
     /// The changes not yet written.
     [[nodiscard]] std::span<const TRegRecor> Pending() const { return FPending; }

@@ -28,6 +28,8 @@ struct TOffer {
 struct TTwin {
     const wchar_t* Control;
     const wchar_t* Twin;
+    /// Of a setting that makes no pending changes: whether the mark is set that its change sets.
+    bool (*IsMarked)(const TPageContext& context) = nullptr;
 };
 
 /// A page as data.

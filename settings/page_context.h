@@ -20,11 +20,13 @@ struct TPageContext {
 
     bool Loading = false;       ///< a loader fills controls; their events record nothing
     bool ShowsPending = false;  ///< the loading page shows changes that are not written yet
-    bool RestartNeeded = false;
     bool FirefoxChanged = false;
-    bool AssociationsChanged = false;
     TServiceAction SecurityCenterAction = TServiceAction::Nothing;
     TServiceAction FirewallAction = TServiceAction::Nothing;
+
+    // While a row records, its changes are marked with these; see TRegRecor.
+    std::wstring Setting;
+    bool RestartNeeded = false;
 };
 
 /// Sets the loading mark for a scope, so that no path out of a loader leaves it set. Scopes nest: while a

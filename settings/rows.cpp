@@ -1,6 +1,7 @@
 #include "settings/rows.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "engine/reg_value.h"
 #include "settings/page_context.h"
@@ -44,9 +45,8 @@ void Load(TPageContext& context, const TKeyRow& row) {
 }
 
 void RecordFrom(TPageContext& context, const TKeyRow& row, TComponent& sender) {
-    // Each click is a change of its own name: a known one would keep its place, and the last click might not win.
-    const std::wstring name = sender.Name() + std::to_wstring(context.Changes.Pending().size());
-    Record(context, name, row.Value, static_cast<TCheckBox&>(sender).Checked() ? Text(L"") : kDeleteKey);
+    Record(context, sender.Name(), row.Value,
+           static_cast<TCheckBox&>(sender).Checked() ? Text(L"") : kDeleteKey);
 }
 
 void Load(TPageContext& context, const TRadioPairRow& row) {
@@ -147,6 +147,28 @@ void RecordFrom(TPageContext& context, const TParameterNumberRow& row, TComponen
     RecordInSlot(context, sender, row.Set, row.Slot, static_cast<std::uint32_t>(position));
 }
 
+/// Marks the changes that are recorded in a scope. Scopes nest: a special row may use another row.
+class TRecordingScope {
+  public:
+    TRecordingScope(TPageContext& context, const std::wstring& setting, bool restartNeeded)
+        : FContext(context),
+          FOuter(std::exchange(context.Setting, setting)),
+          FOuterNeeded(context.RestartNeeded) {
+        context.RestartNeeded |= restartNeeded;
+    }
+    ~TRecordingScope() {
+        FContext.Setting = FOuter;
+        FContext.RestartNeeded = FOuterNeeded;
+    }
+    TRecordingScope(const TRecordingScope&) = delete;
+    TRecordingScope& operator=(const TRecordingScope&) = delete;
+
+  private:
+    TPageContext& FContext;
+    std::wstring FOuter;
+    bool FOuterNeeded;
+};
+
 void Load(TPageContext& context, const TSpecialRow& row) {
     if (row.Load != nullptr) row.Load(context, row);
 }
@@ -182,8 +204,8 @@ void RecordRow(TPageContext& context, const TRow& row, TComponent& sender) {
     if (std::find(names.begin(), names.end(), sender.Name()) == names.end()) return;
     std::visit(
         [&](const auto& kind) {
+            const TRecordingScope recording(context, sender.Name(), kind.Restart);
             RecordFrom(context, kind, sender);
-            if (kind.Restart) context.RestartNeeded = true;
         },
         row);
 }

@@ -63,6 +63,12 @@ TRegRecor RecordAt(const TPlace& place, const std::wstring& changeName) {
     return record;
 }
 
+void AddChange(TPageContext& context, TRegRecor record) {
+    record.Setting = context.Setting;
+    record.RestartNeeded = context.RestartNeeded;
+    context.Changes.Add(record);
+}
+
 namespace {
 
 void RecordValue(TPageContext& context, const std::wstring& changeName, const TPlace& place,
@@ -70,14 +76,14 @@ void RecordValue(TPageContext& context, const std::wstring& changeName, const TP
     TRegRecor record = RecordAt(place, changeName);
     record.DataType = type;
     record.Value = std::move(value);
-    context.Changes.Add(record);
+    AddChange(context, std::move(record));
 }
 
 void RecordDeletion(TPageContext& context, const std::wstring& changeName, const TPlace& place,
                     TRegAction action) {
     TRegRecor record = RecordAt(place, changeName);
     record.Action = action;
-    context.Changes.Add(record);
+    AddChange(context, std::move(record));
 }
 
 void RecordAsStored(TPageContext& context, const std::wstring& changeName, const TPlace& place,
@@ -86,12 +92,15 @@ void RecordAsStored(TPageContext& context, const std::wstring& changeName, const
     context.Changes.ReadCurrent(record);
     if (record.ReadResult != TReadStatus::Found) record.DataType = TRegDataType::Dword;
     record.Value = number;
-    context.Changes.Add(record);
+    AddChange(context, std::move(record));
 }
 
 }  // namespace
 
 void Record(TPageContext& context, const std::wstring& changeName, const TPlace& place, const TDatum& datum) {
+    const std::wstring deletionName = changeName + L"-";
+    const bool deletes = datum.Kind == TDatum::TKind::DeleteValue || datum.Kind == TDatum::TKind::DeleteKey;
+    context.Changes.Remove(deletes || datum.Kind == TDatum::TKind::Nothing ? changeName : deletionName);
     switch (datum.Kind) {
         case TDatum::TKind::Dword:
             return RecordNumber(context, changeName, place, datum.Number);
@@ -102,9 +111,9 @@ void Record(TPageContext& context, const std::wstring& changeName, const TPlace&
         case TDatum::TKind::AsStored:
             return RecordAsStored(context, changeName, place, datum.Number);
         case TDatum::TKind::DeleteValue:
-            return RecordDeletion(context, changeName, place, TRegAction::DeleteValue);
+            return RecordDeletion(context, deletionName, place, TRegAction::DeleteValue);
         case TDatum::TKind::DeleteKey:
-            return RecordDeletion(context, changeName, place, TRegAction::DeleteKey);
+            return RecordDeletion(context, deletionName, place, TRegAction::DeleteKey);
         case TDatum::TKind::Nothing:
             return;
     }
@@ -150,5 +159,5 @@ void RecordParameter(TPageContext& context, const std::wstring& changeName, std:
     record.SpiParam = param;
     record.SpiData = data;
     record.SpiWinIni = kUpdateProfile;
-    context.Changes.Add(record);
+    AddChange(context, std::move(record));
 }

@@ -18,7 +18,13 @@ struct TPageContext;
 /// A change of that name and place, still without type and value.
 [[nodiscard]] TRegRecor RecordAt(const TPlace& place, const std::wstring& changeName);
 
+/// Adds a pending change, marked with the setting that is being recorded.
+void AddChange(TPageContext& context, TRegRecor record);
+
 /// Records a change. A preference changes at once, in the store that Apply saves.
+///
+/// Two states of a setting may be different operations: a write and a deletion have change names of their own, and the one
+/// that is recorded takes the place of the other, so that Apply carries out what the last click meant and nothing else.
 void Record(TPageContext& context, const std::wstring& changeName, const TPlace& place, const TDatum& datum);
 void RecordText(TPageContext& context, const std::wstring& changeName, const TPlace& place,
                 const std::wstring& text);

@@ -111,6 +111,9 @@ TEntry Entry(const TCheckBoxRow& row) {
     if (row.Shows.When)
         shows = Words(row.Shows.When->Shows) + L" when " + row.Shows.When->Value.Words() + L"; ";
     shows += L"else " + Words(row.Shows.Otherwise) + L"; missing: " + Words(row.Shows.Missing);
+    // Spellings of one place differ in case and in the last backslash at most.
+    if (row.LoadedFrom && !SameText(TText(row.LoadedFrom->ValueName), row.Value.ValueName))
+        shows = L"from " + Words(*row.LoadedFrom) + L": " + shows;
     TText writes = Words(row.Records);
     if (row.Further) writes += L". Also " + Words(row.Further->Value) + L": " + Words(row.Further->Records);
     return {Words(row.Value), shows, writes};

@@ -56,12 +56,13 @@ void RecordFirewall(TPageContext& context, const TSpecialRow& row, TComponent& s
 }
 
 void LoadAutoUpdate(TPageContext& context, const TSpecialRow& row) {
+    auto& box = *context.Form.Find<TCheckBox>(row.Controls[0]);
+    auto& list = *context.Form.Find<TComboBox>(row.Controls[1]);
     const auto value = Stored(context, row.Value);
-    if (!value) return;
+    if (!value) return list.SetEnabled(box.Checked());
     const auto number = AsInteger(*value);
     const bool on = number != kUpdatesOff;
-    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(on);
-    auto& list = *context.Form.Find<TComboBox>(row.Controls[1]);
+    box.SetChecked(on);
     list.SetEnabled(on);
     const auto* kind = std::find(std::begin(kUpdateKinds), std::end(kUpdateKinds), number);
     if (kind != std::end(kUpdateKinds)) list.SetItemIndex(static_cast<int>(kind - kUpdateKinds));

@@ -161,7 +161,7 @@ void RecordDeletion(TPageContext& context, const std::wstring& changeName, const
     TRegRecor record = RecordAt(place, changeName);
     record.Action = TRegAction::DeleteValue;
     record.Value = text;
-    context.Changes.Add(record);
+    AddChange(context, std::move(record));
 }
 
 constexpr const wchar_t* kAutoLogon[] = {L"Checkbox_UserLogin_AutoLogin_ActiveAutoLogin"};

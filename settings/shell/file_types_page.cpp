@@ -13,6 +13,7 @@ constexpr const wchar_t* kUnknownChange = L"Button_FileType_OpenFile_DefaultProg
 constexpr const wchar_t* kNoEndExeEdit = L"Edit_FileType_OpenFile_NoEndExe_Open";
 constexpr const wchar_t* kNoEndExeChange = L"Button_FileType_OpenFile_NoEndExe_Change";
 constexpr const wchar_t* kNet = L"Checkbox_FileType_OpenFile_DefaultPrograme_Net";
+constexpr const wchar_t* kOpenPicture = L"Checkbox_FileType_Advanced_PictureAndFax_OpenPicture";
 
 TControlDesign MenuOperationSheet() {
     return Sheet(
@@ -261,26 +262,7 @@ void RecordAddHead(TPageContext& context, const TSpecialRow& row, TComponent& se
     RecordBytes(context, sender.Name(), row.Value, bytes);
 }
 
-constexpr const wchar_t* kPreviewClass = L"{e84fda7c-1d6a-45f6-b725-cb260c236066}";
-constexpr TPlace kPreviewIsDefault =
-    DefaultOf(L"\\CLSID\\{e84fda7c-1d6a-45f6-b725-cb260c236066}\\shellex\\MayChangeDefaultMenu");
-
-/// Whether the preview is registered is deliberately not asked, so that another viewer's change does not
-/// clear the box. It starts from whether Explorer has kept a "link" for the user, whatever is in it.
-void LoadOpenPicture(TPageContext& context, const TSpecialRow& row) {
-    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(Stored(context, kLink).has_value());
-}
-
-/// Clearing takes only the right to be the default from the preview: the pictures' menu keeps its entry.
-void RecordOpenPicture(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    if (!static_cast<TCheckBox&>(sender).Checked())
-        return Record(context, sender.Name(), kPreviewIsDefault, kDeleteKey);
-    RecordText(context, sender.Name(), row.Value, kPreviewClass);
-    RecordText(context, sender.Name() + L"1", kPreviewIsDefault, L"");
-}
-
 constexpr const wchar_t* kAddHead[] = {L"Checkbox_FileType_Advanced_NewShortcut_AddHead"};
-constexpr const wchar_t* kOpenPicture[] = {L"Checkbox_FileType_Advanced_PictureAndFax_OpenPicture"};
 
 constexpr TRow kAdvancedRows[] = {
     TSpecialRow{.Controls = kAddHead,
@@ -289,14 +271,19 @@ constexpr TRow kAdvancedRows[] = {
                 .Load = LoadAddHead,
                 .Record = RecordAddHead,
                 .Restart = true},
-    TSpecialRow{
-        .Controls = kOpenPicture,
-        .Value = DefaultOf(L"\\SystemFileAssociations\\image\\ShellEx\\ContextMenuHandlers\\"
-                           L"ShellImagePreview\\"),
-        .Rule = L"checked while \"link\" can be read; records the entry and that it may be the default, or "
-                L"deletes the latter",
-        .Load = LoadOpenPicture,
-        .Record = RecordOpenPicture},
+    // Whether the preview is registered is deliberately not asked, so that another viewer's change does not clear the
+    // box: it starts from whether Explorer has kept a "link" for the user. Clearing takes only the right to be the
+    // default from the preview: the pictures' menu keeps its entry.
+    TCheckBoxRow{.Control = kOpenPicture,
+                 .Value = DefaultOf(L"\\SystemFileAssociations\\image\\ShellEx\\ContextMenuHandlers\\"
+                                    L"ShellImagePreview\\"),
+                 .Shows = {.Missing = kClear, .Otherwise = kChecked},
+                 .Records = {.Checked = Text(L"{e84fda7c-1d6a-45f6-b725-cb260c236066}"), .Clear = kNothing},
+                 .Further = TBoxFurther{.Suffix = L"1",
+                                        .Value = DefaultOf(L"\\CLSID\\{e84fda7c-1d6a-45f6-b725-cb260c236066}"
+                                                           L"\\shellex\\MayChangeDefaultMenu"),
+                                        .Records = {.Checked = Text(L""), .Clear = kDeleteKey}},
+                 .LoadedFrom = kLink},
 };
 
 constexpr TLoader kLoaders[] = {kMenuOperationRows, kOpenFileRows, kAdvancedRows};
@@ -313,7 +300,7 @@ constexpr TPresetState kOpenFileDefault[] = {
     {kNet, 1},
     {kNoEndExeRadios[kWithDialog], 1},
 };
-constexpr TPresetState kAdvancedDefault[] = {{kAddHead[0], 1}, {kOpenPicture[0], 1}};
+constexpr TPresetState kAdvancedDefault[] = {{kAddHead[0], 1}, {kOpenPicture, 1}};
 constexpr TPreset kPresets[] = {
     {L"Button_FileType_MenuOperation_Default", kMenuOperationDefault},
     {L"Button_FileType_OpenFile_Default", kOpenFileDefault},

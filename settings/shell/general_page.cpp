@@ -125,6 +125,14 @@ TRow Repeat(const TPageDefinition& page, const std::wstring& original, const wch
     throw std::logic_error("no such row to repeat");
 }
 
+bool IsFirefoxMarked(const TPageContext& context) { return context.FirefoxChanged; }
+bool IsCenterMarked(const TPageContext& context) {
+    return context.SecurityCenterAction != TServiceAction::Nothing;
+}
+bool IsFirewallMarked(const TPageContext& context) {
+    return context.FirewallAction != TServiceAction::Nothing;
+}
+
 constexpr TTwin kTwins[] = {
     {L"Checkbox_CommonSettings_Display_Desktop_WinVersion",
      L"Checkbox_Display_Effect_BehaviorSettings_DesktopWinVersion"},
@@ -134,7 +142,8 @@ constexpr TTwin kTwins[] = {
     {L"CB_CommonSettings_Display_MinWindow_Left", L"CB_Taskbar_MinWindow_Left"},
     {L"CB_CommonSettings_Display_MinWindow_Top", L"CB_Taskbar_MinWindow_Top"},
     {L"Checkbox_CommonSettings_Display_StartMenu_AdminTools", L"Checkbox_Use_StartMenu_Items_AdminTools"},
-    {L"Edit_CommonSettings_Display_FirefoxHomepage_HomePage", L"Edit_Firefox_Common_Homepage_Address"},
+    {L"Edit_CommonSettings_Display_FirefoxHomepage_HomePage", L"Edit_Firefox_Common_Homepage_Address",
+     IsFirefoxMarked},
     {L"UpDownCur_CommonSettings_Function_CursorWidth_Width", L"UpDown_Use_Keyboard_CursorWidth_Width"},
     {L"Checkbox_CommonSettings_Function_Keyboard_WinKey", L"Checkbox_Use_Keyboard_WinKey_Active"},
     {L"Checkbox_CommonSettings_Function_Explorer_Restore", L"Checkbox_Folder_View_Windows_Restore"},
@@ -143,9 +152,10 @@ constexpr TTwin kTwins[] = {
      L"Checkbox_Startup_DesktopAndTaskbar_AutoRestartExplorer_AutoRun"},
     {L"Checkbox_CommonSettings_Function_Drives_LastVisit", L"Checkbox_Drives_Common_NTFS_SaveLastVisitData"},
     {L"Checkbox_CommonSettings_Function_Drives_SpaceWarn", L"Checkbox_Drives_DiskSpace_SpaceWarn_ShowWarn"},
-    {L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveSC", L"Checkbox_Security_Center_Active"},
+    {L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveSC", L"Checkbox_Security_Center_Active",
+     IsCenterMarked},
     {L"ChkeckBox_CommonSettings_Security_SecuritySettings_StartWF",
-     L"Checkbox_Net_Internet_WindowsFirewall_Enable"},
+     L"Checkbox_Net_Internet_WindowsFirewall_Enable", IsFirewallMarked},
     {L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveAU",
      L"Checkbox_Privacy_Common_AutoUpdate_Active"},
     {L"CB_CommonSettings_Security_SecuritySettings_AutoUpdateType", L"CB_Privacy_Common_AutoUpdate_Type"},

@@ -157,16 +157,63 @@ TEST_F(TMainWindow, AsksForARestartOnceForEachChangeThatNeedsIt) {
     EXPECT_EQ(Fake.Shell.Restarts(), 1);
 }
 
+TEST_F(TMainWindow, WhatARefusedPassLeavesIsStillToBeApplied) {
+    Open();
+    Click(kDriverItem);
+    Toggle(kLastAccess);
+    Toggle(kUdma);  // waits for a restart
+    Fake.Registry.FailChange(2);
+    Press(L"Button_Apply");
+    EXPECT_EQ(LastAccess(), 1);
+    EXPECT_TRUE(Fake.Dialogs.Questions().empty()) << "what waits for a restart is not written";
+    EXPECT_TRUE(Enabled(L"Button_Apply"));
+    Press(L"Button_Apply");
+    EXPECT_EQ(Fake.Dialogs.Questions().size(), 1u);
+    EXPECT_FALSE(Enabled(L"Button_Apply"));
+
+    Toggle(kUdma);
+    Toggle(kLastAccess);
+    Fake.Registry.FailChange(2);
+    Press(L"Button_Apply");
+    EXPECT_EQ(Fake.Dialogs.Questions().size(), 2u) << "it was written before the pass ended";
+    Press(L"Button_Apply");
+    EXPECT_EQ(Fake.Dialogs.Questions().size(), 2u) << "and was asked about already";
+    EXPECT_FALSE(Enabled(L"Button_Apply"));
+}
+
+TEST_F(TMainWindow, ChangesMadeWhileAServiceIsWaitedForAreLeftForTheNextApply) {
+    Open();
+    Fake.Services.Put(L"wscsvc", {});
+    Click(kDriverItem);
+    Marks().SecurityCenterAction = TServiceAction::Enable;
+    Fake.Clock.OnProcessMessages = [this] {
+        Fake.Clock.OnProcessMessages = nullptr;
+        Toggle(kUdma);
+        Click(L"RzGroup_Display.Items[0]");
+        Toggle(L"Checkbox_FileType_MenuOperation_FileAndFolder_SendTo");
+    };
+    Apply();
+    EXPECT_TRUE(Fake.Dialogs.Questions().empty());
+    EXPECT_TRUE(Enabled(L"Button_Apply"));
+    EXPECT_EQ(std::ranges::count(Fake.Shell.Notifications(), TShellNotification{0x08000000, 0}), 0);
+    Press(L"Button_Apply");
+    EXPECT_EQ(Fake.Dialogs.Questions().size(), 1u);
+    EXPECT_EQ(std::ranges::count(Fake.Shell.Notifications(), TShellNotification{0x08000000, 0}), 1);
+    EXPECT_FALSE(Enabled(L"Button_Apply"));
+}
+
 TEST_F(TMainWindow, ApplySwitchesServicesAndTellsTheShellOfAssociations) {
     for (const bool vista : {false, true}) {
         Open(vista ? 6 : 5, vista ? 0 : 1);
         Fake.Services.Put(L"wscsvc", {.State = TServiceState::Running});
         Fake.Services.Put(L"MpsSvc", {});
         Marks().SecurityCenterAction = TServiceAction::Disable;
-        Marks().FirewallAction = TServiceAction::Enable;
-        Marks().AssociationsChanged = true;
+        if (vista) Marks().FirewallAction = TServiceAction::Enable;
+        Click(L"RzGroup_Display.Items[0]");
+        Toggle(L"Checkbox_FileType_MenuOperation_FileAndFolder_SendTo");
         Fake.Services.Calls.clear();
-        Apply();
+        Press(L"Button_Apply");
+        EXPECT_FALSE(Enabled(L"Button_Apply"));
         Apply();
         EXPECT_EQ(Fake.Services.Service(L"wscsvc").StartType, TServiceStartType::Disabled);
         EXPECT_EQ(Fake.Services.Service(L"MpsSvc").State,
@@ -260,8 +307,9 @@ TEST_F(TMainWindow, SpeaksTheLanguageOfTheSuite) {
                                         {L"RzGroup_Communication.Items[5]", L"Opera"}})
         EXPECT_EQ(Window->Find(name)->Caption(), caption);
     EXPECT_EQ(Window->Caption(), L"Title");
-    Marks().RestartNeeded = true;
-    Apply();
+    Click(kDriverItem);
+    Toggle(kUdma);
+    Press(L"Button_Apply");
     EXPECT_EQ(Fake.Dialogs.Questions().at(0).Title, L"Title");
     EXPECT_EQ(Fake.Dialogs.Questions().at(0).Text, L"Restart?");
 }

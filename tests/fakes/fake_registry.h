@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "engine/reg_value.h"
 #include "platform/registry.h"
 #include "platform/text.h"
 
@@ -40,6 +41,17 @@ class TFakeRegistry : public TRegistry {
         if (key == nullptr) return nullptr;
         const auto value = FindValue(*key, place.ValueName);
         return value == key->Values.end() ? nullptr : &value->second;
+    }
+    /// Every key and value, a line each, in alphabetical order.
+    [[nodiscard]] std::vector<std::wstring> Lines() const {
+        std::vector<std::wstring> lines;
+        for (const TKey& key : FKeys) {
+            lines.push_back(key.Path);
+            for (const auto& [name, data] : key.Values)
+                lines.push_back(key.Path + L'[' + name + L"] = " + AsText(data.Value));
+        }
+        std::ranges::sort(lines);
+        return lines;
     }
     [[nodiscard]] bool HasKey(TRootKey root, std::wstring_view key) const { return FindKey(Path(root, key)); }
 

@@ -137,7 +137,7 @@ void ExpectRecorded(const TPageDefinition& page, std::span<const TRecordedCase> 
             bench.Preset(c.Control, c.State == L"off");
         bench.Act(c.Control, c.State);
         EXPECT_EQ(bench.Pending(), c.Pending) << Narrow(c.Control) << ' ' << Narrow(c.State);
-        EXPECT_EQ(bench.Context.RestartNeeded, c.Restart) << Narrow(c.Control);
+        EXPECT_EQ(bench.NeedsRestart(), c.Restart) << Narrow(c.Control);
         EXPECT_GE(bench.Recorded, 1) << "Apply is to be enabled";
     }
 }

@@ -1,6 +1,8 @@
 // A page on a form of its own, over fakes: what the page tests stand on.
 #pragma once
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "settings/page.h"
@@ -29,6 +31,10 @@ class TPageBench {
     }
 
     void Load() { FPage->Load(); }
+    /// Whether Apply will ask for a restart.
+    [[nodiscard]] bool NeedsRestart() const {
+        return std::ranges::any_of(FChanges.Pending(), &TRegRecor::RestartNeeded);
+    }
     void Store(const TPlace& place, const TRegistryData& data) {
         Fake.Registry.Put({place.Root, place.Key, place.ValueName}, data);
     }

@@ -73,7 +73,7 @@ TRegistryPlace Place(const TLine& text) {
 class TScene {
   public:
     explicit TScene(const TPageDefinition& page) : FBench(page) { FBench.Context.WindowsLevel = 7; }
-    ~TScene() { EXPECT_EQ(FBench.Context.RestartNeeded, FRestart) << "restart"; }
+    ~TScene() { EXPECT_EQ(FBench.NeedsRestart(), FRestart) << "restart"; }
     TScene(const TScene&) = delete;
     TScene& operator=(const TScene&) = delete;
 
