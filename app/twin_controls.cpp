@@ -35,13 +35,8 @@ void CopyState(const TControl& from, TControl& to) {
         case TComponentKind::UpDown:
             return static_cast<TRangeControl&>(to).SetPosition(
                 static_cast<const TRangeControl&>(from).Position());
-        case TComponentKind::Edit: {
-            auto& edit = static_cast<TEdit&>(to);
-            const std::wstring& text = static_cast<const TEdit&>(from).Text();
-            if (edit.Text() == text) return;
-            edit.SetText(text);
-            return edit.KeyUp();  // an edit records its text with a key
-        }
+        case TComponentKind::Edit:
+            return static_cast<TEdit&>(to).SetText(static_cast<const TEdit&>(from).Text());
         default:
             return;
     }

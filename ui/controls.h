@@ -81,12 +81,9 @@ class TEdit : public TControl {
 
     /// Called by the peer for a typed character; false when the edit discards it.
     [[nodiscard]] bool AcceptsKey(wchar_t key) const { return !OnKeyPress || OnKeyPress(key); }
-    /// Called by the peer when a key is released in the edit.
-    void KeyUp() { Fire(OnKeyUp); }
 
-    TNotifyEvent OnChange;  ///< every change of the text
-    TNotifyEvent OnExit;    ///< the focus left the edit
-    TNotifyEvent OnKeyUp;
+    TNotifyEvent OnChange;                        ///< every change of the text
+    TNotifyEvent OnExit;                          ///< the focus left the edit
     std::function<bool(wchar_t key)> OnKeyPress;  ///< whether a typed character passes
     bool DigitsOnly = false;
     bool Password = false;

@@ -67,9 +67,7 @@ LRESULT CALLBACK TEditPeer::KeyProc(HWND window, UINT message, WPARAM wParam, LP
     TFormWindow& form = peer->FForm;
     try {
         if (message == WM_CHAR && !edit.AcceptsKey(static_cast<wchar_t>(wParam))) return 0;
-        const LRESULT result = CallWindowProcW(base, window, message, wParam, lParam);
-        if (message == WM_KEYUP) edit.KeyUp();
-        return result;
+        return CallWindowProcW(base, window, message, wParam, lParam);
     } catch (...) {
         form.Fault(std::current_exception());
         return 0;

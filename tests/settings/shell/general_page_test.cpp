@@ -39,10 +39,7 @@ class TTwins : public testing::Test {
         return *Window->Find<T>(name);
     }
     void Visit(const wchar_t* item) { Get<TCategoryItem>(item).Click(); }
-    void Type(const wchar_t* edit, const wchar_t* text) {
-        Get<TEdit>(edit).SetText(text);
-        Get<TEdit>(edit).KeyUp();
-    }
+    void Type(const wchar_t* edit, const wchar_t* text) { Get<TEdit>(edit).SetText(text); }
     void Apply() { Get<TButton>(L"Button_Apply").Click(); }
     std::uint32_t DragFullWindows() {
         std::vector<std::uint8_t> buffer(4);
