@@ -78,6 +78,8 @@ class TEdit : public TControl {
     [[nodiscard]] bool Focused() const { return FFocused; }
     /// Called by the peer when the input focus comes or goes; losing it fires OnExit.
     void SetFocused(bool focused);
+    /// Fires OnExit as if the focus left for a moment: what is about to use the text finds it as leaving makes it.
+    void Commit();
 
     /// Called by the peer for a typed character; false when the edit discards it.
     [[nodiscard]] bool AcceptsKey(wchar_t key) const { return !OnKeyPress || OnKeyPress(key); }
@@ -110,8 +112,8 @@ class TRangeControl : public TControl {
     TNotifyEvent OnChange;
 
   protected:
-    /// Told of every new position before the event fires.
-    virtual void PositionChanged() {}
+    /// Told of every position that is set, also when it is the old one, before the event fires.
+    virtual void PositionSet() {}
     int FPosition;
 
   private:
@@ -138,7 +140,7 @@ class TUpDown : public TRangeControl {
   private:
     friend class TEdit;
 
-    void PositionChanged() override;
+    void PositionSet() override;
     void FollowText(const std::wstring& text);
 
     TEdit* FAssociate = nullptr;

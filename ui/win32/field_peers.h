@@ -24,6 +24,8 @@ class TEditPeer : public TWindowPeer {
 
     WNDPROC FBaseProc = nullptr;
     bool FShowing = false;
+    std::wstring
+        FWhole;  ///< the text that the program showed last, of which the window may hold the beginning only
 };
 
 class TComboBoxPeer : public TWindowPeer {
