@@ -156,6 +156,10 @@ TEST_F(TSettings, ABoundedNumberIsCorrectedBeforeItIsWritten) {
     void (*const ways[])(const TMainWindow& window) = {
         [](const TMainWindow& window) { window.Press(VK_RETURN); },
         [](const TMainWindow& window) { window.Click(L"Button_OK"); },
+        // Alt and the access key of Apply.
+        [](const TMainWindow& window) {
+            PostMessageW(window.Find(kThumbnail), WM_SYSCHAR, L'a', 0x20000001);
+        },
         // The parent is told, the focus stays.
         [](const TMainWindow& window) {
             const HWND apply = window.Find(L"Button_Apply");

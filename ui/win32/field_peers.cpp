@@ -71,8 +71,8 @@ void TEditPeer::ShowState() {
     if (isShown) return;  // leaves the caret where the user is typing
     FShowing = true;
     SetWindowTextW(Handle(), shown.c_str());
-    Send(EM_SETSEL, shown.size(),
-         static_cast<LPARAM>(shown.size()));  // Windows puts the caret before the text
+    // Windows puts the caret before the text.
+    Send(EM_SETSEL, shown.size(), static_cast<LPARAM>(shown.size()));
     FShowing = false;
 }
 
