@@ -102,6 +102,7 @@ TEST_F(PeersTest, AnEditKeepsWhatItDoesNotShow) {
         edit.SetText(text);
         TakeFired();
         EXPECT_LT(GetWindowTextLengthW(Window(L"Text")), 10000) << "Windows takes its time for a long one";
+        EXPECT_EQ(Send(L"Text", EM_GETSEL), text[1] == L'\r' ? 0x40004 : 0) << "in sight is the beginning";
         EXPECT_EQ(TextOf(L"Text").substr(0, 3), text.substr(0, std::min<std::size_t>(text.find(L'\0'), 3)));
         SetFocus(Window(L"Text"));
         Send(L"Text", EM_SETSEL, 0, 1);

@@ -71,8 +71,8 @@ void TEditPeer::ShowState() {
     if (isShown) return;  // leaves the caret where the user is typing
     FShowing = true;
     SetWindowTextW(Handle(), shown.c_str());
-    // Windows puts the caret before the text.
-    Send(EM_SETSEL, shown.size(), static_cast<LPARAM>(shown.size()));
+    // Windows puts the caret before the text, which is right only for one that is not shown to its end.
+    if (shown.size() == FWhole.size()) Send(EM_SETSEL, shown.size(), static_cast<LPARAM>(shown.size()));
     FShowing = false;
 }
 
