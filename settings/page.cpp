@@ -69,7 +69,7 @@ void TPage::ListenToRow(const TRow& row) {
         if (auto* list = FContext.Form.Find<TListView>(name)) list->OnChange = changed;
         auto* edit = FContext.Form.Find<TEdit>(name);
         // The changes of a bounded numeric field come from the field itself.
-        if (edit != nullptr && !edit->OnChange) edit->OnKeyUp = changed;
+        if (edit != nullptr && !edit->OnChange) edit->OnChange = changed;
     }
 }
 

@@ -132,7 +132,7 @@ struct TNumberRow {
     TLevels LoadedOn = kEveryLevel;
 };
 
-/// An edit whose text is the value, recorded as REG_SZ with each key that is released in it.
+/// An edit whose text is the value, recorded as REG_SZ whenever it changes.
 struct TTextRow {
     const wchar_t* Control;
     TPlace Value;

@@ -59,14 +59,27 @@ void TEdit::SetFocused(bool focused) {
     if (!focused) Fire(OnExit);
 }
 
+void TEdit::Commit() {
+    if (!FFocused) return;
+    FFocused = false;
+    try {
+        Fire(OnExit);
+    } catch (...) {
+        FFocused = true;
+        throw;
+    }
+    FFocused = true;
+}
+
 TRangeControl::TRangeControl(TComponentKind kind, std::wstring name, int min, int max, int position)
     : TControl(kind, std::move(name)), FPosition(std::clamp(position, min, max)), FMin(min), FMax(max) {}
 
 void TRangeControl::SetPosition(int position) {
     position = std::clamp(position, FMin, FMax);
-    if (position == FPosition) return;
+    const bool isNew = position != FPosition;
     FPosition = position;
-    PositionChanged();
+    PositionSet();
+    if (!isNew) return;
     UpdatePeer(TControlAspect::State);
     Fire(OnChange);
 }
@@ -74,10 +87,10 @@ void TRangeControl::SetPosition(int position) {
 void TUpDown::SetAssociate(TEdit* edit) {
     FAssociate = edit;
     edit->FUpDown = this;
-    PositionChanged();
+    PositionSet();
 }
 
-void TUpDown::PositionChanged() {
+void TUpDown::PositionSet() {
     if (FAssociate != nullptr) FAssociate->SetText(std::to_wstring(FPosition));
 }
 

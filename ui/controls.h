@@ -78,15 +78,14 @@ class TEdit : public TControl {
     [[nodiscard]] bool Focused() const { return FFocused; }
     /// Called by the peer when the input focus comes or goes; losing it fires OnExit.
     void SetFocused(bool focused);
+    /// Fires OnExit as if the focus left for a moment: what is about to use the text finds it as leaving makes it.
+    void Commit();
 
     /// Called by the peer for a typed character; false when the edit discards it.
     [[nodiscard]] bool AcceptsKey(wchar_t key) const { return !OnKeyPress || OnKeyPress(key); }
-    /// Called by the peer when a key is released in the edit.
-    void KeyUp() { Fire(OnKeyUp); }
 
-    TNotifyEvent OnChange;  ///< every change of the text
-    TNotifyEvent OnExit;    ///< the focus left the edit
-    TNotifyEvent OnKeyUp;
+    TNotifyEvent OnChange;                        ///< every change of the text
+    TNotifyEvent OnExit;                          ///< the focus left the edit
     std::function<bool(wchar_t key)> OnKeyPress;  ///< whether a typed character passes
     bool DigitsOnly = false;
     bool Password = false;
@@ -113,8 +112,8 @@ class TRangeControl : public TControl {
     TNotifyEvent OnChange;
 
   protected:
-    /// Told of every new position before the event fires.
-    virtual void PositionChanged() {}
+    /// Told of every position that is set, also when it is the old one, before the event fires.
+    virtual void PositionSet() {}
     int FPosition;
 
   private:
@@ -141,7 +140,7 @@ class TUpDown : public TRangeControl {
   private:
     friend class TEdit;
 
-    void PositionChanged() override;
+    void PositionSet() override;
     void FollowText(const std::wstring& text);
 
     TEdit* FAssociate = nullptr;

@@ -81,7 +81,9 @@ TEST_F(TNumericFieldsTest, TheMaximumHoldsWhileTypingAndTheMinimumOnLeaving) {
         {kCaret, L"-5", L"1", 1, L"1"},
         {kThumbnail, L"", L"", 0, L"32"},
     };
-    for (const auto& each : cases) {
+    // Committed, the edit does at once what leaving it would do, which then has nothing left to do.
+    for (std::size_t i = 0; i < 2 * std::size(cases); ++i) {
+        const auto& each = cases[i / 2];
         SCOPED_TRACE(testing::PrintToString(each.Typed));
         TEdit& edit = Field(each.Edit);
         const std::wstring sender = each.Edit == kThumbnail ? kThumbnail : Arrows(each.Edit);
@@ -90,10 +92,15 @@ TEST_F(TNumericFieldsTest, TheMaximumHoldsWhileTypingAndTheMinimumOnLeaving) {
         edit.SetText(each.Typed);
         EXPECT_EQ(edit.Text(), each.Becomes);
         EXPECT_EQ(TakeFired(), (TFired{{sender, each.Fires}}));
-        edit.SetFocused(false);
+        if (i % 2 == 0)
+            edit.SetFocused(false);
+        else
+            edit.Commit();
         EXPECT_EQ(edit.Text(), each.Left);
         EXPECT_EQ(TakeFired(),
                   each.Left == each.Becomes ? TFired{} : (TFired{{sender, std::stoi(each.Left)}}));
+        edit.SetFocused(false);
+        EXPECT_EQ(TakeFired(), TFired{});
         edit.SetText(before);
         EXPECT_EQ(TakeFired(), TFired{}) << "nothing is looked at without the focus";
     }
@@ -122,6 +129,8 @@ TEST_F(TNumericFieldsTest, ATextThatIsNoNumberIsAFaultAndStays) {
     for (const wchar_t* text : {L"12a", L"-", L" 5", L"$1F", L"1.5", L"2147483648", L"\x00E4"}) {
         edit.SetFocused(true);
         EXPECT_THROW(edit.SetText(text), EConvertError);
+        EXPECT_THROW(edit.Commit(), EConvertError);
+        EXPECT_TRUE(edit.Focused());
         EXPECT_THROW(edit.SetFocused(false), EConvertError);
         EXPECT_EQ(edit.Text(), text);
     }

@@ -38,6 +38,7 @@ const HKEY kUser = HKEY_CURRENT_USER;
 
 constexpr const wchar_t* kVisits = L"Checkbox_Drives_Common_NTFS_SaveLastVisitData";
 constexpr const wchar_t* kStartup = L"RzGroup_Others.Items[1]";
+constexpr const wchar_t* kFolders = L"RzGroup_Display.Items[1]";
 constexpr const wchar_t* kInformation = L"RzGroup_Communication.Items[0]";
 
 const TSetting kSettings[] = {
@@ -122,6 +123,87 @@ TEST_F(TSettings, TheRestartQuestionComesAfterTheWritingAndOnce) {
     question.Answer(IDNO);
     window.Click(kVisits);
     program.Apply();  // No has settled it
+}
+
+constexpr const wchar_t* kInstaller = L"Edit_System_Common_Installer_Name";
+const TValuePlace kInstallerName{kUser, L"Software\\Microsoft\\MS Setup (ACME)\\User Info", L"DefName"};
+constexpr const wchar_t* kThumbnail = L"Edit_Folder_Thumbnail_Size";
+const TValuePlace kThumbnailSize{kUser, L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer",
+                                 L"ThumbnailSize"};
+
+TEST_F(TSettings, TextsAreRecordedWhenTheyChangeHoweverTheyDoAndNeverElse) {
+    const TValueKeeper keeper{{kInstallerName}};
+    Store(kInstallerName, std::nullopt);
+    const TProgram program;
+    const TMainWindow& window = program.Window();
+    Show(window, kInformation, kInstaller);
+    for (const wchar_t* edit : {L"Edit_System_Common_Infomation_Name", kInstaller})
+        for (const WORD key : {VK_TAB, VK_SHIFT, VK_LEFT, VK_END}) {
+            window.Press(key, window.Find(edit));
+            (void)window.Text(edit);
+        }
+    EXPECT_FALSE(window.Enabled(L"Button_Apply"));
+    SendMessageW(window.Find(kInstaller), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Ada"));
+    program.Apply();
+    EXPECT_EQ(Stored(kInstallerName), Text(L"Ada"));
+    SendMessageW(window.Find(kInstaller), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L""));
+    program.Apply();
+    EXPECT_EQ(Stored(kInstallerName), Text(L""));
+}
+
+TEST_F(TSettings, ABoundedNumberIsCorrectedBeforeItIsWritten) {
+    const TValueKeeper keeper{{kThumbnailSize}};
+    void (*const ways[])(const TMainWindow& window) = {
+        [](const TMainWindow& window) { window.Press(VK_RETURN); },
+        [](const TMainWindow& window) { window.Click(L"Button_OK"); },
+        // Alt and the access key of Apply.
+        [](const TMainWindow& window) {
+            PostMessageW(window.Find(kThumbnail), WM_SYSCHAR, L'a', 0x20000001);
+        },
+        // The parent is told, the focus stays.
+        [](const TMainWindow& window) {
+            const HWND apply = window.Find(L"Button_Apply");
+            SendMessageW(GetParent(apply), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(apply), BN_CLICKED),
+                         reinterpret_cast<LPARAM>(apply));
+        },
+    };
+    for (const auto& apply : ways) {
+        Store(kThumbnailSize, std::nullopt);
+        const TProgram program;
+        Show(program.Window(), kFolders, kThumbnail);
+        program.Window().Type(kThumbnail, L"5");
+        apply(program.Window());
+        EXPECT_TRUE(WaitUntil([] { return Stored(kThumbnailSize) == Dword(32); }));
+    }
+}
+
+TEST_F(TSettings, TheKeyboardAloneOpensAPageAndChangesASetting) {
+    Store(kLastAccess, Dword(0));
+    const TProgram program;
+    const TMainWindow& window = program.Window();
+    const auto goTo = [&](WORD key, const wchar_t* control) {
+        for (int i = 0; i < 60 && window.FocusedControl() != control; ++i) {
+            const std::wstring before = window.FocusedControl();
+            window.Press(key);
+            ASSERT_TRUE(WaitUntil([&] { return window.FocusedControl() != before; })) << Utf8(before);
+        }
+        ASSERT_EQ(window.FocusedControl(), control);
+    };
+    goTo(VK_TAB, L"RzGroup_CommonSettings.Items[0]");
+    goTo(VK_DOWN, kDriverItem);
+    window.Press(VK_RETURN);
+    ASSERT_TRUE(WaitUntil([&] { return window.Visible(L"14"); }));
+    goTo(VK_TAB, kVisits);
+    window.Press(VK_SPACE);
+    goTo(VK_TAB, L"Button_Apply");
+    window.Press(VK_RETURN);
+    ASSERT_TRUE(WaitUntil([] { return Stored(kLastAccess) == Dword(1); }));
+    // The button is disabled now; the keyboard goes on elsewhere.
+    ASSERT_TRUE(WaitUntil(
+        [&] { return !window.FocusedControl().empty() && window.FocusedControl() != L"Button_Apply"; }));
+    goTo(VK_TAB, L"Button_Cancel");
+    window.Press(VK_RETURN);
+    EXPECT_EQ(program.ExitCode(), 0u);
 }
 
 TEST_F(TSettings, AreWrittenByOkAndEnterAndByNoOtherWayOut) {

@@ -94,8 +94,7 @@ void TPageBench::Act(const std::wstring& name, const std::wstring& state) {
         case TComponentKind::Edit: {
             auto& edit = static_cast<TEdit&>(control);
             edit.SetFocused(true);
-            edit.SetText(state);
-            return edit.KeyUp();
+            return edit.SetText(state);
         }
         case TComponentKind::Button:
             return static_cast<TButton&>(control).Click();

@@ -103,6 +103,16 @@ TEST(TPage, ButtonsAndEditsRecordWhenARowNamesThem) {
     EXPECT_EQ(bench.Recorded, 0);
 }
 
+TEST(TPage, AnEditRecordsEveryOtherTextAndNoneTwice) {
+    TPageBench bench(kPage);
+    bench.Store(kPlace, String(L"loaded"));
+    bench.Load();
+    for (const wchar_t* text : {L"loaded", L"", L"", L"loaded"}) bench.Act(L"Text", text);
+    EXPECT_EQ(bench.Recorded, 2) << "clearing it is a change, and so is taking that back";
+    EXPECT_EQ(bench.Pending(),
+              std::vector<std::wstring>{L"Text: HKCU\\Software\\Test\\[Value] = \"loaded\""});
+}
+
 TEST(TPage, AValueThatAControlCannotShowLeavesItAlone) {
     for (const auto& stored : {Number(7), String(L"many"), Bytes({1, 2, 3, 4, 5})}) {
         TPageBench bench(kPage);

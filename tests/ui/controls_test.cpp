@@ -82,6 +82,14 @@ TEST_F(TControls, AnUpDownAndItsEditFollowEachOther) {
         EXPECT_EQ(Get<TEdit>(L"Edit").Text(), text);
         EXPECT_EQ(TakeFired(), TNames{L"Edit"});
     }
+
+    // An arrow at the end of the range cannot move, but shows where it stands.
+    Get<TUpDown>(L"UpDown").SetPosition(100);
+    Get<TEdit>(L"Edit").SetText(L"");
+    TakeFired();
+    Get<TUpDown>(L"UpDown").SetPosition(101);
+    EXPECT_EQ(Get<TEdit>(L"Edit").Text(), L"100");
+    EXPECT_EQ(TakeFired(), TNames{L"Edit"});
 }
 
 TEST_F(TControls, ListsKeepTheirSelectionWhenItemsAreRenamed) {
@@ -99,12 +107,20 @@ TEST_F(TControls, ListsKeepTheirSelectionWhenItemsAreRenamed) {
     EXPECT_EQ(combo.ItemIndex(), -1) << "no item, no choice";
 }
 
-TEST_F(TControls, AnEditFiresItsExitWhenTheFocusLeaves) {
+TEST_F(TControls, AnEditFiresItsExitWhenTheFocusLeavesOrTheTextIsCommitted) {
     auto& edit = Get<TEdit>(L"Edit");
     int exits = 0;
-    edit.OnExit = [&](TComponent&) { ++exits; };
+    edit.OnExit = [&](TComponent&) {
+        ++exits;
+        EXPECT_FALSE(edit.Focused());
+    };
     for (const bool focused : {true, true, false, false}) edit.SetFocused(focused);
-    EXPECT_EQ(exits, 1);
+    edit.Commit();
+    EXPECT_EQ(exits, 1) << "without the focus it has been left already";
+    edit.SetFocused(true);
+    edit.Commit();
+    EXPECT_TRUE(edit.Focused());
+    EXPECT_EQ(exits, 2);
 }
 
 TEST(TFormTest, RefusesTwoComponentsOfOneName) {

@@ -1,5 +1,6 @@
 // A form shown over another one that waits for it.
 #include "tests/win32/peer_bench.h"
+#include "ui/containers.h"
 
 namespace {
 
@@ -59,6 +60,31 @@ TEST_F(TModal, TheOwnerWaitsAndGetsTheFocusBack) {
     EXPECT_EQ(HandleOf(Dialog), nullptr);
     EXPECT_TRUE(IsWindowEnabled(owner));
     EXPECT_EQ(GetFocus(), Window(L"Opens"));
+}
+
+TEST_F(TModal, EnterPressesAFocusedButtonAndElsewhereOkAfterTheFocusedEditIsCommitted) {
+    Dialog.Build(Dialog,
+                 Column(CategoryBar(L"Bar", {CategoryGroup(L"Group", L"Group",
+                                                           {CategoryItem(L"Item", L"Item", 1, L"general")})}),
+                        Edit(L"Edit"), Button(L"Plain", L"&Plain")));
+    Dialog.Find<TButton>(L"OK")->OnClick = Dialog.Find<TButton>(L"Plain")->OnClick = Note;
+    Dialog.Find<TCategoryItem>(L"Item")->OnClick = Note;
+    Dialog.Find<TEdit>(L"Edit")->OnExit = [this](TComponent& edit) {
+        Fired.push_back(edit.Name());
+        throw std::runtime_error("fault");
+    };
+    Open([&] {
+        const auto window = [this](const wchar_t* name) {
+            return static_cast<TWindowPeer*>(Dialog.Find(name)->Peer())->Handle();
+        };
+        SetFocus(window(L"Edit"));
+        for (const wchar_t* name : {L"Edit", L"Plain", L"Item", L"Box"}) {
+            PostMessageW(window(name), WM_KEYDOWN, VK_RETURN, 1);
+        }
+        PostMessageW(window(L"Edit"), WM_KEYDOWN, VK_ESCAPE, 1);
+    });
+    EXPECT_EQ(Fired, (TNames{L"Edit", L"OK", L"Edit", L"Plain", L"Item", L"Edit", L"OK", L"Edit", L"Edit"}));
+    EXPECT_EQ(std::exchange(Faults, 0), 5) << "a fault of the edit holds no button back";
 }
 
 TEST_F(TModal, ASentCloseEndsItAtOnce) {

@@ -15,13 +15,13 @@ class PeersTest : public TPeerBench {
                           Group(L"Group", L"Group", CheckBox(L"Box", L"&Box"),
                                 RadioButton(L"First", L"First"), RadioButton(L"Second", L"Second")),
                           Row(Edit(L"Edit").Width(5).DigitsOnly(), UpDown(L"UpDown", L"Edit", 1, 100, 10)),
-                          TrackBar(L"Track", 100, 7000, 500), ComboBox(L"Combo", {L"a", L"b", L"c"}),
-                          Button(L"Button", L"Button")),
+                          Edit(L"Text"), TrackBar(L"Track", 100, 7000, 500),
+                          ComboBox(L"Combo", {L"a", L"b", L"c"}), Button(L"Button", L"Button")),
                       NotebookPage(2, PageControl(L"Tabs", Sheet(L"A", L"Sheet A", CheckBox(L"InA", L"A")),
                                                   Sheet(L"B", L"Sheet B", CheckBox(L"InB", L"B"))))}));
         Get<TCheckBox>(L"Box").OnClick = Get<TButton>(L"Button").OnClick = Note;
         Get<TRadioButton>(L"First").OnClick = Get<TRadioButton>(L"Second").OnClick = Note;
-        Get<TEdit>(L"Edit").OnChange = Get<TUpDown>(L"UpDown").OnChange = Note;
+        Get<TEdit>(L"Edit").OnChange = Get<TEdit>(L"Text").OnChange = Get<TUpDown>(L"UpDown").OnChange = Note;
         Get<TTrackBar>(L"Track").OnChange = Get<TComboBox>(L"Combo").OnChange = Note;
         Get<TNotebook>(L"Notebook").ShowPage(L"1");
         Show();
@@ -78,6 +78,41 @@ TEST_F(PeersTest, TypedTextAndArrowsMoveTheNumber) {
     EXPECT_EQ(Get<TEdit>(L"Edit").Text(), L"1");
     SetFocus(Window(L"Box"));
     EXPECT_FALSE(Get<TEdit>(L"Edit").Focused());
+}
+
+TEST_F(PeersTest, AnEditIsChangedByWhatChangesItsTextAndByThatAlone) {
+    const auto& edit = Get<TEdit>(L"Text");
+    for (const WPARAM key : {VK_TAB, VK_SHIFT, VK_HOME})
+        for (const UINT message : {WM_KEYDOWN, WM_KEYUP}) Send(L"Text", message, key);
+    EXPECT_EQ(TakeFired(), TNames{});
+    // From another program, as by a paste, and taken back.
+    Send(L"Text", WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"one"));
+    EXPECT_EQ(edit.Text(), L"one");
+    Send(L"Text", EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"two "));
+    EXPECT_EQ(edit.Text(), L"two one");
+    Send(L"Text", WM_UNDO);
+    EXPECT_EQ(edit.Text(), L"one");
+    EXPECT_EQ(TakeFired(), (TNames{L"Text", L"Text", L"Text"}));
+}
+
+TEST_F(PeersTest, AnEditKeepsWhatItDoesNotShow) {
+    auto& edit = Get<TEdit>(L"Text");
+    const std::wstring longText = L"0123456789" + std::wstring(1 << 20, L'x');
+    for (const std::wstring& text : {longText, std::wstring(L"a\0b", 3), std::wstring(L"a\r\nb")}) {
+        edit.SetText(text);
+        TakeFired();
+        EXPECT_LT(GetWindowTextLengthW(Window(L"Text")), 10000) << "Windows takes its time for a long one";
+        EXPECT_EQ(Send(L"Text", EM_GETSEL), text[1] == L'\r' ? 0x40004 : 0) << "in sight is the beginning";
+        EXPECT_EQ(TextOf(L"Text").substr(0, 3), text.substr(0, std::min<std::size_t>(text.find(L'\0'), 3)));
+        SetFocus(Window(L"Text"));
+        Send(L"Text", EM_SETSEL, 0, 1);
+        Send(L"Text", EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"?"));
+        EXPECT_EQ(edit.Text()[0], L'?') << "what the user changes is what he sees";
+        EXPECT_LT(edit.Text().size(), 10000U);
+        Send(L"Text", WM_UNDO);
+        EXPECT_TRUE(edit.Text() == text) << "taken back";
+        EXPECT_EQ(TakeFired(), (TNames{L"Text", L"Text"}));
+    }
 }
 
 TEST_F(PeersTest, TrackBarsAndListsFollowTheUser) {

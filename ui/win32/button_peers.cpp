@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ui/win32/form_window.h"
+
 namespace {
 
 /// Arrow keys stay within a group: each control begins one, but for the radio buttons that follow another.
@@ -22,7 +24,9 @@ TPushButtonPeer::TPushButtonPeer(TFormWindow& form, TButton& button, HWND parent
 }
 
 void TPushButtonPeer::OnCommand(WORD code) {
-    if (code == BN_CLICKED) static_cast<TButton&>(Control()).Click();
+    if (code != BN_CLICKED) return;
+    FForm.CommitFocus();
+    static_cast<TButton&>(Control()).Click();
 }
 
 TCheckBoxPeer::TCheckBoxPeer(TFormWindow& form, TCheckBox& box, HWND parent) : TWindowPeer(form, box) {

@@ -10,17 +10,27 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
+/// For some scripts Windows takes quadratic time to lay a line out: seconds for 64 K characters.
+constexpr std::size_t kLongestShown = 4096;
+
+/// What an edit shows of a text: Windows ends it at a NUL.
+std::wstring ShownOf(const std::wstring& text) {
+    return text.substr(0, std::min(text.find(L'\0'), kLongestShown));
+}
+
 }  // namespace
 
 TLabelPeer::TLabelPeer(TFormWindow& form, TLabel& label, HWND parent) : TWindowPeer(form, label) {
     Create(parent, WC_STATICW, SS_LEFT | WS_GROUP);
 }
 
-TEditPeer::TEditPeer(TFormWindow& form, TEdit& edit, HWND parent) : TWindowPeer(form, edit) {
+TEditPeer::TEditPeer(TFormWindow& form, TEdit& edit, HWND parent)
+    : TWindowPeer(form, edit), FWhole(edit.Text()) {
     DWORD style = ES_AUTOHSCROLL | WS_TABSTOP | WS_GROUP;
     if (edit.DigitsOnly) style |= ES_NUMBER;
     if (edit.Password) style |= ES_PASSWORD;
     Create(parent, WC_EDITW, style, WS_EX_CLIENTEDGE);
+    Send(EM_LIMITTEXT, kLongestShown);
     SetWindowLongPtrW(Handle(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     FBaseProc = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(KeyProc)));
@@ -30,7 +40,7 @@ TEditPeer::~TEditPeer() {
     if (Handle() != nullptr) SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(FBaseProc));
 }
 
-std::wstring TEditPeer::WindowText() const { return static_cast<TEdit&>(Control()).Text(); }
+std::wstring TEditPeer::WindowText() const { return ShownOf(static_cast<TEdit&>(Control()).Text()); }
 
 void TEditPeer::OnCommand(WORD code) {
     auto& edit = static_cast<TEdit&>(Control());
@@ -43,7 +53,10 @@ void TEditPeer::OnCommand(WORD code) {
             break;
         case EN_CHANGE:
             // Windows reports the program's own changes of the text too.
-            if (!FShowing) edit.SetText(TextOf(Handle()));
+            if (!FShowing) {
+                const std::wstring text = TextOf(Handle());
+                edit.SetText(text == ShownOf(FWhole) ? FWhole : text);
+            }
             break;
         default:
             break;
@@ -51,11 +64,15 @@ void TEditPeer::OnCommand(WORD code) {
 }
 
 void TEditPeer::ShowState() {
-    const std::wstring& text = static_cast<TEdit&>(Control()).Text();
-    if (TextOf(Handle()) == text) return;  // leaves the caret where the user is typing
+    const std::wstring shown = WindowText();
+    const bool isShown = TextOf(Handle()) == shown;
+    // What the user types does not displace the whole text, should he take it back.
+    if (!isShown || shown == ShownOf(FWhole)) FWhole = static_cast<TEdit&>(Control()).Text();
+    if (isShown) return;  // leaves the caret where the user is typing
     FShowing = true;
-    SetWindowTextW(Handle(), text.c_str());
-    Send(EM_SETSEL, text.size(), static_cast<LPARAM>(text.size()));  // Windows puts the caret before the text
+    SetWindowTextW(Handle(), shown.c_str());
+    // Windows puts the caret before the text, which is right only for one that is not shown to its end.
+    if (shown.size() == FWhole.size()) Send(EM_SETSEL, shown.size(), static_cast<LPARAM>(shown.size()));
     FShowing = false;
 }
 
@@ -67,9 +84,7 @@ LRESULT CALLBACK TEditPeer::KeyProc(HWND window, UINT message, WPARAM wParam, LP
     TFormWindow& form = peer->FForm;
     try {
         if (message == WM_CHAR && !edit.AcceptsKey(static_cast<wchar_t>(wParam))) return 0;
-        const LRESULT result = CallWindowProcW(base, window, message, wParam, lParam);
-        if (message == WM_KEYUP) edit.KeyUp();
-        return result;
+        return CallWindowProcW(base, window, message, wParam, lParam);
     } catch (...) {
         form.Fault(std::current_exception());
         return 0;

@@ -24,6 +24,7 @@ class TEditPeer : public TWindowPeer {
 
     WNDPROC FBaseProc = nullptr;
     bool FShowing = false;
+    std::wstring FWhole;  ///< what the program showed last; the window may hold the beginning only
 };
 
 class TComboBoxPeer : public TWindowPeer {

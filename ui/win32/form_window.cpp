@@ -77,7 +77,7 @@ int TFormWindow::Run() {
             if (!IsOver() && !CreateNextPage()) WaitMessage();
             continue;
         }
-        if (StepSheet(message)) continue;
+        if (StepSheet(message) || PressButton(message)) continue;
         if (message.message == WM_QUIT) return static_cast<int>(message.wParam);
         if (Handle() == nullptr || !IsDialogMessageW(Handle(), &message)) {
             TranslateMessage(&message);
@@ -117,6 +117,19 @@ bool TFormWindow::StepSheet(const MSG& message) const {
         return true;
     }
     return false;
+}
+
+/// Enter presses a button and opens a category item, which Windows would not take for a button because it is drawn by
+/// its owner. Elsewhere it is the default button's.
+bool TFormWindow::PressButton(const MSG& message) const {
+    if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN) return false;
+    const TWindowPeer* peer = PeerOf(message.hwnd);
+    if (peer == nullptr) return false;
+    const TComponentKind kind = peer->Control().Kind();
+    if (kind != TComponentKind::Button && kind != TComponentKind::CategoryItem) return false;
+    SendMessageW(GetParent(message.hwnd), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(message.hwnd), BN_CLICKED),
+                 reinterpret_cast<LPARAM>(message.hwnd));
+    return true;
 }
 
 /// Scrolls the control that has the focus into sight.
@@ -174,6 +187,16 @@ void TFormWindow::LayOutChanged() {
 
 void TFormWindow::Fault(std::exception_ptr fault) const {
     if (FFaultHandler) FFaultHandler(std::move(fault));
+}
+
+void TFormWindow::CommitFocus() const {
+    const TWindowPeer* peer = PeerOf(GetFocus());
+    if (peer == nullptr || peer->Control().Kind() != TComponentKind::Edit) return;
+    try {
+        static_cast<TEdit&>(peer->Control()).Commit();
+    } catch (...) {
+        Fault(std::current_exception());  // as when the focus leaves it; the button is pressed all the same
+    }
 }
 
 void TFormWindow::CreatePage(TControl& page) {

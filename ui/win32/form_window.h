@@ -55,6 +55,8 @@ class TFormWindow : public TFormPeer {
     /// Lays the control's container out anew once the present message is handled.
     void LayOutLater(const TControl& control);
     void Fault(std::exception_ptr fault) const;
+    /// Commits the edit that has the focus: a button can be pressed without taking the focus from it.
+    void CommitFocus() const;
     /// Creates the window and the content of a notebook page as far as they do not exist yet.
     void CreatePage(TControl& page);
     /// Lets the timer tick until StopTimer; the answer identifies it.
@@ -80,6 +82,7 @@ class TFormWindow : public TFormPeer {
     [[nodiscard]] bool IsOver() const { return FOwner != nullptr && Handle() == nullptr; }
     bool CreateNextPage();
     bool StepSheet(const MSG& message) const;
+    bool PressButton(const MSG& message) const;
     void FollowFocus(HWND focus) const;
     void LayOutChanged();
     void Destroyed();

@@ -57,6 +57,9 @@ void TWindowPeer::Update(TControlAspect aspect) {
             FForm.LayOutLater(FControl);
             break;
         case TControlAspect::Enabled:
+            // Windows would leave the keyboard without a focus.
+            if (!FControl.Enabled() && GetFocus() == FHandle)
+                SetFocus(GetNextDlgTabItem(FForm.Handle(), FHandle, FALSE));
             EnableWindow(FHandle, FControl.Enabled());
             break;
         case TControlAspect::Visible:

@@ -53,10 +53,7 @@ class TTwins : public testing::Test {
         Get<TCategoryItem>(item).Click();
         FVisited.insert(item);
     }
-    void Type(const wchar_t* edit, const wchar_t* text) {
-        Get<TEdit>(edit).SetText(text);
-        Get<TEdit>(edit).KeyUp();
-    }
+    void Type(const wchar_t* edit, const wchar_t* text) { Get<TEdit>(edit).SetText(text); }
     void Apply() { Get<TButton>(L"Button_Apply").Click(); }
     std::uint32_t DragFullWindows() {
         std::vector<std::uint8_t> buffer(4);
