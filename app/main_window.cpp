@@ -9,6 +9,7 @@
 #include "platform/service_control.h"
 #include "platform/suite_language.h"
 #include "platform/windows_version.h"
+#include "settings/explorer_keys.h"
 
 namespace {
 
@@ -266,9 +267,9 @@ void TQuilltune_FormMain::OfferRestart() {
 
 void TQuilltune_FormMain::NotifyShell() {
     FSystem.Shell.NotifyChange(kAllEvents, kFlush);
-    if (!FContext.AssociationsChanged) return;
-    FSystem.Shell.NotifyChange(kAssociationsChanged, kIdList);
-    FContext.AssociationsChanged = false;
+    if (std::exchange(FContext.AssociationsChanged, false))
+        FSystem.Shell.NotifyChange(kAssociationsChanged, kIdList);
+    TellExplorer(FSystem.Shell);
 }
 
 void TQuilltune_FormMain::ApplyFirefox() {

@@ -1,7 +1,19 @@
-// The registry keys of Windows Explorer that several pages write to.
+// The registry keys of Windows Explorer that several pages write to, and when it takes over what is written there.
+//
+// Explorer reads its settings once. After each Apply it is told that they changed, and reads its preferences again. What
+// it has built before from a policy (menus, the notification area) it may keep until the next logon: rows of policies, and
+// those few of preferences that the taskbar reads only when it starts, are marked with Restart. This holds for the pages
+// of the Start menu and the taskbar; on the others each row has a mark of its own.
 #pragma once
 
+#include "platform/shell.h"
 #include "settings/rows.h"
+
+/// Tells Explorer that its settings changed: policies, folder options, and those of the Start menu and the taskbar.
+inline void TellExplorer(TShell& shell) {
+    for (const wchar_t* area : {L"Policy", L"ShellState", L"TraySettings"})
+        shell.BroadcastSettingChange(area);
+}
 
 /// The user's own choices, as Explorer's dialogs keep them.
 inline constexpr const wchar_t* kExplorerAdvanced =
