@@ -23,11 +23,27 @@ inline constexpr const wchar_t* kExplorerAdvanced =
 inline constexpr const wchar_t* kExplorerPolicies =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
 
+[[nodiscard]] constexpr TPlace ExplorerPolicy(const wchar_t* policy) {
+    return {kCurrentUser, kExplorerPolicies, policy};
+}
+
 /// A policy that takes away what the box stands for.
-[[nodiscard]] constexpr TCheckBoxRow PolicyRow(const wchar_t* control, const wchar_t* policy, bool restart) {
+[[nodiscard]] constexpr TCheckBoxRow PolicyRow(const wchar_t* control, const wchar_t* policy) {
     return {.Control = control,
-            .Value = {kCurrentUser, kExplorerPolicies, policy},
+            .Value = ExplorerPolicy(policy),
             .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
             .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-            .Restart = restart};
+            .Restart = true};
+}
+
+/// The row of a preference that a policy can overrule.
+[[nodiscard]] constexpr TCheckBoxRow Unless(const wchar_t* policy, TCheckBoxRow row) {
+    row.Policy = ExplorerPolicy(policy);
+    return row;
+}
+
+/// The row, on these levels alone.
+[[nodiscard]] constexpr TCheckBoxRow On(TLevels levels, TCheckBoxRow row) {
+    row.Levels = levels;
+    return row;
 }

@@ -96,6 +96,8 @@ class TScene {
         } else if (rest == L"visible" || rest == L"hidden") {
             const bool isSheet = c.Kind() == TComponentKind::TabSheet;
             EXPECT_EQ(isSheet ? static_cast<TTabSheet&>(c).TabVisible() : c.Visible(), rest == L"visible");
+        } else if (rest.starts_with(L"called ")) {
+            EXPECT_EQ(c.Caption(), rest.substr(7));
         } else {
             EXPECT_EQ(FBench.State(control), rest);
         }
