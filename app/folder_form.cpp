@@ -1,5 +1,6 @@
 #include "app/folder_form.h"
 
+#include "settings/explorer_keys.h"
 #include "settings/shell/desktop_icons.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
@@ -45,4 +46,5 @@ void TQuilltune_FormFolder::Button_OKClick() {
     // The desktop builds its icons anew when associations change.
     FContext.System.Shell.NotifyChange(kAllEvents, kFlush);
     FContext.System.Shell.NotifyChange(kAssociationsChanged, kIdList);
+    TellExplorer(FContext.System.Shell);
 }

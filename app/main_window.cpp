@@ -9,6 +9,7 @@
 #include "platform/service_control.h"
 #include "platform/suite_language.h"
 #include "platform/windows_version.h"
+#include "settings/explorer_keys.h"
 
 namespace {
 
@@ -275,6 +276,7 @@ void TQuilltune_FormMain::OfferRestart() {
 void TQuilltune_FormMain::NotifyShell(bool associationsChanged) {
     FSystem.Shell.NotifyChange(kAllEvents, kFlush);
     if (associationsChanged) FSystem.Shell.NotifyChange(kAssociationsChanged, kIdList);
+    TellExplorer(FSystem.Shell);
 }
 
 void TQuilltune_FormMain::ApplyFirefox() {

@@ -7,18 +7,13 @@
 
 namespace {
 
-/// The row that the control records through, on whatever page that is.
-struct TFoundRow {
-    const TRow* Row = nullptr;
-    int Page = 0;
-};
-
-TFoundRow RowOf(const std::wstring& control) {
+/// The page that has a row for the control.
+const TPageDefinition* PageOf(const std::wstring& control) {
     for (const TPageDefinition* page : PageDefinitions())
         for (const TLoader& loader : page->Loaders)
             for (const TRow& row : loader)
-                if (std::ranges::count(ControlsOf(row), control) != 0) return {&row, page->Tag};
-    return {};
+                if (std::ranges::count(ControlsOf(row), control) != 0) return page;
+    return nullptr;
 }
 
 void CopyState(const TControl& from, TControl& to) {
@@ -49,14 +44,12 @@ TTwinControls::TTwinControls(TPageContext& context) : FContext(context) {
 void TTwinControls::AddPairs(const TPageDefinition& page) {
     for (const TLoader& loader : page.Loaders) {
         for (const TRow& row : loader) {
-            TPair pair{.First = {.Controls = {}, .Row = &row, .Page = page.Tag}};
+            TPair pair{.First = {.Controls = {}, .Page = &page}};
             for (const std::wstring& control : ControlsOf(row)) {
                 const auto twin = std::ranges::find_if(
                     page.Twins, [&](const TTwin& each) { return control == each.Control; });
                 if (twin == page.Twins.end()) continue;
-                const TFoundRow other = RowOf(twin->Twin);
-                pair.Second.Row = other.Row;
-                pair.Second.Page = other.Page;
+                pair.Second.Page = PageOf(twin->Twin);
                 pair.First.Controls.push_back(FContext.Form.Find(control));
                 pair.Second.Controls.push_back(FContext.Form.Find(twin->Twin));
                 pair.IsMarked = twin->IsMarked;
@@ -72,7 +65,7 @@ void TTwinControls::Changed(const TControl& control) {
         if (!first && std::ranges::count(pair.Second.Controls, &control) == 0) continue;
         pair.Changed = true;
         const TSide& follower = first ? pair.Second : pair.First;
-        if (!FLoadedPages.contains(follower.Page)) continue;
+        if (!FLoadedPages.contains(follower.Page->Tag)) continue;
         Follow(first ? pair.First : pair.Second, follower);
         Record(follower);
     }
@@ -81,9 +74,9 @@ void TTwinControls::Changed(const TControl& control) {
 void TTwinControls::PageLoaded(int tag) {
     FLoadedPages.insert(tag);
     for (const TPair& pair : FPairs) {
-        const TSide& here = pair.First.Page == tag ? pair.First : pair.Second;
-        const TSide& there = pair.First.Page == tag ? pair.Second : pair.First;
-        if (here.Page != tag || !FLoadedPages.contains(there.Page)) continue;
+        const TSide& here = pair.First.Page->Tag == tag ? pair.First : pair.Second;
+        const TSide& there = pair.First.Page->Tag == tag ? pair.Second : pair.First;
+        if (here.Page->Tag != tag || !FLoadedPages.contains(there.Page->Tag)) continue;
         if (IsPending(pair)) {
             Follow(there, here);
             Record(here);
@@ -116,5 +109,8 @@ void TTwinControls::Follow(const TSide& leader, const TSide& follower) {
 }
 
 void TTwinControls::Record(const TSide& side) {
-    if (side.Controls.front()->Visible()) RecordRow(FContext, *side.Row, *side.Controls.front());
+    TControl& control = *side.Controls.front();
+    if (!control.Visible()) return;
+    for (const TLoader& loader : side.Page->Loaders)
+        for (const TRow& row : loader) RecordRow(FContext, row, control);
 }

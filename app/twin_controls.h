@@ -26,8 +26,7 @@ class TTwinControls {
     /// What a page has of a setting.
     struct TSide {
         std::vector<TControl*> Controls;  ///< those of one row, each where its twin is on the other side
-        const TRow* Row = nullptr;
-        int Page = 0;  ///< its tag
+        const TPageDefinition* Page = nullptr;
     };
     struct TPair {
         TSide First;

@@ -1,4 +1,4 @@
-// The Windows shell and session: change notifications, special folders, restart, debugger output.
+// The Windows shell and session: change notifications and broadcasts, special folders, restart, debugger output.
 #pragma once
 
 #include <cstdint>
@@ -22,6 +22,10 @@ class TShell {
 
     /// SHChangeNotify without items; `event` is an SHCNE_… mask, `flags` SHCNF_….
     virtual void NotifyChange(std::uint32_t event, std::uint32_t flags) = 0;
+
+    /// Tells all top-level windows by WM_SETTINGCHANGE that settings of that area changed. A window that does not answer
+    /// is soon passed over.
+    virtual void BroadcastSettingChange(const std::wstring& area) = 0;
 
     /// Path of a shell folder without trailing delimiter and without creating it; empty when unknown.
     [[nodiscard]] virtual std::wstring FolderPath(TSpecialFolder folder) const = 0;

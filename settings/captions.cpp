@@ -37,6 +37,14 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_Favorites", L"Favorites"},
     {L"D_RestartWindows", L"Need to restart Windows to take effect, restart now?"},
     {L"D_RestartFirefox", L"Need to restart Firefox to take effect."},
+    {L"D_StartMenuDragDrop", L"&Enable context menus and dragging and dropping"},
+    {L"D_StartMenuMyComputer", L"My &Computer:"},
+    {L"D_StartMenuMyDocuments", L"My &Documents:"},
+    {L"D_StartMenuMyPictures", L"My P&ictures:"},
+    {L"D_StartMenuMyMusic", L"My &Music:"},
+    {L"D_StartMenuPrinters", L"Pri&nters"},
+    {L"D_StartMenuDevices", L"Devices a&nd Printers"},
+    {L"D_StartMenuDefaultPrograms", L"D&efault Programs"},
 }};
 
 TCaptions::TCaptions() {

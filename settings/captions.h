@@ -1,4 +1,5 @@
-// The texts of the program that are no caption of a form's control, each looked up once in the language file.
+// The texts of the program that are no caption of a form's control, or are on some Windows levels only, each looked up
+// once in the language file.
 #pragma once
 
 #include <array>
@@ -43,6 +44,15 @@ enum class TCaption {
     Favorites,
     RestartWindows,
     RestartFirefox,
+    // Captions of controls on some Windows levels; see TLevelCaption.
+    StartMenuDragDrop,
+    StartMenuMyComputer,
+    StartMenuMyDocuments,
+    StartMenuMyPictures,
+    StartMenuMyMusic,
+    StartMenuPrinters,
+    StartMenuDevices,
+    StartMenuDefaultPrograms,
     kCount,
 };
 

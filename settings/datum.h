@@ -67,6 +67,20 @@ class TMatch {
         match.FKind = TKind::TextAnyCase;
         return match;
     }
+    /// The value is "yes" or 1, as Windows reads what it once kept as a text and later as a number.
+    static constexpr TMatch Yes() {
+        TMatch match(1);
+        match.FKind = TKind::NumberOrText;
+        match.FText = L"YES";
+        return match;
+    }
+    /// The value is "no" or 0.
+    static constexpr TMatch No() {
+        TMatch match(0);
+        match.FKind = TKind::NumberOrText;
+        match.FText = L"NO";
+        return match;
+    }
     /// The value means 0 or is empty.
     static constexpr TMatch EmptyOrZero() {
         TMatch match(0);
@@ -79,7 +93,7 @@ class TMatch {
     [[nodiscard]] std::wstring Words() const;
 
   private:
-    enum class TKind : std::uint8_t { Number, Text, TextAnyCase, EmptyOrZero };
+    enum class TKind : std::uint8_t { Number, Text, TextAnyCase, NumberOrText, EmptyOrZero };
 
     TKind FKind;
     std::int32_t FNumber = 0;
@@ -87,4 +101,6 @@ class TMatch {
 };
 
 constexpr TMatch AnyCase(const wchar_t* text) { return TMatch::AnyCase(text); }
+inline constexpr TMatch kYes = TMatch::Yes();
+inline constexpr TMatch kNo = TMatch::No();
 inline constexpr TMatch kEmptyOrZero = TMatch::EmptyOrZero();

@@ -25,6 +25,7 @@ TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl&
 void TPage::Load() {
     const TLoadingScope loading(FContext, FDefinition.ShowsPending);
     HideWhatIsNotOffered();
+    NameAsThisWindowsDoes();
     if (FDefinition.Prepare != nullptr && !FDefinition.Prepare(FContext)) return;
     for (const TLoader& loader : FDefinition.Loaders)
         for (const TRow& row : loader)
@@ -47,6 +48,12 @@ void TPage::HideWhatIsNotOffered() const {
             static_cast<TPageControl&>(*control.Parent())
                 .SetTabVisible(static_cast<TTabSheet&>(control), false);
     }
+}
+
+void TPage::NameAsThisWindowsDoes() const {
+    for (const TLevelCaption& name : FDefinition.LevelCaptions)
+        if (name.Levels.Include(FContext.WindowsLevel))
+            FContext.Form.Find(name.Control)->SetCaption(FContext.Captions[name.Caption]);
 }
 
 bool TPage::IsOffered(const TRow& row) const {
@@ -100,7 +107,7 @@ void TPage::Listen(TControl& container) {
 void TPage::ApplyPreset(const TPreset& preset) const {
     for (const TPresetState& state : preset.States) {
         TControl* control = FContext.Form.Find(state.Control);
-        if (control == nullptr) continue;
+        if (control == nullptr || !state.Levels.Include(FContext.WindowsLevel)) continue;
         switch (control->Kind()) {
             case TComponentKind::CheckBox:
                 static_cast<TCheckBox*>(control)->SetChecked(state.State != 0);

@@ -9,6 +9,7 @@
 struct TPresetState {
     const wchar_t* Control;
     std::int32_t State;  ///< 1 checked and 0 clear; the item index of a combo box; a position
+    TLevels Levels = kEveryLevel;
 };
 
 /// A Default or preset button. It only sets control states; the controls' own events record the changes.
@@ -22,6 +23,13 @@ struct TPreset {
 struct TOffer {
     const wchar_t* Control;
     TLevels Levels;
+};
+
+/// The caption of a control on those Windows levels that have another name for the same thing.
+struct TLevelCaption {
+    const wchar_t* Control;
+    TLevels Levels;
+    TCaption Caption;
 };
 
 /// A control of the page, and the one of another page that stands for the same setting.
@@ -40,6 +48,7 @@ struct TPageDefinition {
     std::span<const TLoader> Loaders;  ///< in the order in which they run
     std::span<const TPreset> Presets;
     std::span<const TOffer> Offers = {};
+    std::span<const TLevelCaption> LevelCaptions = {};
     std::span<const TTwin> Twins = {};
     bool ShowsPending = false;     ///< its loaders show changes of other pages that are not written yet
     bool LoadsEveryVisit = false;  ///< otherwise only the first one
@@ -69,6 +78,7 @@ class TPage {
     void Listen(TControl& container);
     void ListenToRow(const TRow& row);
     void HideWhatIsNotOffered() const;
+    void NameAsThisWindowsDoes() const;
     [[nodiscard]] bool IsOffered(const TRow& row) const;
     void ApplyPreset(const TPreset& preset) const;
 

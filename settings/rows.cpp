@@ -15,12 +15,17 @@ void EnableAll(const TPageContext& context, TControlNames names, bool enabled) {
         if (TControl* control = context.Form.Find(name)) control->SetEnabled(enabled);
 }
 
+bool SaysNo(const TPageContext& context, const std::optional<TPlace>& policy) {
+    return policy && StoredNumber(context, *policy) == 1;
+}
+
 void Load(TPageContext& context, const TCheckBoxRow& row) {
     auto* box = context.Form.Find<TCheckBox>(row.Control);
     if (box == nullptr) return;
     TBoxState state = row.Shows.Missing;
     if (const auto value = Stored(context, row.LoadedFrom.value_or(row.Value)))
         state = row.Shows.When && row.Shows.When->Value(*value) ? row.Shows.When->Shows : row.Shows.Otherwise;
+    if (SaysNo(context, row.Policy)) state = kClear;
     if (state != kKeep) box->SetChecked(state == kChecked);
     EnableAll(context, row.Enables, box->Checked());
 }
@@ -33,6 +38,10 @@ void RecordFrom(TPageContext& context, const TCheckBoxRow& row, TComponent& send
     Record(context, sender.Name(), row.Value, datum(row.Records));
     if (row.Further)
         Record(context, sender.Name() + row.Further->Suffix, row.Further->Value, datum(row.Further->Records));
+    if (SaysNo(context, row.Policy)) {
+        context.RestartNeeded = true;
+        RecordNumber(context, sender.Name() + L"1", *row.Policy, checked ? 0 : 1);
+    }
     EnableAll(context, row.Enables, checked);
     EnableAll(context, row.EnablesOnClick, checked);
 }
@@ -191,7 +200,17 @@ std::vector<std::wstring> ControlsOf(const TRow& row) {
         row);
 }
 
+TLevels LevelsOf(const TRow& row) {
+    return std::visit(
+        [](const auto& kind) {
+            if constexpr (requires { kind.Levels; }) return kind.Levels;
+            return kEveryLevel;
+        },
+        row);
+}
+
 void LoadRow(TPageContext& context, const TRow& row) {
+    if (!LevelsOf(row).Include(context.WindowsLevel)) return;
     std::visit(
         [&](const auto& kind) {
             if (kind.LoadedOn.Include(context.WindowsLevel)) Load(context, kind);
@@ -200,6 +219,7 @@ void LoadRow(TPageContext& context, const TRow& row) {
 }
 
 void RecordRow(TPageContext& context, const TRow& row, TComponent& sender) {
+    if (!LevelsOf(row).Include(context.WindowsLevel)) return;
     const auto names = ControlsOf(row);
     if (std::find(names.begin(), names.end(), sender.Name()) == names.end()) return;
     std::visit(

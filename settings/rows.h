@@ -25,9 +25,15 @@ struct TLevels {
     [[nodiscard]] constexpr bool Include(int level) const { return First <= level && level <= Last; }
 };
 inline constexpr TLevels kEveryLevel{};
+inline constexpr TLevels kUntil2000{.Last = 4};
 inline constexpr TLevels kUntilXp{.Last = 5};
+inline constexpr TLevels kOnlyXp{.First = 5, .Last = 5};
 inline constexpr TLevels kSinceXp{.First = 5};
+inline constexpr TLevels kXpAndVista{.First = 5, .Last = 6};
+inline constexpr TLevels kUntilVista{.Last = 6};
+inline constexpr TLevels kOnlyVista{.First = 6, .Last = 6};
 inline constexpr TLevels kSinceVista{.First = 6};
+inline constexpr TLevels kSinceWindows7{.First = 7};
 
 /// What a stored value makes of a check box.
 enum class TBoxState : std::uint8_t {
@@ -75,6 +81,10 @@ struct TCheckBoxRow {
     TControlNames Enables = {};         ///< of use only while the box is checked
     TControlNames EnablesOnClick = {};  ///< the same, but left alone by the loader
     std::optional<TPlace> LoadedFrom = std::nullopt;  ///< what shows, where it is not `Value`
+    /// A policy that takes away what the box stands for while it is 1: the box is clear then, and checking it turns the
+    /// policy off.
+    std::optional<TPlace> Policy = std::nullopt;
+    TLevels Levels = kEveryLevel;  ///< elsewhere another row of the control holds
 };
 
 /// A key that exists while the box is checked, with an empty text as its default value.
@@ -130,6 +140,7 @@ struct TNumberRow {
     std::optional<std::int32_t> Missing = std::nullopt;  ///< the position that a missing value gives
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;  ///< elsewhere another row of the control holds
 };
 
 /// An edit whose text is the value, recorded as REG_SZ whenever it changes.
@@ -189,6 +200,9 @@ using TLoader = std::span<const TRow>;
 
 /// The controls that record through the row.
 [[nodiscard]] std::vector<std::wstring> ControlsOf(const TRow& row);
+
+/// Where the row holds. A setting whose place differs from one Windows to another has a row for each.
+[[nodiscard]] TLevels LevelsOf(const TRow& row);
 
 /// Shows the stored value in the row's controls. Called with the window's loading flag set.
 void LoadRow(TPageContext& context, const TRow& row);

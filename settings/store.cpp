@@ -14,6 +14,8 @@ bool TMatch::operator()(const TRegValue& value) const {
             return AsText(value) == FText;
         case TKind::TextAnyCase:
             return SameText(AsText(value), FText);
+        case TKind::NumberOrText:
+            return AsInteger(value) == FNumber || SameText(AsText(value), FText);
         case TKind::EmptyOrZero:
             break;
     }
@@ -28,6 +30,8 @@ std::wstring TMatch::Words() const {
             return L'"' + std::wstring(FText) + L'"';
         case TKind::TextAnyCase:
             return L'"' + std::wstring(FText) + L"\" in any case";
+        case TKind::NumberOrText:
+            return std::to_wstring(FNumber) + L" or \"" + FText + L"\" in any case";
         case TKind::EmptyOrZero:
             break;
     }

@@ -115,6 +115,10 @@ TEntry Entry(const TCheckBoxRow& row) {
     if (row.LoadedFrom && !SameText(TText(row.LoadedFrom->ValueName), row.Value.ValueName))
         shows = L"from " + Words(*row.LoadedFrom) + L": " + shows;
     TText writes = Words(row.Records);
+    if (row.Policy) {
+        shows += L"; clear while the policy " + Code(row.Policy->ValueName) + L" is 1";
+        writes += L". Checking it also turns that policy off";
+    }
     if (row.Further) writes += L". Also " + Words(row.Further->Value) + L": " + Words(row.Further->Records);
     return {Words(row.Value), shows, writes};
 }
@@ -180,30 +184,44 @@ TText Words(const TLevels& levels) {
     return name(levels.First) + L" to " + name(levels.Last);
 }
 
-/// The Windows versions on which the control is offered, and those on which it is read, where they differ.
-TText Levels(const TPageDefinition& page, const TControl& control, const TLevels& loadedOn) {
-    TLevels offered = kEveryLevel;
+/// The Windows versions on which the row holds and its control is offered, and those on which it is read, where they
+/// differ.
+TText Levels(const TPageDefinition& page, const TControl& control, const TRow& row) {
+    const TLevels loadedOn = std::visit([](const auto& kind) { return kind.LoadedOn; }, row);
+    TLevels offered = LevelsOf(row);
     for (const TControl* c = &control; c != nullptr; c = c->Parent())
         for (const TOffer& offer : page.Offers)
-            if (c->Name() == offer.Control) offered = offer.Levels;
+            if (c->Name() == offer.Control)
+                offered = {std::max(offered.First, offer.Levels.First),
+                           std::min(offered.Last, offer.Levels.Last)};
     const TText shown = Words(offered);
     const TText read = Words(loadedOn);
     return read == L"all" || read == shown ? shown : shown + L"; read on " + read;
 }
 
-/// The text that a user reads beside a control: its own, that of the label or box before it, or that of its group.
-TText CaptionOf(const TControl& control) {
+/// The control whose text a user reads beside this one: itself, the label or box before it, or its group.
+const TControl& CaptionedBy(const TControl& control) {
     const auto hasOwn = [](const TControl& c) {
         return c.Kind() == TComponentKind::CheckBox || c.Kind() == TComponentKind::RadioButton ||
                c.Kind() == TComponentKind::Button || c.Kind() == TComponentKind::Label;
     };
-    if (hasOwn(control)) return Plain(control.Caption());
-    const TControl& parent = *control.Parent();
-    TText caption = Plain(parent.Caption());
-    for (const TControl* sibling : parent.Children()) {
+    if (hasOwn(control)) return control;
+    const TControl* captioned = control.Parent();
+    for (const TControl* sibling : control.Parent()->Children()) {
         if (sibling == &control) break;
-        if (hasOwn(*sibling)) caption = Plain(sibling->Caption());
+        if (hasOwn(*sibling)) captioned = sibling;
     }
+    return *captioned;
+}
+
+/// That text, with those of the Windows versions that have another one.
+TText CaptionOf(const TPageDefinition& page, const TControl& control) {
+    const TControl& captioned = CaptionedBy(control);
+    TText caption = Plain(captioned.Caption());
+    for (const TLevelCaption& name : page.LevelCaptions)
+        if (captioned.Name() == name.Control)
+            caption += L" (" + Words(name.Levels) + L": " +
+                       Plain(kCaptionKeys[static_cast<std::size_t>(name.Caption)].English) + L")";
     return caption;
 }
 
@@ -228,13 +246,11 @@ void PrintRow(const TForm& form, const TPageDefinition& page, const TRow& row, c
     }
     TText setting;
     for (const TText& name : names)
-        setting += (setting.empty() ? L"" : L"<br>") + CaptionOf(*form.Find(name)) + L" " + Code(name);
+        setting += (setting.empty() ? L"" : L"<br>") + CaptionOf(page, *form.Find(name)) + L" " + Code(name);
     const TEntry entry = std::visit([](const auto& kind) { return Entry(kind); }, row);
-    const TLevels loadedOn = std::visit([](const auto& kind) { return kind.LoadedOn; }, row);
     const bool restart = std::visit([](const auto& kind) { return kind.Restart; }, row);
     Print(L"| " + Cell(setting) + L" | " + Cell(entry.Place) + L" | " + Cell(entry.Shows) + L" | " +
-          Cell(entry.Writes) + L" | " + Levels(page, first, loadedOn) + L" | " + (restart ? L"yes" : L"") +
-          L" |");
+          Cell(entry.Writes) + L" | " + Levels(page, first, row) + L" | " + (restart ? L"yes" : L"") + L" |");
 }
 
 void PrintPage(const TForm& form, const TPageDefinition& page, const TText& caption) {

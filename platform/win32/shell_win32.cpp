@@ -25,6 +25,13 @@ void TWin32Shell::NotifyChange(std::uint32_t event, std::uint32_t flags) {
     SHChangeNotify(static_cast<LONG>(event), flags, nullptr, nullptr);
 }
 
+void TWin32Shell::BroadcastSettingChange(const std::wstring& area) {
+    constexpr UINT kMilliseconds = 200;  // for each window
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutW(HWND_BROADCAST, WM_SETTINGCHANGE, 0, reinterpret_cast<LPARAM>(area.c_str()),
+                        SMTO_ABORTIFHUNG, kMilliseconds, &answer);
+}
+
 std::wstring TWin32Shell::FolderPath(TSpecialFolder folder) const {
     wchar_t buffer[MAX_PATH + 1]{};
     if (!SHGetSpecialFolderPathW(nullptr, buffer, static_cast<int>(folder), FALSE)) return {};

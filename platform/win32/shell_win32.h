@@ -6,6 +6,7 @@
 class TWin32Shell : public TShell {
   public:
     void NotifyChange(std::uint32_t event, std::uint32_t flags) override;
+    void BroadcastSettingChange(const std::wstring& area) override;
     [[nodiscard]] std::wstring FolderPath(TSpecialFolder folder) const override;
     void RestartWindows() override;
     void ClearBrowsingHistory() override;

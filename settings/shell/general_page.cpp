@@ -35,7 +35,8 @@ TControlDesign DisplaySheet() {
                      Row(Label(L"Label_CommonSettings_Display_MinWindow_Left", L"&Side:"),
                          ComboBox(L"CB_CommonSettings_Display_MinWindow_Left", kMinimizedSides)),
                      Row(Label(L"Label_CommonSettings_Display_MinWindow_Top", L"&Edge:"),
-                         ComboBox(L"CB_CommonSettings_Display_MinWindow_Top", kMinimizedEdges)))),
+                         ComboBox(L"CB_CommonSettings_Display_MinWindow_Top", kMinimizedEdges))),
+              Label(L"Label_CommonSettings_Display_MinWindow_Note", kMinimizedNote)),
         Group(L"GroupBox_CommonSettings_Display_StartMenu", L"Start menu",
               CheckBox(L"Checkbox_CommonSettings_Display_StartMenu_AdminTools",
                        L"Show the Administrative &Tools")),
@@ -245,7 +246,9 @@ struct TGeneralCatalogue {
     const std::array<TLoader, 4> Loaders{Display, Function, Security, Others};
 };
 
-constexpr TOffer kOffers[] = {{L"Checkbox_CommonSettings_Others_Message_Balloons", kSinceXp}};
+// Windows 2000 knows neither the policy of the Windows key nor that of balloon tips.
+constexpr TOffer kOffers[] = {{L"GroupBox_CommonSettings_Function_Keyboard", kSinceXp},
+                              {L"Checkbox_CommonSettings_Others_Message_Balloons", kSinceXp}};
 
 bool Prepare(TPageContext& context) {
     const bool installed = context.Firefox.IsFirefoxInstalled();

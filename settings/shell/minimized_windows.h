@@ -8,6 +8,10 @@ inline constexpr const wchar_t* kMinimizedArrangements[] = {L"Hidden", L"In a ro
 inline constexpr const wchar_t* kMinimizedSides[] = {L"From the left", L"From the right"};
 inline constexpr const wchar_t* kMinimizedEdges[] = {L"At the top", L"At the bottom"};
 
+/// The shell sets ARW_HIDE whenever it starts, so that the choice does not outlive the session.
+inline constexpr const wchar_t* kMinimizedNote =
+    L"Windows sets the arrangement back to Hidden at every logon.";
+
 void LoadMinimizedWindows(TPageContext& context, const TSpecialRow& row);
 void RecordMinimizedWindows(TPageContext& context, const TSpecialRow& row, TComponent& sender);
 

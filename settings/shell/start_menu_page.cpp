@@ -2,8 +2,6 @@
 
 #include "settings/explorer_keys.h"
 #include "settings/shell/admin_tools.h"
-#include "settings/store.h"
-#include "ui/controls.h"
 
 namespace {
 
@@ -19,6 +17,8 @@ TControlDesign Design() {
                   Group(L"GroupBox_Use_StartMenu_Common_User", L"User",
                         CheckBox(L"Checkbox_Use_StartMenu_Common_User_ShowUserName", L"Show my &user name")),
                   Group(L"GroupBox_Use_StartMenu_Common_Behaviour", L"Behavior",
+                        CheckBox(L"Checkbox_Use_StartMenu_Common_Behaviour_Classic",
+                                 L"Use the &classic Start menu"),
                         CheckBox(L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade",
                                  L"&Open submenus when I pause on them with the mouse pointer"),
                         CheckBox(L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop",
@@ -50,13 +50,21 @@ TControlDesign Design() {
                                  ComboBox(L"CB_Use_StartMenu_Items_MyPictures", kAppearances)),
                              Row(Label(L"Label_Use_StartMenu_Items_MyMusic", L"&Music:"),
                                  ComboBox(L"CB_Use_StartMenu_Items_MyMusic", kAppearances)),
+                             Row(Label(L"Label_Use_StartMenu_Items_Videos", L"&Videos:"),
+                                 ComboBox(L"CB_Use_StartMenu_Items_Videos", kAppearances)),
+                             Row(Label(L"Label_Use_StartMenu_Items_Downloads", L"Do&wnloads:"),
+                                 ComboBox(L"CB_Use_StartMenu_Items_Downloads", kAppearances)),
                              Row(Label(L"Label_Use_StartMenu_Items_ControlPanel", L"Control &Panel:"),
-                                 ComboBox(L"CB_Use_StartMenu_Items_ControlPanel", kAppearances)))),
+                                 ComboBox(L"CB_Use_StartMenu_Items_ControlPanel", kAppearances)),
+                             Row(Label(L"Label_Use_StartMenu_Items_NetConn", L"&Network Connections:"),
+                                 ComboBox(L"CB_Use_StartMenu_Items_NetConn", kAppearances)))),
                 Group(L"GroupBox_Use_StartMenu_Items_Commands", L"Commands",
                       CheckBox(L"Checkbox_Use_StartMenu_Items_Run", L"&Run"),
                       CheckBox(L"Checkbox_Use_StartMenu_Items_Search", L"&Search"),
                       CheckBox(L"Checkbox_Use_StartMenu_Items_Help", L"&Help and Support"),
                       CheckBox(L"Checkbox_Use_StartMenu_Items_Favorites", L"&Favorites"),
+                      CheckBox(L"Checkbox_Use_StartMenu_Items_NetConn", L"C&onnect To"),
+                      CheckBox(L"Checkbox_Use_StartMenu_Items_Printers", L"Printers and Fa&xes"),
                       CheckBox(L"Checkbox_Use_StartMenu_Items_Programs", L"Set Program Access and D&efaults"),
                       CheckBox(L"Checkbox_Use_StartMenu_Items_AdminTools", L"Administrative &Tools"),
                       CheckBox(L"Checkbox_Use_StartMenu_Items_LogOff", L"&Log Off"))),
@@ -75,33 +83,59 @@ TControlDesign Design() {
                         CheckBox(L"Checkbox_Use_StartMenu_RecentlyUse_Program_Keep",
                                  L"Remember which &programs I use"),
                         CheckBox(L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show",
-                                 L"Show &frequently used programs")),
+                                 L"Show &frequently used programs"),
+                        Row(Label(L"Label_Use_StartMenu_RecentlyUse_Program_Count", L"N&umber of programs:"),
+                            Edit(L"Edit_Use_StartMenu_RecentlyUse_Program_Count").Width(4),
+                            UpDown(L"UpDown_Use_StartMenu_RecentlyUse_Program_Count",
+                                   L"Edit_Use_StartMenu_RecentlyUse_Program_Count", 0, 30, 10))),
+                  Group(L"GroupBox_Use_StartMenu_RecentlyUse_JumpList", L"Jump Lists",
+                        Row(Label(L"Label_Use_StartMenu_RecentlyUse_JumpList_Count", L"Number of &items:"),
+                            Edit(L"Edit_Use_StartMenu_RecentlyUse_JumpList_Count").Width(4),
+                            UpDown(L"UpDown_Use_StartMenu_RecentlyUse_JumpList_Count",
+                                   L"Edit_Use_StartMenu_RecentlyUse_JumpList_Count", 0, 60, 10))),
                   Buttons(Button(L"Button_Use_StartMenu_RecentlyUse_Default", L"&Default")))));
 }
 
-/// An option of the Start menu's own dialog, which is on by default.
-constexpr TCheckBoxRow Option(const wchar_t* control, const wchar_t* valueName) {
+/// A choice in the Start menu's own dialog.
+constexpr TCheckBoxRow Option(const wchar_t* control, const wchar_t* valueName,
+                              TBoxState missing = kChecked) {
     return {.Control = control,
             .Value = {kCurrentUser, kExplorerAdvanced, valueName},
-            .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
+            .Shows = {.Missing = missing, .When = {{0, kClear}}, .Otherwise = kChecked},
             .Records = {.Checked = Dword(1), .Clear = Dword(0)}};
 }
 
-/// The classic Start menu keeps its options as texts.
+/// Choices of the classic Start menu are texts.
 constexpr TCheckBoxRow Cascading(const wchar_t* control, const wchar_t* valueName) {
     return {.Control = control,
             .Value = {kCurrentUser, kExplorerAdvanced, valueName},
-            .Shows = {.Missing = kClear, .When = {{AnyCase(L"YES"), kChecked}}, .Otherwise = kClear},
+            .Shows = {.Missing = kClear, .When = {{kYes, kChecked}}, .Otherwise = kClear},
             .Records = {.Checked = Text(L"YES"), .Clear = Text(L"NO")}};
 }
 
+constexpr const wchar_t* kUserName = L"Checkbox_Use_StartMenu_Common_User_ShowUserName";
+constexpr const wchar_t* kPersonalized = L"Checkbox_Use_StartMenu_Common_Behaviour_Personalized";
+
 constexpr TRow kCommonRows[] = {
-    PolicyRow(L"Checkbox_Use_StartMenu_Common_User_ShowUserName", L"NoUserNameInStartMenu", true),
+    On(kOnlyXp, PolicyRow(kUserName, L"NoUserNameInStartMenu")),
+    On(kSinceVista, Option(kUserName, L"Start_ShowUser")),
+    TCheckBoxRow{.Control = L"Checkbox_Use_StartMenu_Common_Behaviour_Classic",
+                 .Value = {kCurrentUser, kExplorerPolicies, L"NoSimpleStartMenu"},
+                 .Shows = {.Missing = kClear, .When = {{1, kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Restart = true},
     Option(L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade", L"Start_AutoCascade"),
     Option(L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", L"Start_EnableDragDrop"),
     Option(L"Checkbox_Use_StartMenu_Common_Behaviour_NewApps", L"Start_NotifyNewApps"),
     Option(L"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons", L"Start_LargeMFUIcons"),
-    PolicyRow(L"Checkbox_Use_StartMenu_Common_Behaviour_Personalized", L"Intellimenus", true),
+    On(kUntil2000, PolicyRow(kPersonalized, L"Intellimenus")),
+    TCheckBoxRow{.Control = kPersonalized,
+                 .Value = {kCurrentUser, kExplorerAdvanced, L"IntelliMenus"},
+                 .Shows = {.Missing = kChecked, .When = {{kNo, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = Text(L"Yes"), .Clear = Text(L"No")},
+                 .Restart = true,
+                 .Policy = ExplorerPolicy(L"Intellimenus"),
+                 .Levels = kXpAndVista},
     TParameterNumberRow{.Control = L"UpDown_Use_StartMenu_Common_Menu_Delay",
                         .Get = 0x6A,   // SPI_GETMENUSHOWDELAY
                         .Set = 0x6B},  // SPI_SETMENUSHOWDELAY
@@ -111,111 +145,167 @@ constexpr TRow kCommonRows[] = {
     Cascading(L"Checkbox_Use_StartMenu_Common_Classic_Printers", L"CascadePrinters"),
 };
 
-/// 0, 1 and 2 are the three appearances in their order; a link is what Windows shows by default.
+/// 0, 1 and 2 are the three appearances in their order.
 constexpr TDatum kAppearanceValues[] = {Dword(0), Dword(1), Dword(2)};
+constexpr int kHidden = 0;
+constexpr int kLink = 1;
+constexpr int kMenu = 2;
 
-constexpr TChoiceRow Folder(const wchar_t* control, const wchar_t* valueName) {
+constexpr TChoiceRow Folder(const wchar_t* control, const wchar_t* valueName, int missing = kLink) {
     return {.Control = control,
             .Value = {kCurrentUser, kExplorerAdvanced, valueName},
             .Items = kAppearanceValues,
-            .Missing = 1};
+            .Missing = missing};
 }
 
-// Special because the command is there by default until XP and hidden by default since Vista, and because Windows 2000
-// has no option for it, only the policy that forbids it.
-constexpr const wchar_t* kRun[] = {L"Checkbox_Use_StartMenu_Items_Run"};
-constexpr TPlace kNoRun{kCurrentUser, kExplorerPolicies, L"NoRun"};
-
-void LoadRun(TPageContext& context, const TSpecialRow& row) {
-    bool shown = StoredNumber(context, kNoRun) != 1;
-    if (kSinceXp.Include(context.WindowsLevel)) {
-        const auto value = Stored(context, row.Value);
-        shown = value ? !TMatch(0)(*value) : kUntilXp.Include(context.WindowsLevel);
-    }
-    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(shown);
-}
-
-void RecordRun(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    const bool shown = static_cast<TCheckBox&>(sender).Checked();
-    if (kSinceXp.Include(context.WindowsLevel))
-        RecordNumber(context, sender.Name(), row.Value, shown ? 1 : 0);
-    else
-        RecordNumber(context, sender.Name(), kNoRun, shown ? 0 : 1);
-}
-
+constexpr const wchar_t* kRun = L"Checkbox_Use_StartMenu_Items_Run";
+constexpr const wchar_t* kSearch = L"Checkbox_Use_StartMenu_Items_Search";
+constexpr const wchar_t* kHelp = L"Checkbox_Use_StartMenu_Items_Help";
+constexpr const wchar_t* kNetConn = L"Checkbox_Use_StartMenu_Items_NetConn";
+constexpr const wchar_t* kPrinters = L"Checkbox_Use_StartMenu_Items_Printers";
 constexpr const wchar_t* kAdminTools[] = {L"Checkbox_Use_StartMenu_Items_AdminTools"};
 
+// Windows 2000 has no options for its commands, only policies that forbid them.
 constexpr TRow kItemRows[] = {
     Folder(L"CB_Use_StartMenu_Items_MyComputer", L"Start_ShowMyComputer"),
     Folder(L"CB_Use_StartMenu_Items_MyDocuments", L"Start_ShowMyDocs"),
     Folder(L"CB_Use_StartMenu_Items_MyPictures", L"Start_ShowMyPics"),
     Folder(L"CB_Use_StartMenu_Items_MyMusic", L"Start_ShowMyMusic"),
+    Folder(L"CB_Use_StartMenu_Items_Videos", L"Start_ShowVideos", kHidden),
+    Folder(L"CB_Use_StartMenu_Items_Downloads", L"Start_ShowDownloads", kHidden),
     Folder(L"CB_Use_StartMenu_Items_ControlPanel", L"Start_ShowControlPanel"),
-    TSpecialRow{.Controls = kRun,
-                .Value = {kCurrentUser, kExplorerAdvanced, L"Start_ShowRun"},
-                .Rule = L"clear when 0, else checked; missing: checked up to XP, else clear; writes 1 or 0; "
-                        L"on Windows 2000 "
-                        L"the policy `NoRun`: clear when 1, writes 0 or 1",
-                .Load = LoadRun,
-                .Record = RecordRun},
-    PolicyRow(L"Checkbox_Use_StartMenu_Items_Search", L"NoFind", false),
-    PolicyRow(L"Checkbox_Use_StartMenu_Items_Help", L"NoSMHelp", false),
-    TCheckBoxRow{.Control = L"Checkbox_Use_StartMenu_Items_Favorites",
-                 .Value = {kCurrentUser, kExplorerAdvanced, L"StartMenuFavorites"},
-                 .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+    Folder(L"CB_Use_StartMenu_Items_NetConn", L"Start_ShowNetConn", kMenu),
+    On(kUntil2000, PolicyRow(kRun, L"NoRun")),
+    On(kOnlyXp, Unless(L"NoRun", Option(kRun, L"Start_ShowRun"))),
+    On(kSinceVista, Unless(L"NoRun", Option(kRun, L"Start_ShowRun", kClear))),
+    On(kUntil2000, PolicyRow(kSearch, L"NoFind")),
+    On(kOnlyXp, Unless(L"NoFind", Option(kSearch, L"Start_ShowSearch"))),
+    On(kOnlyVista, Option(kSearch, L"Start_ShowSearch")),
+    On(kUntil2000, PolicyRow(kHelp, L"NoSMHelp")),
+    On(kSinceXp, Unless(L"NoSMHelp", Option(kHelp, L"Start_ShowHelp"))),
+    Option(L"Checkbox_Use_StartMenu_Items_Favorites", L"StartMenuFavorites", kClear),
+    On(kOnlyVista, Option(kNetConn, L"Start_ShowNetConn")),
+    On(kSinceWindows7, Option(kNetConn, L"Start_ShowNetConn", kClear)),
+    On(kOnlyXp, Option(kPrinters, L"Start_ShowPrinters")),
+    On(kOnlyVista, Option(kPrinters, L"Start_ShowPrinters", kClear)),
+    On(kSinceWindows7, Option(kPrinters, L"Start_ShowPrinters")),
     Option(L"Checkbox_Use_StartMenu_Items_Programs", L"Start_ShowSetProgramAccessAndDefaults"),
     AdminToolsRow(kAdminTools),
-    PolicyRow(L"Checkbox_Use_StartMenu_Items_LogOff", L"StartMenuLogOff", false),
+    PolicyRow(L"Checkbox_Use_StartMenu_Items_LogOff", L"StartMenuLogOff"),
 };
 
+constexpr const wchar_t* kKeepDocuments = L"Checkbox_Use_StartMenu_RecentlyUse_Document_Keep";
+constexpr const wchar_t* kShowDocuments = L"Checkbox_Use_StartMenu_RecentlyUse_Document_Show";
+constexpr const wchar_t* kKeepPrograms = L"Checkbox_Use_StartMenu_RecentlyUse_Program_Keep";
+constexpr const wchar_t* kProgramCount = L"UpDown_Use_StartMenu_RecentlyUse_Program_Count";
+constexpr const wchar_t* kJumpListCount = L"UpDown_Use_StartMenu_RecentlyUse_JumpList_Count";
+
+/// Recent documents appear as a menu, the only way there is.
+constexpr TCheckBoxRow RecentDocuments(TBoxState missing) {
+    TCheckBoxRow row = Unless(L"NoRecentDocsMenu", Option(kShowDocuments, L"Start_ShowRecentDocs", missing));
+    row.Records.Checked = Dword(kMenu);
+    return row;
+}
+
+constexpr TNumberRow ProgramCount(TLevels levels, int missing) {
+    return {.Control = kProgramCount,
+            .Value = {kCurrentUser, kExplorerAdvanced, L"Start_MinMFU"},
+            .Missing = missing,
+            .Levels = levels};
+}
+constexpr int kProgramsOnXp = 6;
+constexpr int kProgramsOnVista = 9;
+constexpr int kProgramsOnWindows7 = 10;
+constexpr int kJumpListItems = 10;
+
 constexpr TRow kRecentlyUsedRows[] = {
-    PolicyRow(L"Checkbox_Use_StartMenu_RecentlyUse_Document_Keep", L"NoRecentDocsHistory", true),
-    PolicyRow(L"Checkbox_Use_StartMenu_RecentlyUse_Document_Show", L"NoRecentDocsMenu", true),
+    On(kUntilXp, PolicyRow(kKeepDocuments, L"NoRecentDocsHistory")),
+    On(kSinceVista, Unless(L"NoRecentDocsHistory", Option(kKeepDocuments, L"Start_TrackDocs"))),
+    On(kUntil2000, PolicyRow(kShowDocuments, L"NoRecentDocsMenu")),
+    On(kXpAndVista, RecentDocuments(kChecked)),
+    On(kSinceWindows7, RecentDocuments(kClear)),
     TNumberRow{.Control = L"UpDown_Use_StartMenu_RecentlyUse_Document_FileCount",
-               .Value = {kCurrentUser, kExplorerPolicies, L"MaxRecentDocs"},
+               .Value = ExplorerPolicy(L"MaxRecentDocs"),
                .Restart = true},
-    PolicyRow(L"Checkbox_Use_StartMenu_RecentlyUse_Program_Keep", L"NoInstrumentation", true),
-    PolicyRow(L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show", L"NoStartMenuMFUprogramsList", true),
+    On(kUntilVista, PolicyRow(kKeepPrograms, L"NoInstrumentation")),
+    On(kSinceWindows7, Option(kKeepPrograms, L"Start_TrackProgs")),
+    PolicyRow(L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show", L"NoStartMenuMFUprogramsList"),
+    ProgramCount(kOnlyXp, kProgramsOnXp),
+    ProgramCount(kOnlyVista, kProgramsOnVista),
+    ProgramCount(kSinceWindows7, kProgramsOnWindows7),
+    TNumberRow{.Control = kJumpListCount,
+               .Value = {kCurrentUser, kExplorerAdvanced, L"Start_JumpListItems"},
+               .Missing = kJumpListItems},
 };
 
 constexpr TLoader kLoaders[] = {kCommonRows, kItemRows, kRecentlyUsedRows};
 
 constexpr TPresetState kCommonDefault[] = {
-    {L"Checkbox_Use_StartMenu_Common_User_ShowUserName", 1},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade", 1},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", 1},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_NewApps", 1},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons", 1},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_Personalized", 1},
+    {kUserName, 1, kSinceXp},
+    {L"Checkbox_Use_StartMenu_Common_Behaviour_Classic", 0, kXpAndVista},
+    {L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade", 1, kSinceXp},
+    {L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", 1, kSinceXp},
+    {L"Checkbox_Use_StartMenu_Common_Behaviour_NewApps", 1, kSinceXp},
+    {L"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons", 1, kSinceXp},
+    {kPersonalized, 1, kUntilVista},
     {L"UpDown_Use_StartMenu_Common_Menu_Delay", 400},
 };
 constexpr TPresetState kRecentlyUsedDefault[] = {
-    {L"Checkbox_Use_StartMenu_RecentlyUse_Document_Keep", 1},
-    {L"Checkbox_Use_StartMenu_RecentlyUse_Document_Show", 1},
+    {kKeepDocuments, 1},
+    {kShowDocuments, 1, kUntilVista},
+    {kShowDocuments, 0, kSinceWindows7},
     {L"UpDown_Use_StartMenu_RecentlyUse_Document_FileCount", 15},
-    {L"Checkbox_Use_StartMenu_RecentlyUse_Program_Keep", 1},
-    {L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show", 1},
+    {kKeepPrograms, 1},
+    {L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show", 1, kSinceXp},
+    {kProgramCount, kProgramsOnXp, kOnlyXp},
+    {kProgramCount, kProgramsOnVista, kOnlyVista},
+    {kProgramCount, kProgramsOnWindows7, kSinceWindows7},
+    {kJumpListCount, kJumpListItems, kSinceWindows7},
 };
 constexpr TPreset kPresets[] = {
     {L"Button_Use_StartMenu_Common_Default", kCommonDefault},
     {L"Button_Use_StartMenu_RecentlyUse_Default", kRecentlyUsedDefault},
 };
 
-// Windows XP brought the two-column Start menu; Vista left the personalized menus and most of the classic one behind.
+// Windows XP brought the two-column Start menu, Windows 7 left the classic one behind.
 constexpr TOffer kOffers[] = {
     {L"GroupBox_Use_StartMenu_Common_User", kSinceXp},
+    {L"Checkbox_Use_StartMenu_Common_Behaviour_Classic", kXpAndVista},
     {L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade", kSinceXp},
     {L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", kSinceXp},
     {L"Checkbox_Use_StartMenu_Common_Behaviour_NewApps", kSinceXp},
     {L"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons", kSinceXp},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_Personalized", kUntilXp},
+    {kPersonalized, kUntilVista},
+    {L"GroupBox_Use_StartMenu_Common_Classic", kUntilVista},
     {L"GroupBox_Use_StartMenu_Items_Folders", kSinceXp},
+    {L"Label_Use_StartMenu_Items_Videos", kSinceWindows7},
+    {L"CB_Use_StartMenu_Items_Videos", kSinceWindows7},
+    {L"Label_Use_StartMenu_Items_Downloads", kSinceWindows7},
+    {L"CB_Use_StartMenu_Items_Downloads", kSinceWindows7},
+    {L"Label_Use_StartMenu_Items_NetConn", kOnlyXp},
+    {L"CB_Use_StartMenu_Items_NetConn", kOnlyXp},
+    {kSearch, kUntilVista},
     {L"Checkbox_Use_StartMenu_Items_Favorites", kSinceXp},
+    {kNetConn, kSinceVista},
+    {kPrinters, kSinceXp},
     {L"Checkbox_Use_StartMenu_Items_Programs", kSinceXp},
     {L"Checkbox_Use_StartMenu_Items_LogOff", kSinceXp},
-    {L"GroupBox_Use_StartMenu_Common_Classic", kUntilXp},
     {L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show", kSinceXp},
+    {L"Label_Use_StartMenu_RecentlyUse_Program_Count", kSinceXp},
+    {L"Edit_Use_StartMenu_RecentlyUse_Program_Count", kSinceXp},
+    {kProgramCount, kSinceXp},
+    {L"GroupBox_Use_StartMenu_RecentlyUse_JumpList", kSinceWindows7},
+};
+
+constexpr TLevelCaption kLevelCaptions[] = {
+    {L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", kSinceVista, TCaption::StartMenuDragDrop},
+    {L"Label_Use_StartMenu_Items_MyComputer", kOnlyXp, TCaption::StartMenuMyComputer},
+    {L"Label_Use_StartMenu_Items_MyDocuments", kOnlyXp, TCaption::StartMenuMyDocuments},
+    {L"Label_Use_StartMenu_Items_MyPictures", kOnlyXp, TCaption::StartMenuMyPictures},
+    {L"Label_Use_StartMenu_Items_MyMusic", kOnlyXp, TCaption::StartMenuMyMusic},
+    {kPrinters, kOnlyVista, TCaption::StartMenuPrinters},
+    {kPrinters, kSinceWindows7, TCaption::StartMenuDevices},
+    {L"Checkbox_Use_StartMenu_Items_Programs", kSinceVista, TCaption::StartMenuDefaultPrograms},
 };
 
 constexpr TPageDefinition kPage{.Tag = 5,
@@ -223,7 +313,8 @@ constexpr TPageDefinition kPage{.Tag = 5,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Offers = kOffers};
+                                .Offers = kOffers,
+                                .LevelCaptions = kLevelCaptions};
 
 }  // namespace
 

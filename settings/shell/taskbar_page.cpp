@@ -28,7 +28,11 @@ TControlDesign Design() {
                                    UpDown(L"UpDown_Taskbar_ButtonFlashes_Speed_Flash",
                                           L"Edit_Taskbar_ButtonFlashes_Speed_Flash", 1, 999, 3)))),
                   Buttons(Button(L"Button_Taskbar_ButtonFlashes_Default", L"&Default"))),
-            Sheet(L"TabSheet_Taskbar_ButtonAppearance", L"Buttons",
+            Sheet(L"TabSheet_Taskbar_ButtonAppearance", L"Appearance",
+                  Group(L"GroupBox_Taskbar_ButtonAppearance_Bar", L"Taskbar",
+                        CheckBox(L"Checkbox_Taskbar_ButtonAppearance_Bar_Lock", L"&Lock the taskbar"),
+                        CheckBox(L"Checkbox_Taskbar_ButtonAppearance_Bar_Peek",
+                                 L"Use Aero &Peek to preview the desktop")),
                   Group(L"GroupBox_Taskbar_ButtonAppearance_Group", L"Grouping",
                         CheckBox(L"Checkbox_Taskbar_ButtonAppearance_Group_Active",
                                  L"&Group similar taskbar buttons"),
@@ -65,7 +69,8 @@ TControlDesign Design() {
                                Row(Label(L"Label_Taskbar_MinWindow_Left", L"&Side:"),
                                    ComboBox(L"CB_Taskbar_MinWindow_Left", kMinimizedSides)),
                                Row(Label(L"Label_Taskbar_MinWindow_Top", L"&Edge:"),
-                                   ComboBox(L"CB_Taskbar_MinWindow_Top", kMinimizedEdges)))),
+                                   ComboBox(L"CB_Taskbar_MinWindow_Top", kMinimizedEdges))),
+                        Label(L"Label_Taskbar_MinWindow_Note", kMinimizedNote)),
                   Buttons(Button(L"Button_Taskbar_MinWindow_Default", L"&Default")))));
 }
 
@@ -117,6 +122,16 @@ constexpr TRow kFlashRows[] = {
 constexpr TDatum kCombineValues[] = {Dword(0), Dword(1), Dword(2)};
 
 constexpr TRow kButtonRows[] = {
+    // Windows calls it "size and move".
+    TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Bar_Lock",
+                 .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarSizeMove"},
+                 .Shows = {.Missing = kChecked, .When = {{0, kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Restart = true},
+    TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Bar_Peek",
+                 .Value = {kCurrentUser, kExplorerAdvanced, L"DisablePreviewDesktop"},
+                 .Shows = {.Missing = kChecked, .When = {{0, kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Group_Active",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarGlomming"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
@@ -129,27 +144,25 @@ constexpr TRow kButtonRows[] = {
     TChoiceRow{.Control = L"CB_Taskbar_ButtonAppearance_Look_Combine",
                .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarGlomLevel"},
                .Items = kCombineValues,
-               .Missing = 0,
-               .Restart = true},
+               .Missing = 0},
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarSmallIcons"},
                  .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Restart = true},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
 };
 
 constexpr TRow kNotificationRows[] = {
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Show", L"NoTrayItemsDisplay", true),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Show", L"NoTrayItemsDisplay"),
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_Notification_Icons_HideInactive",
                  .Value = {kCurrentUser, kExplorer, L"EnableAutoTray"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Restart = true},
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Clock", L"HideClock", true),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Volume", L"HideSCAVolume", true),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Network", L"HideSCANetwork", true),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Power", L"HideSCAPower", true),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_ActionCenter", L"HideSCAHealth", true),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Clock", L"HideClock"),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Volume", L"HideSCAVolume"),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Network", L"HideSCANetwork"),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Power", L"HideSCAPower"),
+    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_ActionCenter", L"HideSCAHealth"),
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_Notification_Balloons_Show",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"EnableBalloonTips"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
@@ -168,20 +181,22 @@ constexpr TPresetState kFlashDefault[] = {
     {L"UpDown_Taskbar_ButtonFlashes_Common_Time", 200},
     {L"UpDown_Taskbar_ButtonFlashes_Speed_Flash", 3},
 };
+// Not the number of windows that make a group: Windows' own default, 0, is none.
 constexpr TPresetState kButtonDefault[] = {
-    {L"Checkbox_Taskbar_ButtonAppearance_Group_Active", 1},
-    {L"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount", 3},
-    {L"CB_Taskbar_ButtonAppearance_Look_Combine", 0},
-    {L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons", 0},
+    {L"Checkbox_Taskbar_ButtonAppearance_Bar_Lock", 1},
+    {L"Checkbox_Taskbar_ButtonAppearance_Bar_Peek", 1, kSinceWindows7},
+    {L"Checkbox_Taskbar_ButtonAppearance_Group_Active", 1, kXpAndVista},
+    {L"CB_Taskbar_ButtonAppearance_Look_Combine", 0, kSinceWindows7},
+    {L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons", 0, kSinceWindows7},
 };
 constexpr TPresetState kNotificationDefault[] = {
     {L"Checkbox_Taskbar_Notification_Icons_Show", 1},
     {L"Checkbox_Taskbar_Notification_Icons_HideInactive", 1},
     {L"Checkbox_Taskbar_Notification_Icons_Clock", 1},
-    {L"Checkbox_Taskbar_Notification_Icons_Volume", 1},
-    {L"Checkbox_Taskbar_Notification_Icons_Network", 1},
-    {L"Checkbox_Taskbar_Notification_Icons_Power", 1},
-    {L"Checkbox_Taskbar_Notification_Icons_ActionCenter", 1},
+    {L"Checkbox_Taskbar_Notification_Icons_Volume", 1, kSinceVista},
+    {L"Checkbox_Taskbar_Notification_Icons_Network", 1, kSinceVista},
+    {L"Checkbox_Taskbar_Notification_Icons_Power", 1, kSinceVista},
+    {L"Checkbox_Taskbar_Notification_Icons_ActionCenter", 1, kSinceWindows7},
     {L"Checkbox_Taskbar_Notification_Balloons_Show", 1},
 };
 constexpr TPresetState kMinimizedDefault[] = {
@@ -196,11 +211,10 @@ constexpr TPreset kPresets[] = {
     {L"Button_Taskbar_MinWindow_Default", kMinimizedDefault},
 };
 
-constexpr TLevels kXpAndVista{.First = 5, .Last = 6};
-constexpr TLevels kSinceWindows7{.First = 7};
 // Windows 2000 has no options for its buttons and its notification area.
 constexpr TOffer kOffers[] = {
     {L"TabSheet_Taskbar_ButtonAppearance", kSinceXp},
+    {L"Checkbox_Taskbar_ButtonAppearance_Bar_Peek", kSinceWindows7},
     {L"GroupBox_Taskbar_ButtonAppearance_Group", kXpAndVista},
     {L"GroupBox_Taskbar_ButtonAppearance_Look", kSinceWindows7},
     {L"TabSheet_Taskbar_Notification", kSinceXp},

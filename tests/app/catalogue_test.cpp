@@ -30,21 +30,36 @@ bool Records(TComponentKind kind) {
     return kind == CheckBox || kind == RadioButton || kind == ComboBox || kind == TrackBar || kind == UpDown;
 }
 
+constexpr int kLevels[] = {0, 4, 5, 6, 7};
+
+bool IsOffered(const TPageDefinition& page, const TControl* control, int level) {
+    for (; control != nullptr; control = control->Parent())
+        for (const TOffer& offer : page.Offers)
+            if (control->Name() == offer.Control && !offer.Levels.Include(level)) return false;
+    return true;
+}
+
 void ExpectBelongTogether(const TForm& window, std::span<const TPageDefinition* const> pages,
                           std::set<std::wstring>& handlers) {
-    std::map<std::wstring, int> rows;
+    std::map<std::pair<std::wstring, int>, int> rows;  // by control and level
+    std::set<std::pair<std::wstring, int>> hidden;
     for (const TPageDefinition* page : pages) {
         EXPECT_TRUE(handlers.insert(page->SharedHandler).second);
         for (const TLoader& loader : page->Loaders) {
             for (const TRow& row : loader) {
                 for (const std::wstring& name : ControlsOf(row)) {
-                    ++rows[name];
                     const TControl* control = window.Find(name);
+                    for (const int level : kLevels) {
+                        if (LevelsOf(row).Include(level)) ++rows[{name, level}];
+                        if (!IsOffered(*page, control, level)) hidden.insert({name, level});
+                    }
                     EXPECT_TRUE(control != nullptr && Fits(row, control->Kind()))
                         << testing::PrintToString(name);
                 }
             }
         }
+        for (const TLevelCaption& name : page->LevelCaptions)
+            EXPECT_NE(window.Find(name.Control), nullptr) << testing::PrintToString(name.Control);
         for (const TPreset& preset : page->Presets) {
             EXPECT_NE(window.Find<TButton>(preset.Button), nullptr) << testing::PrintToString(preset.Button);
             for (const TPresetState& state : preset.States) {
@@ -56,7 +71,11 @@ void ExpectBelongTogether(const TForm& window, std::span<const TPageDefinition* 
     }
     for (const auto& component : window.Components()) {
         if (!Records(component->Kind())) continue;
-        EXPECT_EQ(rows[component->Name()], 1) << testing::PrintToString(component->Name());
+        for (const int level : kLevels) {
+            const std::pair key(component->Name(), level);
+            EXPECT_TRUE(rows[key] == 1 || (rows[key] == 0 && hidden.contains(key)))
+                << testing::PrintToString(key) << " has " << rows[key] << " rows";
+        }
     }
 }
 

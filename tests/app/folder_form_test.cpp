@@ -85,7 +85,7 @@ TEST_F(TFolderForm, OkWritesAndTellsTheShellAndNothingElseDoes) {
     });
     Open(kDesktopButton, clear);  // and the window's cross
     EXPECT_EQ(RecycleBinHidden(), std::nullopt);
-    EXPECT_TRUE(Fake.Shell.Notifications().empty());
+    EXPECT_TRUE(Fake.Shell.Notifications().empty() && Fake.Shell.SettingChanges().empty());
 
     Open(kDesktopButton, [&](TForm& dialog) {
         clear(dialog);
@@ -95,6 +95,8 @@ TEST_F(TFolderForm, OkWritesAndTellsTheShellAndNothingElseDoes) {
     EXPECT_EQ(RecycleBinHidden(), 1);
     EXPECT_EQ(Fake.Shell.Notifications(),
               (std::vector<TShellNotification>{{0x7FFFFFFF, 0x1000}, {0x08000000, 0}}));
+    EXPECT_EQ(Fake.Shell.SettingChanges(),
+              (std::vector<std::wstring>{L"Policy", L"ShellState", L"TraySettings"}));
     EXPECT_FALSE(Window->Find(L"Button_Apply")->Enabled()) << "no business of the main window's";
 }
 

@@ -4,12 +4,14 @@
 #include <cwctype>
 #include <fstream>
 #include <map>
+#include <set>
 
 #include <gtest/gtest.h>
 
 #include "app/folder_form.h"
 #include "app/main_window.h"
 #include "platform/text.h"
+#include "settings/shell/desktop_icons.h"
 #include "tests/fakes/fake_system.h"
 
 namespace {
@@ -92,10 +94,29 @@ TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
 
 using TAccessKeys = std::map<wchar_t, std::wstring>;  // with the control that each belongs to
 
+/// The captions of one Windows level, and what it does not have.
+struct TLevelForms {
+    int Level;
+    const TExtIniFile& Ini;
+    std::set<std::wstring> Absent = {};
+
+    void Apply(const TForm& form, const TPageDefinition& page) {
+        for (const TOffer& offer : page.Offers)
+            if (!offer.Levels.Include(Level)) Absent.insert(offer.Control);
+        for (const TLevelCaption& name : page.LevelCaptions) {
+            const TCaptionKey& key = kCaptionKeys[static_cast<std::size_t>(name.Caption)];
+            if (name.Levels.Include(Level))
+                form.Find(name.Control)->SetCaption(Ini.ReadString(kCaptionSection, key.Key, L""));
+        }
+    }
+};
+
 /// Adds the access keys of the controls in a container. Pages and sheets, which are not shown together, are put
 /// aside.
-void CollectAccessKeys(const TControl& container, TAccessKeys& keys, std::vector<const TControl*>& aside) {
+void CollectAccessKeys(const TControl& container, const TLevelForms& forms, TAccessKeys& keys,
+                       std::vector<const TControl*>& aside) {
     for (const TControl* control : container.Children()) {
+        if (forms.Absent.contains(control->Name())) continue;
         if (control->Kind() == TComponentKind::TabSheet || control->Kind() == TComponentKind::NotebookPage) {
             aside.push_back(control);
             continue;
@@ -108,31 +129,37 @@ void CollectAccessKeys(const TControl& container, TAccessKeys& keys, std::vector
             EXPECT_TRUE(isNew) << testing::PrintToString(control->Name()) << " and "
                                << testing::PrintToString(other->second);
         }
-        CollectAccessKeys(*control, keys, aside);
+        CollectAccessKeys(*control, forms, keys, aside);
     }
 }
 
-void ExpectAccessKeysDiffer(const TControl& container, TAccessKeys keys) {
+void ExpectAccessKeysDiffer(const TControl& container, const TLevelForms& forms, TAccessKeys keys) {
     std::vector<const TControl*> aside;
-    CollectAccessKeys(container, keys, aside);
-    for (const TControl* shown : aside) ExpectAccessKeysDiffer(*shown, keys);
+    CollectAccessKeys(container, forms, keys, aside);
+    for (const TControl* shown : aside) ExpectAccessKeysDiffer(*shown, forms, keys);
 }
 
-TEST(TLanguageFiles, AccessKeysDifferOnEverySheet) {
+TEST(TLanguageFiles, AccessKeysDifferOnEverySheetOfEveryWindows) {
+    TFakeSystem fake;
+    TQuilltune_FormMain window(fake.System);
+    TLanguage loaded(fake.System, L"Scanner");
+    TQuilltune_FormFolder dialog(window.Context(), loaded);
     for (const char* language : {"English", "German"}) {
-        SCOPED_TRACE(language);
-        TFakeSystem fake;
-        TQuilltune_FormMain window(fake.System);
-        const TLanguage none(fake.System, L"Scanner");
-        TQuilltune_FormFolder dialog(window.Context(), none);
         const TExtIniFile ini = LoadDelivered(language);
-        for (TForm* form : {static_cast<TForm*>(&window), static_cast<TForm*>(&dialog)}) {
-            for (const auto& component : form->Components()) {
-                auto& control = static_cast<TControl&>(*component);
-                control.SetCaption(ini.ReadString(L"Scanner_" + form->Name(), control.Name() + L".Caption",
-                                                  control.Caption()));
+        for (const int level : {4, 5, 6, 7}) {
+            SCOPED_TRACE(testing::Message() << language << " on level " << level);
+            TLevelForms forms{level, ini};
+            for (TForm* form : {static_cast<TForm*>(&window), static_cast<TForm*>(&dialog)}) {
+                for (const auto& component : form->Components()) {
+                    auto& control = static_cast<TControl&>(*component);
+                    control.SetCaption(ini.ReadString(L"Scanner_" + form->Name(),
+                                                      control.Name() + L".Caption", control.Caption()));
+                }
             }
-            ExpectAccessKeysDiffer(*form, {});
+            for (const TPageDefinition* page : PageDefinitions()) forms.Apply(window, *page);
+            forms.Apply(dialog, DesktopIcons());
+            ExpectAccessKeysDiffer(window, forms, {});
+            ExpectAccessKeysDiffer(dialog, forms, {});
         }
     }
 }

@@ -133,6 +133,8 @@ TEST_F(TMainWindow, ApplyAndOkWriteAndOkAndCancelClose) {
         EXPECT_EQ(LastAccess(), writes ? std::optional(1) : std::nullopt);
     }
     EXPECT_EQ(Fake.Shell.Notifications(), (std::vector<TShellNotification>(2, {0x7FFFFFFF, 0x1000})));
+    for (const wchar_t* area : {L"Policy", L"ShellState", L"TraySettings"})
+        EXPECT_EQ(std::ranges::count(Fake.Shell.SettingChanges(), area), 2) << "once with each Apply";
     EXPECT_TRUE(Fake.Dialogs.Questions().empty());
 }
 

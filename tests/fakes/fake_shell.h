@@ -18,6 +18,8 @@ class TFakeShell : public TShell {
     void PutFolder(TSpecialFolder folder, const std::wstring& path) { FFolders[folder] = path; }
 
     [[nodiscard]] const std::vector<TShellNotification>& Notifications() const { return FNotifications; }
+    /// The areas of the broadcasts.
+    [[nodiscard]] const std::vector<std::wstring>& SettingChanges() const { return FSettingChanges; }
     [[nodiscard]] int Restarts() const { return FRestarts; }
     [[nodiscard]] int HistoryClearings() const { return FHistoryClearings; }
     [[nodiscard]] const std::vector<std::wstring>& DebugTexts() const { return FDebugTexts; }
@@ -25,6 +27,7 @@ class TFakeShell : public TShell {
     void NotifyChange(std::uint32_t event, std::uint32_t flags) override {
         FNotifications.push_back({event, flags});
     }
+    void BroadcastSettingChange(const std::wstring& area) override { FSettingChanges.push_back(area); }
     [[nodiscard]] std::wstring FolderPath(TSpecialFolder folder) const override {
         const auto path = FFolders.find(folder);
         return path == FFolders.end() ? std::wstring() : path->second;
@@ -36,6 +39,7 @@ class TFakeShell : public TShell {
   private:
     std::map<TSpecialFolder, std::wstring> FFolders;
     std::vector<TShellNotification> FNotifications;
+    std::vector<std::wstring> FSettingChanges;
     std::vector<std::wstring> FDebugTexts;
     int FRestarts = 0;
     int FHistoryClearings = 0;

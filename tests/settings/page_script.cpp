@@ -73,7 +73,7 @@ TRegistryPlace Place(const TLine& text) {
 class TScene {
   public:
     explicit TScene(const TPageDefinition& page) : FBench(page) { FBench.Context.WindowsLevel = 7; }
-    ~TScene() { EXPECT_EQ(FBench.NeedsRestart(), FRestart) << "restart"; }
+    ~TScene() { EXPECT_EQ(FNeededRestart || FBench.NeedsRestart(), FRestart) << "restart"; }
     TScene(const TScene&) = delete;
     TScene& operator=(const TScene&) = delete;
 
@@ -96,6 +96,8 @@ class TScene {
         } else if (rest == L"visible" || rest == L"hidden") {
             const bool isSheet = c.Kind() == TComponentKind::TabSheet;
             EXPECT_EQ(isSheet ? static_cast<TTabSheet&>(c).TabVisible() : c.Visible(), rest == L"visible");
+        } else if (rest.starts_with(L"called ")) {
+            EXPECT_EQ(c.Caption(), rest.substr(7));
         } else {
             EXPECT_EQ(FBench.State(control), rest);
         }
@@ -195,6 +197,7 @@ class TScene {
     TPageBench FBench;
     std::string FUserFile;
     bool FRestart = false;
+    bool FNeededRestart = false;  ///< for what was written already
 };
 
 const std::map<TLine, TScene::TStep> TScene::kSteps{
@@ -223,7 +226,8 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
          for (const TLine& control : TakeControls(rest)) s.FBench.Act(control, rest);
      }},
     {L"leave", [](TScene& s, TLine rest, const TLines&) { s.FBench.Get<TEdit>(rest).SetFocused(false); }},
-    {L"apply", [](TScene& s, TLine, const TLines&) { s.FBench.Context.Changes.WriteAll(); }},
+    {L"apply", [](TScene& s, TLine,
+                  const TLines&) { s.FNeededRestart |= s.FBench.Context.Changes.WriteAll().RestartNeeded; }},
     {L"expect",
      [](TScene& s, TLine rest, const TLines&) {
          for (const TLine& control : TakeControls(rest)) s.Expect(control, rest);

@@ -23,7 +23,7 @@
 //   apply                                 the pending changes are written
 //
 // What comes of it:
-//   expect CONTROL STATE                  also enabled, disabled, visible, hidden
+//   expect CONTROL STATE                  also enabled, disabled, visible, hidden, or: called CAPTION
 //   records                               followed by all pending changes, a line each, set in; see TPageBench::Pending
 //   recorded 2                            how often the page told that it recorded something
 //   asked color 0x0000FF                  what the last dialog started from; also file FILTER
