@@ -190,19 +190,27 @@ void RecordBlink(TPageContext& context, const TSpecialRow& row, TComponent& send
     RecordText(context, sender.Name(), row.Value, std::to_wstring(time > kSlowestBlink ? kNoBlink : time));
 }
 
-// Special because the value is a set of bits, one for each light of the keyboard, kept as decimal text.
+// Special because the value is a set of bits, one for each light of the keyboard, kept as decimal text without a sign.
+// Some systems write it anew at logoff; that of the default user, which the logon screen reads, lasts. Apply leaves
+// that one out where the user has no rights to it.
 constexpr const wchar_t* kNumLock[] = {L"Checkbox_Use_Keyboard_NumLock_Active"};
-constexpr std::int32_t kNumLockLight = 2;
+constexpr std::uint32_t kNumLockLight = 2;
+constexpr TPlace kLights{kCurrentUser, L"\\Control Panel\\Keyboard\\", L"InitialKeyboardIndicators"};
+constexpr TPlace kLogonLights{kUsers, L"\\.DEFAULT\\Control Panel\\Keyboard\\", kLights.ValueName};
 
 void LoadNumLock(TPageContext& context, const TSpecialRow& row) {
-    const auto lights = StoredNumber(context, row.Value);
+    const auto lights = StoredBits(context, row.Value);
     if (lights) context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked((*lights & kNumLockLight) != 0);
 }
 
 void RecordNumLock(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    const std::int32_t others = StoredNumber(context, row.Value).value_or(0) & ~kNumLockLight;
-    const bool on = static_cast<TCheckBox&>(sender).Checked();
-    RecordText(context, sender.Name(), row.Value, std::to_wstring(on ? others | kNumLockLight : others));
+    const std::uint32_t light = static_cast<TCheckBox&>(sender).Checked() ? kNumLockLight : 0;
+    const auto record = [&](const std::wstring& name, const TPlace& place) {
+        const std::uint32_t others = StoredBits(context, place).value_or(0) & ~kNumLockLight;
+        RecordText(context, name, place, std::to_wstring(others | light));
+    };
+    record(sender.Name(), row.Value);
+    record(sender.Name() + L"1", kLogonLights);
 }
 
 constexpr TRow kKeyboardRows[] = {
@@ -228,8 +236,9 @@ constexpr TRow kKeyboardRows[] = {
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)},
                  .Restart = true},
     TSpecialRow{.Controls = kNumLock,
-                .Value = {kCurrentUser, L"\\Control Panel\\Keyboard\\", L"InitialKeyboardIndicators"},
-                .Rule = L"checked when the bit 2 is set; changes that bit alone, as text",
+                .Value = kLights,
+                .Rule = L"checked when the bit 2 is set; changes that bit alone, as text, here and below "
+                        L"`HKU\\.DEFAULT`",
                 .Load = LoadNumLock,
                 .Record = RecordNumLock},
 };
