@@ -11,7 +11,8 @@ struct TPresetState {
     std::int32_t State;  ///< 1 checked and 0 clear; the item index of a combo box; a position
 };
 
-/// A Default or preset button. It only sets control states; the controls' own events record the changes.
+/// A Default or preset button. It only sets the states of controls that are offered; the controls' own events record the
+/// changes.
 struct TPreset {
     const wchar_t* Button;
     std::span<const TPresetState> States;
@@ -67,7 +68,7 @@ class TPage {
     void Listen(TControl& container);
     void ListenToRow(const TRow& row);
     void HideWhatIsNotOffered() const;
-    [[nodiscard]] bool IsOffered(const TRow& row) const;
+    [[nodiscard]] bool IsOffered(const TControl& control) const;
     void ApplyPreset(const TPreset& preset) const;
 
     const TPageDefinition& FDefinition;

@@ -171,7 +171,8 @@ TText Words(const TLevels& levels) {
         constexpr const wchar_t* kNames[] = {L"2000", L"XP", L"Vista", L"7"};
         return level < 4 || level > 7 ? std::to_wstring(level) : kNames[level - 4];
     };
-    if (levels.First == kEveryLevel.First && levels.Last == kEveryLevel.Last) return L"all";
+    if (levels.First == kEveryLevel.First && levels.Last == kEveryLevel.Last)
+        return levels.Except < 0 ? L"all" : L"all but " + name(levels.Except);
     if (levels.First == levels.Last) return name(levels.First);
     if (levels.First == kEveryLevel.First) return L"up to " + name(levels.Last);
     if (levels.Last == kEveryLevel.Last) return name(levels.First) + L" and later";

@@ -235,7 +235,10 @@ struct TGeneralCatalogue {
     const std::array<TLoader, 4> Loaders{Display, Function, Security, Others};
 };
 
-constexpr TOffer kOffers[] = {{L"Checkbox_CommonSettings_Others_Message_Balloons", kSinceXp}};
+constexpr TOffer kOffers[] = {
+    {L"GroupBox_CommonSettings_Function_Keyboard", kNotWindows2000},
+    {L"Checkbox_CommonSettings_Others_Message_Balloons", kSinceXp},
+};
 
 bool Prepare(TPageContext& context) {
     const bool installed = context.Firefox.IsFirefoxInstalled();

@@ -62,6 +62,24 @@ TEST(TPage, WhatIsNotOfferedIsHiddenAndNotLoaded) {
     }
 }
 
+TEST(TPage, PresetsLeaveAloneWhatIsNotOffered) {
+    static constexpr TPresetState kStates[] = {{L"Box", 1}, {L"Grouped", 1}, {L"List", 1}};
+    constexpr TPreset kPresets[] = {{L"StrayButton", kStates}};
+    TPageDefinition page = kPage;
+    page.Offers = kOffers;
+    page.Presets = kPresets;
+    for (const int level : {4, 5, 6}) {
+        TPageBench bench(page);
+        bench.Context.WindowsLevel = level;
+        bench.Load();
+        bench.Act(L"StrayButton", {});
+        EXPECT_EQ(bench.Checked(L"Box"), level >= 5);
+        EXPECT_EQ(bench.Checked(L"Grouped"), level >= 6);
+        EXPECT_EQ(bench.State(L"List"), L"1");
+        EXPECT_EQ(bench.Pending().size(), static_cast<std::size_t>(level - 3));
+    }
+}
+
 TEST(TPage, APreparationThatFailsKeepsTheLoadersFromRunning) {
     TPageDefinition page = kPage;
     page.Offers = kOffers;
