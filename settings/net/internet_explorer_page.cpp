@@ -39,10 +39,8 @@ TControlDesign Design() {
                         CheckBox(L"Checkbox_IE_Common_Media_Resize", L"&Fit large pictures into the window"),
                         CheckBox(L"Checkbox_IE_Common_Media_Animation", L"Play an&imations in web pages"),
                         CheckBox(L"Checkbox_IE_Common_Media_Sound", L"Play s&ounds in web pages")),
-                  Group(L"GroupBox_IE_Common_Others", L"Pop-ups and updates",
-                        CheckBox(L"Checkbox_IE_Common_Popup_Block", L"Turn on the Pop-up &Blocker"),
-                        CheckBox(L"Checkbox_IE_Common_Update_Check",
-                                 L"A&utomatically check for Internet Explorer updates")),
+                  Group(L"GroupBox_IE_Common_Popup", L"Pop-ups",
+                        CheckBox(L"Checkbox_IE_Common_Popup_Block", L"Turn on the Pop-up &Blocker")),
                   Buttons(Button(L"Button_IE_Common_Default", L"&Default"))),
             Sheet(
                 L"TabSheet_IE_Tab", L"Tabs",
@@ -95,7 +93,9 @@ TControlDesign Design() {
                         CheckBox(L"Checkbox_IE_Advanced_Warning_Download",
                                  L"Notify me when down&loads are complete"),
                         CheckBox(L"Checkbox_IE_Advanced_Warning_Browser",
-                                 L"Tell me when Internet E&xplorer is not the default browser")),
+                                 L"Tell me when Internet E&xplorer is not the default browser"),
+                        CheckBox(L"Checkbox_IE_Advanced_Warning_Update",
+                                 L"A&utomatically check for Internet Explorer updates")),
                   Buttons(Button(L"Button_IE_Advanced_Default", L"&Default")))));
 }
 
@@ -168,10 +168,6 @@ constexpr TRow kCommonRows[] = {
                         L"`\"no\"`, or DWORD 1 or 0 where a DWORD is stored",
                 .Load = LoadPopupBlocker,
                 .Record = RecordPopupBlocker},
-    TCheckBoxRow{.Control = L"Checkbox_IE_Common_Update_Check",
-                 .Value = {kCurrentUser, kMain, L"NoUpdateCheck"},
-                 .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
 };
 
 constexpr TDatum kThreeWays[] = {Dword(0), Dword(1), Dword(2)};
@@ -241,6 +237,10 @@ constexpr TRow kAdvancedRows[] = {
     YesOrNo(L"Checkbox_IE_Advanced_Warning_Friendly", kMain, L"Friendly http errors", kChecked),
     YesOrNo(L"Checkbox_IE_Advanced_Warning_Download", kMain, L"NotifyDownloadComplete", kChecked),
     YesOrNo(L"Checkbox_IE_Advanced_Warning_Browser", kMain, L"Check_Associations", kChecked),
+    TCheckBoxRow{.Control = L"Checkbox_IE_Advanced_Warning_Update",
+                 .Value = {kCurrentUser, kMain, L"NoUpdateCheck"},
+                 .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
 };
 
 constexpr TLoader kLoaders[] = {kCommonRows, kTabRows, kAutoCompleteRows, kAdvancedRows};
@@ -249,7 +249,6 @@ constexpr TPresetState kCommonDefault[] = {
     {L"Updown_IE_Common_History_KeepDays", 20}, {L"Checkbox_IE_Common_Media_Open", 1},
     {L"Checkbox_IE_Common_Media_Resize", 1},    {L"Checkbox_IE_Common_Media_Animation", 1},
     {L"Checkbox_IE_Common_Media_Sound", 1},     {L"Checkbox_IE_Common_Popup_Block", 1},
-    {L"Checkbox_IE_Common_Update_Check", 1},
 };
 constexpr TPresetState kTabDefault[] = {
     {L"Checkbox_IE_Tab_Active", 1},
@@ -270,6 +269,7 @@ constexpr TPresetState kAdvancedDefault[] = {
     {L"Checkbox_IE_Advanced_Warning_Zone", 0},      {L"Checkbox_IE_Advanced_Warning_Redirect", 1},
     {L"Checkbox_IE_Advanced_Warning_Script", 0},    {L"Checkbox_IE_Advanced_Warning_Friendly", 1},
     {L"Checkbox_IE_Advanced_Warning_Download", 1},  {L"Checkbox_IE_Advanced_Warning_Browser", 1},
+    {L"Checkbox_IE_Advanced_Warning_Update", 1},
 };
 constexpr TPreset kPresets[] = {
     {L"Button_IE_Common_Default", kCommonDefault},
@@ -281,7 +281,7 @@ constexpr TPreset kPresets[] = {
 // Tabs came with Internet Explorer 7, which needs Windows XP, and the pop-up blocker with XP's second service pack.
 constexpr TOffer kOffers[] = {
     {L"TabSheet_IE_Tab", kSinceXp},
-    {L"Checkbox_IE_Common_Popup_Block", kSinceXp},
+    {L"GroupBox_IE_Common_Popup", kSinceXp},
 };
 
 constexpr TPageDefinition kPage{.Tag = 8,

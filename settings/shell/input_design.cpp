@@ -40,6 +40,11 @@ TControlDesign SensitivitySheet() {
                          UpDown(L"UpDown_Use_MouseSensitivity_Hover_Time",
                                 L"Edit_Use_MouseSensitivity_Hover_Time", 0, 1000, 400),
                          Label(L"Label_Use_MouseSensitivity_Hover_Time_Unit", L"milliseconds")))),
+        Group(L"GroupBox_Use_MouseSensitivity_Tilt", L"Tilting the wheel",
+              Row(Label(L"Label_Use_MouseSensitivity_Tilt_Count", L"Scroll by this &number of characters:"),
+                  Edit(L"Edit_Use_MouseSensitivity_Tilt_Count").Width(5),
+                  UpDown(L"UpDown_Use_MouseSensitivity_Tilt_Count", L"Edit_Use_MouseSensitivity_Tilt_Count",
+                         1, 100, 3))),
         Buttons(Button(L"Button_Use_MouseSensitivity_Default", L"&Default")));
 }
 
@@ -55,17 +60,12 @@ TControlDesign FunctionSheet() {
                   UpDown(L"UpDown_Use_MouseFunction_Wheel_Count", L"Edit_Use_MouseFunction_Wheel_Count", 1,
                          100, 3)),
               RadioButton(L"Radio_Use_MouseFunction_Wheel_RollPage", L"&One screen")),
-        Group(L"GroupBox_Use_MouseFunction_Tilt", L"Tilt the wheel to scroll",
-              Row(Label(L"Label_Use_MouseFunction_Tilt_Count", L"This &number of characters:"),
-                  Edit(L"Edit_Use_MouseFunction_Tilt_Count").Width(5),
-                  UpDown(L"UpDown_Use_MouseFunction_Tilt_Count", L"Edit_Use_MouseFunction_Tilt_Count", 1, 100,
-                         3))),
         Group(
             L"GroupBox_Use_MouseFunction_Pointer", L"Pointer",
             CheckBox(L"Checkbox_Use_MouseFunction_Pointer_Shadow", L"Sho&w a shadow under the mouse pointer"),
             CheckBox(L"Checkbox_Use_MouseFunction_Pointer_Vanish", L"&Hide pointer while typing"),
             CheckBox(L"Checkbox_Use_MouseFunction_Pointer_Sonar",
-                     L"Show location of pointer when I press the &CTRL key"),
+                     L"Show location of pointer when I press the &Ctrl key"),
             CheckBox(L"Checkbox_Use_MouseFunction_Pointer_Snap",
                      L"Move pointer to the default &button in a dialog box"),
             CheckBox(L"Checkbox_Use_MouseFunction_Pointer_Tracking",

@@ -77,6 +77,9 @@ constexpr TRow kSensitivityRows[] = {
     TParameterNumberRow{.Control = L"UpDown_Use_MouseSensitivity_Hover_Time",
                         .Get = 0x0066,   // SPI_GETMOUSEHOVERTIME
                         .Set = 0x0067},  // SPI_SETMOUSEHOVERTIME
+    TParameterNumberRow{.Control = L"UpDown_Use_MouseSensitivity_Tilt_Count",
+                        .Get = 0x006C,   // SPI_GETWHEELSCROLLCHARS
+                        .Set = 0x006D},  // SPI_SETWHEELSCROLLCHARS
 };
 
 // Special because Windows tells whether the buttons are swapped only as a system metric.
@@ -158,9 +161,6 @@ constexpr TRow kFunctionRows[] = {
         .Rule = L"the system parameter 0x68: a number of lines, or 0xFFFFFFFF; set by 0x69, in uiParam",
         .Load = LoadWheel,
         .Record = RecordWheel},
-    TParameterNumberRow{.Control = L"UpDown_Use_MouseFunction_Tilt_Count",
-                        .Get = 0x006C,   // SPI_GETWHEELSCROLLCHARS
-                        .Set = 0x006D},  // SPI_SETWHEELSCROLLCHARS
     TParameterSwitchRow{.Control = L"Checkbox_Use_MouseFunction_Pointer_Shadow",
                         .Get = 0x101A,   // SPI_GETCURSORSHADOW
                         .Set = 0x101B},  // SPI_SETCURSORSHADOW
@@ -266,13 +266,14 @@ constexpr TPresetState kSensitivityDefault[] = {
     {L"UpDown_Use_MouseSensitivity_Drag", 4},
     {L"UpDown_Use_MouseSensitivity_Hover_MoveError", 4},
     {L"UpDown_Use_MouseSensitivity_Hover_Time", 400},
+    {L"UpDown_Use_MouseSensitivity_Tilt_Count", 3},
 };
 constexpr TPresetState kFunctionDefault[] = {
     {L"Checkbox_Use_MouseFunction_ChangeKey_Change", 0}, {L"Radio_Use_MouseFunction_Wheel_RollRow", 1},
-    {L"UpDown_Use_MouseFunction_Wheel_Count", 3},        {L"UpDown_Use_MouseFunction_Tilt_Count", 3},
-    {L"Checkbox_Use_MouseFunction_Pointer_Shadow", 1},   {L"Checkbox_Use_MouseFunction_Pointer_Vanish", 1},
-    {L"Checkbox_Use_MouseFunction_Pointer_Sonar", 0},    {L"Checkbox_Use_MouseFunction_Pointer_Snap", 0},
-    {L"Checkbox_Use_MouseFunction_Pointer_Tracking", 0}, {L"Checkbox_Use_MouseFunction_Trails_Show", 0},
+    {L"UpDown_Use_MouseFunction_Wheel_Count", 3},        {L"Checkbox_Use_MouseFunction_Pointer_Shadow", 1},
+    {L"Checkbox_Use_MouseFunction_Pointer_Vanish", 1},   {L"Checkbox_Use_MouseFunction_Pointer_Sonar", 0},
+    {L"Checkbox_Use_MouseFunction_Pointer_Snap", 0},     {L"Checkbox_Use_MouseFunction_Pointer_Tracking", 0},
+    {L"Checkbox_Use_MouseFunction_Trails_Show", 0},
 };
 constexpr TPresetState kKeyboardDefault[] = {
     {L"TrackBar_Use_Keyboard_Repeat_Delay", 1},
@@ -290,7 +291,7 @@ constexpr TPreset kPresets[] = {
 
 // Windows 2000 has none of these. The policy for the Windows key came with XP and Server 2003.
 constexpr TOffer kOffers[] = {
-    {L"GroupBox_Use_MouseFunction_Tilt", kSinceVista},
+    {L"GroupBox_Use_MouseSensitivity_Tilt", kSinceVista},
     {L"Checkbox_Use_Keyboard_WinKey_Active", kNotWindows2000},
     {L"Checkbox_Use_MouseFunction_Pointer_Vanish", kSinceXp},
     {L"Checkbox_Use_MouseFunction_Pointer_Sonar", kSinceXp},
