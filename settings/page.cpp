@@ -28,7 +28,7 @@ void TPage::Load() {
     if (FDefinition.Prepare != nullptr && !FDefinition.Prepare(FContext)) return;
     for (const TLoader& loader : FDefinition.Loaders)
         for (const TRow& row : loader)
-            if (IsOffered(*FContext.Form.Find(ControlsOf(row).front()))) LoadRow(FContext, row);
+            if (IsOffered(FContext.Form.Find(ControlsOf(row).front()))) LoadRow(FContext, row);
 }
 
 void TPage::Changed(TComponent& sender) {
@@ -49,13 +49,13 @@ void TPage::HideWhatIsNotOffered() const {
     }
 }
 
-bool TPage::IsOffered(const TControl& control) const {
+bool TPage::IsOffered(const TControl* control) const {
     const auto isHidden = [this](const TControl& c) {
         return std::any_of(FDefinition.Offers.begin(), FDefinition.Offers.end(), [&](const TOffer& offer) {
             return c.Name() == offer.Control && !offer.Levels.Include(FContext.WindowsLevel);
         });
     };
-    for (const TControl* c = &control; c != nullptr; c = c->Parent())
+    for (const TControl* c = control; c != nullptr; c = c->Parent())
         if (isHidden(*c)) return false;
     return true;
 }
@@ -99,7 +99,7 @@ void TPage::Listen(TControl& container) {
 void TPage::ApplyPreset(const TPreset& preset) const {
     for (const TPresetState& state : preset.States) {
         TControl* control = FContext.Form.Find(state.Control);
-        if (control == nullptr || !IsOffered(*control)) continue;
+        if (control == nullptr || !IsOffered(control)) continue;
         switch (control->Kind()) {
             case TComponentKind::CheckBox:
                 static_cast<TCheckBox*>(control)->SetChecked(state.State != 0);

@@ -68,7 +68,7 @@ class TPage {
     void Listen(TControl& container);
     void ListenToRow(const TRow& row);
     void HideWhatIsNotOffered() const;
-    [[nodiscard]] bool IsOffered(const TControl& control) const;
+    [[nodiscard]] bool IsOffered(const TControl* control) const;
     void ApplyPreset(const TPreset& preset) const;
 
     const TPageDefinition& FDefinition;
