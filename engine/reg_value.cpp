@@ -14,6 +14,12 @@ std::optional<std::int32_t> AsInteger(const TRegValue& value) {
     return std::nullopt;
 }
 
+std::optional<std::uint32_t> AsBits(const TRegValue& value) {
+    if (const auto* text = std::get_if<std::wstring>(&value)) return ParseBits(Trim(*text));
+    if (const auto number = AsInteger(value)) return static_cast<std::uint32_t>(*number);
+    return std::nullopt;
+}
+
 std::wstring AsText(const TRegValue& value) {
     if (const auto* number = std::get_if<std::int32_t>(&value)) return std::to_wstring(*number);
     if (const auto* text = std::get_if<std::wstring>(&value)) return *text;

@@ -10,6 +10,9 @@
 /// lowest first. Nothing when the value is absent or means no number.
 [[nodiscard]] std::optional<std::int32_t> AsInteger(const TRegValue& value);
 
+/// The value as a set of bits: AsInteger, or decimal text above the largest signed number.
+[[nodiscard]] std::optional<std::uint32_t> AsBits(const TRegValue& value);
+
 /// The value as text: numbers in decimal, bytes as one character each, absent as empty text.
 [[nodiscard]] std::wstring AsText(const TRegValue& value);
 

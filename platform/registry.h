@@ -11,6 +11,7 @@ enum class TRootKey : std::uint32_t {
     ClassesRoot = 0x80000000,
     CurrentUser = 0x80000001,
     LocalMachine = 0x80000002,
+    Users = 0x80000003,  ///< below it `.DEFAULT`, the user of the logon screen
 };
 
 /// Type of a stored value, in the program's own numbering (not the REG_… codes).

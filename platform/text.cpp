@@ -215,18 +215,34 @@ std::size_t FindText(std::wstring_view text, std::wstring_view part) {
                                                 : static_cast<std::size_t>(found - text.begin());
 }
 
-std::optional<std::int32_t> ParseInteger(std::wstring_view text) {
+namespace {
+
+std::optional<std::int64_t> ParseUpTo(std::int64_t limit, std::wstring_view text) {
     const bool negative = text.starts_with(L'-');
     if (negative || text.starts_with(L'+')) text.remove_prefix(1);
     if (text.empty()) return std::nullopt;
-    constexpr std::int64_t kLimit = std::numeric_limits<std::int32_t>::max();
+    if (negative) limit = -std::int64_t{std::numeric_limits<std::int32_t>::min()};
     std::int64_t number = 0;
     for (const wchar_t c : text) {
         if (c < L'0' || c > L'9') return std::nullopt;
         number = number * 10 + (c - L'0');
-        if (number > kLimit + (negative ? 1 : 0)) return std::nullopt;
+        if (number > limit) return std::nullopt;
     }
-    return static_cast<std::int32_t>(negative ? -number : number);
+    return negative ? -number : number;
+}
+
+}  // namespace
+
+std::optional<std::int32_t> ParseInteger(std::wstring_view text) {
+    const auto number = ParseUpTo(std::numeric_limits<std::int32_t>::max(), text);
+    if (!number) return std::nullopt;
+    return static_cast<std::int32_t>(*number);
+}
+
+std::optional<std::uint32_t> ParseBits(std::wstring_view text) {
+    const auto number = ParseUpTo(std::numeric_limits<std::uint32_t>::max(), text);
+    if (!number) return std::nullopt;
+    return static_cast<std::uint32_t>(*number);
 }
 
 std::size_t TTextHash::operator()(std::wstring_view text) const {

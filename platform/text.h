@@ -56,6 +56,9 @@ class TLineReader {
 /// in it or when the number does not fit.
 [[nodiscard]] std::optional<std::int32_t> ParseInteger(std::wstring_view text);
 
+/// ParseInteger for a set of 32 bits, which may be written with a sign or without.
+[[nodiscard]] std::optional<std::uint32_t> ParseBits(std::wstring_view text);
+
 /// Hash and equality for containers whose keys are texts without regard to case.
 struct TTextHash {
     using is_transparent = void;

@@ -7,6 +7,7 @@
 inline constexpr TRootKey kLocalMachine = TRootKey::LocalMachine;
 inline constexpr TRootKey kCurrentUser = TRootKey::CurrentUser;
 inline constexpr TRootKey kClassesRoot = TRootKey::ClassesRoot;
+inline constexpr TRootKey kUsers = TRootKey::Users;
 
 /// Where a setting lives: at a place in the registry, whose `Key` begins with a backslash, or in the preferences of the
 /// user's Firefox profile.

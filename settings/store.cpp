@@ -58,6 +58,11 @@ std::optional<std::int32_t> StoredNumber(const TPageContext& context, const TPla
     return value ? AsInteger(*value) : std::nullopt;
 }
 
+std::optional<std::uint32_t> StoredBits(const TPageContext& context, const TPlace& place) {
+    const auto value = Stored(context, place);
+    return value ? AsBits(*value) : std::nullopt;
+}
+
 TRegRecor RecordAt(const TPlace& place, const std::wstring& changeName) {
     TRegRecor record;
     record.Name = changeName;

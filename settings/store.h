@@ -15,6 +15,9 @@ struct TPageContext;
 /// The number that Stored means; nothing when there is none.
 [[nodiscard]] std::optional<std::int32_t> StoredNumber(const TPageContext& context, const TPlace& place);
 
+/// The set of bits that Stored means; nothing when there is none.
+[[nodiscard]] std::optional<std::uint32_t> StoredBits(const TPageContext& context, const TPlace& place);
+
 /// A change of that name and place, still without type and value.
 [[nodiscard]] TRegRecor RecordAt(const TPlace& place, const std::wstring& changeName);
 

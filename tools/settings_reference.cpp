@@ -43,6 +43,7 @@ TText Words(const TPlace& place) {
     if (place.IsFirefoxPref) return L"Firefox preference " + Code(place.ValueName);
     const wchar_t* root = place.Root == kLocalMachine  ? L"HKLM"
                           : place.Root == kCurrentUser ? L"HKCU"
+                          : place.Root == kUsers       ? L"HKU"
                                                        : L"HKCR";
     TText key = root + TText(place.Key);
     if (key.back() == L'\\') key.pop_back();
@@ -177,7 +178,8 @@ TText Words(const TLevels& levels) {
         constexpr const wchar_t* kNames[] = {L"2000", L"XP", L"Vista", L"7"};
         return level < 4 || level > 7 ? std::to_wstring(level) : kNames[level - 4];
     };
-    if (levels.First == kEveryLevel.First && levels.Last == kEveryLevel.Last) return L"all";
+    if (levels.First == kEveryLevel.First && levels.Last == kEveryLevel.Last)
+        return levels.Except < 0 ? L"all" : L"all but " + name(levels.Except);
     if (levels.First == levels.Last) return name(levels.First);
     if (levels.First == kEveryLevel.First) return L"up to " + name(levels.Last);
     if (levels.Last == kEveryLevel.Last) return name(levels.First) + L" and later";
@@ -285,8 +287,8 @@ int main() {
         L"Generated from the catalogue by `tools/settings_reference`; do not edit. \"Shows\" says what a "
         L"stored value makes");
     Print(
-        L"of the controls, \"Writes\" what Apply writes for the state that the user has chosen. HKLM, HKCU "
-        L"and HKCR are the");
+        L"of the controls, \"Writes\" what Apply writes for the state that the user has chosen. HKLM, HKCU, "
+        L"HKU and HKCR are the");
     Print(L"registry's roots; a text is a REG_SZ value.");
     for (const TCategoryGroupRow& group : CategoryTable())
         for (const TCategoryItemRow& item : group.Items)

@@ -21,6 +21,8 @@ HKEY RootOf(TRootKey root) {
             return HKEY_CURRENT_USER;
         case TRootKey::LocalMachine:
             return HKEY_LOCAL_MACHINE;
+        case TRootKey::Users:
+            return HKEY_USERS;
     }
     return nullptr;
 }

@@ -1,11 +1,16 @@
 #include "settings/net/internet_explorer_page.h"
 
+#include "engine/reg_value.h"
+#include "platform/text.h"
 #include "settings/page_context.h"
+#include "settings/store.h"
+#include "ui/controls.h"
 
 namespace {
 
 constexpr const wchar_t* kMain = L"\\Software\\Microsoft\\Internet Explorer\\Main\\";
 constexpr const wchar_t* kTabbedBrowsing = L"\\Software\\Microsoft\\Internet Explorer\\TabbedBrowsing\\";
+constexpr const wchar_t* kNewWindows = L"\\Software\\Microsoft\\Internet Explorer\\New Windows\\";
 constexpr const wchar_t* kTypedUrls = L"\\Software\\Microsoft\\Internet Explorer\\TypedURLs\\";
 constexpr const wchar_t* kInternetSettings =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\";
@@ -34,6 +39,8 @@ TControlDesign Design() {
                         CheckBox(L"Checkbox_IE_Common_Media_Resize", L"&Fit large pictures into the window"),
                         CheckBox(L"Checkbox_IE_Common_Media_Animation", L"Play an&imations in web pages"),
                         CheckBox(L"Checkbox_IE_Common_Media_Sound", L"Play s&ounds in web pages")),
+                  Group(L"GroupBox_IE_Common_Popup", L"Pop-ups",
+                        CheckBox(L"Checkbox_IE_Common_Popup_Block", L"Turn on the Pop-up &Blocker")),
                   Buttons(Button(L"Button_IE_Common_Default", L"&Default"))),
             Sheet(
                 L"TabSheet_IE_Tab", L"Tabs",
@@ -42,7 +49,10 @@ TControlDesign Design() {
                       Indent(CheckBox(L"Checkbox_IE_Tab_WarnOnClose", L"&Warn me when closing several tabs"),
                              CheckBox(L"Checkbox_IE_Tab_Foreground",
                                       L"Always &switch to new tabs when they are created"),
-                             Fields(Row(Label(L"Label_IE_Tab_Popup", L"Open &pop-ups:"),
+                             Fields(Row(Label(L"Label_IE_Tab_New", L"Show in &new tabs:"),
+                                        ComboBox(L"CB_IE_Tab_New", {L"A blank page", L"The first home page",
+                                                                    L"The new tab page"})),
+                                    Row(Label(L"Label_IE_Tab_Popup", L"Open &pop-ups:"),
                                         ComboBox(L"CB_IE_Tab_Popup",
                                                  {L"Automatically", L"In a new window", L"In a new tab"})),
                                     Row(Label(L"Label_IE_Tab_Link", L"Open &links from other programs:"),
@@ -83,7 +93,9 @@ TControlDesign Design() {
                         CheckBox(L"Checkbox_IE_Advanced_Warning_Download",
                                  L"Notify me when down&loads are complete"),
                         CheckBox(L"Checkbox_IE_Advanced_Warning_Browser",
-                                 L"Tell me when Internet E&xplorer is not the default browser")),
+                                 L"Tell me when Internet E&xplorer is not the default browser"),
+                        CheckBox(L"Checkbox_IE_Advanced_Warning_Update",
+                                 L"A&utomatically check for Internet Explorer updates")),
                   Buttons(Button(L"Button_IE_Advanced_Default", L"&Default")))));
 }
 
@@ -117,6 +129,24 @@ void ClearHistory(TPageContext& context, const TSpecialRow& row, TComponent& /*s
     static_cast<void>(context.System.Registry.DeleteKey(row.Value.Root, row.Value.Key));
 }
 
+// Special because versions of Internet Explorer keep it as a text or as a number; what is there keeps its type.
+constexpr const wchar_t* kPopupBlocker[] = {L"Checkbox_IE_Common_Popup_Block"};
+
+void LoadPopupBlocker(TPageContext& context, const TSpecialRow& row) {
+    const auto value = Stored(context, row.Value);
+    const bool isOff = value && (SameText(AsText(*value), L"no") || AsInteger(*value) == 0);
+    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(!isOff);
+}
+
+void RecordPopupBlocker(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
+    const bool isOn = static_cast<TCheckBox&>(sender).Checked();
+    const auto value = Stored(context, row.Value);
+    if (value && std::holds_alternative<std::int32_t>(*value))
+        RecordNumber(context, sender.Name(), row.Value, isOn ? 1 : 0);
+    else
+        RecordText(context, sender.Name(), row.Value, isOn ? L"yes" : L"no");
+}
+
 constexpr TRow kCommonRows[] = {
     TTextRow{.Control = L"Edit_IE_Common_Homepage_Address", .Value = {kCurrentUser, kMain, L"Start Page"}},
     TNumberRow{.Control = L"Updown_IE_Common_History_KeepDays",
@@ -132,12 +162,23 @@ constexpr TRow kCommonRows[] = {
     YesOrNo(L"Checkbox_IE_Common_Media_Resize", kMain, L"Enable AutoImageResize", kChecked),
     YesOrNo(L"Checkbox_IE_Common_Media_Animation", kMain, L"Play_Animations", kChecked),
     YesOrNo(L"Checkbox_IE_Common_Media_Sound", kMain, L"Play_Background_Sounds", kChecked),
+    TSpecialRow{.Controls = kPopupBlocker,
+                .Value = {kCurrentUser, kNewWindows, L"PopupMgr"},
+                .Rule = L"clear when \"no\" in any case or 0, else checked; writes text `\"yes\"` or "
+                        L"`\"no\"`, or DWORD 1 or 0 where a DWORD is stored",
+                .Load = LoadPopupBlocker,
+                .Record = RecordPopupBlocker},
 };
 
 constexpr TDatum kThreeWays[] = {Dword(0), Dword(1), Dword(2)};
-constexpr const wchar_t* kTabControls[] = {L"Checkbox_IE_Tab_WarnOnClose", L"Checkbox_IE_Tab_Foreground",
-                                           L"Label_IE_Tab_Popup",          L"CB_IE_Tab_Popup",
-                                           L"Label_IE_Tab_Link",           L"CB_IE_Tab_Link"};
+constexpr const wchar_t* kTabControls[] = {L"Checkbox_IE_Tab_WarnOnClose",
+                                           L"Checkbox_IE_Tab_Foreground",
+                                           L"Label_IE_Tab_New",
+                                           L"CB_IE_Tab_New",
+                                           L"Label_IE_Tab_Popup",
+                                           L"CB_IE_Tab_Popup",
+                                           L"Label_IE_Tab_Link",
+                                           L"CB_IE_Tab_Link"};
 
 constexpr TRow kTabRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_IE_Tab_Active",
@@ -147,6 +188,11 @@ constexpr TRow kTabRows[] = {
                  .Enables = kTabControls},
     OneOrZero(L"Checkbox_IE_Tab_WarnOnClose", kTabbedBrowsing, L"WarnOnClose", kChecked),
     OneOrZero(L"Checkbox_IE_Tab_Foreground", kTabbedBrowsing, L"OpenInForeground", kClear),
+    // Internet Explorer 7 always shows a page of its own.
+    TChoiceRow{.Control = L"CB_IE_Tab_New",
+               .Value = {kCurrentUser, kTabbedBrowsing, L"NewTabPageShow"},
+               .Items = kThreeWays,
+               .Missing = 2},
     TChoiceRow{.Control = L"CB_IE_Tab_Popup",
                .Value = {kCurrentUser, kTabbedBrowsing, L"PopupsUseNewWindow"},
                .Items = kThreeWays,
@@ -191,6 +237,10 @@ constexpr TRow kAdvancedRows[] = {
     YesOrNo(L"Checkbox_IE_Advanced_Warning_Friendly", kMain, L"Friendly http errors", kChecked),
     YesOrNo(L"Checkbox_IE_Advanced_Warning_Download", kMain, L"NotifyDownloadComplete", kChecked),
     YesOrNo(L"Checkbox_IE_Advanced_Warning_Browser", kMain, L"Check_Associations", kChecked),
+    TCheckBoxRow{.Control = L"Checkbox_IE_Advanced_Warning_Update",
+                 .Value = {kCurrentUser, kMain, L"NoUpdateCheck"},
+                 .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
 };
 
 constexpr TLoader kLoaders[] = {kCommonRows, kTabRows, kAutoCompleteRows, kAdvancedRows};
@@ -198,14 +248,15 @@ constexpr TLoader kLoaders[] = {kCommonRows, kTabRows, kAutoCompleteRows, kAdvan
 constexpr TPresetState kCommonDefault[] = {
     {L"Updown_IE_Common_History_KeepDays", 20}, {L"Checkbox_IE_Common_Media_Open", 1},
     {L"Checkbox_IE_Common_Media_Resize", 1},    {L"Checkbox_IE_Common_Media_Animation", 1},
-    {L"Checkbox_IE_Common_Media_Sound", 1},
+    {L"Checkbox_IE_Common_Media_Sound", 1},     {L"Checkbox_IE_Common_Popup_Block", 1, kSinceXp},
 };
 constexpr TPresetState kTabDefault[] = {
-    {L"Checkbox_IE_Tab_Active", 1},
-    {L"Checkbox_IE_Tab_WarnOnClose", 1},
-    {L"Checkbox_IE_Tab_Foreground", 0},
-    {L"CB_IE_Tab_Popup", 0},
-    {L"CB_IE_Tab_Link", 1},
+    {L"Checkbox_IE_Tab_Active", 1, kSinceXp},
+    {L"Checkbox_IE_Tab_WarnOnClose", 1, kSinceXp},
+    {L"Checkbox_IE_Tab_Foreground", 0, kSinceXp},
+    {L"CB_IE_Tab_New", 2, kSinceXp},
+    {L"CB_IE_Tab_Popup", 0, kSinceXp},
+    {L"CB_IE_Tab_Link", 1, kSinceXp},
 };
 constexpr TPresetState kAutoCompleteDefault[] = {
     {L"Checkbox_IE_AutoComplete_Address_Suggest", 1}, {L"Checkbox_IE_AutoComplete_Address_Append", 0},
@@ -218,6 +269,7 @@ constexpr TPresetState kAdvancedDefault[] = {
     {L"Checkbox_IE_Advanced_Warning_Zone", 0},      {L"Checkbox_IE_Advanced_Warning_Redirect", 1},
     {L"Checkbox_IE_Advanced_Warning_Script", 0},    {L"Checkbox_IE_Advanced_Warning_Friendly", 1},
     {L"Checkbox_IE_Advanced_Warning_Download", 1},  {L"Checkbox_IE_Advanced_Warning_Browser", 1},
+    {L"Checkbox_IE_Advanced_Warning_Update", 1},
 };
 constexpr TPreset kPresets[] = {
     {L"Button_IE_Common_Default", kCommonDefault},
@@ -226,8 +278,11 @@ constexpr TPreset kPresets[] = {
     {L"Button_IE_Advanced_Default", kAdvancedDefault},
 };
 
-// Tabs came with Internet Explorer 7, which needs Windows XP.
-constexpr TOffer kOffers[] = {{L"TabSheet_IE_Tab", kSinceXp}};
+// Tabs came with Internet Explorer 7, which needs Windows XP, and the pop-up blocker with XP's second service pack.
+constexpr TOffer kOffers[] = {
+    {L"TabSheet_IE_Tab", kSinceXp},
+    {L"GroupBox_IE_Common_Popup", kSinceXp},
+};
 
 constexpr TPageDefinition kPage{.Tag = 8,
                                 .SharedHandler = L"Checkbox_IE_Common_Media_OpenClick",

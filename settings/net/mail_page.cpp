@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr const wchar_t* kOutlookExpress = L"\\Software\\Microsoft\\Outlook Express\\";
+constexpr const wchar_t* kOutlookExpress = L"\\SOFTWARE\\Microsoft\\Outlook Express\\";
 constexpr const wchar_t* kMessengerClient = L"\\SOFTWARE\\Policies\\Microsoft\\Messenger\\Client\\";
 
 TControlDesign Design() {
@@ -31,7 +31,7 @@ TControlDesign Design() {
 
 constexpr TRow kOutlookExpressRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Mail_OutlookExpress_Messenger",
-                 .Value = {kCurrentUser, kOutlookExpress, L"Hide Messenger"},
+                 .Value = {kLocalMachine, kOutlookExpress, L"Hide Messenger"},
                  .Shows = {.Missing = kChecked, .When = {{2, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = kDeleteValue, .Clear = Dword(2)}},
 };

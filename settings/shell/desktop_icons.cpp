@@ -122,10 +122,10 @@ constexpr TRow kMyComputerRows[] = {
 // "NoDrives" is a mask with one bit for each drive that is hidden, A: in the lowest. The list shows and changes them
 // all, so no row of it has a fixed number to record.
 constexpr int kDriveCount = 26;
-constexpr std::int32_t kAllDrives = (1 << kDriveCount) - 1;
+constexpr std::uint32_t kAllDrives = (1U << kDriveCount) - 1;
 
 void LoadDrives(TPageContext& context, const TSpecialRow& row) {
-    const std::int32_t mask = StoredNumber(context, row.Value).value_or(0);
+    const std::uint32_t mask = StoredBits(context, row.Value).value_or(0);
     std::vector<TListView::TRow> drives;
     drives.reserve(kDriveCount);
     for (int i = 0; i < kDriveCount; ++i)
@@ -135,13 +135,13 @@ void LoadDrives(TPageContext& context, const TSpecialRow& row) {
 }
 
 void RecordDrives(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    std::int32_t mask = StoredNumber(context, row.Value).value_or(0) & ~kAllDrives;
-    std::int32_t bit = 1;
+    std::uint32_t mask = StoredBits(context, row.Value).value_or(0) & ~kAllDrives;
+    std::uint32_t bit = 1;
     for (const TListView::TRow& drive : static_cast<TListView&>(sender).Rows()) {
         if (drive.Checked) mask |= bit;
         bit <<= 1;
     }
-    RecordNumber(context, sender.Name(), row.Value, mask);
+    RecordNumber(context, sender.Name(), row.Value, static_cast<std::int32_t>(mask));
 }
 
 constexpr const wchar_t* kDrives[] = {L"ListView_Folder_Drivers"};

@@ -74,17 +74,18 @@ constexpr std::int32_t kRemovableDrives = 0x04;
 constexpr std::int32_t kCdDrives = 0x20;
 
 void LoadAutoPlay(TPageContext& context, const TSpecialRow& row) {
-    const auto mask = StoredNumber(context, row.Value);
-    if (mask) context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked((*mask & row.Parameter) == 0);
+    const auto mask = StoredBits(context, row.Value);
+    const auto bit = static_cast<std::uint32_t>(row.Parameter);
+    if (mask) context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked((*mask & bit) == 0);
 }
 
 void RecordAutoPlay(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    const auto mask = StoredNumber(context, row.Value);
-    const std::int32_t bit = row.Parameter;
+    const auto mask = StoredBits(context, row.Value);
+    const auto bit = static_cast<std::uint32_t>(row.Parameter);
     // Without a stored mask the bit is set whatever the box says: the system's default mask is not known here.
-    std::int32_t changed = bit;
+    std::uint32_t changed = bit;
     if (mask) changed = static_cast<TCheckBox&>(sender).Checked() ? *mask & ~bit : *mask | bit;
-    RecordNumber(context, sender.Name(), row.Value, changed);
+    RecordNumber(context, sender.Name(), row.Value, static_cast<std::int32_t>(changed));
 }
 
 constexpr TPlace kAutoPlayMask{kCurrentUser, kUserExplorerPolicies, L"NoDriveTypeAutoRun"};

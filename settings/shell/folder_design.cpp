@@ -14,7 +14,7 @@ TControlDesign ViewSheet() {
             L"GroupBox_Folder_View_Windows", L"Folder windows",
             CheckBox(L"Checkbox_Folder_View_Windows_Tree", L"Open folders with the folder &tree"),
             CheckBox(L"Checkbox_Folder_View_Windows_ShowMenuBar", L"Always show &menus"),
-            CheckBox(L"Checkbox_Folder_View_Windows_Details", L"Allow the &preview pane"),
+            CheckBox(L"Checkbox_Folder_View_Windows_Details", L"Allow the details &pane"),
             CheckBox(L"Checkbox_Folder_View_Windows_Restore", L"Restore previous folder windows at &logon")),
         Group(L"GroupBox_Folder_View_BehaviorSet", L"View settings",
               CheckBox(L"Checkbox_Folder_View_BehaviorSet_SaveViewSet",

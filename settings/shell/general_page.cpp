@@ -247,7 +247,7 @@ struct TGeneralCatalogue {
 };
 
 // Windows 2000 knows neither the policy of the Windows key nor that of balloon tips.
-constexpr TOffer kOffers[] = {{L"GroupBox_CommonSettings_Function_Keyboard", kSinceXp},
+constexpr TOffer kOffers[] = {{L"GroupBox_CommonSettings_Function_Keyboard", kNotWindows2000},
                               {L"Checkbox_CommonSettings_Others_Message_Balloons", kSinceXp}};
 
 bool Prepare(TPageContext& context) {

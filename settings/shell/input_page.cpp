@@ -12,60 +12,74 @@ namespace {
 constexpr const wchar_t* kMouse = L"\\Control Panel\\Mouse\\";
 constexpr const wchar_t* kDesktop = L"\\Control Panel\\Desktop\\";
 
-// Special because the width and the height of a rectangle are two parameters, which the page always sets alike.
-// Windows tells some of them only as a system metric; those are read where it keeps them.
-struct TRectangle {
-    std::uint32_t SetWidth;
-    std::uint32_t SetHeight;
-    std::uint32_t GetWidth;  ///< 0 = there is no such parameter
+// Special because the width and the height of a rectangle are two parameters, which the page always sets alike, and
+// because Windows tells some measures only through functions of their own; those are read where it keeps them.
+struct TMeasure {
+    std::uint32_t Set;
+    std::uint32_t SetHeight;  ///< 0 = it is no rectangle
+    std::uint32_t Get;        ///< 0 = there is no such parameter
 };
-constexpr TRectangle kRectangles[] = {
-    {.SetWidth = 0x001D, .SetHeight = 0x001E, .GetWidth = 0},       // SPI_…DOUBLECLK…
-    {.SetWidth = 0x004C, .SetHeight = 0x004D, .GetWidth = 0},       // SPI_…DRAG…
-    {.SetWidth = 0x0063, .SetHeight = 0x0065, .GetWidth = 0x0062},  // SPI_…MOUSEHOVER…
+constexpr TMeasure kMeasures[] = {
+    {.Set = 0x001D, .SetHeight = 0x001E, .Get = 0},       // SPI_…DOUBLECLK…
+    {.Set = 0x0020, .SetHeight = 0, .Get = 0},            // SPI_SETDOUBLECLICKTIME
+    {.Set = 0x004C, .SetHeight = 0x004D, .Get = 0},       // SPI_…DRAG…
+    {.Set = 0x0063, .SetHeight = 0x0065, .Get = 0x0062},  // SPI_…MOUSEHOVER…
 };
 
-void LoadRectangle(TPageContext& context, const TSpecialRow& row) {
-    const TRectangle& rectangle = kRectangles[row.Parameter];
-    const auto width = rectangle.GetWidth == 0
-                           ? StoredNumber(context, row.Value)
-                           : static_cast<std::int32_t>(ReadParameter(context, rectangle.GetWidth));
-    if (width) context.Form.Find<TUpDown>(row.Controls[0])->SetPosition(*width);
+void LoadMeasure(TPageContext& context, const TSpecialRow& row) {
+    const TMeasure& measure = kMeasures[row.Parameter];
+    const auto size = measure.Get == 0 ? StoredNumber(context, row.Value)
+                                       : static_cast<std::int32_t>(ReadParameter(context, measure.Get));
+    if (size) context.Form.Find<TUpDown>(row.Controls[0])->SetPosition(*size);
 }
 
-void RecordRectangle(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
+void RecordMeasure(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
     const auto size = static_cast<std::uint32_t>(static_cast<TUpDown&>(sender).Position());
-    const TRectangle& rectangle = kRectangles[row.Parameter];
-    RecordParameter(context, sender.Name(), rectangle.SetWidth, size, 0U);
-    RecordParameter(context, sender.Name() + L"1", rectangle.SetHeight, size, 0U);
+    const TMeasure& measure = kMeasures[row.Parameter];
+    RecordParameter(context, sender.Name(), measure.Set, size, 0U);
+    if (measure.SetHeight != 0) RecordParameter(context, sender.Name() + L"1", measure.SetHeight, size, 0U);
 }
 
 constexpr const wchar_t* kDoubleClickError[] = {L"Updown_Use_MouseSensitivity_DoubleClickError"};
+constexpr const wchar_t* kDoubleClickTime[] = {L"UpDown_Use_MouseSensitivity_DoubleClickTime"};
 constexpr const wchar_t* kDrag[] = {L"UpDown_Use_MouseSensitivity_Drag"};
 constexpr const wchar_t* kMoveError[] = {L"UpDown_Use_MouseSensitivity_Hover_MoveError"};
 
 constexpr TRow kSensitivityRows[] = {
+    TParameterNumberRow{.Control = L"TrackBar_Use_MouseSensitivity_Speed",
+                        .Get = 0x0070,  // SPI_GETMOUSESPEED
+                        .Set = 0x0071,  // SPI_SETMOUSESPEED
+                        .Slot = TParameterSlot::Data},
     TSpecialRow{.Controls = kDoubleClickError,
                 .Value = {kCurrentUser, kMouse, L"DoubleClickWidth"},
                 .Rule = L"the number; sets the system parameters 0x1D (width) and 0x1E (height), in uiParam",
-                .Load = LoadRectangle,
-                .Record = RecordRectangle,
+                .Load = LoadMeasure,
+                .Record = RecordMeasure,
                 .Parameter = 0},
+    TSpecialRow{.Controls = kDoubleClickTime,
+                .Value = {kCurrentUser, kMouse, L"DoubleClickSpeed"},
+                .Rule = L"the number of milliseconds; sets the system parameter 0x20, in uiParam",
+                .Load = LoadMeasure,
+                .Record = RecordMeasure,
+                .Parameter = 1},
     TSpecialRow{.Controls = kDrag,
                 .Value = {kCurrentUser, kDesktop, L"DragWidth"},
                 .Rule = L"the number; sets the system parameters 0x4C (width) and 0x4D (height), in uiParam",
-                .Load = LoadRectangle,
-                .Record = RecordRectangle,
-                .Parameter = 1},
+                .Load = LoadMeasure,
+                .Record = RecordMeasure,
+                .Parameter = 2},
     TSpecialRow{.Controls = kMoveError,
                 .Value = {kCurrentUser, kMouse, L"MouseHoverWidth"},
                 .Rule = L"the system parameter 0x62; sets 0x63 (width) and 0x65 (height), in uiParam",
-                .Load = LoadRectangle,
-                .Record = RecordRectangle,
-                .Parameter = 2},
+                .Load = LoadMeasure,
+                .Record = RecordMeasure,
+                .Parameter = 3},
     TParameterNumberRow{.Control = L"UpDown_Use_MouseSensitivity_Hover_Time",
                         .Get = 0x0066,   // SPI_GETMOUSEHOVERTIME
                         .Set = 0x0067},  // SPI_SETMOUSEHOVERTIME
+    TParameterNumberRow{.Control = L"UpDown_Use_MouseSensitivity_Tilt_Count",
+                        .Get = 0x006C,   // SPI_GETWHEELSCROLLCHARS
+                        .Set = 0x006D},  // SPI_SETWHEELSCROLLCHARS
 };
 
 // Special because Windows tells whether the buttons are swapped only as a system metric.
@@ -190,19 +204,27 @@ void RecordBlink(TPageContext& context, const TSpecialRow& row, TComponent& send
     RecordText(context, sender.Name(), row.Value, std::to_wstring(time > kSlowestBlink ? kNoBlink : time));
 }
 
-// Special because the value is a set of bits, one for each light of the keyboard, kept as decimal text.
+// Special because the value is a set of bits, one for each light of the keyboard, kept as decimal text without a sign.
+// Some systems write it anew at logoff; that of the default user, which the logon screen reads, lasts. Apply leaves
+// that one out where the user has no rights to it.
 constexpr const wchar_t* kNumLock[] = {L"Checkbox_Use_Keyboard_NumLock_Active"};
-constexpr std::int32_t kNumLockLight = 2;
+constexpr std::uint32_t kNumLockLight = 2;
+constexpr TPlace kLights{kCurrentUser, L"\\Control Panel\\Keyboard\\", L"InitialKeyboardIndicators"};
+constexpr TPlace kLogonLights{kUsers, L"\\.DEFAULT\\Control Panel\\Keyboard\\", kLights.ValueName};
 
 void LoadNumLock(TPageContext& context, const TSpecialRow& row) {
-    const auto lights = StoredNumber(context, row.Value);
+    const auto lights = StoredBits(context, row.Value);
     if (lights) context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked((*lights & kNumLockLight) != 0);
 }
 
 void RecordNumLock(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    const std::int32_t others = StoredNumber(context, row.Value).value_or(0) & ~kNumLockLight;
-    const bool on = static_cast<TCheckBox&>(sender).Checked();
-    RecordText(context, sender.Name(), row.Value, std::to_wstring(on ? others | kNumLockLight : others));
+    const std::uint32_t light = static_cast<TCheckBox&>(sender).Checked() ? kNumLockLight : 0;
+    const auto record = [&](const std::wstring& name, const TPlace& place) {
+        const std::uint32_t others = StoredBits(context, place).value_or(0) & ~kNumLockLight;
+        RecordText(context, name, place, std::to_wstring(others | light));
+    };
+    record(sender.Name(), row.Value);
+    record(sender.Name() + L"1", kLogonLights);
 }
 
 constexpr TRow kKeyboardRows[] = {
@@ -228,8 +250,9 @@ constexpr TRow kKeyboardRows[] = {
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)},
                  .Restart = true},
     TSpecialRow{.Controls = kNumLock,
-                .Value = {kCurrentUser, L"\\Control Panel\\Keyboard\\", L"InitialKeyboardIndicators"},
-                .Rule = L"checked when the bit 2 is set; changes that bit alone, as text",
+                .Value = kLights,
+                .Rule = L"checked when the bit 2 is set; changes that bit alone, as text, here and below "
+                        L"`HKU\\.DEFAULT`",
                 .Load = LoadNumLock,
                 .Record = RecordNumLock},
 };
@@ -237,24 +260,31 @@ constexpr TRow kKeyboardRows[] = {
 constexpr TLoader kLoaders[] = {kSensitivityRows, kFunctionRows, kKeyboardRows};
 
 constexpr TPresetState kSensitivityDefault[] = {
+    {L"TrackBar_Use_MouseSensitivity_Speed", 10},
     {L"Updown_Use_MouseSensitivity_DoubleClickError", 4},
+    {L"UpDown_Use_MouseSensitivity_DoubleClickTime", 500},
     {L"UpDown_Use_MouseSensitivity_Drag", 4},
     {L"UpDown_Use_MouseSensitivity_Hover_MoveError", 4},
     {L"UpDown_Use_MouseSensitivity_Hover_Time", 400},
+    {L"UpDown_Use_MouseSensitivity_Tilt_Count", 3, kSinceVista},
 };
 constexpr TPresetState kFunctionDefault[] = {
-    {L"Checkbox_Use_MouseFunction_ChangeKey_Change", 0}, {L"Radio_Use_MouseFunction_Wheel_RollRow", 1},
-    {L"UpDown_Use_MouseFunction_Wheel_Count", 3},        {L"Checkbox_Use_MouseFunction_Pointer_Shadow", 1},
-    {L"Checkbox_Use_MouseFunction_Pointer_Vanish", 1},   {L"Checkbox_Use_MouseFunction_Pointer_Sonar", 0},
-    {L"Checkbox_Use_MouseFunction_Pointer_Snap", 0},     {L"Checkbox_Use_MouseFunction_Pointer_Tracking", 0},
-    {L"Checkbox_Use_MouseFunction_Trails_Show", 0},
+    {L"Checkbox_Use_MouseFunction_ChangeKey_Change", 0},
+    {L"Radio_Use_MouseFunction_Wheel_RollRow", 1},
+    {L"UpDown_Use_MouseFunction_Wheel_Count", 3},
+    {L"Checkbox_Use_MouseFunction_Pointer_Shadow", 1},
+    {L"Checkbox_Use_MouseFunction_Pointer_Vanish", 1, kSinceXp},
+    {L"Checkbox_Use_MouseFunction_Pointer_Sonar", 0, kSinceXp},
+    {L"Checkbox_Use_MouseFunction_Pointer_Snap", 0},
+    {L"Checkbox_Use_MouseFunction_Pointer_Tracking", 0},
+    {L"Checkbox_Use_MouseFunction_Trails_Show", 0, kSinceXp},
 };
 constexpr TPresetState kKeyboardDefault[] = {
     {L"TrackBar_Use_Keyboard_Repeat_Delay", 1},
     {L"TrackBar_Use_Keyboard_Repeat_Rate", 31},
     {L"TrackBar_Use_Keyboard_BlinkingCursor_Speed", kDefaultBlinkSpeed},
     {L"UpDown_Use_Keyboard_CursorWidth_Width", 1},
-    {L"Checkbox_Use_Keyboard_WinKey_Active", 1},
+    {L"Checkbox_Use_Keyboard_WinKey_Active", 1, kNotWindows2000},
     {L"Checkbox_Use_Keyboard_NumLock_Active", 0},
 };
 constexpr TPreset kPresets[] = {
@@ -263,8 +293,10 @@ constexpr TPreset kPresets[] = {
     {L"Button_Use_Keyboard_Default", kKeyboardDefault},
 };
 
-// Windows 2000 has none of these.
+// Windows 2000 has none of these. The policy for the Windows key came with XP and Server 2003.
 constexpr TOffer kOffers[] = {
+    {L"GroupBox_Use_MouseSensitivity_Tilt", kSinceVista},
+    {L"Checkbox_Use_Keyboard_WinKey_Active", kNotWindows2000},
     {L"Checkbox_Use_MouseFunction_Pointer_Vanish", kSinceXp},
     {L"Checkbox_Use_MouseFunction_Pointer_Sonar", kSinceXp},
     {L"GroupBox_Use_MouseFunction_Trails", kSinceXp},

@@ -6,7 +6,7 @@
 #include "platform/system.h"
 
 /// A key for the tests alone. It does not exist when a test begins, below any of the roots: HKEY_CLASSES_ROOT
-/// itself and the folder "Software" of the others.
+/// itself, and the key "Software" of the user's, the computer's and the default user's.
 struct TContractKey {
     TRootKey Root;
     const wchar_t* Path;
@@ -15,6 +15,7 @@ inline constexpr TContractKey kContractKeys[] = {
     {TRootKey::CurrentUser, L"\\Software\\Vandrel-Contract-Test"},
     {TRootKey::LocalMachine, L"\\Software\\Vandrel-Contract-Test"},
     {TRootKey::ClassesRoot, L"\\Vandrel-Contract-Test"},
+    {TRootKey::Users, L"\\.DEFAULT\\Software\\Vandrel-Contract-Test"},
 };
 inline constexpr TContractKey kUserKey = kContractKeys[0];
 

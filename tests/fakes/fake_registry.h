@@ -22,7 +22,8 @@ class TFakeRegistry : public TRegistry {
 
   public:
     TFakeRegistry() {
-        for (const TRootKey root : {TRootKey::ClassesRoot, TRootKey::CurrentUser, TRootKey::LocalMachine})
+        using enum TRootKey;
+        for (const TRootKey root : {ClassesRoot, CurrentUser, LocalMachine, Users})
             FKeys.push_back({Path(root, {}), {}});
     }
 

@@ -54,7 +54,7 @@ TEST_F(TNumericFieldsTest, EveryRowIsAFieldOfItsOwn) {
         EXPECT_LT(field.Min, field.Max);
         EXPECT_EQ(std::wstring(field.PageHandler).find(L"Edit"), std::wstring::npos);
     }
-    EXPECT_EQ(edits.size(), 21U);
+    EXPECT_EQ(edits.size(), 23U);
 }
 
 TEST_F(TNumericFieldsTest, TheMaximumHoldsWhileTypingAndTheMinimumOnLeaving) {

@@ -108,6 +108,10 @@ TEST(TText, ParsesWholeDecimalNumbersOnly) {
     for (const wchar_t* text : {L"2147483648", L"-2147483649", L"99999999999999999999999999", L"", L"-",
                                 L"+-1", L" 1", L"1 ", L"0x10", L"1.5", L"\u0661"})
         EXPECT_EQ(ParseInteger(text), std::nullopt) << testing::PrintToString(std::wstring(text));
+    for (const std::int64_t bits : {0LL, 2LL, 2147483648LL, 4294967295LL, -1LL, -2147483648LL})
+        EXPECT_EQ(ParseBits(std::to_wstring(bits)), static_cast<std::uint32_t>(bits)) << bits;
+    for (const wchar_t* text : {L"4294967296", L"-2147483649", L"", L"0x2"})
+        EXPECT_EQ(ParseBits(text), std::nullopt) << testing::PrintToString(std::wstring(text));
 }
 
 }  // namespace

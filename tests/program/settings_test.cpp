@@ -40,6 +40,7 @@ constexpr const wchar_t* kVisits = L"Checkbox_Drives_Common_NTFS_SaveLastVisitDa
 constexpr const wchar_t* kStartup = L"RzGroup_Others.Items[1]";
 constexpr const wchar_t* kFolders = L"RzGroup_Display.Items[1]";
 constexpr const wchar_t* kInformation = L"RzGroup_Communication.Items[0]";
+constexpr const wchar_t* kInput = L"RzGroup_Communication.Items[1]";
 
 const TSetting kSettings[] = {
     {kDriverItem, kUdmaBox, Click, kEnableUdma, Dword(1), true},
@@ -68,6 +69,9 @@ const TSetting kSettings[] = {
     {kInformation, L"Edit_System_Common_Infomation_Name", Type(L"Ada L\u00F8v"),
      TPlace{kMachine, L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion", L"RegisteredOwner"},
      Text(L"Ada L\u00F8v")},
+    // Windows keeps what it is told.
+    {kInput, L"Edit_Use_MouseSensitivity_DoubleClickTime", Type(L"450"),
+     TPlace{kUser, L"Control Panel\\Mouse", L"DoubleClickSpeed"}, Text(L"450")},
     // The box of the back button records what another box shows.
     {kInformation, L"Checkbox_System_CommonDialog_FolderNavigation_ShowReturn", Click,
      TPlace{kUser, L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\comdlg32", L"NoBackButton"},

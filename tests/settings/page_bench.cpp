@@ -42,6 +42,7 @@ std::wstring Line(const TRegRecor& record) {
     }
     const wchar_t* root = record.RootKey == TRootKey::LocalMachine  ? L"HKLM"
                           : record.RootKey == TRootKey::CurrentUser ? L"HKCU"
+                          : record.RootKey == TRootKey::Users       ? L"HKU"
                                                                     : L"HKCR";
     const std::wstring key = root + record.Key;
     const std::wstring place = key + L'[' + record.ValueName + L']';

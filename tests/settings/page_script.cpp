@@ -62,12 +62,15 @@ TRegistryData Value(const TLine& text) {
 }
 
 TRegistryPlace Place(const TLine& text) {
-    const std::size_t name = text.rfind(L'[');
-    const TLine root = text.substr(0, 4);
+    const std::size_t key = text.find(L'\\');
+    const std::size_t name = std::min(text.rfind(L'['), text.size());
+    const TLine root = text.substr(0, key);
     return {root == L"HKLM"   ? TRootKey::LocalMachine
             : root == L"HKCU" ? TRootKey::CurrentUser
+            : root == L"HKU"  ? TRootKey::Users
                               : TRootKey::ClassesRoot,
-            text.substr(4, name - 4), text.substr(name + 1, text.size() - name - 2)};
+            text.substr(key, name - key),
+            name == text.size() ? TLine() : text.substr(name + 1, text.size() - name - 2)};
 }
 
 class TScene {
@@ -206,6 +209,11 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
      [](TScene& s, TLine rest, const TLines&) {
          const TRegistryPlace place = Place(Take(rest, L" = "));
          s.FBench.Fake.Registry.Put(place, Value(rest));
+     }},
+    {L"denied",
+     [](TScene& s, TLine rest, const TLines&) {
+         const TRegistryPlace place = Place(rest);
+         s.FBench.Fake.Registry.DenyAccess(place.Root, place.Key);
      }},
     {L"pending", AddPending},
     {L"parameter",

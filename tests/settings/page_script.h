@@ -6,7 +6,8 @@
 //
 // What the scene finds:
 //   level 5                               the Windows level; 7 when nothing is said
-//   stored PLACE = VALUE                  a registry value: PLACE is HKLM\key[value name]; VALUE is 1, "text", hex 1E 00 or other
+//   stored PLACE = VALUE                  a registry value: PLACE is HKLM\key[value name], or HKCU, HKU, HKCR; VALUE is 1, "text", hex 1E 00 or other
+//   denied HKU\key                        the user has no rights to the key and what is below it
 //   pending PLACE = VALUE                 a change of another page that is not written yet
 //   parameter 0x26 = VALUE                what SystemParametersInfo answers
 //   service MpsSvc running                or stopped, or paused

@@ -62,6 +62,20 @@ TEST(TPage, WhatIsNotOfferedIsHiddenAndNotLoaded) {
     }
 }
 
+TEST(TPage, PresetsSetWhatIsMeantForTheWindows) {
+    static constexpr TPresetState kStates[] = {{L"Box", 1, kSinceXp}, {L"List", 1}};
+    constexpr TPreset kPresets[] = {{L"StrayButton", kStates}};
+    TPageDefinition page = kPage;
+    page.Presets = kPresets;
+    for (const int level : {4, 5}) {
+        TPageBench bench(page);
+        bench.Context.WindowsLevel = level;
+        bench.Act(L"StrayButton", {});
+        EXPECT_EQ(bench.Checked(L"Box"), level >= 5);
+        EXPECT_EQ(bench.State(L"List"), L"1");
+    }
+}
+
 TEST(TPage, APreparationThatFailsKeepsTheLoadersFromRunning) {
     TPageDefinition page = kPage;
     page.Offers = kOffers;

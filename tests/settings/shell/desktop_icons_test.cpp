@@ -20,6 +20,7 @@ TEST(TDesktopIcons, TheListOfDrivesIsTheLower26BitsOfTheMask) {
         {Number(static_cast<std::int32_t>(0x86000004)), L"CZ", static_cast<std::int32_t>(0x86000001)},
         {Bytes({5, 0, 0, 2}), L"ACZ", 0x2000000},
         {String(L"none"), L"", 0x5},
+        {String(L"2147483652"), L"C", INT32_MIN + 1},
     };
     for (const TCase& c : cases) {
         TPageBench bench(DesktopIcons());
