@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int kScrollLine = 20;  // at 96 dots per inch
+
 /// The template of an empty dialog of a window class, as CreateDialogIndirectParamW wants it.
 std::vector<WORD> EmptyDialog(const wchar_t* windowClass, DWORD style, DWORD extendedStyle) {
     std::vector<WORD> words{LOWORD(style), HIWORD(style), LOWORD(extendedStyle), HIWORD(extendedStyle)};
@@ -67,14 +69,9 @@ LRESULT TContainerPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SIZE:
             LayOut();
             break;
-        case WM_MOUSEWHEEL: {
-            UINT lines = 3;
-            SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-            const int line = FForm.Screen().Scale(20);
-            if (ScrollBy(-GET_WHEEL_DELTA_WPARAM(wParam) * static_cast<int>(lines) * line / WHEEL_DELTA))
-                return 0;
+        case WM_MOUSEWHEEL:
+            if (ScrollByWheel(GET_WHEEL_DELTA_WPARAM(wParam))) return 0;
             break;  // the container around this one may have something to scroll
-        }
         case WM_VSCROLL:
             if (lParam == 0) {
                 Scroll(wParam);
@@ -160,13 +157,18 @@ void TContainerPeer::SetScrollRange(int content, int visible) {
     SetScrollInfo(Handle(), SB_VERT, &info, TRUE);
 }
 
-void TContainerPeer::Scroll(WPARAM request) {
+SCROLLINFO TContainerPeer::ScrollState() const {
     SCROLLINFO info{};
     info.cbSize = sizeof info;
     info.fMask = SIF_ALL;
     GetScrollInfo(Handle(), SB_VERT, &info);
+    return info;
+}
+
+void TContainerPeer::Scroll(WPARAM request) {
+    const SCROLLINFO info = ScrollState();
     const int page = static_cast<int>(info.nPage);
-    const int line = FForm.Screen().Scale(20);
+    const int line = FForm.Screen().Scale(kScrollLine);
     switch (LOWORD(request)) {
         case SB_LINEUP:
             ScrollBy(-line);
@@ -201,6 +203,23 @@ bool TContainerPeer::ScrollBy(int distance) {
     LayOut();
     InvalidateRect(Handle(), nullptr, TRUE);
     return true;
+}
+
+bool TContainerPeer::ScrollByWheel(int delta) {
+    const SCROLLINFO info = ScrollState();
+    const int page = static_cast<int>(info.nPage);
+    if (info.nMax < page) return false;
+    UINT lines = 3;
+    SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    // At most a page, for which WHEEL_PAGESCROLL, a huge number, stands as well.
+    const int line = FForm.Screen().Scale(kScrollLine);
+    const int notch = lines < static_cast<UINT>(page / line) ? static_cast<int>(lines) * line : page;
+    // Fine wheels report parts of a notch.
+    if ((FWheelRest > 0) == (delta > 0)) FWheelRest = 0;
+    FWheelRest -= delta * notch;
+    const int distance = FWheelRest / WHEEL_DELTA;
+    FWheelRest %= WHEEL_DELTA;
+    return distance == 0 || ScrollBy(distance);
 }
 
 void TContainerPeer::ScrollTo(HWND inner) {

@@ -1,6 +1,7 @@
 #include "ui/win32/field_peers.h"
 
 #include "ui/win32/form_window.h"
+#include "ui/win32/wheel_guard.h"
 
 namespace {
 
@@ -78,6 +79,7 @@ LRESULT CALLBACK TEditPeer::KeyProc(HWND window, UINT message, WPARAM wParam, LP
 
 TComboBoxPeer::TComboBoxPeer(TFormWindow& form, TComboBox& box, HWND parent) : TWindowPeer(form, box) {
     Create(parent, WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP);
+    PassWheelOn(Handle());
 }
 
 void TComboBoxPeer::OnCommand(WORD code) {

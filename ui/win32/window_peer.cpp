@@ -28,6 +28,29 @@ void TWindowPeer::Adopt(HWND handle) {
     ShowState();
 }
 
+void TWindowPeer::Subclass() {
+    SetWindowLongPtrW(FHandle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    FBaseProc = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(FHandle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(SubclassProc)));
+}
+
+LRESULT CALLBACK TWindowPeer::SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* peer = reinterpret_cast<TWindowPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (peer->FHandle == nullptr) return CallWindowProcW(peer->FBaseProc, window, message, wParam, lParam);
+    TFormWindow& form = peer->FForm;
+    try {
+        return peer->OnMessage(message, wParam, lParam);
+    } catch (...) {
+        // No exception may cross Windows' own frames.
+        form.Fault(std::current_exception());
+        return 0;
+    }
+}
+
+LRESULT TWindowPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return CallWindowProcW(FBaseProc, FHandle, message, wParam, lParam);
+}
+
 void TWindowPeer::Place(const TRect& place) {
     SetWindowPos(FHandle, nullptr, place.Left, place.Top, place.Width, place.Height,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);

@@ -40,6 +40,11 @@ class TWindowPeer : public TPeer {
     /// Takes over a window that was made otherwise.
     void Adopt(HWND handle);
 
+    /// Lets OnMessage handle the messages of a window whose class is Windows' own.
+    void Subclass();
+    /// Handles a message of the window.
+    virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
     /// Shows the control's state; called on creation too.
     virtual void ShowState() {}
     virtual void ShowItems() {}
@@ -54,6 +59,9 @@ class TWindowPeer : public TPeer {
     TFormWindow& FForm;
 
   private:
+    static LRESULT CALLBACK SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
     TControl& FControl;
     HWND FHandle = nullptr;
+    WNDPROC FBaseProc = nullptr;  ///< of the window's class, once it is subclassed
 };
