@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ui/win32/form_window.h"
+
 namespace {
 
 TWindowPeer* PeerOf(const TControl& control) { return dynamic_cast<TWindowPeer*>(control.Peer()); }
@@ -112,4 +114,23 @@ bool TRadioButtonPeer::Choose(WPARAM key) {
 
 TGroupBoxPeer::TGroupBoxPeer(TFormWindow& form, TGroupBox& group, HWND parent) : TWindowPeer(form, group) {
     Create(parent, WC_BUTTONW, BS_GROUPBOX | WS_GROUP, WS_EX_TRANSPARENT);
+}
+
+/// Windows takes the whole area of the window for covered, but a group box draws its frame only: the parent draws what
+/// is below that, before and after the move.
+void TGroupBoxPeer::Place(const TRect& place) {
+    if (place == Placed()) return;
+    RedrawFrame();
+    Move(place, SWP_NOREDRAW);
+    RedrawFrame();
+}
+
+void TGroupBoxPeer::RedrawFrame() const {
+    constexpr int kFrameWidth = 5;  // at 96 dots per inch; the controls in the box keep a greater distance
+    const TScreen& screen = FForm.Screen();
+    const int edge = screen.Scale(kFrameWidth);
+    const int caption = screen.TextSize(L"0", 1).Height;
+    const TRect& place = Placed();
+    RedrawBelow({place.Left + edge, place.Top + caption, place.Left + place.Width - edge,
+                 place.Top + place.Height - edge});
 }

@@ -38,4 +38,8 @@ class TRadioButtonPeer : public TWindowPeer {
 class TGroupBoxPeer : public TWindowPeer {
   public:
     TGroupBoxPeer(TFormWindow& form, TGroupBox& group, HWND parent);
+    void Place(const TRect& place) override;
+
+  private:
+    void RedrawFrame() const;
 };

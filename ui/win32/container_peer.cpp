@@ -41,6 +41,7 @@ void TContainerPeer::CreateContainer(HWND parent, const wchar_t* windowClass, DW
         RegisterClassExW(&description);
     }
     if (IsShown() && (style & WS_CHILD) != 0) style |= WS_VISIBLE;
+    style |= WS_CLIPSIBLINGS | WS_CLIPCHILDREN;  // it draws only what no other window does
     const std::vector<WORD> dialog = EmptyDialog(windowClass, style, extendedStyle | WS_EX_CONTROLPARENT);
     const HWND window = CreateDialogIndirectParamW(
         FForm.Instance(), reinterpret_cast<const DLGTEMPLATE*>(dialog.data()), parent, nullptr, 0);
@@ -113,6 +114,12 @@ LRESULT TContainerPeer::Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void TContainerPeer::CreateContent() {
     for (TControl* child : Control().Children()) CreatePeer(FForm, *child, Handle());
+}
+
+/// A container that only grows or shrinks keeps what it shows; what moves in it is drawn anew.
+void TContainerPeer::Place(const TRect& place) {
+    const bool stays = place.Left == Placed().Left && place.Top == Placed().Top;
+    Move(place, stays ? 0 : SWP_NOCOPYBITS);
 }
 
 int TContainerPeer::Margin() const { return FForm.Screen().Scale(FMargin); }
@@ -201,7 +208,6 @@ bool TContainerPeer::ScrollBy(int distance) {
     SetScrollPos(Handle(), SB_VERT, before + distance, TRUE);
     if (GetScrollPos(Handle(), SB_VERT) == before) return false;
     LayOut();
-    InvalidateRect(Handle(), nullptr, TRUE);
     return true;
 }
 
@@ -237,5 +243,5 @@ void TContainerPeer::ScrollTo(HWND inner) {
 
 TPlainContainerPeer::TPlainContainerPeer(TFormWindow& form, TControl& control, HWND parent, int margin)
     : TContainerPeer(form, control, margin) {
-    CreateContainer(parent, kContainerClass, WS_CHILD | WS_CLIPSIBLINGS | DS_CONTROL, 0);
+    CreateContainer(parent, kContainerClass, WS_CHILD | DS_CONTROL, 0);
 }

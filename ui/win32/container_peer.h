@@ -16,6 +16,8 @@ class TContainerPeer : public TWindowPeer {
 
     ~TContainerPeer() override;
 
+    void Place(const TRect& place) override;
+
     /// Places the content anew.
     virtual void LayOut();
 

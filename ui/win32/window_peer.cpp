@@ -51,9 +51,27 @@ LRESULT TWindowPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return CallWindowProcW(FBaseProc, FHandle, message, wParam, lParam);
 }
 
-void TWindowPeer::Place(const TRect& place) {
+// Drawn anew: a copy of what the window showed would bring along what lay over it or what its parent cut off.
+void TWindowPeer::Place(const TRect& place) { Move(place, SWP_NOCOPYBITS); }
+
+void TWindowPeer::Move(const TRect& place, UINT flags) {
+    if (place == FPlace) return;
+    FPlace = place;
     SetWindowPos(FHandle, nullptr, place.Left, place.Top, place.Width, place.Height,
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER | flags);
+}
+
+void TWindowPeer::RedrawBelow(const RECT& hole) const {
+    const HWND parent = GetParent(FHandle);
+    RECT place{};
+    GetWindowRect(FHandle, &place);
+    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+    const HRGN around = CreateRectRgnIndirect(&place);
+    const HRGN inside = CreateRectRgnIndirect(&hole);
+    CombineRgn(around, around, inside, RGN_DIFF);
+    RedrawWindow(parent, nullptr, around, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    DeleteObject(inside);
+    DeleteObject(around);
 }
 
 void TWindowPeer::Detach() {

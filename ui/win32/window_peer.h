@@ -28,7 +28,7 @@ class TWindowPeer : public TPeer {
     virtual void OnScroll() {}
     virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
 
-    /// Moves the window to its place in the parent.
+    /// Moves the window to its place in the parent; nothing happens when it is there.
     virtual void Place(const TRect& place);
 
     /// Forgets the window, which is about to be destroyed, and withdraws its automation name.
@@ -52,6 +52,13 @@ class TWindowPeer : public TPeer {
     [[nodiscard]] virtual std::wstring WindowText() const { return FControl.Caption(); }
     [[nodiscard]] virtual bool IsShown() const;
 
+    /// Where the window was placed last.
+    [[nodiscard]] const TRect& Placed() const { return FPlace; }
+    /// Moves the window; `flags` are those of SetWindowPos that say how it is drawn.
+    void Move(const TRect& place, UINT flags);
+    /// Has the parent draw anew where the window is, and the windows there with it; not inside of `hole`.
+    void RedrawBelow(const RECT& hole = {}) const;
+
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return SendMessageW(FHandle, message, wParam, lParam);
     }
@@ -64,4 +71,5 @@ class TWindowPeer : public TPeer {
     TControl& FControl;
     HWND FHandle = nullptr;
     WNDPROC FBaseProc = nullptr;  ///< of the window's class, once it is subclassed
+    TRect FPlace;
 };
