@@ -1,4 +1,7 @@
 // What a window shows after it changed is what it would show if it were drawn for the first time.
+#include <array>
+#include <bit>
+
 #include "tests/win32/peer_bench.h"
 #include "ui/containers.h"
 
@@ -125,6 +128,26 @@ class PaintTest : public TPeerBench {
         Get<TCheckBox>(L"Box").SetVisible(true);
         ExpectFreshlyDrawn("a control more");
     }
+    /// The form shows what a new one would show.
+    void ExpectLikeNew(const char* when) {
+        HandleMessages();
+        RECT place{};
+        GetWindowRect(FormWindow(), &place);
+        const std::vector<COLORREF> shown = PixelsOf(FormWindow());
+        TForm other(L"Other", L"TPeerBenchForm");
+        BuildAll(other);
+        other.Find<TPageControl>(L"Tabs")->SetActiveSheet(
+            *other.Find<TTabSheet>(Get<TPageControl>(L"Tabs").ActiveSheet()->Name()));
+        auto& window = TFormWindow::Attach(other, GetModuleHandleW(nullptr), {});
+        window.Show(SW_SHOW);
+        MoveWindow(window.Handle(), place.left, place.top, place.right - place.left, place.bottom - place.top,
+                   TRUE);
+        HandleMessages();
+        EXPECT_EQ(Difference(shown, PixelsOf(window.Handle())), 0) << when;
+        DestroyWindow(window.Handle());
+        MSG quit;
+        PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    }
 
   private:
     /// In how many dots two pictures differ.
@@ -138,6 +161,93 @@ class PaintTest : public TPeerBench {
     }
 };
 
+/// The theme of Windows, which comes back when the object goes.
+class TTheme {
+  public:
+    TTheme() {
+        const auto name =
+            Find<HRESULT WINAPI(wchar_t*, int, wchar_t*, int, wchar_t*, int)>("GetCurrentThemeName");
+        name(FFile, MAX_PATH, FColor, MAX_PATH, FSize, MAX_PATH);
+    }
+    ~TTheme() { SwitchOn(); }
+    TTheme(const TTheme&) = delete;
+    TTheme& operator=(const TTheme&) = delete;
+
+    void SwitchOff() const { Apply(nullptr); }
+    void SwitchOn() const {
+        const auto open =
+            Find<HRESULT WINAPI(const wchar_t*, const wchar_t*, const wchar_t*, HANDLE*, DWORD)>(
+                MAKEINTRESOURCEA(2));
+        HANDLE theme = nullptr;
+        if (SUCCEEDED(open(FFile, FColor, FSize, &theme, 0))) Apply(theme);
+    }
+    bool IsActive() const { return Find<BOOL WINAPI()>("IsThemeActive")(); }
+
+  private:
+    template <typename TFunction>
+    TFunction* Find(const char* name) const {
+        return std::bit_cast<TFunction*>(GetProcAddress(FLibrary, name));
+    }
+    void Apply(HANDLE theme) const {
+        Find<HRESULT WINAPI(HANDLE, char*, HWND)>(MAKEINTRESOURCEA(4))(theme, nullptr, nullptr);
+    }
+
+    HMODULE FLibrary = LoadLibraryW(L"uxtheme.dll");
+    wchar_t FFile[MAX_PATH]{};
+    wchar_t FColor[MAX_PATH]{};
+    wchar_t FSize[MAX_PATH]{};
+};
+
 TEST_F(PaintTest, EverySizeLooksFreshlyDrawn) { ExpectSizesAreDrawnRight(); }
+
+TEST_F(PaintTest, TheThemeCanGoAndComeBack) {
+    const TTheme theme;
+    ASSERT_TRUE(theme.IsActive());
+    theme.SwitchOff();
+    ASSERT_FALSE(theme.IsActive());
+    ExpectLikeNew("classic");
+    ExpectSizesAreDrawnRight();
+    theme.SwitchOn();
+    ASSERT_TRUE(theme.IsActive());
+    ExpectLikeNew("themed");
+}
+
+TEST_F(PaintTest, FontsFollow) {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    NONCLIENTMETRICSW larger = metrics;
+    larger.lfMessageFont.lfHeight += larger.lfMessageFont.lfHeight / 3;
+    larger.iScrollWidth += 10;
+    for (NONCLIENTMETRICSW* now : {&larger, &metrics}) {
+        SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof *now, now, 0);
+        SendMessageW(FormWindow(), WM_SETTINGCHANGE, SPI_SETNONCLIENTMETRICS, 0);
+        ExpectLikeNew(now == &larger ? "larger" : "as before");
+    }
+}
+
+WNDPROC g_trackBar = nullptr;
+bool g_toldTrackBar = false;
+LRESULT CALLBACK WatchTrackBar(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_SYSCOLORCHANGE) g_toldTrackBar = true;
+    return CallWindowProcW(g_trackBar, window, message, wParam, lParam);
+}
+
+TEST_F(PaintTest, ColoursFollow) {
+    const TTheme theme;
+    theme.SwitchOff();  // its controls have colours of their own
+    g_trackBar = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(Window(L"Track"), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WatchTrackBar)));
+    const INT elements[] = {COLOR_WINDOW, COLOR_3DFACE, COLOR_BTNTEXT};
+    const std::array<COLORREF, 3> dark{RGB(0, 0, 60), RGB(60, 60, 60), RGB(255, 255, 255)};
+    std::array<COLORREF, 3> before{};
+    for (std::size_t i = 0; i < before.size(); ++i) before[i] = GetSysColor(elements[i]);
+    for (const auto& colors : {dark, before}) {
+        SetSysColors(3, elements, colors.data());
+        SendMessageW(FormWindow(), WM_SYSCOLORCHANGE, 0, 0);
+        EXPECT_TRUE(std::exchange(g_toldTrackBar, false));
+        ExpectLikeNew(colors == dark ? "dark" : "as before");
+    }
+}
 
 }  // namespace

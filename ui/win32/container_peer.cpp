@@ -73,6 +73,11 @@ LRESULT TContainerPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_MOUSEWHEEL:
             if (ScrollByWheel(GET_WHEEL_DELTA_WPARAM(wParam))) return 0;
             break;  // the container around this one may have something to scroll
+        // Windows tells a form only, common controls want to know.
+        case WM_SETTINGCHANGE:
+        case WM_SYSCOLORCHANGE:
+            Forward(message, wParam, lParam);
+            break;
         case WM_VSCROLL:
             if (lParam == 0) {
                 Scroll(wParam);
@@ -112,6 +117,11 @@ LRESULT TContainerPeer::Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+void TContainerPeer::Forward(UINT message, WPARAM wParam, LPARAM lParam) const {
+    for (HWND inner = GetWindow(Handle(), GW_CHILD); inner != nullptr; inner = GetWindow(inner, GW_HWNDNEXT))
+        SendMessageW(inner, message, wParam, lParam);
+}
+
 void TContainerPeer::CreateContent() {
     for (TControl* child : Control().Children()) CreatePeer(FForm, *child, Handle());
 }
@@ -119,7 +129,7 @@ void TContainerPeer::CreateContent() {
 /// A container that only grows or shrinks keeps what it shows; what moves in it is drawn anew.
 void TContainerPeer::Place(const TRect& place) {
     const bool stays = place.Left == Placed().Left && place.Top == Placed().Top;
-    Move(place, stays ? 0 : SWP_NOCOPYBITS);
+    Move(place, stays ? 0 : SWP_NOCOPYBITS | SWP_FRAMECHANGED);
 }
 
 int TContainerPeer::Margin() const { return FForm.Screen().Scale(FMargin); }

@@ -50,6 +50,8 @@ class TContainerPeer : public TWindowPeer {
     bool ScrollBy(int distance);
     /// Scrolls as the wheel was turned: up by WHEEL_DELTA for a notch, or by parts of it. False like ScrollBy.
     bool ScrollByWheel(int delta);
+    /// Hands a message to all the container's windows.
+    void Forward(UINT message, WPARAM wParam, LPARAM lParam) const;
     void SetScrollRange(int content, int visible);
 
     int FMargin;

@@ -113,3 +113,8 @@ void TTabSheetPeer::Update(TControlAspect aspect) {
     else
         TContainerPeer::Update(aspect);
 }
+
+void TTabSheetPeer::Restyle() {
+    TContainerPeer::Restyle();
+    EnableThemeTabTexture(Handle());  // the theme may be new
+}

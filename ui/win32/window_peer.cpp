@@ -51,6 +51,11 @@ LRESULT TWindowPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return CallWindowProcW(FBaseProc, FHandle, message, wParam, lParam);
 }
 
+void TWindowPeer::Restyle() {
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(FForm.Screen().Font()));
+    FPlace = {};
+}
+
 // Drawn anew: a copy of what the window showed would bring along what lay over it or what its parent cut off.
 void TWindowPeer::Place(const TRect& place) { Move(place, SWP_NOCOPYBITS); }
 

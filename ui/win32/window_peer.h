@@ -28,6 +28,9 @@ class TWindowPeer : public TPeer {
     virtual void OnScroll() {}
     virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
 
+    /// Takes over the fonts and measures that were changed in Windows; the window has to be placed anew.
+    virtual void Restyle();
+
     /// Moves the window to its place in the parent; nothing happens when it is there.
     virtual void Place(const TRect& place);
 
