@@ -221,7 +221,7 @@ TEST_F(PaintTest, FontsFollow) {
     larger.iScrollWidth += 10;
     for (NONCLIENTMETRICSW* now : {&larger, &metrics}) {
         SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof *now, now, 0);
-        SendMessageW(FormWindow(), WM_SETTINGCHANGE, SPI_SETNONCLIENTMETRICS, 0);
+        SendMessageW(FormWindow(), WM_SETTINGCHANGE, now == &larger ? SPI_SETNONCLIENTMETRICS : 0, 0);
         ExpectLikeNew(now == &larger ? "larger" : "as before");
     }
 }

@@ -318,8 +318,9 @@ LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lPar
         case WM_DESTROY:
             FFormWindow.Destroyed();
             return 0;
-        case WM_SETTINGCHANGE:  // of anything: mostly the fonts stay
-            if (!FFormWindow.Screen().IsCurrent()) FFormWindow.RestyleLater();
+        case WM_SETTINGCHANGE:  // of anything, and not every program says of what; mostly the fonts stay
+            if (wParam == SPI_SETNONCLIENTMETRICS || !FFormWindow.Screen().IsCurrent())
+                FFormWindow.RestyleLater();
             break;
         case WM_SYSCOLORCHANGE:
         case WM_THEMECHANGED:
