@@ -99,6 +99,7 @@ constexpr const wchar_t* kWheel[] = {L"Radio_Use_MouseFunction_Wheel_RollRow",
                                      L"Radio_Use_MouseFunction_Wheel_RollPage",
                                      L"UpDown_Use_MouseFunction_Wheel_Count"};
 constexpr std::uint32_t kWheelPageScroll = 0xFFFFFFFF;
+constexpr std::uint32_t kWheelPageRead = 0x7FFFFFFF;  // what Wine, whose numbers have a sign, makes of it
 
 void EnableWheelCount(const TPageContext& context, bool enabled) {
     for (const wchar_t* name :
@@ -109,7 +110,7 @@ void EnableWheelCount(const TPageContext& context, bool enabled) {
 void LoadWheel(TPageContext& context, const TSpecialRow& row) {
     constexpr std::uint32_t kGetWheelScrollLines = 0x0068;
     const std::uint32_t lines = ReadParameter(context, kGetWheelScrollLines);
-    const bool byPage = lines == kWheelPageScroll;
+    const bool byPage = lines >= kWheelPageRead;
     context.Form.Find<TRadioButton>(row.Controls[byPage ? 1 : 0])->SetChecked(true);
     if (!byPage) context.Form.Find<TUpDown>(row.Controls[2])->SetPosition(static_cast<int>(lines));
     EnableWheelCount(context, !byPage);

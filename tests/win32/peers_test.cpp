@@ -9,18 +9,20 @@ class PeersTest : public TPeerBench {
     PeersTest() {
         Form.Build(
             Form,
-            Notebook(L"Notebook",
-                     {NotebookPage(
-                          1,
-                          Group(L"Group", L"Group", CheckBox(L"Box", L"&Box"),
-                                RadioButton(L"First", L"First"), RadioButton(L"Second", L"Second")),
-                          Row(Edit(L"Edit").Width(5).DigitsOnly(), UpDown(L"UpDown", L"Edit", 1, 100, 10)),
-                          Edit(L"Text"), TrackBar(L"Track", 100, 7000, 500),
-                          ComboBox(L"Combo", {L"a", L"b", L"c"}), Button(L"Button", L"Button")),
-                      NotebookPage(2, PageControl(L"Tabs", Sheet(L"A", L"Sheet A", CheckBox(L"InA", L"A")),
-                                                  Sheet(L"B", L"Sheet B", CheckBox(L"InB", L"B"))))}));
+            Notebook(
+                L"Notebook",
+                {NotebookPage(
+                     1,
+                     Group(L"Group", L"Group", CheckBox(L"Box", L"&Box"), RadioButton(L"First", L"First"),
+                           CheckBox(L"Between", L"Between"), RadioButton(L"Second", L"Second"), Edit(L"Last"),
+                           RadioButton(L"Third", L"Third")),
+                     Row(Edit(L"Edit").Width(5).DigitsOnly(), UpDown(L"UpDown", L"Edit", 1, 100, 10)),
+                     Edit(L"Text"), TrackBar(L"Track", 100, 7000, 500),
+                     ComboBox(L"Combo", {L"a", L"b", L"c"}), Button(L"Button", L"Button")),
+                 NotebookPage(2, PageControl(L"Tabs", Sheet(L"A", L"Sheet A", CheckBox(L"InA", L"A")),
+                                             Sheet(L"B", L"Sheet B", CheckBox(L"InB", L"B"))))}));
         Get<TCheckBox>(L"Box").OnClick = Get<TButton>(L"Button").OnClick = Note;
-        Get<TRadioButton>(L"First").OnClick = Get<TRadioButton>(L"Second").OnClick = Note;
+        for (const wchar_t* name : {L"First", L"Second", L"Third"}) Get<TRadioButton>(name).OnClick = Note;
         Get<TEdit>(L"Edit").OnChange = Get<TEdit>(L"Text").OnChange = Get<TUpDown>(L"UpDown").OnChange = Note;
         Get<TTrackBar>(L"Track").OnChange = Get<TComboBox>(L"Combo").OnChange = Note;
         Get<TNotebook>(L"Notebook").ShowPage(L"1");
@@ -28,6 +30,12 @@ class PeersTest : public TPeerBench {
     }
 
     bool IsShownChecked(const wchar_t* name) const { return Send(name, BM_GETCHECK) == BST_CHECKED; }
+    /// Presses a key in the control that has the focus.
+    static void Press(WPARAM key) {
+        MSG message{GetFocus(), WM_KEYDOWN, key, 1, 0, {}};
+        if (!IsDialogMessageW(GetAncestor(message.hwnd, GA_ROOT), &message)) DispatchMessageW(&message);
+    }
+    void Turn(const wchar_t* name, int delta) const { Send(name, WM_MOUSEWHEEL, MAKEWPARAM(0, delta)); }
     /// Types over what stands in the edit.
     void Type(const std::wstring& text) const {
         Send(L"Edit", EM_SETSEL, 0, -1);
@@ -58,6 +66,26 @@ TEST_F(PeersTest, TheTabKeyReachesOneRadioButtonAndTheFocusAloneChecksNone) {
     EXPECT_EQ(stops(), std::pair(false, true));
     Send(L"First", BM_CLICK);
     EXPECT_EQ(stops(), std::pair(true, false));
+}
+
+TEST_F(PeersTest, ArrowKeysGoRoundTheRadioButtonsWhateverStandsBetween) {
+    SetFocus(Window(L"First"));
+    for (const auto& [key, expected] : {std::pair(VK_DOWN, L"Second"),
+                                        {VK_RIGHT, L"Third"},
+                                        {VK_DOWN, L"First"},
+                                        {VK_LEFT, L"Third"},
+                                        {VK_UP, L"Second"}}) {
+        Press(key);
+        EXPECT_EQ(GetFocus(), Window(expected));
+        EXPECT_TRUE(IsShownChecked(expected));
+        EXPECT_EQ(TakeFired(), TNames{expected});
+        EXPECT_TRUE(TabStops(expected));
+    }
+    Get<TRadioButton>(L"Third").SetEnabled(false);
+    Press(VK_DOWN);
+    EXPECT_EQ(TakeFired(), TNames{L"First"});
+    Get<TRadioButton>(L"First").SetEnabled(false);
+    EXPECT_TRUE(TabStops(L"Second")) << "the first that can be chosen";
 }
 
 TEST_F(PeersTest, TypedTextAndArrowsMoveTheNumber) {
@@ -164,6 +192,63 @@ TEST_F(PeersTest, TheWheelScrollsOnlyWhatIsTallerThanItsPlace) {
     EXPECT_LT(Place(L"Box").top, before);
     resize(1000);
     EXPECT_EQ(Place(L"Box").top, before) << "everything is in sight again";
+}
+
+/// A page that is scrolled by the wheel over its controls.
+class WheelTest : public PeersTest {
+  protected:
+    static constexpr int kHeight = 100;
+
+    WheelTest() {
+        SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &FLines, 0);
+        SetWindowPos(GetParent(Window(L"Box")), nullptr, 0, 0, 300, kHeight, SWP_NOMOVE | SWP_NOZORDER);
+    }
+    ~WheelTest() override { SetLines(FLines); }
+    static void SetLines(UINT lines) { SystemParametersInfoW(SPI_SETWHEELSCROLLLINES, lines, nullptr, 0); }
+    /// How far the content moves up.
+    LONG TurnOver(const wchar_t* name, int delta) const {
+        const LONG before = Place(L"Box").top;
+        Turn(name, delta);
+        return before - Place(L"Box").top;
+    }
+
+  private:
+    UINT FLines = 3;
+};
+
+TEST_F(WheelTest, ControlsPassTheWheelOnAndKeepTheirState) {
+    Get<TComboBox>(L"Combo").SetItemIndex(1);
+    TakeFired();
+    for (const wchar_t* name : {L"Combo", L"UpDown", L"Edit", L"Track"}) {
+        SetFocus(Window(name));
+        const LONG down = TurnOver(name, -WHEEL_DELTA);
+        EXPECT_GT(down, 0) << name;
+        EXPECT_EQ(TurnOver(name, WHEEL_DELTA), -down) << name;
+    }
+    EXPECT_EQ(TakeFired(), TNames{});
+    EXPECT_EQ(Send(L"Combo", CB_GETCURSEL), 1);
+    EXPECT_EQ(Send(L"Track", TBM_GETPOS), 500);
+
+    SetFocus(Window(L"Combo"));
+    Send(L"Combo", CB_SHOWDROPDOWN, TRUE);
+    EXPECT_EQ(TurnOver(L"Combo", -WHEEL_DELTA), 0) << "an open list takes the wheel itself";
+    Send(L"Combo", CB_SHOWDROPDOWN, FALSE);
+}
+
+TEST_F(WheelTest, ANotchIsAPageAtMostAndItsPartsAddUp) {
+    SetLines(1);
+    const LONG line = TurnOver(L"Box", -WHEEL_DELTA);
+    LONG sum = 0;
+    for (int i = 0; i < 8; ++i) sum += TurnOver(L"Box", -WHEEL_DELTA / 8);
+    EXPECT_EQ(sum, line);
+    TurnOver(L"Box", 2 * WHEEL_DELTA);
+    for (const UINT page : {WHEEL_PAGESCROLL, 0x7FFFFFFFu, 50u}) {
+        SetLines(page);
+        EXPECT_EQ(TurnOver(L"Box", -WHEEL_DELTA), kHeight) << page;
+        EXPECT_EQ(TurnOver(L"Box", WHEEL_DELTA), -kHeight) << page;
+    }
+    SetLines(0);
+    EXPECT_EQ(TurnOver(L"Box", -WHEEL_DELTA), 0);
 }
 
 }  // namespace

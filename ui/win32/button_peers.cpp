@@ -6,7 +6,20 @@
 
 namespace {
 
-/// Arrow keys stay within a group: each control begins one, but for the radio buttons that follow another.
+TWindowPeer* PeerOf(const TControl& control) { return dynamic_cast<TWindowPeer*>(control.Peer()); }
+
+/// The radio buttons of one parent, of which one can be checked, whatever stands between them.
+std::vector<TRadioButton*> GroupOf(const TControl& button) {
+    std::vector<TRadioButton*> group;
+    for (TControl* sibling : button.Parent()->Children())
+        if (sibling->Kind() == TComponentKind::RadioButton)
+            group.push_back(static_cast<TRadioButton*>(sibling));
+    return group;
+}
+
+bool CanBeChosen(const TRadioButton* button) { return button->Enabled() && button->Visible(); }
+
+/// To Windows each control begins a group, but for the radio buttons that follow another.
 DWORD GroupStyle(const TRadioButton& button) {
     const std::vector<TControl*>& siblings = button.Parent()->Children();
     for (std::size_t i = 1; i < siblings.size(); ++i) {
@@ -44,6 +57,7 @@ void TCheckBoxPeer::ShowState() {
 TRadioButtonPeer::TRadioButtonPeer(TFormWindow& form, TRadioButton& button, HWND parent)
     : TWindowPeer(form, button) {
     Create(parent, WC_BUTTONW, BS_AUTORADIOBUTTON | BS_MULTILINE | WS_TABSTOP | GroupStyle(button));
+    Subclass();
 }
 
 void TRadioButtonPeer::OnCommand(WORD code) {
@@ -57,19 +71,20 @@ void TRadioButtonPeer::ShowState() {
     ShowTabStops();
 }
 
+void TRadioButtonPeer::Update(TControlAspect aspect) {
+    TWindowPeer::Update(aspect);
+    if (aspect == TControlAspect::Enabled || aspect == TControlAspect::Visible) ShowTabStops();
+}
+
 /// The Tab key stops at the checked button of a group. Windows would leave out a group without one, which then could
-/// not be reached by the keyboard: there it stops at the first.
+/// not be reached by the keyboard: there it stops at the first that can be chosen.
 void TRadioButtonPeer::ShowTabStops() {
-    std::vector<TRadioButton*> group;
-    for (TControl* control : Control().Parent()->Children()) {
-        if (control->Kind() == TComponentKind::RadioButton)
-            group.push_back(static_cast<TRadioButton*>(control));
-    }
-    const auto checked =
-        std::find_if(group.begin(), group.end(), [](auto* button) { return button->Checked(); });
-    const TRadioButton* stop = checked == group.end() ? group.front() : *checked;
-    for (const TRadioButton* button : group) {
-        const auto* peer = button == &Control() ? this : dynamic_cast<TWindowPeer*>(button->Peer());
+    const std::vector<TRadioButton*> group = GroupOf(Control());
+    auto stop = std::find_if(group.begin(), group.end(),
+                             [](auto* button) { return button->Checked() && CanBeChosen(button); });
+    if (stop == group.end()) stop = std::find_if(group.begin(), group.end(), CanBeChosen);
+    for (auto button = group.begin(); button != group.end(); ++button) {
+        const TWindowPeer* peer = *button == &Control() ? this : PeerOf(**button);
         if (peer == nullptr || peer->Handle() == nullptr) continue;
         const LONG_PTR style = GetWindowLongPtrW(peer->Handle(), GWL_STYLE);
         SetWindowLongPtrW(peer->Handle(), GWL_STYLE,
@@ -77,6 +92,47 @@ void TRadioButtonPeer::ShowTabStops() {
     }
 }
 
+LRESULT TRadioButtonPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    // Windows ends a group at every control that is no radio button, so the arrow keys are handled here.
+    if (message == WM_GETDLGCODE) return TWindowPeer::OnMessage(message, wParam, lParam) | DLGC_WANTARROWS;
+    if (message == WM_KEYDOWN && Choose(wParam)) return 0;
+    return TWindowPeer::OnMessage(message, wParam, lParam);
+}
+
+/// As in the dialogs of Windows the keys go round, and the button that they reach is checked.
+bool TRadioButtonPeer::Choose(WPARAM key) {
+    const bool back = key == VK_LEFT || key == VK_UP;
+    if (!back && key != VK_RIGHT && key != VK_DOWN) return false;
+    std::vector<TRadioButton*> group = GroupOf(Control());
+    if (back) std::reverse(group.begin(), group.end());
+    std::rotate(group.begin(), std::find(group.begin(), group.end(), &Control()) + 1, group.end());
+    const auto next = std::find_if(group.begin(), group.end(), CanBeChosen);
+    if (next == group.end()) return true;
+    SendMessageW(GetParent(Handle()), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    SetFocus(PeerOf(**next)->Handle());
+    (*next)->SetChecked(true);
+    return true;
+}
+
 TGroupBoxPeer::TGroupBoxPeer(TFormWindow& form, TGroupBox& group, HWND parent) : TWindowPeer(form, group) {
     Create(parent, WC_BUTTONW, BS_GROUPBOX | WS_GROUP, WS_EX_TRANSPARENT);
+}
+
+/// Windows takes the whole area of the window for covered, but a group box draws its frame only: the parent draws what
+/// is below that, before and after the move.
+void TGroupBoxPeer::Place(const TRect& place) {
+    if (place == Placed()) return;
+    RedrawFrame();
+    Move(place, SWP_NOREDRAW);
+    RedrawFrame();
+}
+
+void TGroupBoxPeer::RedrawFrame() const {
+    constexpr int kFrameWidth = 5;  // at 96 dots per inch; the controls in the box keep a greater distance
+    const TScreen& screen = FForm.Screen();
+    const int edge = screen.Scale(kFrameWidth);
+    const int caption = screen.TextSize(L"0", 1).Height;
+    const TRect& place = Placed();
+    RedrawBelow({place.Left + edge, place.Top + caption, place.Left + place.Width - edge,
+                 place.Top + place.Height - edge});
 }

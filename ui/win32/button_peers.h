@@ -23,15 +23,23 @@ class TRadioButtonPeer : public TWindowPeer {
   public:
     TRadioButtonPeer(TFormWindow& form, TRadioButton& button, HWND parent);
     void OnCommand(WORD code) override;
+    void Update(TControlAspect aspect) override;
 
   protected:
     void ShowState() override;
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
     void ShowTabStops();
+    /// Chooses the radio button that an arrow key leads to; false for other keys.
+    bool Choose(WPARAM key);
 };
 
 class TGroupBoxPeer : public TWindowPeer {
   public:
     TGroupBoxPeer(TFormWindow& form, TGroupBox& group, HWND parent);
+    void Place(const TRect& place) override;
+
+  private:
+    void RedrawFrame() const;
 };

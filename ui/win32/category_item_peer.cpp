@@ -31,13 +31,7 @@ void SetTabStop(HWND window, bool isStop) {
 TCategoryItemPeer::TCategoryItemPeer(TFormWindow& form, TCategoryItem& item, HWND parent)
     : TWindowPeer(form, item) {
     Create(parent, WC_BUTTONW, BS_OWNERDRAW | WS_TABSTOP | WS_GROUP);
-    SetWindowLongPtrW(Handle(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    FBaseProc = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ButtonProc)));
-}
-
-TCategoryItemPeer::~TCategoryItemPeer() {
-    if (Handle() != nullptr) SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(FBaseProc));
+    Subclass();
 }
 
 void TCategoryItemPeer::OnCommand(WORD code) {
@@ -101,22 +95,8 @@ bool TCategoryItemPeer::MoveFocus(WPARAM key) {
     return true;
 }
 
-LRESULT CALLBACK TCategoryItemPeer::ButtonProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* peer = reinterpret_cast<TCategoryItemPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (peer->Handle() == nullptr) return CallWindowProcW(peer->FBaseProc, window, message, wParam, lParam);
-    TFormWindow& form = peer->FForm;
-    try {
-        return peer->OnMessage(message, wParam, lParam);
-    } catch (...) {
-        form.Fault(std::current_exception());
-        return 0;
-    }
-}
-
 LRESULT TCategoryItemPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto base = [&](UINT passed) {
-        return CallWindowProcW(FBaseProc, Handle(), passed, wParam, lParam);
-    };
+    const auto base = [&](UINT passed) { return TWindowPeer::OnMessage(passed, wParam, lParam); };
     switch (message) {
         case WM_ERASEBKGND:
             return TRUE;  // OnDraw covers everything

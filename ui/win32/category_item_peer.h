@@ -7,17 +7,15 @@
 class TCategoryItemPeer : public TWindowPeer {
   public:
     TCategoryItemPeer(TFormWindow& form, TCategoryItem& item, HWND parent);
-    ~TCategoryItemPeer() override;
 
     void OnCommand(WORD code) override;
     void OnDraw(const DRAWITEMSTRUCT& drawing) override;
 
   protected:
     void ShowState() override;
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
-    static LRESULT CALLBACK ButtonProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     /// Moves the focus along the bar; false when the key does not do that.
     bool MoveFocus(WPARAM key);
     /// Makes this the one item that the Tab key stops at.
@@ -25,6 +23,5 @@ class TCategoryItemPeer : public TWindowPeer {
     void ScrollIntoSight();
     void SetHot(bool hot);
 
-    WNDPROC FBaseProc = nullptr;
     bool FHot = false;  ///< the pointer is on the item
 };

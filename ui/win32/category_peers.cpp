@@ -8,7 +8,7 @@
 namespace {
 
 constexpr int kBarMargin = 3;
-constexpr DWORD kContainerStyle = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | DS_CONTROL;
+constexpr DWORD kContainerStyle = WS_CHILD | DS_CONTROL;
 
 TWindowPeer* PeerOf(const TControl& control) { return dynamic_cast<TWindowPeer*>(control.Peer()); }
 

@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int kScrollLine = 20;  // at 96 dots per inch
+
 /// The template of an empty dialog of a window class, as CreateDialogIndirectParamW wants it.
 std::vector<WORD> EmptyDialog(const wchar_t* windowClass, DWORD style, DWORD extendedStyle) {
     std::vector<WORD> words{LOWORD(style), HIWORD(style), LOWORD(extendedStyle), HIWORD(extendedStyle)};
@@ -39,6 +41,7 @@ void TContainerPeer::CreateContainer(HWND parent, const wchar_t* windowClass, DW
         RegisterClassExW(&description);
     }
     if (IsShown() && (style & WS_CHILD) != 0) style |= WS_VISIBLE;
+    style |= WS_CLIPSIBLINGS | WS_CLIPCHILDREN;  // it draws only what no other window does
     const std::vector<WORD> dialog = EmptyDialog(windowClass, style, extendedStyle | WS_EX_CONTROLPARENT);
     const HWND window = CreateDialogIndirectParamW(
         FForm.Instance(), reinterpret_cast<const DLGTEMPLATE*>(dialog.data()), parent, nullptr, 0);
@@ -67,14 +70,14 @@ LRESULT TContainerPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SIZE:
             LayOut();
             break;
-        case WM_MOUSEWHEEL: {
-            UINT lines = 3;
-            SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-            const int line = FForm.Screen().Scale(20);
-            if (ScrollBy(-GET_WHEEL_DELTA_WPARAM(wParam) * static_cast<int>(lines) * line / WHEEL_DELTA))
-                return 0;
+        case WM_MOUSEWHEEL:
+            if (ScrollByWheel(GET_WHEEL_DELTA_WPARAM(wParam))) return 0;
             break;  // the container around this one may have something to scroll
-        }
+        // Windows tells a form only, common controls want to know.
+        case WM_SETTINGCHANGE:
+        case WM_SYSCOLORCHANGE:
+            Forward(message, wParam, lParam);
+            break;
         case WM_VSCROLL:
             if (lParam == 0) {
                 Scroll(wParam);
@@ -114,8 +117,19 @@ LRESULT TContainerPeer::Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+void TContainerPeer::Forward(UINT message, WPARAM wParam, LPARAM lParam) const {
+    for (HWND inner = GetWindow(Handle(), GW_CHILD); inner != nullptr; inner = GetWindow(inner, GW_HWNDNEXT))
+        SendMessageW(inner, message, wParam, lParam);
+}
+
 void TContainerPeer::CreateContent() {
     for (TControl* child : Control().Children()) CreatePeer(FForm, *child, Handle());
+}
+
+/// A container that only grows or shrinks keeps what it shows; what moves in it is drawn anew.
+void TContainerPeer::Place(const TRect& place) {
+    const bool stays = place.Left == Placed().Left && place.Top == Placed().Top;
+    Move(place, stays ? 0 : SWP_NOCOPYBITS | SWP_FRAMECHANGED);
 }
 
 int TContainerPeer::Margin() const { return FForm.Screen().Scale(FMargin); }
@@ -160,13 +174,18 @@ void TContainerPeer::SetScrollRange(int content, int visible) {
     SetScrollInfo(Handle(), SB_VERT, &info, TRUE);
 }
 
-void TContainerPeer::Scroll(WPARAM request) {
+SCROLLINFO TContainerPeer::ScrollState() const {
     SCROLLINFO info{};
     info.cbSize = sizeof info;
     info.fMask = SIF_ALL;
     GetScrollInfo(Handle(), SB_VERT, &info);
+    return info;
+}
+
+void TContainerPeer::Scroll(WPARAM request) {
+    const SCROLLINFO info = ScrollState();
     const int page = static_cast<int>(info.nPage);
-    const int line = FForm.Screen().Scale(20);
+    const int line = FForm.Screen().Scale(kScrollLine);
     switch (LOWORD(request)) {
         case SB_LINEUP:
             ScrollBy(-line);
@@ -199,8 +218,24 @@ bool TContainerPeer::ScrollBy(int distance) {
     SetScrollPos(Handle(), SB_VERT, before + distance, TRUE);
     if (GetScrollPos(Handle(), SB_VERT) == before) return false;
     LayOut();
-    InvalidateRect(Handle(), nullptr, TRUE);
     return true;
+}
+
+bool TContainerPeer::ScrollByWheel(int delta) {
+    const SCROLLINFO info = ScrollState();
+    const int page = static_cast<int>(info.nPage);
+    if (info.nMax < page) return false;
+    UINT lines = 3;
+    SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    // At most a page, for which WHEEL_PAGESCROLL, a huge number, stands as well.
+    const int line = FForm.Screen().Scale(kScrollLine);
+    const int notch = lines < static_cast<UINT>(page / line) ? static_cast<int>(lines) * line : page;
+    // Fine wheels report parts of a notch.
+    if ((FWheelRest > 0) == (delta > 0)) FWheelRest = 0;
+    FWheelRest -= delta * notch;
+    const int distance = FWheelRest / WHEEL_DELTA;
+    FWheelRest %= WHEEL_DELTA;
+    return distance == 0 || ScrollBy(distance);
 }
 
 void TContainerPeer::ScrollTo(HWND inner) {
@@ -218,5 +253,5 @@ void TContainerPeer::ScrollTo(HWND inner) {
 
 TPlainContainerPeer::TPlainContainerPeer(TFormWindow& form, TControl& control, HWND parent, int margin)
     : TContainerPeer(form, control, margin) {
-    CreateContainer(parent, kContainerClass, WS_CHILD | WS_CLIPSIBLINGS | DS_CONTROL, 0);
+    CreateContainer(parent, kContainerClass, WS_CHILD | DS_CONTROL, 0);
 }

@@ -16,11 +16,10 @@ class TContainerPeer : public TWindowPeer {
 
     ~TContainerPeer() override;
 
+    void Place(const TRect& place) override;
+
     /// Places the content anew.
     virtual void LayOut();
-
-    /// Handles a message of the container's window.
-    virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
     /// Creates the peers of the controls in the container.
     void CreateContent();
@@ -29,6 +28,8 @@ class TContainerPeer : public TWindowPeer {
     void ScrollTo(HWND inner);
 
   protected:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
     /// Creates a window that is a dialog to Windows: keyboard navigation passes through it, and themes paint
     /// its background.
     void CreateContainer(HWND parent, const wchar_t* windowClass, DWORD style, DWORD extendedStyle);
@@ -43,13 +44,19 @@ class TContainerPeer : public TWindowPeer {
   private:
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Reflect(UINT message, WPARAM wParam, LPARAM lParam);
+    [[nodiscard]] SCROLLINFO ScrollState() const;
     void Scroll(WPARAM request);
     /// False when there is nothing more to scroll in that direction.
     bool ScrollBy(int distance);
+    /// Scrolls as the wheel was turned: up by WHEEL_DELTA for a notch, or by parts of it. False like ScrollBy.
+    bool ScrollByWheel(int delta);
+    /// Hands a message to all the container's windows.
+    void Forward(UINT message, WPARAM wParam, LPARAM lParam) const;
     void SetScrollRange(int content, int visible);
 
     int FMargin;
     bool FLayingOut = false;
+    int FWheelRest = 0;  ///< of the wheel's turns: less than a pixel, in pixels times WHEEL_DELTA
 };
 
 /// A container without a look of its own.

@@ -1,6 +1,7 @@
 #include "ui/win32/field_peers.h"
 
 #include "ui/win32/form_window.h"
+#include "ui/win32/wheel_guard.h"
 
 namespace {
 
@@ -93,6 +94,7 @@ LRESULT CALLBACK TEditPeer::KeyProc(HWND window, UINT message, WPARAM wParam, LP
 
 TComboBoxPeer::TComboBoxPeer(TFormWindow& form, TComboBox& box, HWND parent) : TWindowPeer(form, box) {
     Create(parent, WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP);
+    PassWheelOn(Handle());
 }
 
 void TComboBoxPeer::OnCommand(WORD code) {
@@ -110,16 +112,21 @@ void TComboBoxPeer::ShowState() {
     Send(CB_SETCURSEL, static_cast<WPARAM>(static_cast<TComboBox&>(Control()).ItemIndex()));
 }
 
-/// The height of a combo box window is that of its dropped list; the closed box is sized by its item height.
+/// The height of a combo box window is that of its dropped list; the closed box is sized by its item height. What it
+/// uncovers is its parent's to draw: Windows closes the box without telling the windows below it.
 void TComboBoxPeer::Place(const TRect& place) {
     constexpr int kMostItemsShown = 16;
     const int items =
         std::min(static_cast<int>(static_cast<TComboBox&>(Control()).Items().size()), kMostItemsShown);
     const int line = static_cast<int>(Send(CB_GETITEMHEIGHT));
-    TWindowPeer::Place({place.Left, place.Top, place.Width, place.Height + (items + 1) * line});
+    const TRect dropped{place.Left, place.Top, place.Width, place.Height + (items + 1) * line};
+    if (dropped == Placed()) return;
+    RedrawBelow();
+    Move(dropped, SWP_NOREDRAW);
     RECT closed{};
     GetWindowRect(Handle(), &closed);
     const int field = static_cast<int>(Send(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
     const int surplus = static_cast<int>(closed.bottom - closed.top) - place.Height;
     if (surplus != 0) Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), field - surplus);
+    RedrawBelow();
 }

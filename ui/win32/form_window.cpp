@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr UINT kLayOutMessage = WM_APP;  // posted to itself: containers wait to be laid out
+constexpr UINT kLayOutMessage = WM_APP;       // posted to itself: containers wait to be laid out
+constexpr UINT kRestyleMessage = WM_APP + 1;  // posted to itself: the look of Windows has changed
 constexpr int kFormMargin = 8;
 
 /// A window that takes no input while another one is shown over it.
@@ -185,6 +186,25 @@ void TFormWindow::LayOutChanged() {
     }
 }
 
+void TFormWindow::RestyleLater() {
+    // Windows announces a change by several messages, some of them to the inner windows after the form.
+    if (!std::exchange(FRestyles, true)) PostMessageW(Handle(), kRestyleMessage, 0, 0);
+}
+
+void TFormWindow::Restyle() {
+    FRestyles = false;
+    // The former fonts live until no window has them.
+    const auto former = std::exchange(FScreen, std::make_unique<TScreen>());
+    for (const auto& [window, peer] : FPeers) peer->Restyle();
+    FWindow.LayOut();
+    // Every container comes after those around it.
+    for (const auto& component : FForm.Components()) {
+        if (auto* peer = dynamic_cast<TContainerPeer*>(static_cast<TControl&>(*component).Peer()))
+            peer->LayOut();
+    }
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
 void TFormWindow::Fault(std::exception_ptr fault) const {
     if (FFaultHandler) FFaultHandler(std::move(fault));
 }
@@ -256,7 +276,7 @@ TFormWindow::TWindow::TWindow(TFormWindow& formWindow, TForm& form)
     const HWND owner = formWindow.FOwner;
     const DWORD frame =
         owner == nullptr ? WS_OVERLAPPEDWINDOW : WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME;
-    CreateContainer(owner, form.ClassName().c_str(), frame | WS_CLIPCHILDREN, 0);
+    CreateContainer(owner, form.ClassName().c_str(), frame, 0);
 }
 
 void TFormWindow::TWindow::Open() {
@@ -265,24 +285,40 @@ void TFormWindow::TWindow::Open() {
     SetInitialSize();
 }
 
-/// Centres the window in the work area, a dialog over its owner, no larger than the work area and within it.
-void TFormWindow::TWindow::SetInitialSize() {
+SIZE TFormWindow::TWindow::DesignedSize(const RECT& work) const {
     const TScreen& screen = FFormWindow.Screen();
     const TForm& form = FFormWindow.FForm;
-    const RECT work = WorkArea(FFormWindow.FOwner);
-    RECT around = work;
-    if (FFormWindow.FOwner != nullptr) GetWindowRect(FFormWindow.FOwner, &around);
     RECT frame{0, 0, screen.Scale(form.ClientWidth), screen.Scale(form.ClientHeight)};
     AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongPtrW(Handle(), GWL_STYLE)), FALSE,
                        static_cast<DWORD>(GetWindowLongPtrW(Handle(), GWL_EXSTYLE)));
-    const LONG width = std::min(frame.right - frame.left, work.right - work.left);
-    const LONG height = std::min(frame.bottom - frame.top, work.bottom - work.top);
-    FMinimum = {width, height};
-    SetWindowPos(Handle(), nullptr,
-                 std::clamp((around.left + around.right - width) / 2, work.left, work.right - width),
-                 std::clamp((around.top + around.bottom - height) / 2, work.top, work.bottom - height), width,
-                 height, SWP_NOZORDER | SWP_NOACTIVATE);
+    return {std::min(frame.right - frame.left, work.right - work.left),
+            std::min(frame.bottom - frame.top, work.bottom - work.top)};
+}
+
+/// Centres the window in the work area, a dialog over its owner, no larger than the work area and within it.
+void TFormWindow::TWindow::SetInitialSize() {
+    const RECT work = WorkArea(FFormWindow.FOwner);
+    RECT around = work;
+    if (FFormWindow.FOwner != nullptr) GetWindowRect(FFormWindow.FOwner, &around);
+    FMinimum = DesignedSize(work);
+    SetWindowPos(
+        Handle(), nullptr,
+        std::clamp((around.left + around.right - FMinimum.cx) / 2, work.left, work.right - FMinimum.cx),
+        std::clamp((around.top + around.bottom - FMinimum.cy) / 2, work.top, work.bottom - FMinimum.cy),
+        FMinimum.cx, FMinimum.cy, SWP_NOZORDER | SWP_NOACTIVATE);
     LayOut();
+}
+
+/// The frame may have become another; the window grows when it is now smaller than it may be.
+void TFormWindow::TWindow::Restyle() {
+    TContainerPeer::Restyle();
+    FMinimum = DesignedSize(WorkArea(Handle()));
+    if (IsIconic(Handle())) return;
+    RECT place{};
+    GetWindowRect(Handle(), &place);
+    SetWindowPos(Handle(), nullptr, 0, 0, std::max(place.right - place.left, FMinimum.cx),
+                 std::max(place.bottom - place.top, FMinimum.cy),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
 
 LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -304,6 +340,17 @@ LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lPar
             return 0;
         case WM_DESTROY:
             FFormWindow.Destroyed();
+            return 0;
+        case WM_SETTINGCHANGE:  // of anything, and not every program says of what; mostly the fonts stay
+            if (wParam == SPI_SETNONCLIENTMETRICS || !FFormWindow.Screen().IsCurrent())
+                FFormWindow.RestyleLater();
+            break;
+        case WM_SYSCOLORCHANGE:
+        case WM_THEMECHANGED:
+            FFormWindow.RestyleLater();
+            break;
+        case kRestyleMessage:
+            FFormWindow.Restyle();
             return 0;
         case kLayOutMessage:
             FFormWindow.LayOutChanged();

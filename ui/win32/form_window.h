@@ -44,7 +44,7 @@ class TFormWindow : public TFormPeer {
     [[nodiscard]] HWND Handle() const { return FWindow.Handle(); }
     [[nodiscard]] HINSTANCE Instance() const { return FInstance; }
     [[nodiscard]] const TForm& Form() const { return FForm; }
-    [[nodiscard]] const TScreen& Screen() const { return FScreen; }
+    [[nodiscard]] const TScreen& Screen() const { return *FScreen; }
     [[nodiscard]] TPictureStore& Pictures() { return FPictures; }
 
     // For the peers.
@@ -71,7 +71,11 @@ class TFormWindow : public TFormPeer {
         void Open();
         LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+        void Restyle() override;
+
       private:
+        /// The size of the window that gives the form its client area, no larger than the work area.
+        [[nodiscard]] SIZE DesignedSize(const RECT& work) const;
         void SetInitialSize();
 
         TFormWindow& FFormWindow;
@@ -85,18 +89,22 @@ class TFormWindow : public TFormPeer {
     bool PressButton(const MSG& message) const;
     void FollowFocus(HWND focus) const;
     void LayOutChanged();
+    /// Follows a change of the look of Windows once the present message is handled.
+    void RestyleLater();
+    void Restyle();
     void Destroyed();
 
     TForm& FForm;
     HINSTANCE FInstance;
     HWND FOwner;  ///< of a dialog: the window that waits for it
     TFaultHandler FFaultHandler;
-    TScreen FScreen;
+    std::unique_ptr<TScreen> FScreen = std::make_unique<TScreen>();
     TPictureStore FPictures;
     std::unordered_map<HWND, TWindowPeer*> FPeers;
     std::set<const TControl*> FChanged;      ///< containers to lay out
     std::set<const TControl*> FFilledPages;  ///< notebook pages whose content exists
     std::unordered_map<unsigned, TTimer*> FTimers;
+    bool FRestyles = false;  ///< a change of the look waits
     int FLastCommandId = 100;
     unsigned FLastTimerId = 0;
     TWindow FWindow;

@@ -14,7 +14,7 @@ TWindowPeer* PeerOf(const TControl& control) { return dynamic_cast<TWindowPeer*>
 
 TNotebookPeer::TNotebookPeer(TFormWindow& form, TNotebook& notebook, HWND parent)
     : TContainerPeer(form, notebook, 0) {
-    CreateContainer(parent, kContainerClass, WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | DS_CONTROL, 0);
+    CreateContainer(parent, kContainerClass, WS_CHILD | DS_CONTROL, 0);
 }
 
 void TNotebookPeer::PlaceContent(const TRect& area) {
@@ -98,7 +98,7 @@ void TPageControlPeer::PlaceSheets() {
 
 TTabSheetPeer::TTabSheetPeer(TFormWindow& form, TTabSheet& sheet, HWND parent)
     : TContainerPeer(form, sheet, kSheetMargin) {
-    CreateContainer(parent, kContainerClass, WS_CHILD | WS_CLIPSIBLINGS | DS_CONTROL, 0);
+    CreateContainer(parent, kContainerClass, WS_CHILD | DS_CONTROL, 0);
     EnableThemeTabTexture(Handle());
 }
 
@@ -112,4 +112,9 @@ void TTabSheetPeer::Update(TControlAspect aspect) {
         Control().Parent()->Peer()->Update(TControlAspect::Items);
     else
         TContainerPeer::Update(aspect);
+}
+
+void TTabSheetPeer::Restyle() {
+    TContainerPeer::Restyle();
+    EnableThemeTabTexture(Handle());  // the theme may be new
 }

@@ -38,6 +38,7 @@ class TTabSheetPeer : public TContainerPeer {
   public:
     TTabSheetPeer(TFormWindow& form, TTabSheet& sheet, HWND parent);
     void Update(TControlAspect aspect) override;
+    void Restyle() override;
 
   protected:
     [[nodiscard]] bool IsShown() const override;

@@ -1,6 +1,7 @@
 #include "ui/win32/range_peers.h"
 
 #include "ui/win32/form_window.h"
+#include "ui/win32/wheel_guard.h"
 
 TTrackBarPeer::TTrackBarPeer(TFormWindow& form, TTrackBar& bar, HWND parent) : TWindowPeer(form, bar) {
     constexpr int kTicks = 10;
@@ -10,6 +11,7 @@ TTrackBarPeer::TTrackBarPeer(TFormWindow& form, TTrackBar& bar, HWND parent) : T
     Send(TBM_SETRANGEMAX, FALSE, bar.Max());
     Send(TBM_SETTICFREQ, static_cast<WPARAM>(step));
     Send(TBM_SETPAGESIZE, 0, step);
+    PassWheelOn(Handle());
     ShowState();  // once more: the first time the range was still the default one
 }
 
@@ -23,9 +25,12 @@ TUpDownPeer::TUpDownPeer(TFormWindow& form, TUpDown& upDown, HWND parent) : TWin
     Create(parent, UPDOWN_CLASSW, UDS_ARROWKEYS);
     Send(UDM_SETRANGE32, static_cast<WPARAM>(upDown.Min()), upDown.Max());
     if (upDown.Associate() != nullptr) {
-        if (auto* edit = dynamic_cast<TWindowPeer*>(upDown.Associate()->Peer()))
+        if (auto* edit = dynamic_cast<TWindowPeer*>(upDown.Associate()->Peer())) {
             Send(UDM_SETBUDDY, reinterpret_cast<WPARAM>(edit->Handle()));  // for the arrow keys in the edit
+            PassWheelOn(edit->Handle());
+        }
     }
+    PassWheelOn(Handle());
     ShowState();
 }
 

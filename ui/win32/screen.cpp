@@ -1,13 +1,24 @@
 #include "ui/win32/screen.h"
 
-TScreen::TScreen() : FMeasure(CreateCompatibleDC(nullptr)) {
-    FDotsPerInch = GetDeviceCaps(FMeasure, LOGPIXELSY);
+#include <cstring>
+
+namespace {
+
+NONCLIENTMETRICSW ReadMetrics() {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
     SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    FFont = CreateFontIndirectW(&metrics.lfMessageFont);
-    metrics.lfMessageFont.lfWeight = FW_BOLD;
-    FBoldFont = CreateFontIndirectW(&metrics.lfMessageFont);
+    return metrics;
+}
+
+}  // namespace
+
+TScreen::TScreen() : FMetrics(ReadMetrics()), FMeasure(CreateCompatibleDC(nullptr)) {
+    FDotsPerInch = GetDeviceCaps(FMeasure, LOGPIXELSY);
+    LOGFONTW font = FMetrics.lfMessageFont;
+    FFont = CreateFontIndirectW(&font);
+    font.lfWeight = FW_BOLD;
+    FBoldFont = CreateFontIndirectW(&font);
     SelectObject(FMeasure, FFont);
 }
 
@@ -15,6 +26,11 @@ TScreen::~TScreen() {
     DeleteDC(FMeasure);
     DeleteObject(FFont);
     DeleteObject(FBoldFont);
+}
+
+bool TScreen::IsCurrent() const {
+    const NONCLIENTMETRICSW now = ReadMetrics();
+    return std::memcmp(&now, &FMetrics, sizeof now) == 0;
 }
 
 TSize TScreen::TextSize(const std::wstring& caption, int maxWidth) const {

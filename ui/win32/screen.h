@@ -16,10 +16,14 @@ class TScreen : public TLayoutMetrics {
     [[nodiscard]] TSize TextSize(const std::wstring& caption, int maxWidth) const override;
     [[nodiscard]] int Scale(int distance) const override { return MulDiv(distance, FDotsPerInch, 96); }
 
+    /// Whether the fonts and measures are still those that Windows has.
+    [[nodiscard]] bool IsCurrent() const;
+
     [[nodiscard]] HFONT Font() const { return FFont; }
     [[nodiscard]] HFONT BoldFont() const { return FBoldFont; }
 
   private:
+    NONCLIENTMETRICSW FMetrics;
     int FDotsPerInch;
     HFONT FFont;
     HFONT FBoldFont;

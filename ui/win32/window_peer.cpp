@@ -28,9 +28,55 @@ void TWindowPeer::Adopt(HWND handle) {
     ShowState();
 }
 
-void TWindowPeer::Place(const TRect& place) {
+void TWindowPeer::Subclass() {
+    SetWindowLongPtrW(FHandle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    FBaseProc = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(FHandle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(SubclassProc)));
+}
+
+LRESULT CALLBACK TWindowPeer::SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* peer = reinterpret_cast<TWindowPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (peer->FHandle == nullptr) return CallWindowProcW(peer->FBaseProc, window, message, wParam, lParam);
+    TFormWindow& form = peer->FForm;
+    try {
+        return peer->OnMessage(message, wParam, lParam);
+    } catch (...) {
+        // No exception may cross Windows' own frames.
+        form.Fault(std::current_exception());
+        return 0;
+    }
+}
+
+LRESULT TWindowPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return CallWindowProcW(FBaseProc, FHandle, message, wParam, lParam);
+}
+
+void TWindowPeer::Restyle() {
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(FForm.Screen().Font()));
+    FPlace = {};
+}
+
+// Drawn anew: a copy of what the window showed would bring along what lay over it or what its parent cut off.
+void TWindowPeer::Place(const TRect& place) { Move(place, SWP_NOCOPYBITS); }
+
+void TWindowPeer::Move(const TRect& place, UINT flags) {
+    if (place == FPlace) return;
+    FPlace = place;
     SetWindowPos(FHandle, nullptr, place.Left, place.Top, place.Width, place.Height,
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER | flags);
+}
+
+void TWindowPeer::RedrawBelow(const RECT& hole) const {
+    const HWND parent = GetParent(FHandle);
+    RECT place{};
+    GetWindowRect(FHandle, &place);
+    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+    const HRGN around = CreateRectRgnIndirect(&place);
+    const HRGN inside = CreateRectRgnIndirect(&hole);
+    CombineRgn(around, around, inside, RGN_DIFF);
+    RedrawWindow(parent, nullptr, around, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    DeleteObject(inside);
+    DeleteObject(around);
 }
 
 void TWindowPeer::Detach() {

@@ -28,7 +28,10 @@ class TWindowPeer : public TPeer {
     virtual void OnScroll() {}
     virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
 
-    /// Moves the window to its place in the parent.
+    /// Takes over the fonts and measures that were changed in Windows; the window has to be placed anew.
+    virtual void Restyle();
+
+    /// Moves the window to its place in the parent; nothing happens when it is there.
     virtual void Place(const TRect& place);
 
     /// Forgets the window, which is about to be destroyed, and withdraws its automation name.
@@ -40,12 +43,24 @@ class TWindowPeer : public TPeer {
     /// Takes over a window that was made otherwise.
     void Adopt(HWND handle);
 
+    /// Lets OnMessage handle the messages of a window whose class is Windows' own.
+    void Subclass();
+    /// Handles a message of the window.
+    virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
     /// Shows the control's state; called on creation too.
     virtual void ShowState() {}
     virtual void ShowItems() {}
     /// What the window's caption is to be.
     [[nodiscard]] virtual std::wstring WindowText() const { return FControl.Caption(); }
     [[nodiscard]] virtual bool IsShown() const;
+
+    /// Where the window was placed last.
+    [[nodiscard]] const TRect& Placed() const { return FPlace; }
+    /// Moves the window; `flags` are those of SetWindowPos that say how it is drawn.
+    void Move(const TRect& place, UINT flags);
+    /// Has the parent draw anew where the window is, and the windows there with it; not inside of `hole`.
+    void RedrawBelow(const RECT& hole = {}) const;
 
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return SendMessageW(FHandle, message, wParam, lParam);
@@ -54,6 +69,10 @@ class TWindowPeer : public TPeer {
     TFormWindow& FForm;
 
   private:
+    static LRESULT CALLBACK SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
     TControl& FControl;
     HWND FHandle = nullptr;
+    WNDPROC FBaseProc = nullptr;  ///< of the window's class, once it is subclassed
+    TRect FPlace;
 };
