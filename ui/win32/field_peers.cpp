@@ -32,13 +32,7 @@ TEditPeer::TEditPeer(TFormWindow& form, TEdit& edit, HWND parent)
     if (edit.Password) style |= ES_PASSWORD;
     Create(parent, WC_EDITW, style, WS_EX_CLIENTEDGE);
     Send(EM_LIMITTEXT, kLongestShown);
-    SetWindowLongPtrW(Handle(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    FBaseProc = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(KeyProc)));
-}
-
-TEditPeer::~TEditPeer() {
-    if (Handle() != nullptr) SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(FBaseProc));
+    Subclass();
 }
 
 std::wstring TEditPeer::WindowText() const { return ShownOf(static_cast<TEdit&>(Control()).Text()); }
@@ -77,19 +71,10 @@ void TEditPeer::ShowState() {
     FShowing = false;
 }
 
-/// Looks at the keys before the edit does.
-LRESULT CALLBACK TEditPeer::KeyProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* peer = reinterpret_cast<TEditPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    const WNDPROC base = peer->FBaseProc;
-    auto& edit = static_cast<TEdit&>(peer->Control());
-    TFormWindow& form = peer->FForm;
-    try {
-        if (message == WM_CHAR && !edit.AcceptsKey(static_cast<wchar_t>(wParam))) return 0;
-        return CallWindowProcW(base, window, message, wParam, lParam);
-    } catch (...) {
-        form.Fault(std::current_exception());
-        return 0;
-    }
+LRESULT TEditPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto& edit = static_cast<const TEdit&>(Control());
+    if (message == WM_CHAR && !edit.AcceptsKey(static_cast<wchar_t>(wParam))) return 0;
+    return TWindowPeer::OnMessage(message, wParam, lParam);
 }
 
 TComboBoxPeer::TComboBoxPeer(TFormWindow& form, TComboBox& box, HWND parent) : TWindowPeer(form, box) {

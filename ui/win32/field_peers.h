@@ -12,17 +12,14 @@ class TLabelPeer : public TWindowPeer {
 class TEditPeer : public TWindowPeer {
   public:
     TEditPeer(TFormWindow& form, TEdit& edit, HWND parent);
-    ~TEditPeer() override;
     void OnCommand(WORD code) override;
 
   protected:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void ShowState() override;
     [[nodiscard]] std::wstring WindowText() const override;
 
   private:
-    static LRESULT CALLBACK KeyProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-
-    WNDPROC FBaseProc = nullptr;
     bool FShowing = false;
     std::wstring FWhole;  ///< what the program showed last; the window may hold the beginning only
 };
