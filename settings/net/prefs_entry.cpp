@@ -105,23 +105,29 @@ std::wstring WithValue(std::wstring_view entry, const TStatement& statement, std
     return changed;
 }
 
+/// The white space and the comments of the entry; nothing when it has no comments.
+std::wstring CommentsOf(std::wstring_view entry) {
+    std::wstring comments;
+    bool hasComments = false;
+    for (TPrefsLexer lexer(entry); lexer.Next();) {
+        if (lexer.Part() == TPrefsPart::Comment) {
+            comments += lexer.Text();
+            hasComments = true;
+        } else if (lexer.Part() == TPrefsPart::Code) {
+            std::ranges::copy_if(lexer.Text(), std::back_inserter(comments),
+                                 [](wchar_t c) { return c <= L' '; });
+        }
+    }
+    return hasComments ? comments : std::wstring();
+}
+
 /// The entry without the statements that name the pref; empty when nothing worth keeping is left.
 std::wstring WithoutNamed(std::wstring entry, const TStatements& statements) {
     for (const TStatement& statement : statements.Named)
         entry.erase(statement.Begin, statement.End - statement.Begin);
-    if (statements.HasOthers) return entry;
-    std::wstring comments;
-    bool hasComments = false;
-    for (TPrefsLexer lexer(entry); lexer.Next();) {
-        if (lexer.Part() == TPrefsPart::Comment) hasComments = true;
-        if (lexer.Part() == TPrefsPart::Quotation) continue;
-        const bool isCode = lexer.Part() == TPrefsPart::Code;
-        std::ranges::copy_if(lexer.Text(), std::back_inserter(comments),
-                             [&](wchar_t c) { return !isCode || c <= L' '; });
-    }
-    if (!hasComments) return {};
-    comments.erase(comments.find_last_not_of(L" \t") + 1);
-    return comments;
+    if (!statements.HasOthers) entry = CommentsOf(entry);
+    entry.erase(entry.find_last_not_of(L" \t") + 1);
+    return entry;
 }
 
 }  // namespace

@@ -28,12 +28,18 @@ std::size_t TPrefsLexer::CommentLength() const {
 std::size_t TPrefsLexer::QuotationLength() const {
     const wchar_t quote = FRest.front();
     if (quote != L'"' && (quote != L'\'' || (FBefore != L'(' && FBefore != L','))) return 0;
+    std::size_t firstLine = 0;  // how much of it is on the first line, if there are more
     for (std::size_t i = 1; i < FRest.size(); ++i) {
-        if (FRest[i] == quote) return i + 1;
-        if (FRest[i] == L'\\') ++i;
-        if (i < FRest.size() && IsLineEnd(FRest[i])) return i;
+        if (FRest[i] == quote) {
+            const std::size_t next = FRest.find_first_not_of(L" \t\r\n", i + 1);
+            const bool looksClosed =
+                next != std::wstring_view::npos && (FRest[next] == L')' || FRest[next] == L',');
+            return firstLine == 0 || looksClosed ? i + 1 : firstLine;
+        }
+        if (FRest[i] == L'\\' && i + 1 < FRest.size()) ++i;
+        if (firstLine == 0 && IsLineEnd(FRest[i])) firstLine = i;
     }
-    return FRest.size();
+    return firstLine == 0 ? FRest.size() : firstLine;
 }
 
 std::size_t TPrefsLexer::CodeLength() {

@@ -10,8 +10,9 @@ enum class TPrefsPart : std::uint8_t { Code, Quotation, Comment };
 ///
 /// - A comment is `//` or `#` with all up to its line end, that included, or `/*` with all up to `*/`.
 /// - A quotation lies between two `"`, or between two `'` of which the first stands behind "(" or ",", so that an
-///   apostrophe quotes nothing. A backslash takes the meaning from the character behind it. A quotation ends with its
-///   line at the latest: one that was forgotten to be closed must not turn the rest of the file inside out.
+///   apostrophe quotes nothing. A backslash takes the meaning from the character behind it. A quotation goes
+///   beyond its line only when "," or ")" follows its end: one that was forgotten to be closed must not turn the rest of
+///   the file inside out.
 class TPrefsLexer {
   public:
     explicit TPrefsLexer(std::wstring_view text) : FRest(text) {}

@@ -54,9 +54,9 @@ class TCode {
             FEndsInComment = part.starts_with(L"/*") && (part.size() < 4 || !part.ends_with(L"*/"));
         } else if (lexer.Part() == TPrefsPart::Quotation) {
             EndWhiteSpace(at);
-            for (std::size_t end = 0; (end = part.find(L';', end)) != std::wstring_view::npos;)
-                FQuotedEnds.push_back(FCode.size() + ++end);
-            FCode += part;
+            std::size_t end = FCode.size();
+            AddWithoutLineEnds(part);
+            while ((end = FCode.find(L';', end)) != std::wstring::npos) FQuotedEnds.push_back(++end);
             FWhiteSpace = at + part.size();
         } else {
             const auto begin = std::ranges::find_if(part, IsCode) - part.begin();

@@ -93,6 +93,9 @@ TEST(TPrefsText, KeepsCommentsWithTheirStatements) {
           L"user_pref('b', 'http://\"');\r\n//'\nuser_pref(\"c\", it's /* ' */ 3);"}},
         {L"user_pref(\"a\", \"x;);\n// b\nuser_pref(\"b\", 2);\r\n",
          {L"user_pref(\"a\", \"x;);\n// b\nuser_pref(\"b\", 2);"}},
+        {L"user_pref(\"a\", \"x\n// y\"); // \"\nuser_pref(\"b\", 2);\r\n",
+         {L"user_pref(\"a\", \"x// y\"); // \"\n", L"user_pref(\"b\", 2);"},
+         L"user_pref(\"a\", \"x// y\"); // \"\nuser_pref(\"b\", 2);\r\n"},
         // The statement behind a value that ends with a semicolon is in its entry, and no value is cut.
         {L"// a\nuser_pref(\"a\", \"x;\");\n// b\nuser_pref(\"b\", \"y;z\");\nuser_pref(\"c\", 3);",
          {L"// a\nuser_pref(\"a\", \"x;\");\n// b\nuser_pref(\"b\", \"y;z\");", L"user_pref(\"c\", 3);"},
