@@ -16,7 +16,9 @@ class TFiles {
     /// The file's bytes, or nothing when it cannot be read whole.
     [[nodiscard]] virtual std::optional<std::vector<std::uint8_t>> Read(const std::wstring& path) const = 0;
 
-    /// Puts `bytes` in the file's place: whatever interrupts it, the old or the new file is there whole.
+    /// Puts `bytes` in the file's place: whatever interrupts it, the old or the new content is there whole. Attributes,
+    /// rights and links remain. A read-only file is not replaced. Meanwhile the new content has a name of its own beside
+    /// the file; a name that was left behind is taken over the next time.
     [[nodiscard]] virtual bool Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) = 0;
 
     /// Names (without folder) of the files in `folder` (no trailing delimiter) that match `pattern`, such as

@@ -2,46 +2,108 @@
 
 #include "platform/name_pattern.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/late_bound.h"
 
 namespace {
 
 /// The largest file that is read; settings and languages are far smaller.
 constexpr LONGLONG kLargestFile = 64 * 1024 * 1024;
 
-/// A new file of a unique name, deleted at the end of its scope unless it was moved away.
-class TTemporaryFile {
+/// Those that a new file can be created with; of the others ReplaceFileW takes care.
+constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+/// Gives the file these bytes as its only content, written through to the disk. Room is made first: on a full disk
+/// nothing is lost.
+bool WriteWhole(HANDLE file, const std::vector<std::uint8_t>& bytes) {
+    const auto size = static_cast<DWORD>(bytes.size());
+    DWORD written = 0;
+    const auto setSize = [file, size] {
+        return SetFilePointer(file, static_cast<LONG>(size), nullptr, FILE_BEGIN) !=
+                   INVALID_SET_FILE_POINTER &&
+               SetEndOfFile(file) && SetFilePointer(file, 0, nullptr, FILE_BEGIN) == 0;
+    };
+    return setSize() && WriteFile(file, bytes.data(), size, &written, nullptr) && written == size &&
+           FlushFileBuffers(file);
+}
+
+/// The new content of a file, beside it under a name of its own until it takes its place; deleted at the end of its scope.
+/// What was left of one after the program was killed makes room for it.
+class TNewContent {
   public:
-    explicit TTemporaryFile(const std::wstring& folder) {
-        wchar_t path[MAX_PATH + 1]{};
-        if (GetTempFileNameW(folder.c_str(), L"qlt", 0, path) != 0) FPath = path;
+    explicit TNewContent(std::wstring target)
+        : FTarget(std::move(target)), FPath(FTarget + L".quilltune-new") {}
+    ~TNewContent() {
+        if (FExists) DeleteFileW(FPath.c_str());
     }
-    ~TTemporaryFile() {
-        if (!FPath.empty()) DeleteFileW(FPath.c_str());
-    }
-    TTemporaryFile(const TTemporaryFile&) = delete;
-    TTemporaryFile& operator=(const TTemporaryFile&) = delete;
+    TNewContent(const TNewContent&) = delete;
+    TNewContent& operator=(const TNewContent&) = delete;
 
-    /// Writes the bytes through to the disk.
-    [[nodiscard]] bool Fill(const std::vector<std::uint8_t>& bytes) const {
-        if (FPath.empty()) return false;
-        const TFileHandle file(CreateFileW(FPath.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
-                                           FILE_ATTRIBUTE_NORMAL, nullptr));
-        const auto size = static_cast<DWORD>(bytes.size());
-        DWORD written = 0;
-        return file.IsValid() && WriteFile(file.Get(), bytes.data(), size, &written, nullptr) &&
-               written == size && FlushFileBuffers(file.Get());
+    /// Writes the bytes through to the disk, into a file with these attributes.
+    [[nodiscard]] bool Fill(const std::vector<std::uint8_t>& bytes, DWORD attributes) {
+        DeleteFileW(FPath.c_str());
+        const TFileHandle file(
+            CreateFileW(FPath.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes, nullptr));
+        FExists = file.IsValid();
+        return FExists && WriteWhole(file.Get(), bytes);
     }
 
-    [[nodiscard]] bool MoveTo(const std::wstring& path) {
-        if (!MoveFileExW(FPath.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-            return false;
-        FPath.clear();
-        return true;
+    [[nodiscard]] bool MoveToTarget() {
+        FExists = !MoveFileExW(FPath.c_str(), FTarget.c_str(), MOVEFILE_WRITE_THROUGH);
+        return !FExists;
     }
+
+    /// The target's attributes, rights and streams remain.
+    [[nodiscard]] bool ReplaceTarget() {
+        FExists = !ReplaceFileW(FTarget.c_str(), FPath.c_str(), nullptr, 0, nullptr, nullptr);
+        // The target is gone then.
+        if (FExists && GetLastError() == ERROR_UNABLE_TO_MOVE_REPLACEMENT) return MoveToTarget();
+        return !FExists;
+    }
+
+    [[nodiscard]] const std::wstring& Path() const { return FPath; }
 
   private:
-    std::wstring FPath;  ///< empty when there is no such file
+    std::wstring FTarget;
+    std::wstring FPath;
+    bool FExists = false;
 };
+
+/// Where symbolic links lead to; the path itself when it leads nowhere.
+std::wstring FinalPath(const std::wstring& path) {
+    const TFileHandle file(CreateFileW(path.c_str(), 0, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
+    std::wstring target = file.IsValid() ? FinalPathOf(file.Get()) : std::wstring();
+    return target.empty() ? path : target;
+}
+
+/// Whether the file may be moved away and no hard link gives it another name. (Wine's ReplaceFileW leaves a file behind
+/// when it finds out too late that it may not.)
+bool CanMoveAway(const std::wstring& path) {
+    const TFileHandle file(
+        CreateFileW(path.c_str(), GENERIC_READ | DELETE, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
+    BY_HANDLE_FILE_INFORMATION information{};
+    return file.IsValid() && GetFileInformationByHandle(file.Get(), &information) &&
+           information.nNumberOfLinks == 1;
+}
+
+/// Who may do what to the file, as Windows describes it; nothing on disks without rights.
+std::vector<std::uint8_t> Rights(const std::wstring& path) {
+    constexpr SECURITY_INFORMATION kParts =
+        OWNER_SECURITY_INFORMATION | GROUP_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION;
+    DWORD size = 0;
+    GetFileSecurityW(path.c_str(), kParts, nullptr, 0, &size);
+    std::vector<std::uint8_t> rights(size);
+    if (!GetFileSecurityW(path.c_str(), kParts, rights.data(), size, &size)) return {};
+    return rights;
+}
+
+/// Not in a single step, but the file stays the same one. Its new content lies beside it meanwhile.
+bool WriteInPlace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) {
+    const TFileHandle file(
+        CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+    return file.IsValid() && WriteWhole(file.Get(), bytes);
+}
 
 bool IsFolder(DWORD attributes) { return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0; }
 
@@ -53,9 +115,8 @@ bool TWin32Files::Exists(const std::wstring& path) const {
 }
 
 std::optional<std::vector<std::uint8_t>> TWin32Files::Read(const std::wstring& path) const {
-    const TFileHandle file(CreateFileW(path.c_str(), GENERIC_READ,
-                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                       OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const TFileHandle file(CreateFileW(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+                                       FILE_ATTRIBUTE_NORMAL, nullptr));
     LARGE_INTEGER size{};
     if (!file.IsValid() || !GetFileSizeEx(file.Get(), &size) || size.QuadPart > kLargestFile)
         return std::nullopt;
@@ -68,10 +129,16 @@ std::optional<std::vector<std::uint8_t>> TWin32Files::Read(const std::wstring& p
 }
 
 bool TWin32Files::Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) {
-    // In the same folder: only within a volume is a move a single step.
-    const std::size_t delimiter = path.find_last_of(L"\\/");
-    TTemporaryFile file(delimiter == std::wstring::npos ? L"." : path.substr(0, delimiter + 1));
-    return file.Fill(bytes) && file.MoveTo(path);
+    const std::wstring target = FinalPath(path);
+    const DWORD attributes = GetFileAttributesW(target.c_str());
+    const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
+    if (exists && (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) return false;
+    TNewContent content(target);
+    if (!content.Fill(bytes, exists ? attributes & kKeptAttributes : FILE_ATTRIBUTE_NORMAL)) return false;
+    if (!exists) return content.MoveToTarget();
+    // Another file in its place would be one without the other names and, under Wine, with other rights.
+    const bool canBeAnother = CanMoveAway(target) && Rights(target) == Rights(content.Path());
+    return (canBeAnother && content.ReplaceTarget()) || WriteInPlace(target, bytes);
 }
 
 std::vector<std::wstring> TWin32Files::List(const std::wstring& folder, const std::wstring& pattern) const {

@@ -10,7 +10,9 @@ void RecordFirefoxHomePage(TPageContext& context, const TSpecialRow& row, TCompo
 [[nodiscard]] constexpr TSpecialRow FirefoxHomePageRow(TControlNames edits) {
     return {.Controls = edits,
             .Value = Pref(L"\"browser.startup.homepage\""),
-            .Rule = L"the value without its quotes, nothing when missing; writes the text in quotes",
+            .Rule =
+                L"the value without its quotes and escapes, nothing when missing; writes the text in quotes, "
+                L"with escapes",
             .Load = LoadFirefoxHomePage,
             .Record = RecordFirefoxHomePage};
 }

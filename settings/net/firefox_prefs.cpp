@@ -6,6 +6,7 @@
 
 #include "platform/ext_ini_file.h"
 #include "platform/unicode.h"
+#include "settings/net/prefs_entry.h"
 #include "settings/net/prefs_text.h"
 
 namespace {
@@ -19,6 +20,12 @@ constexpr const wchar_t* kLineEnd = L"\r\n";
 std::int32_t ReadInteger(const TExtIniFile& file, const std::wstring& section, const wchar_t* key) {
     return ParseInteger(file.ReadString(section, key, L"")).value_or(0);
 }
+
+/// A file is there but cannot be read.
+class EUnreadable : public std::runtime_error {
+  public:
+    explicit EUnreadable(const std::wstring& path) : std::runtime_error("cannot read " + ToUtf8(path)) {}
+};
 
 /// The text with the same lines, each of them ended by CR LF.
 std::wstring WithLineEnds(std::wstring_view text) {
@@ -43,88 +50,106 @@ bool TFirefoxPrefs::IsFirefoxInstalled() const {
     });
 }
 
-std::optional<TDecodedText> TFirefoxPrefs::ReadText(const std::wstring& path) const {
-    const auto bytes = FSystem.Files.Read(path);
-    if (!bytes) return std::nullopt;
-    return DecodeUtf8OrAnsi(*bytes, FSystem.Windows);
+std::optional<TFirefoxPrefs::TBytes> TFirefoxPrefs::ReadFile(const std::wstring& path) const {
+    auto bytes = FSystem.Files.Read(path);
+    if (!bytes && FSystem.Files.Exists(path)) throw EUnreadable(path);
+    return bytes;
 }
 
 std::wstring TFirefoxPrefs::FindProfileFolder() const {
     TExtIniFile profiles;
-    if (const auto text = ReadText(FFirefoxFolder + L"profiles.ini"))
-        profiles.SetStrings(TLineReader(text->Text));
+    if (const auto bytes = ReadFile(FFirefoxFolder + L"profiles.ini"))
+        profiles.SetStrings(TLineReader(DecodeUtf8OrAnsi(*bytes, FSystem.Windows).Text));
     const auto sections = profiles.ReadSections();
     const auto found = std::ranges::find_if(sections, [&](const std::wstring& section) {
         return ReadInteger(profiles, section, L"Default") != 0;
     });
     const std::wstring section = found == sections.end() ? L"Profile0" : *found;
     const std::wstring path = profiles.ReadString(section, L"Path", L"");
-    return ReadInteger(profiles, section, L"IsRelative") == 1 ? FFirefoxFolder + path : path;
+    return !path.empty() && ReadInteger(profiles, section, L"IsRelative") == 1 ? FFirefoxFolder + path : path;
 }
 
-TDecodedText TFirefoxPrefs::ReadPrefs(const std::wstring& profileFolder) const {
+TFirefoxPrefs::TContent TFirefoxPrefs::ReadProfile(const std::wstring& profileFolder) const {
     const std::wstring userFile = profileFolder + kUserFile;
-    const bool exists = FSystem.Files.Exists(userFile);
-    if (exists) {
-        if (auto text = ReadText(userFile)) return *std::move(text);
-    }
-    TDecodedText text = ReadText(profileFolder + kPrefsFile).value_or(TDecodedText{});
+    TContent content{.State = TState::Loaded, .UserFile = ReadFile(userFile)};
+    const bool exists = content.UserFile.has_value();
+    const TBytes bytes = exists ? *content.UserFile : ReadFile(profileFolder + kPrefsFile).value_or(TBytes());
+    const auto [text, encoding] = DecodeUtf8OrAnsi(bytes, FSystem.Windows);
     if (!exists) {
         // Without the copy the next load begins from prefs.js again, which is no loss.
-        static_cast<void>(FSystem.Files.Replace(
-            userFile, EncodeText(WithLineEnds(text.Text), text.Encoding, FSystem.Windows)));
+        TBytes copy = EncodeText(WithLineEnds(text), encoding, FSystem.Windows);
+        if (FSystem.Files.Replace(userFile, copy)) content.UserFile = std::move(copy);
     }
-    return text;
+    content.Entries = SplitPrefs(text, [this] { FSystem.Clock.ProcessMessages(); });
+    content.Encoding = encoding;
+    return content;
 }
 
 void TFirefoxPrefs::LoadFirefoxPrefs() {
     unsigned saves = 0;
     do {
         saves = FSaves;
-        std::wstring folder = FindProfileFolder();
-        auto [text, encoding] = ReadPrefs(folder);
         // Kept apart until they are whole: a message handled meanwhile may save.
-        auto lines = SplitPrefs(std::move(text), [this] { FSystem.Clock.ProcessMessages(); });
+        std::wstring folder;
+        TContent content;
+        try {
+            folder = FindProfileFolder();
+            if (!folder.empty()) content = ReadProfile(folder);
+        } catch (const EUnreadable&) {
+            content.State = TState::Unreadable;
+        }
         FFirefoxProfileFolder = std::move(folder);
-        FFirefoxPrefLines = std::move(lines);
-        FEncoding = encoding;
-        FLoaded = true;
+        FContent = std::move(content);
+        FEdits.clear();
     } while (saves != FSaves);
 }
 
 std::wstring TFirefoxPrefs::GetFirefoxPref(std::wstring_view quotedName) const {
-    for (std::size_t i = FFirefoxPrefLines.size(); i-- > 0;) {
-        if (auto value = PrefValue(FFirefoxPrefLines[i], quotedName)) return *std::move(value);
+    for (std::size_t i = FContent.Entries.size(); i-- > 0;) {
+        if (auto value = PrefValue(FContent.Entries[i], quotedName)) return *std::move(value);
     }
     return kNoSuchPref;
 }
 
 void TFirefoxPrefs::SetFirefoxPref(std::wstring_view quotedName, std::wstring_view value) {
-    const auto names = [&](const std::wstring& line) {
-        return FindText(line, quotedName) != std::wstring::npos;
-    };
-    if (std::ranges::none_of(FFirefoxPrefLines, names)) {
-        FSystem.Shell.DebugOutput(L"not has");
-        FSystem.Shell.DebugOutput(FFirefoxPrefLines.emplace_back(MakePref(quotedName, value)));
-    } else if (value.empty()) {
-        std::erase_if(FFirefoxPrefLines, names);
-    } else {
-        for (std::wstring& line : FFirefoxPrefLines) {
-            if (names(line)) line = WithPrefValue(line, value);
-        }
+    const bool appended = !ChangePref(FContent.Entries, quotedName, value);
+    FEdits.push_back({std::wstring(quotedName), std::wstring(value), appended});
+    if (!appended) return;
+    FSystem.Shell.DebugOutput(L"not has");
+    FSystem.Shell.DebugOutput(FContent.Entries.emplace_back(MakePref(quotedName, value)));
+}
+
+bool TFirefoxPrefs::HasEdit(std::wstring_view quotedName) const {
+    return std::ranges::any_of(FEdits,
+                               [&](const TEdit& edit) { return SameText(edit.QuotedName, quotedName); });
+}
+
+void TFirefoxPrefs::FollowUserFile(const std::wstring& path) {
+    auto bytes = ReadFile(path);
+    if (!bytes || bytes == FContent.UserFile) return;
+    auto [text, encoding] = DecodeUtf8OrAnsi(*bytes, FSystem.Windows);
+    FContent = {.State = TState::Loaded,
+                .UserFile = std::move(bytes),
+                .Entries = SplitPrefs(text, [] {}),
+                .Encoding = encoding};
+    for (const TEdit& edit : FEdits) {
+        // What was to be removed may be gone already.
+        const bool mayAppend = edit.Appended || !edit.Value.empty();
+        if (!ChangePref(FContent.Entries, edit.QuotedName, edit.Value) && mayAppend)
+            FContent.Entries.push_back(MakePref(edit.QuotedName, edit.Value));
     }
 }
 
 bool TFirefoxPrefs::SaveFirefoxPrefs() {
-    if (!FLoaded) return false;
-    std::wstring text;
-    for (const std::wstring& line : FFirefoxPrefLines) {
-        text += line;
-        text += kLineEnd;
-    }
+    const bool loaded = FContent.State == TState::Loaded;
+    if (FContent.State == TState::Nothing || (!loaded && FEdits.empty())) return false;
+    if (!loaded) throw std::runtime_error("cannot save preferences that could not be read");
     const std::wstring path = FFirefoxProfileFolder + kUserFile;
-    if (!FSystem.Files.Replace(path, EncodeText(text, FEncoding, FSystem.Windows)))
-        throw std::runtime_error("cannot write " + ToUtf8(path));
+    FollowUserFile(path);
+    TBytes bytes = EncodeText(JoinPrefs(FContent.Entries), FContent.Encoding, FSystem.Windows);
+    if (!FSystem.Files.Replace(path, bytes)) throw std::runtime_error("cannot write " + ToUtf8(path));
+    FContent.UserFile = std::move(bytes);
+    FEdits.clear();
     ++FSaves;
     return true;
 }

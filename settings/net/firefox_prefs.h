@@ -5,7 +5,7 @@
 #include "platform/text.h"
 
 /// Names of prefs have their quotes, and values are what is written between the comma and the closing parenthesis; see
-/// settings/net/prefs_text.h. Nothing is converted or checked.
+/// settings/net/prefs_entry.h. Nothing is converted or checked.
 class TFirefoxPrefs {
   public:
     /// What GetFirefoxPref answers when no statement names the pref.
@@ -16,16 +16,18 @@ class TFirefoxPrefs {
     TFirefoxPrefs(TSystem& system, std::wstring firefoxFolder);
 
     [[nodiscard]] const std::wstring& FirefoxFolder() const { return FFirefoxFolder; }
-    /// The folder of the profile that was loaded, without trailing delimiter; empty when there is none.
+    /// The folder of the profile that was looked up, without trailing delimiter; empty when there is none.
     [[nodiscard]] const std::wstring& FirefoxProfileFolder() const { return FFirefoxProfileFolder; }
-    /// The statements; of two that name the same pref the later one counts.
-    [[nodiscard]] const std::vector<std::wstring>& FirefoxPrefLines() const { return FFirefoxPrefLines; }
+    /// The statements with their comments, as settings/net/prefs_text.h has them; of two that name the same pref the later
+    /// one counts.
+    [[nodiscard]] const std::vector<std::wstring>& FirefoxPrefLines() const { return FContent.Entries; }
 
     [[nodiscard]] bool IsFirefoxInstalled() const;
 
     /// Looks the profile up and reads its user.js, dropping whatever was not saved. When the profile has none yet, a
-    /// copy of its prefs.js becomes its user.js and is read. What cannot be read or copied is passed over. Messages are
-    /// handled meanwhile; what they see, edit and save is what was loaded before.
+    /// copy of its prefs.js becomes its user.js and is read; a copy that cannot be made is passed over. Without a profile,
+    /// and when a file is there but cannot be read, nothing is loaded. Messages are handled meanwhile; what they see,
+    /// edit and save is what was loaded before.
     void LoadFirefoxPrefs();
 
     /// The value of the last statement that names the pref, without regard to case, or kNoSuchPref.
@@ -35,21 +37,44 @@ class TFirefoxPrefs {
     /// one is appended, even with an empty value.
     void SetFirefoxPref(std::wstring_view quotedName, std::wstring_view value);
 
-    /// Replaces the profile's user.js by the statements, one per line, in the encoding in which they were read. False
-    /// when nothing was ever loaded and there is thus nothing to save. Throws std::runtime_error when the file cannot be
-    /// written; it is then as it was.
+    /// Whether the pref was set since it was last loaded or saved.
+    [[nodiscard]] bool HasEdit(std::wstring_view quotedName) const;
+
+    /// Replaces the profile's user.js by the entries, in the encoding in which they were read. Should the file no longer
+    /// be as it was when it was loaded or saved, it is read again, and what was set since then is set in what it says now;
+    /// a file that is gone is written anew. False when there is nothing to save, because nothing was ever loaded or there
+    /// is no profile. Throws std::runtime_error when the file cannot be written, now or then not be read; it is then as
+    /// it was, and what was set waits for the next call.
     [[nodiscard]] bool SaveFirefoxPrefs();
 
   private:
-    [[nodiscard]] std::optional<TDecodedText> ReadText(const std::wstring& path) const;
+    using TBytes = std::vector<std::uint8_t>;
+
+    enum class TState : std::uint8_t { Nothing, Unreadable, Loaded };
+
+    struct TContent {
+        TState State = TState::Nothing;
+        std::optional<TBytes> UserFile{};  ///< user.js as it was read or written; nothing when there is none
+        std::vector<std::wstring> Entries{};
+        TTextEncoding Encoding = TTextEncoding::Utf8;
+    };
+
+    struct TEdit {
+        std::wstring QuotedName;
+        std::wstring Value;
+        bool Appended;  ///< no statement named it
+    };
+
+    [[nodiscard]] std::optional<TBytes> ReadFile(const std::wstring& path) const;
     [[nodiscard]] std::wstring FindProfileFolder() const;
-    [[nodiscard]] TDecodedText ReadPrefs(const std::wstring& profileFolder) const;
+    [[nodiscard]] TContent ReadProfile(const std::wstring& profileFolder) const;
+    /// Reads user.js again should it have changed.
+    void FollowUserFile(const std::wstring& path);
 
     TSystem& FSystem;
     std::wstring FFirefoxFolder;
     std::wstring FFirefoxProfileFolder;
-    std::vector<std::wstring> FFirefoxPrefLines;
-    TTextEncoding FEncoding = TTextEncoding::Utf8;
-    bool FLoaded = false;
-    unsigned FSaves = 0;  ///< tells a load that the file changed meanwhile
+    TContent FContent;
+    std::vector<TEdit> FEdits;  ///< what was set since FContent was read or written, in order
+    unsigned FSaves = 0;        ///< tells a load that the file changed meanwhile
 };

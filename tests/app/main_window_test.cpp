@@ -263,6 +263,32 @@ void InstallFirefox(TFakeSystem& fake, std::string_view prefs) {
     fake.Files.PutText(firefox + L"a\\user.js", prefs);
 }
 
+TEST_F(TMainWindow, FirefoxChangesWaitForAReadableFileButNotForAProfile) {
+    const std::wstring firefox = L"C:\\Users\\Me\\AppData\\Mozilla\\Firefox\\";
+    InstallFirefox(Fake, "user_pref(\"b\", 1);");
+    Open();
+    Fake.Files.Lock(firefox + L"a\\user.js");
+    Click(L"RzGroup_Use.Items[1]");
+    Toggle(kBlink);
+    EXPECT_THROW(Apply(), std::runtime_error);
+    EXPECT_TRUE(Enabled(L"Button_Apply") && Window->Context().FirefoxChanged);
+    Fake.Files.Unlock();
+    Click(L"RzGroup_Use.Items[1]");
+    Toggle(kBlink);
+    Apply();
+    EXPECT_EQ(Fake.Files.Text(firefox + L"a\\user.js"),
+              "user_pref(\"b\", 1);\r\nuser_pref(\"browser.blink_allowed\", false);\r\n");
+    EXPECT_EQ(Fake.Dialogs.Questions().size(), 1U);
+
+    Fake.Files.Remove(firefox + L"profiles.ini");
+    const std::size_t replaced = Fake.Files.Replaced().size();
+    Click(L"RzGroup_Use.Items[1]");
+    Toggle(kBlink);
+    Apply();
+    EXPECT_FALSE(Enabled(L"Button_Apply") || Window->Context().FirefoxChanged);
+    EXPECT_TRUE(Fake.Dialogs.Questions().size() == 1 && Fake.Files.Replaced().size() == replaced);
+}
+
 TEST_F(TMainWindow, AFaultWhileAPageLoadsEndsItsLoaderOnly) {
     InstallFirefox(Fake,
                    "user_pref(\"browser.blink_allowed\", false);"

@@ -33,5 +33,6 @@ TContractTest::~TContractTest() { EXPECT_EQ(FSubject->Fakes.Services.OpenHandles
 TSystem& TContractTest::System() { return FSubject->Fakes.System; }
 std::wstring TContractTest::Folder() { return L"C:\\Temp\\contract"; }
 void TContractTest::MakeFolder(const std::wstring& path) { FSubject->Fakes.Files.PutFolder(path); }
+void TContractTest::MakeReadOnly(const std::wstring& path) { FSubject->Fakes.Files.MakeReadOnly(path); }
 std::wstring TContractTest::VersionedFile() { return L"C:\\Windows\\System32\\versioned.dll"; }
 std::wstring TContractTest::InstalledService() { return L"PlugPlay"; }

@@ -34,12 +34,16 @@ TEST_F(TFilesContract, WhatCannotBeDoneLeavesNothingBehind) {
     Put(L"sub\\inner.txt", "x");
     EXPECT_FALSE(Files().Replace(Path(L"none\\file"), {1}));
     EXPECT_FALSE(Files().Replace(Path(L"sub"), {1}));
+    Put(L"sub\\fixed.txt", "x");
+    MakeReadOnly(Path(L"sub\\fixed.txt"));
+    EXPECT_FALSE(Files().Replace(Path(L"sub\\fixed.txt"), {1}));
+    EXPECT_EQ(Files().Read(Path(L"sub\\fixed.txt")), TBytes{'x'});
     for (const std::wstring& path : {Path(L"missing"), Path(L"none\\file"), Path(L"sub"), std::wstring()}) {
         EXPECT_FALSE(Files().Exists(path)) << path;
         EXPECT_EQ(Files().Read(path), std::nullopt) << path;
     }
     EXPECT_THAT(Files().List(Folder(), L"*"), IsEmpty());
-    EXPECT_THAT(Files().List(Path(L"sub"), L"*"), ElementsAre(L"inner.txt"));
+    EXPECT_THAT(Files().List(Path(L"sub"), L"*"), UnorderedElementsAre(L"inner.txt", L"fixed.txt"));
 }
 
 TEST_F(TFilesContract, ListTakesThePatternAtItsWord) {

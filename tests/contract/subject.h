@@ -32,6 +32,7 @@ class TContractTest : public testing::Test {
     /// A folder, empty when the test begins; no trailing delimiter.
     std::wstring Folder();
     void MakeFolder(const std::wstring& path);
+    void MakeReadOnly(const std::wstring& path);
     /// A file with a version resource in at least one language.
     std::wstring VersionedFile();
     /// Key name of a service that is installed.

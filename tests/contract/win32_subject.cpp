@@ -21,6 +21,7 @@ void EraseContractKeys() {
 struct TContractTest::TSubject {
     TWin32Dialogs Dialogs;
     TWin32System Windows{Dialogs};
+    std::vector<std::wstring> ReadOnly;
     std::filesystem::path Folder = std::filesystem::temp_directory_path() / "contract-test";
 };
 
@@ -32,12 +33,19 @@ TContractTest::TContractTest() : FSubject(std::make_unique<TSubject>()) {
 
 TContractTest::~TContractTest() {
     EraseContractKeys();
+    for (const std::wstring& path : FSubject->ReadOnly)
+        SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
     std::filesystem::remove_all(FSubject->Folder);
 }
 
 TSystem& TContractTest::System() { return FSubject->Windows.System(); }
 std::wstring TContractTest::Folder() { return FSubject->Folder.wstring(); }
 void TContractTest::MakeFolder(const std::wstring& path) { std::filesystem::create_directory(path); }
+
+void TContractTest::MakeReadOnly(const std::wstring& path) {
+    SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
+    FSubject->ReadOnly.push_back(path);
+}
 
 std::wstring TContractTest::VersionedFile() {
     wchar_t folder[MAX_PATH]{};

@@ -35,18 +35,18 @@ class TFakeFiles : public TFiles {
     void FailReplace(int n) { FReplacesToFailure = n; }
     /// The file is there but cannot be read.
     void Lock(const std::wstring& path) { FLocked.push_back(path); }
+    void Unlock() { FLocked.clear(); }
+    void MakeReadOnly(const std::wstring& path) { FReadOnly.push_back(path); }
 
     [[nodiscard]] bool Exists(const std::wstring& path) const override { return Find(path) != nullptr; }
     [[nodiscard]] std::optional<std::vector<std::uint8_t>> Read(const std::wstring& path) const override {
         const TFile* file = Find(path);
-        const bool locked =
-            std::ranges::any_of(FLocked, [&](const auto& each) { return SameText(each, path); });
-        return file == nullptr || locked ? std::nullopt : std::optional(file->second);
+        return file == nullptr || IsAmong(FLocked, path) ? std::nullopt : std::optional(file->second);
     }
     [[nodiscard]] bool Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override {
         FReplaced.push_back(path);
         const bool fails = FReplacesToFailure > 0 && --FReplacesToFailure == 0;
-        if (fails || !HasFolder(FolderOf(path)) || HasFolder(path)) return false;
+        if (fails || !HasFolder(FolderOf(path)) || HasFolder(path) || IsAmong(FReadOnly, path)) return false;
         Put(path, bytes);
         return true;
     }
@@ -85,6 +85,9 @@ class TFakeFiles : public TFiles {
   private:
     using TFile = std::pair<std::wstring, std::vector<std::uint8_t>>;
 
+    static bool IsAmong(const std::vector<std::wstring>& paths, const std::wstring& path) {
+        return std::ranges::any_of(paths, [&](const std::wstring& each) { return SameText(each, path); });
+    }
     static std::wstring FolderOf(const std::wstring& path) {
         return path.substr(0, std::min(path.rfind(L'\\'), path.size()));
     }
@@ -103,6 +106,7 @@ class TFakeFiles : public TFiles {
     std::vector<TFile> FFiles;
     std::vector<std::wstring> FFolders;  ///< each with a backslash at its end
     std::vector<std::wstring> FLocked;
+    std::vector<std::wstring> FReadOnly;
     std::vector<std::wstring> FReplaced;
     int FReplacesToFailure = 0;  ///< 0 = none will fail
 };

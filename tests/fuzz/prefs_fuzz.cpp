@@ -1,8 +1,9 @@
-// Firefox's preference files: every statement is kept whole, nothing is read that is not written there, and a change
-// changes the statements that name the pref and no others.
+// Firefox's preference files: every statement and every comment is kept whole, nothing is read that is not written there,
+// and a change changes the statements that name the pref and no others.
 #include <set>
 
 #include "settings/net/firefox_prefs.h"
+#include "settings/net/prefs_lexer.h"
 #include "tests/fakes/fake_system.h"
 #include "tests/fuzz/fuzz.h"
 
@@ -41,8 +42,9 @@ TLines Split(std::wstring text) {
 std::wstring Body(std::wstring text) {
     std::erase(text, L'\r');
     std::erase(text, L'\n');
-    const std::size_t first = text.find(kStatement);
-    return first == std::wstring::npos ? text : text.substr(first);
+    for (std::size_t at = 0; (at = text.find(L"user_pref", at)) != std::wstring::npos; ++at)
+        if (Trim(text.substr(at + 9)).starts_with(L'(')) return text.substr(at);
+    return text;
 }
 
 /// A few quoted texts of the file, which may be names of prefs, and a name that is new to it.
@@ -69,46 +71,102 @@ bool Mentions(const std::wstring& line, const std::wstring& name) {
     return false;
 }
 
-const std::wstring* LastOf(const TLines& lines, const std::wstring& name) {
-    const std::wstring* last = nullptr;
-    for (const std::wstring& line : lines)
-        if (Mentions(line, name)) last = &line;
-    return last;
-}
-
 void RequireReading(const TFirefoxPrefs& prefs, const std::wstring& name) {
     const std::wstring value = prefs.GetFirefoxPref(name);
-    const std::wstring* line = LastOf(prefs.FirefoxPrefLines(), name);
-    if (line == nullptr)
-        Require(value == TFirefoxPrefs::kNoSuchPref, "a pref that nobody names is absent");
-    else
-        Require(line->find(value) != std::wstring::npos && value.find(L')') == std::wstring::npos,
-                "a value stands in the last statement that names the pref");
+    if (value == TFirefoxPrefs::kNoSuchPref) return;
+    Require(std::ranges::any_of(prefs.FirefoxPrefLines(),
+                                [&](const std::wstring& line) {
+                                    const std::wstring code = WithBlankedComments(line);
+                                    return Mentions(code, name) && code.find(value) != std::wstring::npos;
+                                }),
+            "a value stands in an entry with the name");
 }
 
 void RequireChange(TFirefoxPrefs& prefs, const std::wstring& name, const std::wstring& value) {
-    TLines expected;
-    bool named = false;
-    for (const std::wstring& line : prefs.FirefoxPrefLines()) {
-        const bool match = Mentions(line, name);
-        named = named || match;
-        if (!match)
-            expected.push_back(line);
-        else if (!value.empty())
-            expected.push_back(line.substr(0, line.find_last_of(L',') + 1) + L" " + value + L");");
-    }
-    if (!named) expected.push_back(kStatement + name + L", " + value + L");");
+    const TLines before = prefs.FirefoxPrefLines();
+    const bool named = prefs.GetFirefoxPref(name) != TFirefoxPrefs::kNoSuchPref;
     prefs.SetFirefoxPref(name, value);
-    Require(prefs.FirefoxPrefLines() == expected, "all statements of the pref are changed, and only they");
+    const TLines& after = prefs.FirefoxPrefLines();
+    if (!named) {
+        Require(after.back() == kStatement + name + L", " + value + L");", "a new pref has a new statement");
+    } else if (value.empty()) {
+        Require(after.size() <= before.size(), "what is removed leaves nothing new");
+    } else {
+        Require(after.size() == before.size(), "what is changed stays in its place");
+    }
+    for (const std::wstring& line : before)
+        if (!Mentions(line, name))
+            Require(std::ranges::find(after, line) != after.end(), "others are left alone");
+}
 
-    // Where the name is followed by the statement's last comma, the value can be read back.
-    const std::wstring* line = LastOf(expected, name);
-    if (line == nullptr) return;
-    const std::wstring head = line->substr(0, line->size() - (L" " + value + L");").size());
-    if (head.size() > name.size() && head.ends_with(L',') &&
-        SameText(std::wstring_view(head).substr(head.size() - 1 - name.size(), name.size()), name) &&
-        !Mentions(head.substr(0, head.size() - 2), name))
-        Require(prefs.GetFirefoxPref(name) == Trim(value), "the value that was written is read");
+/// All that is no comment and no white space, and the comments without their line ends.
+std::pair<std::wstring, TLines> Parts(const std::wstring& text) {
+    std::pair<std::wstring, TLines> parts;
+    for (TPrefsLexer lexer(text); lexer.Next();) {
+        if (lexer.Part() == TPrefsPart::Comment)
+            parts.second.emplace_back(Trim(lexer.Text()));
+        else
+            std::ranges::copy_if(lexer.Text(), std::back_inserter(parts.first),
+                                 [](wchar_t c) { return c > L' '; });
+    }
+    return parts;
+}
+
+/// A file as people write it, put together as the input says.
+std::string HandWritten(const std::uint8_t* data, std::size_t size) {
+    constexpr const char* kPieces[] = {
+        "\n",
+        "\r\n",
+        "  ",
+        "\n\n",
+        "user_pref(\"a\", 1);",
+        "user_pref(\"b\", \"x // y; /* #\");",
+        "user_pref(\"c\", \"C:\\\\\");",
+        "user_pref(\"d\", \"q\\\"; \\\")\");",
+        "user_pref(\"e\", /* ;) \" */ 2) ;",
+        "user_pref(\"f\", // ;) \"\n 3);",
+        "user_pref(\"g\", \"x;\");",
+        "user_pref('h', ')//');",
+        "// user_pref(\"off\", 1);\n",
+        "# it's; \"\r\n",
+        "/* user_pref(\"off\", 2);\n */",
+        "// \"a\", \r",
+    };
+    std::string text;
+    for (std::size_t i = 0; i < std::min<std::size_t>(size, 100); ++i)
+        text += kPieces[data[i] % std::size(kPieces)];
+    return text;
+}
+
+/// What Apply writes without a change.
+std::string SavedAgain(TFakeSystem& fake, TFirefoxPrefs& prefs) {
+    prefs.LoadFirefoxPrefs();
+    Require(prefs.SaveFirefoxPrefs(), "what was loaded can be saved");
+    return fake.Files.Text(kUserFile);
+}
+
+void RequireHandWrittenIsKept(TFakeSystem& fake, TFirefoxPrefs& prefs, const std::string& text) {
+    fake.Files.PutText(kUserFile, text);
+    const auto parts = Parts({text.begin(), text.end()});
+    if (parts.second.empty()) return;
+    const std::string saved = SavedAgain(fake, prefs);
+    Require(Parts({saved.begin(), saved.end()}) == parts,
+            "what is in force stays so, and what is not stays a comment");
+    Require(SavedAgain(fake, prefs) == saved, "saving twice changes nothing more");
+    for (const wchar_t* name : {L"\"a\"", L"\"d\"", L"\"g\""}) {
+        const std::wstring value = prefs.GetFirefoxPref(L"\"b\"");
+        RequireChange(prefs, name, L"\"n;)\"");
+        Require(prefs.GetFirefoxPref(name) == L"\"n;)\"", "the value that was written is read");
+        Require(prefs.GetFirefoxPref(L"\"b\"") == value, "a change changes no other pref");
+        RequireChange(prefs, name, L"");
+        Require(prefs.GetFirefoxPref(L"\"b\"") == value, "removing a pref removes no other");
+        Require(prefs.GetFirefoxPref(L"\"off\"") == TFirefoxPrefs::kNoSuchPref, "a comment sets nothing");
+    }
+    Require(prefs.SaveFirefoxPrefs(), "it can be saved again");
+    const std::string changed = fake.Files.Text(kUserFile);
+    const std::string again = SavedAgain(fake, prefs);
+    Require(Parts({again.begin(), again.end()}) == Parts({changed.begin(), changed.end()}),
+            "what was changed is read as it was written");
 }
 
 }  // namespace
@@ -122,22 +180,24 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     TFirefoxPrefs prefs(fake.System, L"C:\\Firefox\\");
     prefs.LoadFirefoxPrefs();
 
-    const std::wstring body = Body(DecodeUtf8OrAnsi({data, size}, fake.Windows).Text);
-    const TLines lines = prefs.FirefoxPrefLines();
-    std::wstring joined;
-    for (const std::wstring& line : lines) joined += line;
-    Require(joined == body.substr(0, body.rfind(L';') + 1), "no character of a statement is lost");
-    Require(lines == Split(body), "statements end where they should");
-    Require(calls == lines.size(), "messages are handled once for each statement");
-
-    Require(prefs.SaveFirefoxPrefs(), "what was loaded can be saved");
-    const std::string saved = fake.Files.Text(kUserFile);
-    if (joined.starts_with(kStatement)) {
-        prefs.LoadFirefoxPrefs();
-        Require(prefs.SaveFirefoxPrefs() && fake.Files.Text(kUserFile) == saved,
-                "saving and loading changes nothing");
+    const std::wstring text = DecodeUtf8OrAnsi({data, size}, fake.Windows).Text;
+    const std::wstring body = Body(text);
+    // In its own words where there are no comments; that ends of folders cut no values is for the tests.
+    if (text.find_first_of(L"/#") == std::wstring::npos && text.find(L"\\\"") == std::wstring::npos) {
+        const TLines lines = prefs.FirefoxPrefLines();
+        std::wstring joined;
+        for (const std::wstring& line : lines) joined += line;
+        Require(joined == body.substr(0, body.rfind(L';') + 1), "no character of a statement is lost");
+        Require(lines == Split(body), "statements end where they should");
+        Require(calls == lines.size(), "messages are handled once for each statement");
+        const std::string saved = SavedAgain(fake, prefs);
+        if (joined.starts_with(kStatement))
+            Require(SavedAgain(fake, prefs) == saved, "saving and loading changes nothing");
     }
+    RequireHandWrittenIsKept(fake, prefs, HandWritten(data, size));
 
+    fake.Files.Put(kUserFile, {data, data + size});
+    prefs.LoadFirefoxPrefs();
     const std::wstring some = SomeValue(body);
     for (const std::wstring& name : Names(body)) {
         RequireReading(prefs, name);

@@ -23,7 +23,7 @@ std::wstring ProfileFolder(const std::wstring& text) {
         break;
     }
     const std::wstring path = ini.ReadString(chosen, L"Path", L"");
-    return number(chosen, L"IsRelative") == 1 ? kFolder + path : path;
+    return number(chosen, L"IsRelative") == 1 && !path.empty() ? kFolder + path : path;
 }
 
 }  // namespace
@@ -36,7 +36,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     TFirefoxPrefs prefs(fake.System, kFolder);
     prefs.LoadFirefoxPrefs();
     Require(prefs.FirefoxProfileFolder() == folder, "the default profile, or else the first one");
-    Require(prefs.GetFirefoxPref(L"\"found\"") == L"true", "its user.js is read");
+    Require((prefs.GetFirefoxPref(L"\"found\"") == L"true") == !folder.empty(),
+            "its user.js is read, if there is one");
     Require(fake.Files.Replaced().empty(), "nothing is written");
     return 0;
 }

@@ -50,6 +50,18 @@ void EnableThemeTabTexture(HWND dialog) {
     if (enableTexture != nullptr) enableTexture(dialog, kEnableTab);
 }
 
+std::wstring FinalPathOf(HANDLE file) {
+    const TSystemLibrary kernel(L"kernel32.dll");
+    const auto getFinalPath =
+        kernel.Find<DWORD WINAPI(HANDLE, wchar_t*, DWORD, DWORD)>("GetFinalPathNameByHandleW");
+    if (getFinalPath == nullptr) return {};
+    constexpr DWORD kLongest = 0x8000;
+    std::wstring path(kLongest, L'\0');
+    const DWORD length = getFinalPath(file, path.data(), kLongest, 0);
+    path.resize(length < kLongest ? length : 0);
+    return path;
+}
+
 PVOID AddFirstHandler(PVECTORED_EXCEPTION_HANDLER handler) {
     const TSystemLibrary kernel(L"kernel32.dll");
     const auto add =

@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 /// IsWow64Process: whether this is a 32-bit process on 64-bit Windows. False where Windows has no such function.
 [[nodiscard]] bool ProcessIsWow64();
 
@@ -15,6 +17,10 @@
 /// EnableThemeDialogTexture: lets the theme paint a dialog's background as that of a tab's sheet. Windows without
 /// themes does nothing.
 void EnableThemeTabTexture(HWND dialog);
+
+/// GetFinalPathNameByHandleW: the path of an open file behind all symbolic links, empty when it cannot be told. So it is
+/// before Vista, which has no symbolic links to files either.
+[[nodiscard]] std::wstring FinalPathOf(HANDLE file);
 
 /// AddVectoredExceptionHandler: lets `handler` see the process's exceptions before any frame does, until it is removed
 /// with the answer. Null on Windows 2000, which has no such function.

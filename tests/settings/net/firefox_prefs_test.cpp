@@ -5,7 +5,6 @@
 
 #include <gmock/gmock.h>
 
-#include "settings/net/prefs_text.h"
 #include "tests/fakes/fake_system.h"
 
 namespace {
@@ -37,59 +36,6 @@ class TFirefoxPrefsTest : public testing::Test {
     TFakeSystem Fake;
     TFirefoxPrefs Prefs{Fake.System, kFirefox};
 };
-
-TEST(TPrefsText, CountsTheQuotesAfterTheFirstCharacter) {
-    for (const wchar_t* open : {L"a\"", L"a\"b\"c\"", L"\"\"", L"a\"\\\"", L"a\\\\\"\""})
-        EXPECT_TRUE(HasOpenQuote(open)) << testing::PrintToString(std::wstring(open));
-    for (const wchar_t* closed : {L"", L"\"", L"a", L"\"a", L"a\"\"", L"a\\\"", L"\\\"", L"\"\"\""})
-        EXPECT_FALSE(HasOpenQuote(closed)) << testing::PrintToString(std::wstring(closed));
-}
-
-TEST(TPrefsText, SplitsAtSemicolonsOutsideQuotations) {
-    const std::pair<const wchar_t*, TLines> cases[] = {
-        {L"", {}},
-        {L"no statement", {}},
-        {L"# a;b\r\n// c\nuser_pref(\"a\", 1);\n", {L"user_pref(\"a\", 1);"}},
-        {L"#;\nUSER_PREF(\"a\", 1);", {L"#;", L"USER_PREF(\"a\", 1);"}},
-        {L"user_pref(\"a\",\r\n 1);\ruser_pref(\"b\", 2); tail",
-         {L"user_pref(\"a\", 1);", L"user_pref(\"b\", 2);"}},
-        {L"user_pref(\"a\", 1);;\n;", {L"user_pref(\"a\", 1);", L";", L";"}},
-        {L"user_pref(\"a\", 1);\n// b\nuser_pref(\"b\", 2);",
-         {L"user_pref(\"a\", 1);", L"// buser_pref(\"b\", 2);"}},
-        {L"user_pref(\"a\", \"x;y;z\");user_pref(\"b\", 2);",
-         {L"user_pref(\"a\", \"x;y;z\");", L"user_pref(\"b\", 2);"}},
-        {L"user_pref(\"a\", \"x\\\";y\");user_pref(\"b\", 2);",
-         {L"user_pref(\"a\", \"x\\\";y\");", L"user_pref(\"b\", 2);"}},
-        // The quote at the beginning of a piece closes nothing: the next statement that is open by itself does.
-        {L"user_pref(\"a\", \"x;\");user_pref(\"b\", 2);user_pref(\"c\", \"y;z\");user_pref(\"d\", 3);",
-         {L"user_pref(\"a\", \"x;\");user_pref(\"b\", 2);user_pref(\"c\", \"y;",
-          L"z\");user_pref(\"d\", 3);"}},
-        {L"user_pref(\"a\", 1);user_pref(\"b\", \"x;y);\n z",
-         {L"user_pref(\"a\", 1);", L"user_pref(\"b\", \"x;y);"}},
-    };
-    for (const auto& [text, statements] : cases) {
-        std::size_t calls = 0;
-        EXPECT_EQ(SplitPrefs(text, [&] { ++calls; }), statements);
-        EXPECT_EQ(calls, statements.size()) << "messages are handled once for each";
-    }
-}
-
-TEST(TPrefsText, ReadsValuesAsTheyAreWritten) {
-    const std::tuple<const wchar_t*, const wchar_t*, std::optional<std::wstring>> cases[] = {
-        {L"user_pref(\"browser.tabs.tabMinWidth\", 100);", L"\"Browser.Tabs.TabMinWidth\"", L"100"},
-        {L"user_pref(\"browser.tabs.tabMinWidth\", 100);", L"\"browser.tabs\"", std::nullopt},
-        {L"user_pref(\"a\", \"about:blank\");", L"\"a\"", L"\"about:blank\""},
-        {L"user_pref(\"a\",100);", L"\"a\"", L"00"},
-        {L"user_pref(\"a\",   1 2\t );", L"\"a\"", L"1 2"},
-        {L"user_pref(\"a\", \"f(x) {}\");", L"\"a\"", L"\"f(x"},
-        {L"user_pref(\"a\", );", L"\"a\"", L""},
-        {L"user_pref(\"a\", 1;", L"\"a\"", L""},
-        {L"user_pref(\"a\";", L"\"a\"", L""},
-        {L"// on \"a\": user_pref(\"b\", 1);", L"\"b\"", L"1"},
-        {L"user_pref(\"\u00C4\", 1);", L"\"\u00E4\"", L"1"},
-    };
-    for (const auto& [statement, name, value] : cases) EXPECT_EQ(PrefValue(statement, name), value);
-}
 
 TEST_F(TFirefoxPrefsTest, IsInstalledWhenAProductBearsItsName) {
     const std::wstring products = L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
@@ -133,15 +79,10 @@ TEST_F(TFirefoxPrefsTest, TheFirstUserFileIsACopy) {
     Fake.Files.PutText(kPrefsFile, "\xEF\xBB\xBF# Preferences;\n\n/* \xC3\xA9 */\r\nuser_pref(\"a\", 1);");
     Prefs.LoadFirefoxPrefs();
     EXPECT_EQ(Fake.Files.Text(kUserFile), "# Preferences;\r\n\r\n/* \xC3\xA9 */\r\nuser_pref(\"a\", 1);\r\n");
-    EXPECT_THAT(Prefs.FirefoxPrefLines(), ElementsAre(L"user_pref(\"a\", 1);"));
+    EXPECT_EQ(Prefs.GetFirefoxPref(L"\"a\""), L"1");
 
     EXPECT_THAT(Load("user_pref(\"b\", 2);"), ElementsAre(L"user_pref(\"b\", 2);"));
     EXPECT_EQ(Fake.Files.Replaced().size(), 1U) << "a user.js that is there is only read";
-    Fake.Files.Lock(kUserFile);
-    Prefs.LoadFirefoxPrefs();
-    EXPECT_THAT(Prefs.FirefoxPrefLines(), ElementsAre(L"user_pref(\"a\", 1);"));
-    EXPECT_EQ(Fake.Files.Replaced().size(), 1U);
-
     Fake.Files.Remove(kUserFile);
     Fake.Files.FailReplace(1);
     Prefs.LoadFirefoxPrefs();
@@ -150,28 +91,120 @@ TEST_F(TFirefoxPrefsTest, TheFirstUserFileIsACopy) {
 
 TEST_F(TFirefoxPrefsTest, TheLastStatementCountsAndAllAreChanged) {
     const auto& lines = Load(
-        "user_pref(\"a\", \"x, y\");// off\nuser_pref(\"A\", 2 ) ; user_pref(\"b\", 3);\nuser_pref(\"c\" "
-        "4);");
+        "user_pref(\"a\", \"x, y\");// off\nuser_pref(\"A\", 2 ) ; user_pref(\"b\", 3);\nuser_pref(\"c\", "
+        "\"a\");");
     EXPECT_EQ(Prefs.GetFirefoxPref(L"\"a\""), L"2");
     Prefs.SetFirefoxPref(L"\"a\"", L"true");
-    Prefs.SetFirefoxPref(L"\"c\"", L"5");
-    EXPECT_THAT(lines, ElementsAre(L"user_pref(\"a\", \"x, true);", L"// offuser_pref(\"A\", true);",
-                                   L" user_pref(\"b\", 3);", L" 5);"));
+    EXPECT_THAT(lines, ElementsAre(L"user_pref(\"a\", true);// off\n", L"user_pref(\"A\", true) ;",
+                                   L" user_pref(\"b\", 3);", L"user_pref(\"c\", \"a\");"));
+    EXPECT_TRUE(Prefs.HasEdit(L"\"A\"") && !Prefs.HasEdit(L"\"b\""));
     Prefs.SetFirefoxPref(L"\"a\"", L"");
-    EXPECT_THAT(lines, ElementsAre(L" user_pref(\"b\", 3);", L" 5);"));
+    EXPECT_EQ(Saved(), "// off\n user_pref(\"b\", 3);\r\nuser_pref(\"c\", \"a\");\r\n");
+    EXPECT_FALSE(Prefs.HasEdit(L"\"a\""));
     EXPECT_TRUE(Fake.Shell.DebugTexts().empty());
 
+    Load("");
     Prefs.SetFirefoxPref(L"\"d.E\"", L"\"x\"");
     Prefs.SetFirefoxPref(L"\"gone\"", L"");
-    EXPECT_EQ(lines[2], L"user_pref(\"d.E\", \"x\");");
-    EXPECT_EQ(lines[3], L"user_pref(\"gone\", );");
-    EXPECT_THAT(Fake.Shell.DebugTexts(), ElementsAre(L"not has", lines[2], L"not has", lines[3]));
+    EXPECT_THAT(lines, ElementsAre(L"user_pref(\"d.E\", \"x\");", L"user_pref(\"gone\", );"));
+    EXPECT_THAT(Fake.Shell.DebugTexts(), ElementsAre(L"not has", lines[0], L"not has", lines[1]));
     EXPECT_EQ(Prefs.GetFirefoxPref(L"\"gone\""), L"");
+}
+
+TEST_F(TFirefoxPrefsTest, CommentsStayCommentsAndAllElseStaysInForce) {
+    Load(
+        "// user_pref(\"off\", 1);\nuser_pref(\"a\", 1); // note\n/* b;\n */\nuser_pref(\"b\", "
+        "\"http://b\");\n"
+        "# user_pref(\"b\", 0);\n");
+    EXPECT_EQ(Prefs.GetFirefoxPref(L"\"off\""), L"Noexsit");
+    EXPECT_EQ(Prefs.GetFirefoxPref(L"\"b\""), L"\"http://b\"");
+    Prefs.SetFirefoxPref(L"\"a\"", L"2");
+    Prefs.SetFirefoxPref(L"\"off\"", L"3");
+    EXPECT_EQ(Saved(),
+              "// user_pref(\"off\", 1);\nuser_pref(\"a\", 2); // note\n/* b;\n */\nuser_pref(\"b\", "
+              "\"http://b\");\r\n# user_pref(\"b\", 0);\nuser_pref(\"off\", 3);\r\n");
+}
+
+TEST_F(TFirefoxPrefsTest, WhatCannotBeReadIsNotLoadedAndNotSaved) {
+    Fake.Files.PutText(kPrefsFile, "user_pref(\"a\", 1);");
+    for (const wchar_t* locked : {kUserFile, kProfiles}) {
+        Load("user_pref(\"b\", 2);");
+        Fake.Files.Lock(locked);
+        Prefs.LoadFirefoxPrefs();
+        EXPECT_TRUE(Prefs.FirefoxPrefLines().empty());
+        EXPECT_FALSE(Prefs.SaveFirefoxPrefs()) << "nothing was set";
+        Prefs.SetFirefoxPref(L"\"b\"", L"3");
+        Fake.Files.Unlock();
+        EXPECT_THROW(static_cast<void>(Prefs.SaveFirefoxPrefs()), std::runtime_error) << "still not loaded";
+        EXPECT_EQ(Fake.Files.Text(kUserFile), "user_pref(\"b\", 2);");
+        Prefs.LoadFirefoxPrefs();
+        EXPECT_EQ(Prefs.GetFirefoxPref(L"\"b\""), L"2");
+    }
+    Fake.Files.Remove(kUserFile);
+    Fake.Files.Lock(kPrefsFile);
+    Prefs.LoadFirefoxPrefs();
+    EXPECT_FALSE(Fake.Files.Exists(kUserFile)) << "it would hide prefs.js for ever";
+    Fake.Files.Unlock();
+    Prefs.LoadFirefoxPrefs();
+    EXPECT_EQ(Prefs.GetFirefoxPref(L"\"a\""), L"1");
+}
+
+TEST_F(TFirefoxPrefsTest, SavingKeepsWhatOthersWroteSinceItWasLoaded) {
+    constexpr const char* kBefore = "user_pref(\"a\", 1);\r\nuser_pref(\"b\", 1);\r\n";
+    const auto edit = [this] {
+        Load("user_pref(\"a\", 1);\r\nuser_pref(\"b\", 1);\r\n");
+        Prefs.SetFirefoxPref(L"\"a\"", L"2");
+        Prefs.SetFirefoxPref(L"\"b\"", L"");
+        Prefs.SetFirefoxPref(L"\"c\"", L"3");
+    };
+    const std::pair<const char*, const char*> cases[] = {
+        {kBefore, "user_pref(\"a\", 2);\r\nuser_pref(\"c\", 3);\r\n"},
+        {"// \xC3\xA9\nuser_pref(\"d\", 4);",
+         "// \xC3\xA9\nuser_pref(\"d\", 4);\r\nuser_pref(\"a\", 2);\r\nuser_pref(\"c\", 3);\r\n"},
+        {"user_pref(\"c\", \"\xE9\");user_pref(\"b\", 5);user_pref(\"a\", 6);",
+         "user_pref(\"c\", 3);\r\nuser_pref(\"a\", 2);\r\n"},
+        {"", "user_pref(\"a\", 2);\r\nuser_pref(\"c\", 3);\r\n"},
+    };
+    for (const auto& [now, written] : cases) {
+        edit();
+        Fake.Files.PutText(kUserFile, now);
+        EXPECT_EQ(Saved(), written);
+        Fake.Files.PutText(kUserFile, std::string(written) + "user_pref(\"e\", 7);");
+        EXPECT_EQ(Saved(), std::string(written) + "user_pref(\"e\", 7);\r\n")
+            << "what was saved is no edit any more";
+    }
+    edit();
+    Fake.Files.Remove(kUserFile);
+    EXPECT_EQ(Saved(), "user_pref(\"a\", 2);\r\nuser_pref(\"c\", 3);\r\n");
+
+    edit();
+    Fake.Files.PutText(kUserFile, "user_pref(\"d\", 4);");
+    Fake.Files.Lock(kUserFile);
+    EXPECT_THROW(static_cast<void>(Prefs.SaveFirefoxPrefs()), std::runtime_error);
+    EXPECT_EQ(Fake.Files.Text(kUserFile), "user_pref(\"d\", 4);");
+    Fake.Files.Unlock();
+    Fake.Files.FailReplace(1);
+    EXPECT_THROW(static_cast<void>(Prefs.SaveFirefoxPrefs()), std::runtime_error);
+    EXPECT_EQ(Saved(), "user_pref(\"d\", 4);\r\nuser_pref(\"a\", 2);\r\nuser_pref(\"c\", 3);\r\n");
+}
+
+TEST_F(TFirefoxPrefsTest, WithoutAProfileNothingIsReadOrWritten) {
+    Fake.Files.PutText(L"\\user.js", "user_pref(\"a\", 1);");
+    Fake.Files.PutText(std::wstring(kFirefox) + L"\\user.js", "user_pref(\"a\", 1);");
+    for (const char* ini : {"", "[Profile1]\nPath=1\n", "[Profile0]\nIsRelative=1\nPath=\n",
+                            "[x]\nDefault=1\nIsRelative=1\n[Profile0]\nPath=Profiles/a.default\n"}) {
+        Fake.Files.PutText(kProfiles, ini);
+        Prefs.LoadFirefoxPrefs();
+        EXPECT_EQ(Prefs.GetFirefoxPref(L"\"a\""), L"Noexsit");
+        Prefs.SetFirefoxPref(L"\"a\"", L"2");
+        EXPECT_FALSE(Prefs.SaveFirefoxPrefs());
+    }
+    EXPECT_TRUE(Fake.Files.Replaced().empty());
 }
 
 TEST_F(TFirefoxPrefsTest, SavesInTheEncodingThatWasRead) {
     const std::pair<std::string, std::string> cases[] = {
-        {"#\nuser_pref(\"b\", \xC3\xA9\xE2\x82\xAC);tail", "user_pref(\"b\", \xC3\xA4);\r\n"},  // UTF-8
+        {"#\nuser_pref(\"b\", \xC3\xA9\xE2\x82\xAC);tail", "#\nuser_pref(\"b\", \xC3\xA4);\r\n"},  // UTF-8
         {"user_pref(\"\xE9\", 1);user_pref(\"b\", 1);",  // the code page, which is Latin-1
          "user_pref(\"\xE9\", 1);\r\nuser_pref(\"b\", \xE4);\r\n"},
         {"user_pref(\"\xEF\xBF\xBD\", 1);user_pref(\"b\", 1);",  // a replacement character is no fault
