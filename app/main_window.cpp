@@ -257,9 +257,8 @@ void TQuilltune_FormMain::ApplyServices() {
 
 void TQuilltune_FormMain::OfferRestart() {
     if (!FContext.RestartNeeded) return;
-    const TMessageAnswer answer =
-        FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartWindows],
-                                TMessageButtons::YesNo, TMessageIcon::Question);
+    const TMessageAnswer answer = FSystem.Dialogs.Message(*this, FContext.Captions[TCaption::RestartWindows],
+                                                          TMessageButtons::YesNo, TMessageIcon::Question);
     if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartWindows();
     FContext.RestartNeeded = false;
 }
@@ -276,7 +275,7 @@ void TQuilltune_FormMain::ApplyFirefox() {
     const bool saved = FFirefox.SaveFirefoxPrefs();  // a fault leaves the mark for the next Apply
     FContext.FirefoxChanged = false;
     if (saved) {
-        FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartFirefox], TMessageButtons::Ok,
+        FSystem.Dialogs.Message(*this, FContext.Captions[TCaption::RestartFirefox], TMessageButtons::Ok,
                                 TMessageIcon::None);
     }
 }

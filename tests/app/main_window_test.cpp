@@ -145,6 +145,7 @@ TEST_F(TMainWindow, AsksForARestartOnceForEachChangeThatNeedsIt) {
     const TQuestion question{L"Quilltune", L"Need to restart Windows to take effect, restart now?",
                              TMessageButtons::YesNo, TMessageIcon::Question};
     EXPECT_EQ(Fake.Dialogs.Questions(), std::vector{question});
+    EXPECT_EQ(Fake.Dialogs.Askers(), std::vector{Window->Name()});
     EXPECT_EQ(Fake.Shell.Restarts(), 0);
 
     Toggle(kLastAccess);

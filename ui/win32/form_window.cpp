@@ -92,6 +92,7 @@ int TFormWindow::Run() {
 }
 
 void TFormWindow::ShowModal(TForm& dialog) {
+    if (!IsWindowEnabled(Handle())) return;
     TFormWindow& window = Attach(dialog, FInstance, FFaultHandler, Handle());
     const TDisabledWindow disabled(Handle());
     window.Show(SW_SHOW);
