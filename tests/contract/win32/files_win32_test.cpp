@@ -33,6 +33,8 @@ TEST_F(TFilesWin32, LockedAndHugeFilesAreNotRead) {
     ASSERT_TRUE(file.IsValid());
     EXPECT_EQ(Files().Read(Path(L"a")), std::nullopt);
     EXPECT_FALSE(Files().Replace(Path(L"a"), {2}));
+    EXPECT_FALSE(Files().Append(Path(L"a"), {2}));
+    EXPECT_EQ(Files().ReadPart(Path(L"a"), 0, 1), std::nullopt);
 
     constexpr LONG kLimit = 64 * 1024 * 1024;
     for (const LONG size : {kLimit, kLimit + 1}) {
@@ -43,6 +45,13 @@ TEST_F(TFilesWin32, LockedAndHugeFilesAreNotRead) {
         file = TFileHandle(
             CreateFileW(Path(L"a").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     }
+    file.Close();
+    ASSERT_TRUE(Files().Append(Path(L"a"), {2}));
+    EXPECT_EQ(Files().ReadPart(Path(L"a"), kLimit, 9), (std::vector<std::uint8_t>{0, 2}));
+    ASSERT_TRUE(SetFileAttributesW(Path(L"a").c_str(), FILE_ATTRIBUTE_READONLY));
+    EXPECT_FALSE(Files().Append(Path(L"a"), {3}));
+    EXPECT_EQ(Files().Size(Path(L"a")), kLimit + 2u);
+    SetFileAttributesW(Path(L"a").c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_THAT(Files().List(Folder(), L"*"), ElementsAre(L"a"));
 }
 
