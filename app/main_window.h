@@ -37,6 +37,10 @@ class TQuilltune_FormMain : public TForm {
     void BindEvents();
     void ReinitialiseLists(TTimingLog& log);
     void SetCategoryCaptions();
+    /// The next frame of the loading panel.
+    void Animate();
+    /// Ends the loading: nothing hides the page any more, and the buttons work.
+    void BecomeReady();
     void LoadPage(int tag);
     void SelectItem(TCategoryItem& item);
     void ApplyServices();
