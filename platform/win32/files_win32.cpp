@@ -93,6 +93,9 @@ std::optional<std::vector<std::uint8_t>> TWin32Files::ReadPart(const std::wstrin
 }
 
 bool TWin32Files::Append(const std::wstring& path, const std::vector<std::uint8_t>& bytes) {
+    // Asked for here: Wine leaves it to the host, where the administrator may write into everything.
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) return false;
     const TFileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
                                        FILE_ATTRIBUTE_NORMAL, nullptr));
     LARGE_INTEGER end{};
