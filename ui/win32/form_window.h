@@ -91,8 +91,9 @@ class TFormWindow : public TFormPeer {
     TScreen FScreen;
     TPictureStore FPictures;
     std::unordered_map<HWND, TWindowPeer*> FPeers;
-    std::set<const TControl*> FChanged;      ///< containers to lay out
-    std::set<const TControl*> FFilledPages;  ///< notebook pages whose content exists
+    std::set<const TControl*> FChanged;       ///< containers to lay out
+    std::set<const TControl*> FCreatedPages;  ///< notebook pages whose window was created while idle
+    std::set<const TControl*> FFilledPages;   ///< notebook pages whose content exists
     std::unordered_map<unsigned, TTimer*> FTimers;
     int FLastCommandId = 100;
     unsigned FLastTimerId = 0;
