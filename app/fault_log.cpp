@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
+#include <span>
 #include <typeinfo>
 
 #include "platform/app_frame.h"
@@ -17,10 +19,14 @@ namespace {
 using TBytes = std::vector<std::uint8_t>;
 
 constexpr std::wstring_view kLineEnd = L"\r\n";
+constexpr std::size_t kSample = 0x100000;  // bytes at the end of a log that tell how it is written
+constexpr std::uint8_t kUtf8Mark[] = {0xEF, 0xBB, 0xBF};
+constexpr std::uint8_t kUtf16Mark[] = {0xFF, 0xFE};
+constexpr std::uint8_t kUtf16BigEndianMark[] = {0xFE, 0xFF};
 constexpr int kFileVersion = 3;  // for GetFileVersionField
 
 std::wstring FromUtf8(std::string_view text, const TWindowsInfo& windows) {
-    TBytes bytes{0xEF, 0xBB, 0xBF};  // the mark tells the decoder what follows
+    TBytes bytes(std::begin(kUtf8Mark), std::end(kUtf8Mark));  // it tells the decoder what follows
     bytes.insert(bytes.end(), text.begin(), text.end());
     return DecodeText(bytes, windows);
 }
@@ -41,25 +47,57 @@ std::wstring OneLine(std::wstring_view text) {
     return line;
 }
 
-bool StartsWith(const TBytes& bytes, std::initializer_list<std::uint8_t> mark) {
+bool StartsWith(const TBytes& bytes, std::span<const std::uint8_t> mark) {
     return bytes.size() >= mark.size() && std::equal(mark.begin(), mark.end(), bytes.begin());
 }
 
 /// `highByte` is the place of the high byte in a unit, 0 or 1.
-void AppendUtf16(TBytes& bytes, std::wstring_view text, std::size_t highByte) {
+TBytes Utf16(std::wstring_view text, std::size_t highByte) {
+    TBytes bytes;
     for (const char16_t unit : ToUtf16(text)) {
         const std::uint8_t halves[] = {static_cast<std::uint8_t>(unit & 0xFF),
                                        static_cast<std::uint8_t>(unit >> 8)};
         bytes.push_back(halves[1 - highByte]);
         bytes.push_back(halves[highByte]);
     }
+    return bytes;
 }
 
-void AppendText(TBytes& bytes, std::wstring_view text) {
-    if (StartsWith(bytes, {0xFF, 0xFE})) return AppendUtf16(bytes, text, 1);
-    if (StartsWith(bytes, {0xFE, 0xFF})) return AppendUtf16(bytes, text, 0);
-    const std::string utf8 = ToUtf8(text);
-    bytes.insert(bytes.end(), utf8.begin(), utf8.end());
+/// The end of the last line of a text that has one; CR LF when none has.
+std::wstring_view LastLineEnd(std::wstring_view text) {
+    const std::size_t last = text.find_last_of(kLineEnd);
+    if (last == std::wstring_view::npos) return kLineEnd;
+    return text.substr(0, last + 1).ends_with(kLineEnd) ? kLineEnd : text.substr(last, 1);
+}
+
+/// The lines as they follow a text; its bytes may lack all between its byte-order mark and its end.
+TBytes Continuation(const TBytes& text, const std::vector<std::wstring>& lines, const TWindowsInfo& windows) {
+    const TDecodedText before = DecodeUtf8OrAnsi(text, windows);
+    const std::wstring_view lineEnd = LastLineEnd(before.Text);
+    const bool endsLine = before.Text.empty() || kLineEnd.find(before.Text.back()) != std::wstring_view::npos;
+    std::wstring added(endsLine ? std::wstring_view() : lineEnd);
+    for (const std::wstring& line : lines) added.append(line).append(lineEnd);
+    if (StartsWith(text, kUtf16Mark)) return Utf16(added, 1);
+    if (StartsWith(text, kUtf16BigEndianMark)) return Utf16(added, 0);
+    return EncodeText(added, before.Encoding, windows);
+}
+
+/// A file's bytes; of a long one, its byte-order mark and whole characters at its end.
+std::optional<TBytes> ReadSample(const TFiles& files, const std::wstring& path, std::uint64_t size) {
+    if (size <= kSample) return files.ReadPart(path, 0, kSample);
+    std::optional<TBytes> text = files.ReadPart(path, 0, std::size(kUtf8Mark));
+    const std::uint64_t start = (size - kSample) / 2 * 2;  // a multiple of a UTF-16 unit
+    const std::optional<TBytes> end = files.ReadPart(path, start, kSample + 1);
+    if (!text || !end) return std::nullopt;
+    if (StartsWith(*text, kUtf16Mark) || StartsWith(*text, kUtf16BigEndianMark)) {
+        text->resize(std::size(kUtf16Mark));
+        text->insert(text->end(), end->begin(), end->end());
+        return text;
+    }
+    if (!StartsWith(*text, kUtf8Mark)) text->clear();
+    const auto isInner = [](std::uint8_t byte) { return (byte & 0xC0) == 0x80; };  // of a character in UTF-8
+    text->insert(text->end(), std::ranges::find_if_not(*end, isInner), end->end());
+    return text;
 }
 
 }  // namespace
@@ -90,11 +128,11 @@ void TFaultLog::Add(std::wstring_view type, std::wstring_view message) noexcept 
     FWriting = false;
 }
 
-std::wstring TFaultLog::Block(std::wstring_view type, std::wstring_view message) const {
+std::vector<std::wstring> TFaultLog::Block(std::wstring_view type, std::wstring_view message) const {
     const std::wstring program = FSystem.Windows.ProgramFile();
     std::wstring osName;
     GetOSName(FSystem, osName);
-    const std::wstring lines[] = {
+    return {
         FSystem.Clock.DateTimeText(),
         L"Application=" + program,
         L"Version=" + GetFileVersionField(FSystem, program, kFileVersion),
@@ -104,20 +142,16 @@ std::wstring TFaultLog::Block(std::wstring_view type, std::wstring_view message)
         L"Error Message=" + OneLine(message),
         {},
     };
-    std::wstring block;
-    for (const std::wstring& line : lines) block.append(line).append(kLineEnd);
-    return block;
 }
 
-void TFaultLog::Append(std::wstring_view block) const {
+void TFaultLog::Append(const std::vector<std::wstring>& block) const {
     const std::wstring path = ProgramFolder(FSystem) + L"Error_Log.txt";
-    std::optional<TBytes> bytes = FSystem.Files.Read(path);
-    if (!bytes) {
-        if (FSystem.Files.Exists(path)) return;  // it holds faults that must not be lost
-        bytes.emplace();
-    }
-    const std::wstring text = DecodeText(*bytes, FSystem.Windows);
-    if (!text.empty() && text.back() != L'\n' && text.back() != L'\r') AppendText(*bytes, kLineEnd);
-    AppendText(*bytes, block);
-    (void)FSystem.Files.Replace(path, *bytes);
+    TFiles& files = FSystem.Files;
+    const std::uint64_t size = files.Size(path).value_or(0);
+    const auto text =
+        size > 0 ? ReadSample(files, path, size) : TBytes(std::begin(kUtf8Mark), std::end(kUtf8Mark));
+    if (!text) return;
+    TBytes bytes = Continuation(*text, block, FSystem.Windows);
+    if (size == 0) bytes.insert(bytes.begin(), text->begin(), text->end());
+    (void)files.Append(path, bytes);
 }

@@ -16,14 +16,15 @@ class TFaultLog {
 
     /// Appends the block of a fault that is described already.
     ///
-    /// The log keeps what it holds, to the byte, and is written whole or not at all. It is continued in UTF-16 when it
-    /// begins with that byte-order mark, otherwise in UTF-8. When it cannot be read or written the fault is given up,
-    /// and so is a fault that occurs while a block is being written.
+    /// The log keeps what it holds, to the byte, and is continued in its own encoding and with its own line ends; a new
+    /// one is in UTF-8 with a byte-order mark and ends its lines with CR LF. A block is written whole or not at all.
+    /// When the log cannot be read or written the fault is given up, and so is a fault that occurs while a block is
+    /// being written.
     void Add(std::wstring_view type, std::wstring_view message) noexcept;
 
   private:
-    [[nodiscard]] std::wstring Block(std::wstring_view type, std::wstring_view message) const;
-    void Append(std::wstring_view block) const;
+    [[nodiscard]] std::vector<std::wstring> Block(std::wstring_view type, std::wstring_view message) const;
+    void Append(const std::vector<std::wstring>& block) const;
 
     TSystem& FSystem;
     bool FWriting = false;

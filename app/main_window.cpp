@@ -1,6 +1,8 @@
 #include "app/main_window.h"
 
 #include <exception>
+#include <functional>
+#include <initializer_list>
 #include <utility>
 
 #include "app/category_table.h"
@@ -28,6 +30,19 @@ TControlDesign WindowDesign() {
                       Buttons(Button(L"Button_OK", L"OK"), Button(L"Button_Cancel", L"Cancel"),
                               Button(L"Button_Apply", L"&Apply"))),
                Timer(L"Timer_Click", kTimerInterval), Timer(L"Timer_Loading", kTimerInterval));
+}
+
+/// Takes every step, whatever fault the others meet; the first fault is let out at the end.
+void TakeAll(std::initializer_list<std::function<void()>> steps) {
+    std::exception_ptr fault;
+    for (const auto& step : steps) {
+        try {
+            step();
+        } catch (...) {
+            if (!fault) fault = std::current_exception();
+        }
+    }
+    if (fault) std::rethrow_exception(fault);
 }
 
 }  // namespace
@@ -99,22 +114,29 @@ void TQuilltune_FormMain::FormCreate() {
 
 void TQuilltune_FormMain::FormShow() {
     TTimingLog log(FSystem.Clock);
-    log.Add(L"Lan:");
-    FLanguage = std::make_unique<TLanguage>(FSystem, L"Scanner", FAppFrame.AppPath + L"Toolbox_Language");
-    FLanguage->LoadLanguage(GetSuiteLanguage(FSystem));
-    FContext.Captions.Load(*FLanguage);
-    FLanguage->Translate(*this);
-    ReinitialiseLists(log);
-    log.Add(L"Rz_Com:");
-    SetCategoryCaptions();
-    for (const wchar_t* button : {L"Button_OK", L"Button_Cancel", L"Button_Apply"})
-        Find(button)->SetEnabled(false);
-    FLoadingFinished = false;
-    TControl* panel = Find(L"Panel_Loading");
-    panel->BringToFront();
-    panel->SetVisible(true);
-    Find(L"Timer_Click")->SetEnabled(true);
-    Find(L"Timer_Loading")->SetEnabled(true);
+    TakeAll({
+        [&] {
+            log.Add(L"Lan:");
+            FLanguage =
+                std::make_unique<TLanguage>(FSystem, L"Scanner", FAppFrame.AppPath + L"Toolbox_Language");
+            FLanguage->LoadLanguage(GetSuiteLanguage(FSystem));
+            FContext.Captions.Load(*FLanguage);
+            FLanguage->Translate(*this);
+        },
+        [&] { ReinitialiseLists(log); },
+        [&] {
+            log.Add(L"Rz_Com:");
+            SetCategoryCaptions();
+        },
+        [this] { Find(L"Button_OK")->SetEnabled(false); },
+        [this] { Find(L"Button_Cancel")->SetEnabled(false); },
+        [this] { Find(L"Button_Apply")->SetEnabled(false); },
+        [this] { FLoadingFinished = false; },
+        [this] { Find(L"Panel_Loading")->BringToFront(); },
+        [this] { Find(L"Panel_Loading")->SetVisible(true); },
+        [this] { Find(L"Timer_Click")->SetEnabled(true); },
+        [this] { Find(L"Timer_Loading")->SetEnabled(true); },
+    });
     log.Add(L"end:");
 }
 
@@ -159,53 +181,57 @@ void TQuilltune_FormMain::SetCategoryCaptions() {
 }
 
 void TQuilltune_FormMain::Timer_ClickTimer() {
-    Find(L"Timer_Click")->SetEnabled(false);
-    RzGroup1Items0Click(*Find(CategoryItemName(L"RzGroup_CommonSettings", 0)));
-    FLoadingFinished = true;
+    TakeAll({
+        [this] { Find(L"Timer_Click")->SetEnabled(false); },
+        [this] { RzGroup1Items0Click(*Find(CategoryItemName(L"RzGroup_CommonSettings", 0))); },
+        [this] { FLoadingFinished = true; },
+    });
 }
 
 void TQuilltune_FormMain::Timer_LoadingTimer() {
-    TControl* timer = Find(L"Timer_Loading");
-    timer->SetEnabled(false);
+    TakeAll({
+        [this] { Find(L"Timer_Loading")->SetEnabled(false); },
+        [this] { Animate(); },
+        [this] { FLoadingFinished ? BecomeReady() : Find(L"Timer_Loading")->SetEnabled(true); },
+    });
+}
+
+void TQuilltune_FormMain::Animate() {
     auto* animation = Find<TImage>(L"ImageNote_Animate");
     animation->SetFrame((animation->Frame() + 1) % kFrameCount);
     const auto dots = static_cast<std::size_t>(animation->Frame()) + 1;
     Find(L"Label_Wait")->SetCaption(FContext.Captions[TCaption::Loading] + std::wstring(dots, L'.'));
-    if (!FLoadingFinished) {
-        timer->SetEnabled(true);
-        return;
-    }
-    TControl* panel = Find(L"Panel_Loading");
-    panel->SendToBack();
-    panel->SetVisible(false);
-    Find(L"Button_OK")->SetEnabled(true);
-    Find(L"Button_Cancel")->SetEnabled(true);
-    Find(L"Button_Apply")->SetEnabled(false);
+}
+
+void TQuilltune_FormMain::BecomeReady() {
+    TakeAll({
+        [this] { Find(L"Panel_Loading")->SendToBack(); },
+        [this] { Find(L"Panel_Loading")->SetVisible(false); },
+        [this] { Find(L"Button_OK")->SetEnabled(true); },
+        [this] { Find(L"Button_Cancel")->SetEnabled(true); },
+        [this] { Find(L"Button_Apply")->SetEnabled(false); },
+    });
 }
 
 void TQuilltune_FormMain::RzGroup1Items0Click(TComponent& sender) {
     if (sender.Kind() != TComponentKind::CategoryItem) return;
     auto& item = static_cast<TCategoryItem&>(sender);
     // A fault of a loader is for the fault log; the page shows what was loaded until then.
-    const std::exception_ptr fault = LoadPage(item.Tag());
-    Find<TNotebook>(L"Notebook_Main")->ShowPage(std::to_wstring(item.Tag()));
-    if (&item != FSelectedItem) SelectItem(item);
-    if (fault) std::rethrow_exception(fault);
+    TakeAll({
+        [&] { LoadPage(item.Tag()); },
+        [&] { Find<TNotebook>(L"Notebook_Main")->ShowPage(std::to_wstring(item.Tag())); },
+        [&] {
+            if (&item != FSelectedItem) SelectItem(item);
+        },
+    });
 }
 
-std::exception_ptr TQuilltune_FormMain::LoadPage(int tag) {
+void TQuilltune_FormMain::LoadPage(int tag) {
     const bool firstVisit = FVisitedPages.insert(tag).second;
-    std::exception_ptr fault;
     for (const auto& page : FPages) {
-        if (page->Tag() != tag || (!firstVisit && !page->LoadsEveryVisit())) continue;
-        try {
-            page->Load();
-        } catch (...) {
-            fault = std::current_exception();
-        }
-        FTwins->PageLoaded(tag);
+        if (page->Tag() == tag && (firstVisit || page->LoadsEveryVisit()))
+            TakeAll({[&] { page->Load(); }, [&] { FTwins->PageLoaded(tag); }});
     }
-    return fault;
 }
 
 void TQuilltune_FormMain::SelectItem(TCategoryItem& item) {
@@ -219,6 +245,7 @@ void TQuilltune_FormMain::SelectItem(TCategoryItem& item) {
 }
 
 void TQuilltune_FormMain::ShowFolderForm(const wchar_t* sheet) {
+    if (!FLanguage) return;  // a fault kept it from being created
     TQuilltune_FormFolder dialog(FContext, *FLanguage);
     dialog.ChooseSheet(sheet);
     ShowModal(dialog);
@@ -267,9 +294,8 @@ void TQuilltune_FormMain::ApplyServices() {
 }
 
 void TQuilltune_FormMain::OfferRestart() {
-    const TMessageAnswer answer =
-        FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartWindows],
-                                TMessageButtons::YesNo, TMessageIcon::Question);
+    const TMessageAnswer answer = FSystem.Dialogs.Message(*this, FContext.Captions[TCaption::RestartWindows],
+                                                          TMessageButtons::YesNo, TMessageIcon::Question);
     if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartWindows();
 }
 
@@ -284,7 +310,7 @@ void TQuilltune_FormMain::ApplyFirefox() {
     const bool saved = FFirefox.SaveFirefoxPrefs();  // a fault leaves the mark for the next Apply
     FContext.FirefoxChanged = false;
     if (saved) {
-        FSystem.Dialogs.Message(Caption(), FContext.Captions[TCaption::RestartFirefox], TMessageButtons::Ok,
+        FSystem.Dialogs.Message(*this, FContext.Captions[TCaption::RestartFirefox], TMessageButtons::Ok,
                                 TMessageIcon::None);
     }
 }

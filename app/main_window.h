@@ -1,7 +1,6 @@
 // The main window: its life from creation to destruction, the category bar, and Apply.
 #pragma once
 
-#include <exception>
 #include <memory>
 #include <set>
 
@@ -38,8 +37,11 @@ class TQuilltune_FormMain : public TForm {
     void BindEvents();
     void ReinitialiseLists(TTimingLog& log);
     void SetCategoryCaptions();
-    /// The fault that ended the page's loaders, if one did.
-    std::exception_ptr LoadPage(int tag);
+    /// The next frame of the loading panel.
+    void Animate();
+    /// Ends the loading: nothing hides the page any more, and the buttons work.
+    void BecomeReady();
+    void LoadPage(int tag);
     void SelectItem(TCategoryItem& item);
     void ApplyServices();
     void OfferRestart();

@@ -1,4 +1,4 @@
-// Files as the program uses them: read whole, replaced whole, listed by pattern.
+// Files as the program uses them: read whole, replaced whole, continued at the end, listed by pattern.
 #pragma once
 
 #include <cstdint>
@@ -15,6 +15,18 @@ class TFiles {
 
     /// The file's bytes, or nothing when it cannot be read whole.
     [[nodiscard]] virtual std::optional<std::vector<std::uint8_t>> Read(const std::wstring& path) const = 0;
+
+    /// The file's length in bytes; nothing when there is no such file.
+    [[nodiscard]] virtual std::optional<std::uint64_t> Size(const std::wstring& path) const = 0;
+
+    /// The bytes from `offset` on, `count` of them or as many as there are, of a file of any length; nothing when they
+    /// cannot be read.
+    [[nodiscard]] virtual std::optional<std::vector<std::uint8_t>> ReadPart(const std::wstring& path,
+                                                                            std::uint64_t offset,
+                                                                            std::size_t count) const = 0;
+
+    /// Puts `bytes` at the end of the file, all or none. A missing file is created.
+    [[nodiscard]] virtual bool Append(const std::wstring& path, const std::vector<std::uint8_t>& bytes) = 0;
 
     /// Puts `bytes` in the file's place: whatever interrupts it, the old or the new content is there whole. Attributes,
     /// rights and links remain. A read-only file is not replaced. Meanwhile the new content has a name of its own beside

@@ -12,17 +12,21 @@ enum class TMessageButtons { Ok, YesNo };
 enum class TMessageIcon { None, Question };
 enum class TMessageAnswer { Ok, Yes, No };
 
+class TForm;
+
+/// Every dialog belongs to the form that asks: it lies above that form, which waits for the answer.
 class TDialogs {
   public:
     virtual ~TDialogs() = default;
 
-    /// A standard message box over the active window.
-    virtual TMessageAnswer Message(const std::wstring& title, const std::wstring& text,
-                                   TMessageButtons buttons, TMessageIcon icon) = 0;
+    /// A standard message box, titled as the form. Of Yes and No, No is the default.
+    virtual TMessageAnswer Message(const TForm& asker, const std::wstring& text, TMessageButtons buttons,
+                                   TMessageIcon icon) = 0;
 
     /// The system's open-file dialog. `filter` is "caption|patterns|caption|patterns". Nothing when cancelled.
-    [[nodiscard]] virtual std::optional<std::wstring> OpenFile(const std::wstring& filter) = 0;
+    [[nodiscard]] virtual std::optional<std::wstring> OpenFile(const TForm& asker,
+                                                               const std::wstring& filter) = 0;
 
     /// The system's colour dialog, `initial` chosen at first. Nothing when cancelled.
-    [[nodiscard]] virtual std::optional<TColor> PickColor(TColor initial) = 0;
+    [[nodiscard]] virtual std::optional<TColor> PickColor(const TForm& asker, TColor initial) = 0;
 };

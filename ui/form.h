@@ -48,7 +48,7 @@ class TForm : public TControl {
     [[nodiscard]] bool Closed() const { return FClosed; }
 
     /// Shows the dialog over this form, which waits until it is closed. A dialog is shown once. Does nothing without a
-    /// native window.
+    /// native window, nor while the form waits for another dialog.
     void ShowModal(TForm& dialog);
 
     /// Size of the client area at 96 dots per inch, of which no user can make it smaller. The main window's leaves

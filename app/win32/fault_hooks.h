@@ -5,13 +5,6 @@
 #include "app/fault_log.h"
 #include "ui/win32/handle.h"
 
-struct TWaitableTraits {
-    using Type = HANDLE;
-    static Type Invalid() { return nullptr; }
-    static void Close(Type object) { CloseHandle(object); }
-};
-using TWaitableHandle = THandle<TWaitableTraits>;
-
 class TFaultHooks {
   public:
     /// Installs the hooks; one object at a time does. `log` outlives it.

@@ -5,8 +5,10 @@
 #include "platform/win32/win32_system.h"
 #include "ui/win32/dialogs_win32.h"
 #include "ui/win32/form_window.h"
+#include "ui/win32/late_bound.h"
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandLine*/, int showCommand) {
+    SearchSystemFolderOnly();  // before anything else: most of Windows' own libraries are loaded at their first call
     constexpr const wchar_t* kMainWindowClass = L"TQuilltune_FormMain";
     const TSingleInstance single;
     if (single.AlreadyRunning()) {

@@ -1,5 +1,22 @@
 #include "app/win32/single_instance.h"
 
+#include "ui/win32/handle.h"
+
+namespace {
+
+/// In milliseconds, for a window that does not answer.
+constexpr DWORD kPatience = 5000;
+
+DWORD WINAPI CallForward(void* handle) {
+    const auto window = static_cast<HWND>(handle);
+    if (IsIconic(window)) PostMessageW(window, WM_SYSCOMMAND, SC_RESTORE, 0);
+    SetForegroundWindow(window);
+    SendMessageW(window, TSingleInstance::kComeForward, 0, 0);
+    return 0;
+}
+
+}  // namespace
+
 TSingleInstance::TSingleInstance() {
     FMutex = CreateMutexW(nullptr, TRUE, L"_Vandrel_Quilltune_");
     FAlreadyRunning = GetLastError() == ERROR_ALREADY_EXISTS;
@@ -12,7 +29,7 @@ TSingleInstance::~TSingleInstance() {
 void TSingleInstance::BringOtherForward(const wchar_t* windowClass) {
     const HWND window = FindWindowW(windowClass, nullptr);
     if (window == nullptr) return;
-    if (IsIconic(window)) PostMessageW(window, WM_SYSCOMMAND, SC_RESTORE, 0);
-    SetForegroundWindow(window);
-    SendMessageW(window, kComeForward, 0, 0);
+    // A thread of its own does it, for whichever step does not come back from a window that hangs.
+    const TWaitableHandle caller(CreateThread(nullptr, 0, CallForward, window, 0, nullptr));
+    WaitForSingleObject(caller.Get(), kPatience);
 }

@@ -17,7 +17,7 @@ class TSingleInstance {
     /// Whether another instance was there first.
     [[nodiscard]] bool AlreadyRunning() const { return FAlreadyRunning; }
 
-    /// Brings the other instance's window, if there is one, to the front.
+    /// Brings the other instance's window, if there is one, to the front; gives up after a while when it hangs.
     static void BringOtherForward(const wchar_t* windowClass);
 
   private:

@@ -105,6 +105,20 @@ bool WriteInPlace(const std::wstring& path, const std::vector<std::uint8_t>& byt
     return file.IsValid() && WriteWhole(file.Get(), bytes);
 }
 
+TFileHandle OpenToRead(const std::wstring& path) {
+    return TFileHandle(CreateFileW(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+                                   FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+/// `count` bytes, or as many as there are; nothing after a failure.
+std::optional<std::vector<std::uint8_t>> ReadFrom(const TFileHandle& file, std::size_t count) {
+    std::vector<std::uint8_t> bytes(count);
+    DWORD read = 0;
+    if (!ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(count), &read, nullptr)) return std::nullopt;
+    bytes.resize(read);
+    return bytes;
+}
+
 bool IsFolder(DWORD attributes) { return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0; }
 
 }  // namespace
@@ -115,17 +129,46 @@ bool TWin32Files::Exists(const std::wstring& path) const {
 }
 
 std::optional<std::vector<std::uint8_t>> TWin32Files::Read(const std::wstring& path) const {
-    const TFileHandle file(CreateFileW(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
-                                       FILE_ATTRIBUTE_NORMAL, nullptr));
+    const TFileHandle file = OpenToRead(path);
     LARGE_INTEGER size{};
     if (!file.IsValid() || !GetFileSizeEx(file.Get(), &size) || size.QuadPart > kLargestFile)
         return std::nullopt;
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size.QuadPart));
-    DWORD read = 0;
-    if (!ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr) ||
-        read != bytes.size())
+    auto bytes = ReadFrom(file, static_cast<std::size_t>(size.QuadPart));
+    return bytes && bytes->size() == static_cast<std::size_t>(size.QuadPart) ? bytes : std::nullopt;
+}
+
+std::optional<std::uint64_t> TWin32Files::Size(const std::wstring& path) const {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) || IsFolder(data.dwFileAttributes))
         return std::nullopt;
-    return bytes;
+    return std::uint64_t{data.nFileSizeHigh} << 32 | data.nFileSizeLow;
+}
+
+std::optional<std::vector<std::uint8_t>> TWin32Files::ReadPart(const std::wstring& path, std::uint64_t offset,
+                                                               std::size_t count) const {
+    const TFileHandle file = OpenToRead(path);
+    LARGE_INTEGER start{};
+    start.QuadPart = static_cast<LONGLONG>(offset);
+    if (!file.IsValid() || !SetFilePointerEx(file.Get(), start, nullptr, FILE_BEGIN)) return std::nullopt;
+    return ReadFrom(file, count);
+}
+
+bool TWin32Files::Append(const std::wstring& path, const std::vector<std::uint8_t>& bytes) {
+    // Asked for here: Wine leaves it to the host, where the administrator may write into everything.
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) return false;
+    const TFileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
+                                       FILE_ATTRIBUTE_NORMAL, nullptr));
+    LARGE_INTEGER end{};
+    if (!file.IsValid() || !SetFilePointerEx(file.Get(), {}, &end, FILE_END)) return false;
+    const auto size = static_cast<DWORD>(bytes.size());
+    DWORD written = 0;
+    if (WriteFile(file.Get(), bytes.data(), size, &written, nullptr) && written == size)
+        return FlushFileBuffers(file.Get());
+    // The disk may be full.
+    SetFilePointerEx(file.Get(), end, nullptr, FILE_BEGIN);
+    SetEndOfFile(file.Get());
+    return false;
 }
 
 bool TWin32Files::Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) {

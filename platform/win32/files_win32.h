@@ -7,6 +7,11 @@ class TWin32Files : public TFiles {
   public:
     [[nodiscard]] bool Exists(const std::wstring& path) const override;
     [[nodiscard]] std::optional<std::vector<std::uint8_t>> Read(const std::wstring& path) const override;
+    [[nodiscard]] std::optional<std::uint64_t> Size(const std::wstring& path) const override;
+    [[nodiscard]] std::optional<std::vector<std::uint8_t>> ReadPart(const std::wstring& path,
+                                                                    std::uint64_t offset,
+                                                                    std::size_t count) const override;
+    [[nodiscard]] bool Append(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override;
     [[nodiscard]] bool Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override;
     [[nodiscard]] std::vector<std::wstring> List(const std::wstring& folder,
                                                  const std::wstring& pattern) const override;

@@ -122,7 +122,7 @@ constexpr const wchar_t* kClearButton[] = {L"Button_IE_Common_History_Clear"};
 
 void ClearHistory(TPageContext& context, const TSpecialRow& row, TComponent& /*sender*/) {
     const TMessageAnswer answer =
-        context.System.Dialogs.Message(context.Form.Caption(), context.Captions[TCaption::ClearIEHistory],
+        context.System.Dialogs.Message(context.Form, context.Captions[TCaption::ClearIEHistory],
                                        TMessageButtons::YesNo, TMessageIcon::Question);
     if (answer != TMessageAnswer::Yes) return;
     context.System.Shell.ClearBrowsingHistory();

@@ -199,9 +199,9 @@ void LoadCommand(TPageContext& context, const TSpecialRow& row) {
 }
 
 void ChooseProgram(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    const auto path = context.System.Dialogs.OpenFile(context.Captions[TCaption::ExeFile] +
-                                                      L"(*.exe,*.com,*.bat)|*.exe;*.com;*.bat;|" +
-                                                      context.Captions[TCaption::AllFile] + L"(*.*)|*.*;");
+    const auto path = context.System.Dialogs.OpenFile(
+        context.Form, context.Captions[TCaption::ExeFile] + L"(*.exe,*.com,*.bat)|*.exe;*.com;*.bat;|" +
+                          context.Captions[TCaption::AllFile] + L"(*.*)|*.*;");
     if (!path) return;
     const std::wstring command = L'"' + *path + L"\" \"%1\"";
     CommandEdit(context, row).SetText(command);

@@ -92,7 +92,7 @@ TColorSwatch& SwatchOf(const TPageContext& context, const TSpecialRow& row) {
 /// Asks for another colour and shows it; nothing when the user cancels.
 std::optional<TColor> ChangedColor(const TPageContext& context, const TSpecialRow& row) {
     TColorSwatch& swatch = SwatchOf(context, row);
-    const auto color = context.System.Dialogs.PickColor(swatch.Color());
+    const auto color = context.System.Dialogs.PickColor(context.Form, swatch.Color());
     if (color) swatch.SetColor(*color);
     return color;
 }

@@ -9,11 +9,11 @@
 
 namespace {
 
-using testing::EndsWith;
 using testing::HasSubstr;
-using testing::StartsWith;
 
 constexpr const wchar_t* kLog = L"C:\\Tools\\Error_Log.txt";
+
+const std::string kMark = "\xEF\xBB\xBF";
 
 /// A fault of the program's own, without a namespace to be seen by.
 struct TOwnFault : std::runtime_error {
@@ -50,7 +50,7 @@ TEST_F(TFaultLogTest, EveryFaultAppendsItsBlock) {
     Throw(EConvertError(L"12a"));
     Throw(std::bad_alloc());
     Log.Add(L"EAccessViolation", L"at 1234");
-    EXPECT_EQ(Text(), Block("EConvertError", "'12a' is not a valid integer value") +
+    EXPECT_EQ(Text(), kMark + Block("EConvertError", "'12a' is not a valid integer value") +
                           Block("std::bad_alloc", "std::bad_alloc") + Block("EAccessViolation", "at 1234"));
 }
 
@@ -81,17 +81,32 @@ TEST_F(TFaultLogTest, TheSystemIsDescribedAsItIs) {
                                   "OS Info=Windows 2000\r\n64bit=Yes\r\n"));
 }
 
-TEST_F(TFaultLogTest, WhatTheLogHoldsIsKeptToTheByte) {
-    const std::pair<std::string, const char*> cases[] = {
-        {"", ""},         {"old\r\n", ""},
-        {"old\n", ""},    {"no line end", "\r\n"},
-        {"\r\n\r\n", ""}, {"\xEF\xBB\xBFold\r\n", ""},
-        {"\xE4\r\n", ""},
+TEST_F(TFaultLogTest, ALogIsContinuedAsItIsWritten) {
+    std::string large = "x";  // whatever its end begins with, it is within a character
+    for (int i = 0; i < 600'000; ++i) large += "\xC3\xA4";
+    const struct {
+        std::string Before, Added, LineEnd, Umlaut;
+    } cases[] = {
+        {"old\r\n", "", "\r\n", "\xC3\xA4"},
+        {"old\n", "", "\n", "\xC3\xA4"},
+        {"old\r", "", "\r", "\xC3\xA4"},
+        {"\r\n\n", "", "\n", "\xC3\xA4"},
+        {"no line end", "\r\n", "\r\n", "\xC3\xA4"},
+        {"one\ntwo", "\n", "\n", "\xC3\xA4"},
+        {"\xEF\xBB\xBF\xE4\r\n", "", "\r\n", "\xC3\xA4"},
+        {"\xC3\xA4\r\n", "", "\r\n", "\xC3\xA4"},
+        {"\xE4\r\n", "", "\r\n", "\xE4"},
+        {large + "\n", "", "\n", "\xC3\xA4"},
+        {kMark + std::string(1'200'000, '\xE4') + "\n", "", "\n", "\xC3\xA4"},
     };
-    for (const auto& [before, lineEnd] : cases) {
-        Fake.Files.PutText(kLog, before);
-        Throw(std::runtime_error("x"));
-        EXPECT_EQ(Text(), before + lineEnd + Block("std::runtime_error", "x"));
+    for (const auto& each : cases) {
+        Fake.Files.PutText(kLog, each.Before);
+        Throw(std::runtime_error("\xC3\xA4"));
+        std::string block = Block("std::runtime_error", each.Umlaut);
+        for (std::size_t at = 0; (at = block.find("\r\n", at)) != std::string::npos;
+             at += each.LineEnd.size())
+            block.replace(at, 2, each.LineEnd);
+        EXPECT_TRUE(Text() == each.Before + each.Added + block) << each.Before.substr(0, 20);
     }
 }
 
@@ -99,12 +114,13 @@ TEST_F(TFaultLogTest, ALogInUtf16StaysInUtf16) {
     using namespace std::string_literals;
     const std::tuple<std::string, std::string, std::string> cases[] = {
         {"\xFF\xFEo\0"s, "\r\0\n\0\x30\0\x31\0.\0"s, "=\0\xE4\0\r\0\n\0\r\0\n\0"s},
-        {"\xFE\xFF\0\n"s, "\0\x30\0\x31\0."s, "\0=\0\xE4\0\r\0\n\0\r\0\n"s},
+        {"\xFE\xFF\0\n"s, "\0\x30\0\x31\0."s, "\0=\0\xE4\0\n\0\n"s},
+        {"\xFE\xFF" + std::string(1'200'000, 'n') + "\0\n"s, "\0\x30\0\x31\0."s, "\0=\0\xE4\0\n\0\n"s},
     };
     for (const auto& [before, begin, end] : cases) {
         Fake.Files.PutText(kLog, before);
         Throw(std::runtime_error("\xC3\xA4"));
-        EXPECT_THAT(Text(), AllOf(StartsWith(before + begin), EndsWith(end)));
+        EXPECT_TRUE(Text().starts_with(before + begin) && Text().ends_with(end)) << before.substr(0, 4);
     }
 }
 
@@ -123,10 +139,11 @@ TEST_F(TFaultLogTest, AFaultInTheLogIsNoSecondFault) {
     Fake.Clock.OnDateTimeText = [] { throw std::bad_alloc(); };
     Log.Add(L"first", {});
     EXPECT_EQ(Text(), "");
+    Fake.Files.PutText(kLog, "");
 
     Fake.Clock.OnDateTimeText = [this] { Log.Add(L"inner", {}); };
     Log.Add(L"outer", {});
-    EXPECT_EQ(Text(), Block("outer", "")) << "and the log works again after a failure";
+    EXPECT_EQ(Text(), kMark + Block("outer", "")) << "and the log works again after a failure";
 }
 
 }  // namespace

@@ -147,6 +147,7 @@ TEST_F(TMainWindow, AsksForARestartOnceForEachChangeThatNeedsIt) {
     const TQuestion question{L"Quilltune", L"Need to restart Windows to take effect, restart now?",
                              TMessageButtons::YesNo, TMessageIcon::Question};
     EXPECT_EQ(Fake.Dialogs.Questions(), std::vector{question});
+    EXPECT_EQ(Fake.Dialogs.Askers(), std::vector{Window->Name()});
     EXPECT_EQ(Fake.Shell.Restarts(), 0);
 
     Toggle(kLastAccess);
@@ -302,6 +303,46 @@ TEST_F(TMainWindow, AFaultWhileAPageLoadsEndsItsLoaderOnly) {
     EXPECT_EQ(Get<TUpDown>(L"Updown_Firefox_Tab_MinWidth_Min").Position(), 125) << "comes after the fault";
     Toggle(kBlink);
     EXPECT_TRUE(Enabled(L"Button_Apply"));
+}
+
+/// The native side of a control that cannot be shown.
+struct TBrokenPeer : TPeer {
+    void Update(TControlAspect /*aspect*/) override { throw std::runtime_error("broken"); }
+};
+
+TEST_F(TMainWindow, BecomesUsableWhateverFaultItsStartMeets) {
+    int faults = 0;
+    const auto attempt = [&](const std::function<void()>& step) {
+        try {
+            step();
+        } catch (const std::runtime_error&) {
+            ++faults;
+        }
+    };
+    InstallFirefox(Fake, "user_pref(\"browser.blink_allowed\", false);");
+    const wchar_t* loader = L"";
+    for (const wchar_t* broken :
+         {loader, L"CB_CommonSettings_Display_MinWindow_Arrange", L"RzGroup_CommonSettings.Items[0]",
+          L"Notebook_Main", L"Panel_Loading", L"ImageNote_Animate", L"Label_Wait", L"Timer_Click",
+          L"Timer_Loading", L"Button_OK", L"Button_Apply"}) {
+        SCOPED_TRACE(testing::PrintToString(std::wstring(broken)));
+        Create(6, 1);
+        Fake.Clock.OnProcessMessages = [] {};
+        if (broken == loader)
+            Fake.Clock.OnProcessMessages = [] { throw std::runtime_error("a message's"); };
+        else
+            Window->Find(broken)->SetPeer(std::make_unique<TBrokenPeer>());
+        faults = 0;
+        attempt([&] { Window->Show(); });
+        for (const wchar_t* timer : {L"Timer_Loading", L"Timer_Click", L"Timer_Loading"})
+            attempt([&] { Tick(timer); });
+        EXPECT_GT(faults, 0);
+        EXPECT_FALSE(Window->Find(L"Panel_Loading")->Visible());
+        EXPECT_TRUE(Enabled(L"Button_OK") && Enabled(L"Button_Cancel"));
+        EXPECT_FALSE(Enabled(L"Button_Apply") || Enabled(L"Timer_Click") || Enabled(L"Timer_Loading"));
+        EXPECT_EQ(Get<TNotebook>(L"Notebook_Main").ActivePage()->Name(), L"19");
+        EXPECT_TRUE(Get<TCategoryItem>(L"RzGroup_CommonSettings.Items[0]").Selected());
+    }
 }
 
 TEST_F(TMainWindow, APageOpenedWhileAnotherLoadsDoesNotEndItsLoading) {

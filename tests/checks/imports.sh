@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# The program file $1 imports only what the oldest Windows exports, as listed in windows2000_imports.txt.
+# What the loader binds in the program file $1 before it begins is listed in cmake/windows2000_imports.txt: functions of
+# the oldest Windows, and of DLLs that are not looked for in the program's folder.
 set -euo pipefail
 Program=$1
-List="$(dirname "$0")/windows2000_imports.txt"
 
 Headers=$(x86_64-w64-mingw32-objdump -p "$Program")
 if grep -q '^Magic.*PE32+' <<<"$Headers"; then Machine=x86_64; else Machine=i686; fi
@@ -14,12 +14,7 @@ Imports=$(awk '
     Dll && NF == 3 && $1 ~ /^[0-9a-f]+$/ && $2 ~ /^[0-9a-f]+$/ { print Dll, $3 }' <<<"$Headers" | sort -u)
 [ -n "$Imports" ] || { echo "$Program: no imports found"; exit 1; }
 
-awk -v machine="$Machine" -v program="$Program" '
-    FNR == NR {
-        sub(/#.*/, "")
-        if ($0 ~ /^\[/) { gsub(/[][]/, ""); Dll = $1; Applies = NF == 1 || $2 == machine; next }
-        if (Applies) for (i = 1; i <= NF; i++) Allowed[Dll " " $i] = 1
-        next
-    }
-    !($0 in Allowed) { print program ": imports what Windows 2000 may lack: " $0; Faults++ }
-    END { exit Faults > 0 }' "$List" <(echo "$Imports")
+awk -v program="$Program" '
+    FNR == NR { Allowed[$0] = 1; next }
+    !($0 in Allowed) { print program ": imports what it must bind late or Windows 2000 may lack: " $0; Faults++ }
+    END { exit Faults > 0 }' <("$(dirname "$0")/../../cmake/listed_imports.sh" "$Machine" static) <(echo "$Imports")

@@ -29,11 +29,29 @@ TEST_F(TFilesContract, ReplaceCreatesAndOverwritesWhole) {
     EXPECT_THAT(Files().List(Folder(), L"*"), ElementsAre(L"File \u03C0.dat"));
 }
 
+TEST_F(TFilesContract, AppendContinuesWhatCanBeReadInParts) {
+    EXPECT_EQ(Files().Size(Path(L"log")), std::nullopt);
+    for (const char* part : {"", "one ", "two"})
+        ASSERT_TRUE(Files().Append(Path(L"log"), {part, part + std::string_view(part).size()}));
+    EXPECT_EQ(Files().Size(Path(L"log")), 7u);
+    const auto text = [&](std::uint64_t offset, std::size_t count) {
+        const auto bytes = Files().ReadPart(Path(L"log"), offset, count);
+        return bytes ? std::string(bytes->begin(), bytes->end()) : "nothing";
+    };
+    EXPECT_EQ(text(0, 100), "one two");
+    EXPECT_EQ(text(3, 2), " t");
+    EXPECT_EQ(text(6, 2), "o");
+    EXPECT_EQ(text(7, 2), "");
+    EXPECT_EQ(text(8, 2), "");
+}
+
 TEST_F(TFilesContract, WhatCannotBeDoneLeavesNothingBehind) {
     MakeFolder(Path(L"sub"));
     Put(L"sub\\inner.txt", "x");
     EXPECT_FALSE(Files().Replace(Path(L"none\\file"), {1}));
     EXPECT_FALSE(Files().Replace(Path(L"sub"), {1}));
+    EXPECT_FALSE(Files().Append(Path(L"none\\file"), {1}));
+    EXPECT_FALSE(Files().Append(Path(L"sub"), {1}));
     Put(L"sub\\fixed.txt", "x");
     MakeReadOnly(Path(L"sub\\fixed.txt"));
     EXPECT_FALSE(Files().Replace(Path(L"sub\\fixed.txt"), {1}));
@@ -41,6 +59,8 @@ TEST_F(TFilesContract, WhatCannotBeDoneLeavesNothingBehind) {
     for (const std::wstring& path : {Path(L"missing"), Path(L"none\\file"), Path(L"sub"), std::wstring()}) {
         EXPECT_FALSE(Files().Exists(path)) << path;
         EXPECT_EQ(Files().Read(path), std::nullopt) << path;
+        EXPECT_EQ(Files().ReadPart(path, 0, 1), std::nullopt) << path;
+        EXPECT_EQ(Files().Size(path), std::nullopt) << path;
     }
     EXPECT_THAT(Files().List(Folder(), L"*"), IsEmpty());
     EXPECT_THAT(Files().List(Path(L"sub"), L"*"), UnorderedElementsAre(L"inner.txt", L"fixed.txt"));

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ui/dialogs.h"
+#include "ui/form.h"
 
 /// A message box that was shown.
 struct TQuestion {
@@ -25,19 +26,25 @@ class TFakeDialogs : public TDialogs {
     void AnswerColor(std::optional<TColor> color) { FColors.push_back(color); }
 
     [[nodiscard]] const std::vector<TQuestion>& Questions() const { return FQuestions; }
+    /// The name of the form that asked, for every dialog of whatever kind.
+    [[nodiscard]] const std::vector<std::wstring>& Askers() const { return FAskers; }
     [[nodiscard]] const std::vector<std::wstring>& Filters() const { return FFilters; }
     [[nodiscard]] const std::vector<TColor>& InitialColors() const { return FInitialColors; }
 
-    TMessageAnswer Message(const std::wstring& title, const std::wstring& text, TMessageButtons buttons,
+    TMessageAnswer Message(const TForm& asker, const std::wstring& text, TMessageButtons buttons,
                            TMessageIcon icon) override {
-        FQuestions.push_back({title, text, buttons, icon});
+        FQuestions.push_back({asker.Caption(), text, buttons, icon});
+        FAskers.push_back(asker.Name());
         return Take(FAnswers, buttons == TMessageButtons::Ok ? TMessageAnswer::Ok : TMessageAnswer::No);
     }
-    [[nodiscard]] std::optional<std::wstring> OpenFile(const std::wstring& filter) override {
+    [[nodiscard]] std::optional<std::wstring> OpenFile(const TForm& asker,
+                                                       const std::wstring& filter) override {
+        FAskers.push_back(asker.Name());
         FFilters.push_back(filter);
         return Take(FFiles, {});
     }
-    [[nodiscard]] std::optional<TColor> PickColor(TColor initial) override {
+    [[nodiscard]] std::optional<TColor> PickColor(const TForm& asker, TColor initial) override {
+        FAskers.push_back(asker.Name());
         FInitialColors.push_back(initial);
         return Take(FColors, {});
     }
@@ -55,6 +62,7 @@ class TFakeDialogs : public TDialogs {
     std::deque<std::optional<std::wstring>> FFiles;
     std::deque<std::optional<TColor>> FColors;
     std::vector<TQuestion> FQuestions;
+    std::vector<std::wstring> FAskers;
     std::vector<std::wstring> FFilters;
     std::vector<TColor> FInitialColors;
 };

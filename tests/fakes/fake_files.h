@@ -31,7 +31,7 @@ class TFakeFiles : public TFiles {
 
     /// Paths given to Replace, with or without success.
     [[nodiscard]] const std::vector<std::wstring>& Replaced() const { return FReplaced; }
-    /// The n-th Replace from now fails; 1 is the next one.
+    /// The n-th Replace or Append from now fails; 1 is the next one.
     void FailReplace(int n) { FReplacesToFailure = n; }
     /// The file is there but cannot be read.
     void Lock(const std::wstring& path) { FLocked.push_back(path); }
@@ -43,12 +43,29 @@ class TFakeFiles : public TFiles {
         const TFile* file = Find(path);
         return file == nullptr || IsAmong(FLocked, path) ? std::nullopt : std::optional(file->second);
     }
+    [[nodiscard]] std::optional<std::uint64_t> Size(const std::wstring& path) const override {
+        const TFile* file = Find(path);
+        return file == nullptr ? std::nullopt : std::optional<std::uint64_t>(file->second.size());
+    }
+    [[nodiscard]] std::optional<std::vector<std::uint8_t>> ReadPart(const std::wstring& path,
+                                                                    std::uint64_t offset,
+                                                                    std::size_t count) const override {
+        auto bytes = Read(path);
+        if (!bytes) return bytes;
+        const auto begin =
+            bytes->begin() + static_cast<std::ptrdiff_t>(std::min<std::uint64_t>(offset, bytes->size()));
+        const auto rest = static_cast<std::size_t>(bytes->end() - begin);
+        return std::vector(begin, begin + static_cast<std::ptrdiff_t>(std::min(count, rest)));
+    }
+    [[nodiscard]] bool Append(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override {
+        const TFile* file = Find(path);
+        std::vector<std::uint8_t> all = file == nullptr ? std::vector<std::uint8_t>() : file->second;
+        all.insert(all.end(), bytes.begin(), bytes.end());
+        return Write(path, all);
+    }
     [[nodiscard]] bool Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override {
         FReplaced.push_back(path);
-        const bool fails = FReplacesToFailure > 0 && --FReplacesToFailure == 0;
-        if (fails || !HasFolder(FolderOf(path)) || HasFolder(path) || IsAmong(FReadOnly, path)) return false;
-        Put(path, bytes);
-        return true;
+        return Write(path, bytes);
     }
     [[nodiscard]] std::vector<std::wstring> List(const std::wstring& folder,
                                                  const std::wstring& pattern) const override {
@@ -90,6 +107,12 @@ class TFakeFiles : public TFiles {
     }
     static std::wstring FolderOf(const std::wstring& path) {
         return path.substr(0, std::min(path.rfind(L'\\'), path.size()));
+    }
+    bool Write(const std::wstring& path, const std::vector<std::uint8_t>& bytes) {
+        const bool fails = FReplacesToFailure > 0 && --FReplacesToFailure == 0;
+        if (fails || !HasFolder(FolderOf(path)) || HasFolder(path) || IsAmong(FReadOnly, path)) return false;
+        Put(path, bytes);
+        return true;
     }
     [[nodiscard]] const TFile* Find(const std::wstring& path) const {
         const auto file =

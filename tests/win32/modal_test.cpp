@@ -40,6 +40,9 @@ TEST_F(TModal, TheOwnerWaitsAndGetsTheFocusBack) {
         EXPECT_FALSE(IsWindowEnabled(owner));
         EXPECT_EQ(GetWindow(dialog, GW_OWNER), owner);
         EXPECT_EQ(GetFocus(), BoxWindow());
+        TForm second(L"Second", L"TPeerBenchDialog");
+        Form.ShowModal(second);
+        EXPECT_EQ(second.Peer(), nullptr) << "one at a time";
         RECT place{};
         RECT around{};
         GetWindowRect(dialog, &place);

@@ -5,10 +5,35 @@
 
 #include <algorithm>
 
+#include "ui/win32/form_window.h"
+
 namespace {
 
 /// Characters for the path of the chosen file; the longest that Windows 2000 can open.
 constexpr DWORD kLongestPath = 32768;
+
+/// A form's turn to ask.
+class TTurn {
+  public:
+    TTurn(std::set<const TForm*>& askers, const TForm& asker) : FAskers(askers), FAsker(asker) {
+        const auto* peer = static_cast<const TFormWindow*>(asker.Peer());
+        if (peer != nullptr && peer->Handle() != nullptr && askers.insert(&asker).second)
+            FOwner = peer->Handle();
+    }
+    ~TTurn() {
+        if (FOwner != nullptr) FAskers.erase(&FAsker);
+    }
+    TTurn(const TTurn&) = delete;
+    TTurn& operator=(const TTurn&) = delete;
+
+    /// The owner of the dialog; null when there must be none.
+    [[nodiscard]] HWND Owner() const { return FOwner; }
+
+  private:
+    std::set<const TForm*>& FAskers;
+    const TForm& FAsker;
+    HWND FOwner = nullptr;
+};
 
 }  // namespace
 
@@ -17,23 +42,27 @@ TWin32Dialogs::TWin32Dialogs() {
     FCustomColors.fill(kWhite);
 }
 
-TMessageAnswer TWin32Dialogs::Message(const std::wstring& title, const std::wstring& text,
-                                      TMessageButtons buttons, TMessageIcon icon) {
-    const UINT style = (buttons == TMessageButtons::YesNo ? MB_YESNO : MB_OK) |
+TMessageAnswer TWin32Dialogs::Message(const TForm& asker, const std::wstring& text, TMessageButtons buttons,
+                                      TMessageIcon icon) {
+    const UINT style = (buttons == TMessageButtons::YesNo ? MB_YESNO | MB_DEFBUTTON2 : MB_OK) |
                        (icon == TMessageIcon::Question ? MB_ICONQUESTION : 0U);
-    const int button = MessageBoxW(GetActiveWindow(), text.c_str(), title.c_str(), style);
+    const TTurn turn(FAskers, asker);
+    const bool isYes = turn.Owner() != nullptr &&
+                       MessageBoxW(turn.Owner(), text.c_str(), asker.Caption().c_str(), style) == IDYES;
     if (buttons == TMessageButtons::Ok) return TMessageAnswer::Ok;
-    return button == IDYES ? TMessageAnswer::Yes : TMessageAnswer::No;
+    return isYes ? TMessageAnswer::Yes : TMessageAnswer::No;
 }
 
-std::optional<std::wstring> TWin32Dialogs::OpenFile(const std::wstring& filter) {
+std::optional<std::wstring> TWin32Dialogs::OpenFile(const TForm& asker, const std::wstring& filter) {
+    const TTurn turn(FAskers, asker);
+    if (turn.Owner() == nullptr) return std::nullopt;
     // Windows wants NUL between the fields, and two at the end.
     std::wstring fields = filter + L'|';
     std::ranges::replace(fields, L'|', L'\0');
     std::wstring path(kLongestPath, L'\0');
     OPENFILENAMEW dialog{};
     dialog.lStructSize = sizeof(dialog);
-    dialog.hwndOwner = GetActiveWindow();
+    dialog.hwndOwner = turn.Owner();
     dialog.lpstrFilter = fields.c_str();
     dialog.lpstrFile = path.data();
     dialog.nMaxFile = kLongestPath;
@@ -42,10 +71,12 @@ std::optional<std::wstring> TWin32Dialogs::OpenFile(const std::wstring& filter) 
     return std::wstring(path.c_str());
 }
 
-std::optional<TColor> TWin32Dialogs::PickColor(TColor initial) {
+std::optional<TColor> TWin32Dialogs::PickColor(const TForm& asker, TColor initial) {
+    const TTurn turn(FAskers, asker);
+    if (turn.Owner() == nullptr) return std::nullopt;
     CHOOSECOLORW dialog{};
     dialog.lStructSize = sizeof(dialog);
-    dialog.hwndOwner = GetActiveWindow();
+    dialog.hwndOwner = turn.Owner();
     dialog.rgbResult = initial;
     dialog.lpCustColors = FCustomColors.data();
     dialog.Flags = CC_FULLOPEN | CC_RGBINIT | CC_ANYCOLOR;

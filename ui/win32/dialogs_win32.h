@@ -2,20 +2,25 @@
 #pragma once
 
 #include <array>
+#include <set>
 
 #include "ui/dialogs.h"
 
-/// Every dialog belongs to the active window, which waits for it.
+/// A form that has no window, or none any more, asks nothing, and so does one that waits for a dialog already: the answer
+/// is then that of a user who declines.
 class TWin32Dialogs : public TDialogs {
   public:
     TWin32Dialogs();
 
-    TMessageAnswer Message(const std::wstring& title, const std::wstring& text, TMessageButtons buttons,
+    TMessageAnswer Message(const TForm& asker, const std::wstring& text, TMessageButtons buttons,
                            TMessageIcon icon) override;
-    [[nodiscard]] std::optional<std::wstring> OpenFile(const std::wstring& filter) override;
-    [[nodiscard]] std::optional<TColor> PickColor(TColor initial) override;
+    [[nodiscard]] std::optional<std::wstring> OpenFile(const TForm& asker,
+                                                       const std::wstring& filter) override;
+    [[nodiscard]] std::optional<TColor> PickColor(const TForm& asker, TColor initial) override;
 
   private:
+    /// Whose dialogs are being shown.
+    std::set<const TForm*> FAskers;
     /// The colours that the user mixed, offered again at the next choice; of the type of a COLORREF.
     std::array<unsigned long, 16> FCustomColors;
 };

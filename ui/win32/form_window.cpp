@@ -57,13 +57,16 @@ TFormWindow& TFormWindow::Attach(TForm& form, HINSTANCE instance, TFaultHandler 
 }
 
 void TFormWindow::Show(int showCommand) {
+    const auto attempt = [this](const auto& step) {
+        try {
+            step();
+        } catch (...) {
+            Fault(std::current_exception());
+        }
+    };
     // The form shows itself first: its windows are then created with their final captions.
-    try {
-        FForm.Show();
-    } catch (...) {
-        Fault(std::current_exception());
-    }
-    FWindow.Open();
+    attempt([this] { FForm.Show(); });
+    attempt([this] { FWindow.Open(); });
     ShowWindow(Handle(), showCommand);
     // All at once: the inner windows would otherwise come one after the other.
     RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
@@ -93,6 +96,7 @@ int TFormWindow::Run() {
 }
 
 void TFormWindow::ShowModal(TForm& dialog) {
+    if (!IsWindowEnabled(Handle())) return;
     TFormWindow& window = Attach(dialog, FInstance, FFaultHandler, Handle());
     const TDisabledWindow disabled(Handle());
     window.Show(SW_SHOW);
@@ -220,12 +224,13 @@ void TFormWindow::CommitFocus() const {
 }
 
 void TFormWindow::CreatePage(TControl& page) {
-    auto& notebook = static_cast<TNotebookPeer&>(*page.Parent()->Peer());
-    if (page.Peer() == nullptr) notebook.CreatePage(page);
+    auto* notebook = static_cast<TNotebookPeer*>(page.Parent()->Peer());
+    if (page.Peer() == nullptr && notebook != nullptr) notebook->CreatePage(page);
     if (!FFilledPages.insert(&page).second) return;
-    auto& peer = static_cast<TContainerPeer&>(*page.Peer());
-    peer.CreateContent();
-    peer.LayOut();
+    auto* peer = static_cast<TContainerPeer*>(page.Peer());
+    if (peer == nullptr) return;  // a fault kept it from being created
+    peer->CreateContent();
+    peer->LayOut();
 }
 
 /// Creates the window of one notebook page, or the content of one when all have their windows; false when there is
@@ -237,8 +242,9 @@ bool TFormWindow::CreateNextPage() {
         for (const auto& component : FForm.Components()) {
             if (component->Kind() != TComponentKind::NotebookPage) continue;
             auto& page = static_cast<TControl&>(*component);
-            if (page.Peer() == nullptr) {
-                static_cast<TNotebookPeer&>(*page.Parent()->Peer()).CreatePage(page);
+            auto* notebook = static_cast<TNotebookPeer*>(page.Parent()->Peer());
+            if (page.Peer() == nullptr && notebook != nullptr && FCreatedPages.insert(&page).second) {
+                notebook->CreatePage(page);
                 return true;
             }
             if (unfilled == nullptr && !FFilledPages.contains(&page)) unfilled = &page;

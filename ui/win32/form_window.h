@@ -101,8 +101,9 @@ class TFormWindow : public TFormPeer {
     std::unique_ptr<TScreen> FScreen = std::make_unique<TScreen>();
     TPictureStore FPictures;
     std::unordered_map<HWND, TWindowPeer*> FPeers;
-    std::set<const TControl*> FChanged;      ///< containers to lay out
-    std::set<const TControl*> FFilledPages;  ///< notebook pages whose content exists
+    std::set<const TControl*> FChanged;       ///< containers to lay out
+    std::set<const TControl*> FCreatedPages;  ///< notebook pages whose window was created while idle
+    std::set<const TControl*> FFilledPages;   ///< notebook pages whose content exists
     std::unordered_map<unsigned, TTimer*> FTimers;
     bool FRestyles = false;  ///< a change of the look waits
     int FLastCommandId = 100;

@@ -62,6 +62,14 @@ struct TTokenTraits {
 };
 using TTokenHandle = THandle<TTokenTraits>;
 
+/// A thread, an event or whatever else can be waited for.
+struct TWaitableTraits {
+    using Type = HANDLE;
+    static Type Invalid() { return nullptr; }
+    static void Close(Type object) { CloseHandle(object); }
+};
+using TWaitableHandle = THandle<TWaitableTraits>;
+
 struct TLibraryTraits {
     using Type = HMODULE;
     static Type Invalid() { return nullptr; }

@@ -7,16 +7,19 @@
 
 namespace {
 
+/// Loads a library of the system folder, and what it imports from there as well; null when there is none.
+HMODULE LoadSystemLibrary(const wchar_t* name) {
+    wchar_t folder[MAX_PATH];
+    const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH) return nullptr;
+    const std::wstring path = std::wstring(folder, length) + L'\\' + name;
+    return LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+}
+
 /// A library of the system folder, loaded as long as the object lives.
 class TSystemLibrary {
   public:
-    explicit TSystemLibrary(const wchar_t* name) {
-        wchar_t folder[MAX_PATH];
-        const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
-        if (length == 0 || length >= MAX_PATH) return;
-        const std::wstring path = std::wstring(folder, length) + L'\\' + name;
-        FLibrary = TLibraryHandle(LoadLibraryW(path.c_str()));
-    }
+    explicit TSystemLibrary(const wchar_t* name) : FLibrary(LoadSystemLibrary(name)) {}
 
     /// The function of that name; null when there is none.
     template <typename TFunction>
@@ -29,6 +32,23 @@ class TSystemLibrary {
 };
 
 }  // namespace
+
+void SearchSystemFolderOnly() {
+    constexpr DWORD kSystemFolder = 0x800;  // LOAD_LIBRARY_SEARCH_SYSTEM32
+    const TSystemLibrary kernel(L"kernel32.dll");
+    const auto setFolders = kernel.Find<BOOL WINAPI(DWORD)>("SetDefaultDllDirectories");
+    const auto setFolder = kernel.Find<BOOL WINAPI(const wchar_t*)>("SetDllDirectoryW");
+    if (setFolders != nullptr)
+        setFolders(kSystemFolder);
+    else if (setFolder != nullptr)
+        setFolder(L"");  // no more than the current folder
+    // Where the first is missing, and sometimes where it is not (Wine, for what its libraries bind late), the program's
+    // folder is still searched. A library that is loaded is not searched for again, so those that Windows' own libraries
+    // ask for are loaded here, for good.
+    for (const wchar_t* name :
+         {L"ole32.dll", L"uxtheme.dll", L"msimg32.dll", L"imm32.dll", L"version.dll", L"winspool.drv"})
+        LoadSystemLibrary(name);
+}
 
 bool ProcessIsWow64() {
     const TSystemLibrary kernel(L"kernel32.dll");

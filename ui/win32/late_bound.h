@@ -7,6 +7,11 @@
 
 #include <string>
 
+/// From now on libraries are not looked for in the program's folder, where anybody may have put one, nor in the current
+/// one: SetDefaultDllDirectories, or where Windows lacks it SetDllDirectoryW (since Windows XP). Those libraries that are
+/// known to be asked for are loaded from the system folder at once.
+void SearchSystemFolderOnly();
+
 /// IsWow64Process: whether this is a 32-bit process on 64-bit Windows. False where Windows has no such function.
 [[nodiscard]] bool ProcessIsWow64();
 

@@ -27,7 +27,7 @@ void TNotebookPeer::CreatePage(TControl& page) {
     CreatePeer(FForm, page, Handle());
     RECT area{};
     GetClientRect(Handle(), &area);
-    PeerOf(page)->Place({0, 0, area.right, area.bottom});
+    if (TWindowPeer* peer = PeerOf(page)) peer->Place({0, 0, area.right, area.bottom});
 }
 
 void TNotebookPeer::ShowState() {

@@ -75,9 +75,7 @@ std::unique_ptr<TPeer> MakePeer(TFormWindow& form, TControl& control, HWND paren
     return nullptr;
 }
 
-}  // namespace
-
-void CreatePeer(TFormWindow& form, TControl& control, HWND parent) {
+void CreatePeerAndContent(TFormWindow& form, TControl& control, HWND parent) {
     control.SetPeer(MakePeer(form, control, parent));
     switch (control.Kind()) {
         case TComponentKind::Notebook:
@@ -94,5 +92,15 @@ void CreatePeer(TFormWindow& form, TControl& control, HWND parent) {
         default:
             if (auto* container = dynamic_cast<TContainerPeer*>(control.Peer())) container->CreateContent();
             return;
+    }
+}
+
+}  // namespace
+
+void CreatePeer(TFormWindow& form, TControl& control, HWND parent) {
+    try {
+        CreatePeerAndContent(form, control, parent);
+    } catch (...) {
+        form.Fault(std::current_exception());
     }
 }

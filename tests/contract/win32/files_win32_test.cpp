@@ -1,4 +1,4 @@
-// What the real file system knows of a file beside its bytes, put there behind the adapter's back.
+// Files with attributes, sizes and locks.
 #include <windows.h>
 
 #include <gmock/gmock.h>
@@ -9,82 +9,59 @@
 namespace {
 
 using testing::ElementsAre;
+using testing::UnorderedElementsAre;
 
 class TFilesWin32 : public TContractTest {
   protected:
-    TFilesWin32() { EXPECT_TRUE(Replace("old")); }
-
-    bool Replace(std::string_view text) { return System().Files.Replace(File, {text.begin(), text.end()}); }
-    std::string Text(const std::wstring& path) {
-        const auto bytes = System().Files.Read(path).value_or(TBytes());
-        return {bytes.begin(), bytes.end()};
-    }
-    std::vector<std::wstring> Names() { return System().Files.List(Folder(), L"*"); }
-
-    const std::wstring File = Folder() + L"\\user.js";
-    const std::wstring Other = Folder() + L"\\other.js";
+    TFiles& Files() { return System().Files; }
+    std::wstring Path(const std::wstring& name) { return Folder() + L"\\" + name; }
 };
 
-/// Holds the file open, with others allowed that much.
-TFileHandle Hold(const std::wstring& path, DWORD share) {
-    return TFileHandle(CreateFileW(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr));
-}
-
-TEST_F(TFilesWin32, ReplacingKeepsAttributesAndLinks) {
-    constexpr DWORD kAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_ARCHIVE;
-    ASSERT_TRUE(SetFileAttributesW(File.c_str(), kAttributes));
-    EXPECT_TRUE(Replace("new"));
-    EXPECT_EQ(GetFileAttributesW(File.c_str()), kAttributes);
-
-    ASSERT_TRUE(CreateHardLinkW(Other.c_str(), File.c_str(), nullptr));
-    EXPECT_TRUE(Replace("a longer one"));
-    EXPECT_TRUE(Replace("newer"));
-    EXPECT_EQ(Text(Other), "newer");
-    EXPECT_EQ(Names().size(), 2U);
-}
-
-TEST_F(TFilesWin32, ReplacingKeepsRights) {
-    const auto part = [this](SECURITY_INFORMATION which) {
-        TBytes bytes(1024);
-        DWORD size = 0;
-        EXPECT_TRUE(GetFileSecurityW(File.c_str(), which, bytes.data(), 1024, &size));
-        return bytes;
-    };
-    TBytes owner = part(OWNER_SECURITY_INFORMATION);
-    PSID user = nullptr;
-    BOOL isDefault = FALSE;
-    ASSERT_TRUE(GetSecurityDescriptorOwner(owner.data(), &user, &isDefault));
-    alignas(ACL) BYTE buffer[256];
-    auto* list = reinterpret_cast<ACL*>(buffer);
-    ASSERT_TRUE(InitializeAcl(list, sizeof buffer, ACL_REVISION));
-    ASSERT_TRUE(AddAccessAllowedAce(list, ACL_REVISION, GENERIC_ALL, user));
-    SECURITY_DESCRIPTOR ownerAlone;
-    ASSERT_TRUE(InitializeSecurityDescriptor(&ownerAlone, SECURITY_DESCRIPTOR_REVISION));
-    ASSERT_TRUE(SetSecurityDescriptorDacl(&ownerAlone, TRUE, list, FALSE));
-    const TBytes usual = part(DACL_SECURITY_INFORMATION);
-    ASSERT_TRUE(SetFileSecurityW(File.c_str(), DACL_SECURITY_INFORMATION, &ownerAlone));
-    const TBytes before = part(DACL_SECURITY_INFORMATION);
-    ASSERT_NE(before, usual);
-    EXPECT_TRUE(Replace("new"));
-    EXPECT_EQ(part(DACL_SECURITY_INFORMATION), before);
-}
-
-TEST_F(TFilesWin32, NothingIsLeftBeside) {
-    {
-        const TFileHandle reader = Hold(File, FILE_SHARE_READ);
-        EXPECT_FALSE(Replace("new")) << "another program lets nobody write";
+TEST_F(TFilesWin32, HiddenAndSystemFilesAreListed) {
+    for (const auto& [name, attribute] :
+         {std::pair(L"hidden.lng", FILE_ATTRIBUTE_HIDDEN), {L"system.lng", FILE_ATTRIBUTE_SYSTEM}}) {
+        ASSERT_TRUE(Files().Replace(Path(name), {}));
+        ASSERT_TRUE(SetFileAttributesW(Path(name).c_str(), static_cast<DWORD>(attribute)));
     }
-    EXPECT_EQ(Text(File), "old");
-    EXPECT_THAT(Names(), ElementsAre(L"user.js"));
-    {
-        const TFileHandle reader = Hold(File, FILE_SHARE_READ | FILE_SHARE_WRITE);
-        EXPECT_TRUE(Replace("new")) << "it need not be moved away";
+    EXPECT_THAT(Files().List(Folder(), L"*.lng"), UnorderedElementsAre(L"hidden.lng", L"system.lng"));
+}
+
+TEST_F(TFilesWin32, LockedAndHugeFilesAreNotRead) {
+    ASSERT_TRUE(Files().Replace(Path(L"a"), {1}));
+    TFileHandle file(
+        CreateFileW(Path(L"a").c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    ASSERT_TRUE(file.IsValid());
+    EXPECT_EQ(Files().Read(Path(L"a")), std::nullopt);
+    EXPECT_FALSE(Files().Replace(Path(L"a"), {2}));
+    EXPECT_FALSE(Files().Append(Path(L"a"), {2}));
+    EXPECT_EQ(Files().ReadPart(Path(L"a"), 0, 1), std::nullopt);
+
+    constexpr LONG kLimit = 64 * 1024 * 1024;
+    for (const LONG size : {kLimit, kLimit + 1}) {
+        SetFilePointer(file.Get(), size, nullptr, FILE_BEGIN);
+        ASSERT_TRUE(SetEndOfFile(file.Get()));
+        file.Close();
+        EXPECT_EQ(Files().Read(Path(L"a")).has_value(), size <= kLimit) << size;
+        file = TFileHandle(
+            CreateFileW(Path(L"a").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     }
-    // What a killed program leaves.
-    ASSERT_TRUE(CopyFileW(File.c_str(), (File + L".quilltune-new").c_str(), FALSE));
-    EXPECT_TRUE(Replace("newer"));
-    EXPECT_EQ(Text(File), "newer");
-    EXPECT_THAT(Names(), ElementsAre(L"user.js"));
+    file.Close();
+    ASSERT_TRUE(Files().Append(Path(L"a"), {2}));
+    EXPECT_EQ(Files().ReadPart(Path(L"a"), kLimit, 9), (std::vector<std::uint8_t>{0, 2}));
+    ASSERT_TRUE(SetFileAttributesW(Path(L"a").c_str(), FILE_ATTRIBUTE_READONLY));
+    EXPECT_FALSE(Files().Append(Path(L"a"), {3}));
+    EXPECT_EQ(Files().Size(Path(L"a")), kLimit + 2u);
+    SetFileAttributesW(Path(L"a").c_str(), FILE_ATTRIBUTE_NORMAL);
+    EXPECT_THAT(Files().List(Folder(), L"*"), ElementsAre(L"a"));
+}
+
+TEST_F(TFilesWin32, LongProfileStringsAreReadWhole) {
+    for (const std::size_t length : {254U, 255U, 256U, 5000U}) {
+        const std::string text = "[s]\r\nk=" + std::string(length, 'x');
+        const std::wstring name = std::to_wstring(length);
+        ASSERT_TRUE(Files().Replace(Path(name), {text.begin(), text.end()}));
+        EXPECT_EQ(Files().ProfileString(Path(name), L"s", L"k", L""), std::wstring(length, L'x'));
+    }
 }
 
 }  // namespace

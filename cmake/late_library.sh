@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Makes the import library $3 that binds the listed functions of the DLL $2 when they are first called; $1 is the
+# compiler's triple.
+set -euo pipefail
+Tool=$1
+Dll=$2
+Library=$3
+Machine=${Tool%%-*}
+
+# The compiler's own import library knows how the functions are decorated.
+Original=$("$Tool-gcc" -print-file-name="lib${Dll%.dll}.a")
+Prefix=__imp_
+[ "$Machine" = x86_64 ] || Prefix=__imp__
+
+Definition=$Library.def
+{
+    printf 'LIBRARY "%s"\nEXPORTS\n' "$Dll"
+    awk -v dll="$Dll" -v prefix="$Prefix" '
+        FNR == NR { if ($1 == dll) Listed[$2] = 1; next }
+        index($3, prefix) == 1 {
+            Symbol = substr($3, length(prefix) + 1)
+            split(Symbol, Part, "@")
+            if (Part[1] in Listed) print Symbol
+        }' <("$(dirname "$0")/listed_imports.sh" "$Machine" late) <("$Tool-nm" "$Original" 2>/dev/null)
+} >"$Definition"
+"$Tool-dlltool" --kill-at --input-def "$Definition" --output-delaylib "$Library"
