@@ -24,3 +24,11 @@ Definition=$Library.def
         }' <("$(dirname "$0")/listed_imports.sh" "$Machine" late) <("$Tool-nm" "$Original" 2>/dev/null)
 } >"$Definition"
 "$Tool-dlltool" --kill-at --input-def "$Definition" --output-delaylib "$Library"
+
+# A call goes through an address table, whose entry leads to a stub until the function is bound. The linker takes a stub
+# for one that is not needed when nothing refers to its symbol, and so the symbol is hidden from it; but winver.h declares
+# functions that are called by the symbol.
+if [ "$Dll" != version.dll ]; then
+    sed "1,2d; s/^/${Prefix#__imp_}/" "$Definition" >"$Library.stubs"
+    "$Tool-objcopy" --localize-symbols "$Library.stubs" "$Library"
+fi
