@@ -18,7 +18,7 @@ TQuilltune_FormFolder::TQuilltune_FormFolder(const TPageContext& owner, const TL
       FPage(DesktopIcons(), FContext, *this, [](TComponent&) {}) {
     ClientWidth = 360;
     ClientHeight = 330;
-    SetCaption(L"Desktop and My Computer");
+    SetCaption(L"Icons and Drives");
     Build(*this, Buttons(Button(L"Button_OK", L"OK"), Button(L"Button_Cancel", L"Cancel")));
     auto* ok = Find<TButton>(L"Button_OK");
     ok->Default = true;

@@ -297,5 +297,5 @@ int main() {
 
     TForm dialog(L"Quilltune_FormFolder", L"TQuilltune_FormFolder");
     dialog.Build(dialog, DesktopIcons().Design());
-    PrintPage(dialog, DesktopIcons(), L"Desktop and My Computer (a dialog: its OK writes at once)");
+    PrintPage(dialog, DesktopIcons(), L"Icons and Drives (a dialog: its OK writes at once)");
 }

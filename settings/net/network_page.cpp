@@ -31,7 +31,7 @@ TControlDesign Design() {
         7,
         PageControl(
             L"PageControl_Net",
-            Sheet(L"TabSheet_Net_Neighbor", L"Network Places",
+            Sheet(L"TabSheet_Net_Neighbor", L"Network",
                   Group(L"GroupBox_Net_Neighbor_Common", L"Browsing the network",
                         CheckBox(L"Checkbox_Net_Neighbor_Common_Task",
                                  L"Search network computer for scheduled &tasks."),
@@ -208,11 +208,16 @@ constexpr TPreset kPresets[] = {
     {L"Button_Net_Password_Default", kPasswordDefault},
 };
 
+constexpr TLevelCaption kLevelCaptions[] = {
+    {L"TabSheet_Net_Neighbor", kUntilXp, TCaption::NetworkPlaces},
+};
+
 constexpr TPageDefinition kPage{.Tag = 7,
                                 .SharedHandler = L"Checkbox_Net_Neighbor_Common_TaskClick",
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
+                                .LevelCaptions = kLevelCaptions,
                                 .ShowsPending = true};
 
 }  // namespace

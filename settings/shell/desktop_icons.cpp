@@ -30,7 +30,7 @@ TControlDesign Design() {
         L"PageControl_Folder",
         Sheet(L"TabSheet_Folder_Desktop", L"Desktop",
               Group(L"GroupBox_Folder_Desktop", L"Icons on the desktop",
-                    CheckBox(L"Checkbox_Folder_Desktop_MyComputer", L"My &Computer"),
+                    CheckBox(L"Checkbox_Folder_Desktop_MyComputer", L"&Computer"),
                     CheckBox(L"Checkbox_Folder_Desktop_MyDocuments", L"My &Documents"),
                     CheckBox(L"Checkbox_Folder_Desktop_UserFiles", L"User's &Files"),
                     CheckBox(L"Checkbox_Folder_Desktop_MyNetworkPlaces", L"My Network P&laces"),
@@ -39,8 +39,8 @@ TControlDesign Design() {
                     CheckBox(L"Checkbox_Folder_Desktop_ControlPanel", L"Control &Panel"),
                     CheckBox(L"Checkbox_Folder_Desktop_RecycleBin", L"&Recycle Bin"),
                     CheckBox(L"Checkbox_Folder_Desktop_RecycleBinKey", L"Recycle &Bin"))),
-        Sheet(L"TabSheet_Folder_MyComputer", L"My Computer",
-              Group(L"GroupBox_Folder_MyComputer", L"Folders in My Computer",
+        Sheet(L"TabSheet_Folder_MyComputer", L"Computer",
+              Group(L"GroupBox_Folder_MyComputer", L"Folders beside the drives",
                     CheckBox(L"Checkbox_Folder_MyComputer_ShowControlPanel", L"Control &Panel"),
                     CheckBox(L"Checkbox_Folder_MyComputer_ControlPanel", L"&Control Panel"),
                     CheckBox(L"Checkbox_Folder_MyComputer_Printers", L"P&rinters"),
@@ -49,7 +49,7 @@ TControlDesign Design() {
                     CheckBox(L"Checkbox_Folder_MyComputer_ScheduledTasks", L"&Scheduled Tasks"),
                     CheckBox(L"Checkbox_Folder_MyComputer_RecycleBin", L"Recycle &Bin"))),
         Sheet(L"TabSheet_Folder_Drivers", L"Drivers",
-              Label(L"Label_Folder_Drivers", L"&Hide the checked drives in My Computer:"),
+              Label(L"Label_Folder_Drivers", L"&Hide the checked drives in Windows Explorer:"),
               ListView(L"ListView_Folder_Drivers", {L"Drive"})));
 }
 
@@ -156,22 +156,26 @@ constexpr TRow kDriveRows[] = {
 
 constexpr TLoader kLoaders[] = {kDesktopRows, kMyComputerRows, kDriveRows};
 
-constexpr TLevels kWindowsXp{5, 5};
 constexpr TOffer kOffers[] = {
     {L"Checkbox_Folder_Desktop_MyComputer", kSinceXp},
-    {L"Checkbox_Folder_Desktop_MyDocuments", kWindowsXp},
+    {L"Checkbox_Folder_Desktop_MyDocuments", kOnlyXp},
     {L"Checkbox_Folder_Desktop_UserFiles", kSinceVista},
-    {L"Checkbox_Folder_Desktop_MyNetworkPlaces", kWindowsXp},
+    {L"Checkbox_Folder_Desktop_MyNetworkPlaces", kOnlyXp},
     {L"Checkbox_Folder_Desktop_Network", kSinceVista},
     // Vista's own dialog no longer offers it, but its desktop still knows it.
-    {L"Checkbox_Folder_Desktop_InternetExplorer", {5, 6}},
+    {L"Checkbox_Folder_Desktop_InternetExplorer", kXpAndVista},
     {L"Checkbox_Folder_Desktop_ControlPanel", kSinceVista},
     {L"Checkbox_Folder_Desktop_RecycleBin", kSinceXp},
     // Windows 2000 has no list of hidden icons: what its desktop shows are keys.
     {L"Checkbox_Folder_Desktop_RecycleBinKey", {.Last = 4}},
-    {L"Checkbox_Folder_MyComputer_ShowControlPanel", kWindowsXp},
+    {L"Checkbox_Folder_MyComputer_ShowControlPanel", kOnlyXp},
     {L"Checkbox_Folder_MyComputer_ControlPanel", kSinceVista},
     {L"Checkbox_Folder_MyComputer_ScheduledTasks", kUntilXp},
+};
+
+constexpr TLevelCaption kLevelCaptions[] = {
+    {L"Checkbox_Folder_Desktop_MyComputer", kUntilXp, TCaption::DesktopMyComputer},
+    {L"TabSheet_Folder_MyComputer", kUntilXp, TCaption::MyComputer},
 };
 
 constexpr TPageDefinition kDialog{.Tag = 0,
@@ -179,7 +183,8 @@ constexpr TPageDefinition kDialog{.Tag = 0,
                                   .Design = Design,
                                   .Loaders = kLoaders,
                                   .Presets = {},
-                                  .Offers = kOffers};
+                                  .Offers = kOffers,
+                                  .LevelCaptions = kLevelCaptions};
 
 }  // namespace
 

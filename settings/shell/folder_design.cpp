@@ -78,8 +78,8 @@ TControlDesign ChooseSheet() {
 TControlDesign AdvancedSheet() {
     return Sheet(
         L"TabSheet_Folder_Advanced", L"Advanced",
-        Group(L"GroupBox_Folder_Advanced_MyComputer", L"My Computer",
-              Label(L"Label_Folder_Advanced_MyComputer", L"Choose the icons that My Computer shows."),
+        Group(L"GroupBox_Folder_Advanced_MyComputer", L"Computer",
+              Label(L"Label_Folder_Advanced_MyComputer", L"Choose the icons that this folder shows."),
               Buttons(Button(L"Button_Folder_Advanced_MyComputer_Set", L"&Settings..."))),
         Group(L"GroupBox_Folder_Advanced_Desktop", L"Desktop",
               Label(L"Label_Folder_Advanced_Desktop", L"Choose the icons that the desktop shows."),

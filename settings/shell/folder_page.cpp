@@ -288,11 +288,16 @@ constexpr TPreset kPresets[] = {
     {L"Button_Folder_Thumbnail_Default", kThumbnailDefault},
 };
 
+constexpr TLevelCaption kLevelCaptions[] = {
+    {L"GroupBox_Folder_Advanced_MyComputer", kUntilXp, TCaption::MyComputer},
+};
+
 constexpr TPageDefinition kPage{.Tag = 3,
                                 .SharedHandler = L"Checkbox_Folder_View_Windows_TreeClick",
                                 .Design = FolderDesign,
                                 .Loaders = kLoaders,
-                                .Presets = kPresets};
+                                .Presets = kPresets,
+                                .LevelCaptions = kLevelCaptions};
 
 }  // namespace
 

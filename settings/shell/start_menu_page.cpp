@@ -34,8 +34,8 @@ TControlDesign Design() {
                                    L"Edit_Use_StartMenu_Common_Menu_Delay", 0, 4000, 400),
                             Label(L"Label_Use_StartMenu_Common_Menu_Unit", L"milliseconds"))),
                   Group(L"GroupBox_Use_StartMenu_Common_Classic", L"Open as menus in the classic Start menu",
-                        CheckBox(L"Checkbox_Use_StartMenu_Common_Classic_ControlPanel", L"Co&ntrol Panel"),
-                        CheckBox(L"Checkbox_Use_StartMenu_Common_Classic_MyDocuments", L"M&y Documents"),
+                        CheckBox(L"Checkbox_Use_StartMenu_Common_Classic_ControlPanel", L"Cont&rol Panel"),
+                        CheckBox(L"Checkbox_Use_StartMenu_Common_Classic_MyDocuments", L"Documen&ts"),
                         CheckBox(L"Checkbox_Use_StartMenu_Common_Classic_Network", L"Net&work Connections"),
                         CheckBox(L"Checkbox_Use_StartMenu_Common_Classic_Printers", L"Printers and Fa&xes")),
                   Buttons(Button(L"Button_Use_StartMenu_Common_Default", L"&Default"))),
@@ -115,6 +115,7 @@ constexpr TCheckBoxRow Cascading(const wchar_t* control, const wchar_t* valueNam
 
 constexpr const wchar_t* kUserName = L"Checkbox_Use_StartMenu_Common_User_ShowUserName";
 constexpr const wchar_t* kPersonalized = L"Checkbox_Use_StartMenu_Common_Behaviour_Personalized";
+constexpr const wchar_t* kClassicPrinters = L"Checkbox_Use_StartMenu_Common_Classic_Printers";
 
 constexpr TRow kCommonRows[] = {
     On(kOnlyXp, PolicyRow(kUserName, L"NoUserNameInStartMenu")),
@@ -142,7 +143,7 @@ constexpr TRow kCommonRows[] = {
     Cascading(L"Checkbox_Use_StartMenu_Common_Classic_ControlPanel", L"CascadeControlPanel"),
     Cascading(L"Checkbox_Use_StartMenu_Common_Classic_MyDocuments", L"CascadeMyDocuments"),
     Cascading(L"Checkbox_Use_StartMenu_Common_Classic_Network", L"CascadeNetworkConnections"),
-    Cascading(L"Checkbox_Use_StartMenu_Common_Classic_Printers", L"CascadePrinters"),
+    Cascading(kClassicPrinters, L"CascadePrinters"),
 };
 
 /// 0, 1 and 2 are the three appearances in their order.
@@ -297,8 +298,13 @@ constexpr TOffer kOffers[] = {
     {L"GroupBox_Use_StartMenu_RecentlyUse_JumpList", kSinceWindows7},
 };
 
+// Printers share their folder with faxes on Windows XP and Server 2003, and with all devices since Windows 7.
+constexpr TLevels kOnlyWindows2000{.First = 4, .Last = 4};
 constexpr TLevelCaption kLevelCaptions[] = {
     {L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", kSinceVista, TCaption::StartMenuDragDrop},
+    {L"Checkbox_Use_StartMenu_Common_Classic_MyDocuments", kUntilXp, TCaption::StartMenuClassicMyDocuments},
+    {kClassicPrinters, kOnlyWindows2000, TCaption::StartMenuPrinters},
+    {kClassicPrinters, kOnlyVista, TCaption::StartMenuPrinters},
     {L"Label_Use_StartMenu_Items_MyComputer", kOnlyXp, TCaption::StartMenuMyComputer},
     {L"Label_Use_StartMenu_Items_MyDocuments", kOnlyXp, TCaption::StartMenuMyDocuments},
     {L"Label_Use_StartMenu_Items_MyPictures", kOnlyXp, TCaption::StartMenuMyPictures},
