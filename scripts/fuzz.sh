@@ -9,7 +9,7 @@ Seconds=${1:-60}
 Targets=("${@:2}")
 [ ${#Targets[@]} -gt 0 ] || Targets=(language_file prefs profiles)
 
-RequirePackages cmake ninja-build clang libclang-rt-14-dev
+RequirePackages cmake ninja-build "${ClangPackages[@]}"
 Folder="$Root/build/fuzz"
 cmake -S "$Root/tests/fuzz" -B "$Folder" -G Ninja -D CMAKE_CXX_COMPILER=clang++ >&2
 for Target in "${Targets[@]}"; do

@@ -7,6 +7,7 @@ CacheFolder="${XDG_CACHE_HOME:-$HOME/.cache}/quilltune"
 BuildPackages=(cmake ninja-build make gcc g++ g++-mingw-w64-i686-win32 g++-mingw-w64-x86-64-win32
                libz-mingw-w64-dev googletest dpkg-dev ca-certificates)
 WinePackages=(wine wine64 xvfb)
+ClangPackages=(clang libclang-rt-14-dev)  # for tests and fuzzing
 
 Say() { printf '== %s\n' "$*" >&2; }
 

@@ -4,7 +4,8 @@
 set -euo pipefail
 . "$(dirname "$0")/lib.sh"
 
-RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" libgtest-dev libgmock-dev clang-format clang-tidy debootstrap
+RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" libgtest-dev libgmock-dev "${ClangPackages[@]}" \
+    clang-format clang-tidy debootstrap
 
 Passed=0
 Failed=0
@@ -75,12 +76,21 @@ NativeTests() {
     CountTests "$name (native, sanitizers)" "$Work/native_$name.log" "$status"
 }
 
-# Reports what wine_tests.sh has left in the folder $1 about the given test programs, as suites called "... ($2)".
-CountWineTests() {
-    local folder=$1 where=$2 name
+# Runs the test programs $3... under Wine with the program $2 of dist; $1 is empty or runs a command in the root with
+# 32-bit Wine. Their logs come into the folder "$Work/$2".
+WineTests() {
+    local runner=$1 target=$2
     shift 2
+    $runner "$Root/scripts/wine_tests.sh" "$Work/$target" "$Work/dist/$target" "$@" >"$Work/$target/run.log" 2>&1 ||
+        cat "$Work/$target/run.log"
+}
+
+# Counts what WineTests has left of the target $1, whose suites are the others.
+CountWineTests() {
+    local target=$1 name
+    shift
     for name in "$@"; do
-        CountTests "$name ($where)" "$folder/$name.log" "$(cat "$folder/$name.status" 2>/dev/null || true)"
+        CountTests "$name ($target)" "$Work/$target/$name.log" "$(cat "$Work/$target/$name.status" 2>/dev/null || true)"
     done
 }
 
@@ -94,12 +104,24 @@ else
     RootJob=
 fi
 
-Build "unit tests" BuildPreset native
-Build "32-bit tests" BuildPreset win32 --target contract_tests
 Build "64-bit tests" BuildPreset win64 --target contract_tests peer_tests program_tests
+Build "32-bit tests" BuildPreset win32 --target contract_tests
 Build "programs" "$Root/scripts/build.sh"
-mkdir "$Work/dist"
+mkdir "$Work/dist" "$Work/win64" "$Work/win32"
 cp -r "$Root"/dist/* "$Work/dist/" || true
+
+# Tests of windows wait most of the time: they run beside what keeps the processors busy.
+WineTests "" win64 "$Root"/build/win64/tests/{contract_tests,peer_tests,program_tests}.exe &
+Win64Job=$!
+# The 32-bit program on a 64-bit system: the 64-bit program_tests drives it, and sees the 64-bit view of the registry.
+InWineRoot() { AsRoot "$Root/scripts/in_wine_root.sh" "$(cat "$Work/wine_root")" "$Work" "$@"; }
+Win32Job=
+if [ -n "$RootJob" ] && wait "$RootJob" && InWineRoot true 2>>"$RootLog"; then
+    WineTests InWineRoot win32 "$Root"/build/{win32/tests/contract_tests,win64/tests/program_tests}.exe &
+    Win32Job=$!
+fi
+
+Build "unit tests" BuildPreset native
 
 Checks="$Root/tests/checks"
 Check "formatting" "$Checks/format.sh"
@@ -117,20 +139,11 @@ for Target in language_file prefs profiles; do
     Check "fuzzing of $Target" "$Root/scripts/fuzz.sh" 10 "$Target"
 done
 
-mkdir "$Work/win64"
-"$Root/scripts/wine_tests.sh" "$Work/win64" "$Work/dist/win64" \
-    "$Root"/build/win64/tests/{contract_tests,peer_tests,program_tests}.exe >"$Work/win64/run.log" 2>&1 ||
-    cat "$Work/win64/run.log"
-CountWineTests "$Work/win64" "win64" contract_tests peer_tests program_tests
-
-# The 32-bit program on a 64-bit system: the 64-bit program_tests drives it, and sees the 64-bit view of the registry.
-InWineRoot() { AsRoot "$Root/scripts/in_wine_root.sh" "$(cat "$Work/wine_root")" "$Work" "$@"; }
-if [ -n "$RootJob" ] && wait "$RootJob" && InWineRoot true 2>>"$RootLog"; then
-    mkdir "$Work/win32"
-    InWineRoot "$Root/scripts/wine_tests.sh" "$Work/win32" "$Work/dist/win32" \
-        "$Root/build/win32/tests/contract_tests.exe" "$Root/build/win64/tests/program_tests.exe" \
-        >"$Work/win32/run.log" 2>&1 || cat "$Work/win32/run.log"
-    CountWineTests "$Work/win32" "win32" contract_tests program_tests
+wait "$Win64Job"
+CountWineTests win64 contract_tests peer_tests program_tests
+if [ -n "$Win32Job" ]; then
+    wait "$Win32Job"
+    CountWineTests win32 contract_tests program_tests
 else
     Skip 2
     SkipReasons+=("contract_tests and program_tests (win32): no root with 32-bit Wine: $(tail -n 1 "$RootLog")")

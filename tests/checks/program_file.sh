@@ -2,7 +2,7 @@
 # The program file $1 is small, stripped, starts on the oldest Windows and can be loaded at any address.
 set -euo pipefail
 Program=$1
-MaximalSize=1100000
+MaximalSize=1500000
 
 Headers=$(x86_64-w64-mingw32-objdump -p "$Program")
 Sections=$(x86_64-w64-mingw32-objdump -h "$Program")

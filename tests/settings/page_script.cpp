@@ -118,9 +118,9 @@ class TScene {
 
     /// Expects them to be all that are pending and, when some are Firefox preferences, all of these.
     void ExpectChanges(TLines changes) {
-        const auto prefs = std::ranges::stable_partition(changes, std::not_fn(IsPref));
-        if (!prefs.empty()) Prefs(*this, L"changed", {prefs.begin(), prefs.end()});
-        changes.erase(prefs.begin(), prefs.end());
+        const auto prefs = std::stable_partition(changes.begin(), changes.end(), std::not_fn(IsPref));
+        if (prefs != changes.end()) Prefs(*this, L"changed", {prefs, changes.end()});
+        changes.erase(prefs, changes.end());
         EXPECT_EQ(FBench.Pending(), changes);
     }
 
@@ -314,14 +314,16 @@ void RunWrites(const TPageDefinition& page, TLine rest) {
     const TLine control = Take(state, L" ");
     TLines parts = Parts(rest);
     if (!state.empty()) return RunWrites(page, control, state, parts);
-    const auto cases = std::ranges::stable_partition(
-        parts, [](const TLine& part) { return part.find(L" -> ") == TLine::npos; });
+    const auto first = std::stable_partition(
+        parts.begin(), parts.end(), [](const TLine& part) { return part.find(L" -> ") == TLine::npos; });
+    const TLines cases(first, parts.end());
     if (cases.empty()) throw std::invalid_argument("no case");
+    parts.erase(first, parts.end());
     const TLine change = parts[0];
     for (TLine part : cases) {
         state = Take(part, L" -> ");
         parts[0] = change + L" = " + part;
-        RunWrites(page, control, state, {parts.begin(), cases.begin()});
+        RunWrites(page, control, state, parts);
     }
 }
 
