@@ -8,9 +8,8 @@ set -euo pipefail
 Target=${1:?a target such as x86_64-w64-mingw32}
 Options="$Root/cmake/libpng_decode.dfa"
 
-# A change of the options or of this script makes a new copy.
-Key=$(cat "$Options" "${BASH_SOURCE[0]}" | sha256sum | cut -c1-12)
-Result="$CacheFolder/libpng-$Target-$Key"
+# The library for this system is of the same source package, so that a security update makes a new copy.
+Result="$CacheFolder/libpng-$Target-$(CacheKey libpng16-16 "$Options" "${BASH_SOURCE[0]}")"
 
 # Fetches and unpacks libpng's source below the folder $1, with a package configuration of its own so that the
 # machine's needs no deb-src line.

@@ -43,6 +43,15 @@ RequirePackages() {
         Die "could not install ${missing[*]}"
 }
 
+# Prints a key for what is made from the packages $1 by the files $2...: another version of a package, as far as this machine
+# has heard of it, and another text of a file make another key.
+CacheKey() {
+    local packages=$1
+    shift
+    # shellcheck disable=SC2086  # several packages
+    { cat "$@" && apt-cache policy $packages 2>/dev/null | sed -n 's/^ *Candidate: //p'; } | sha256sum | cut -c1-12
+}
+
 # Configures and builds the preset $1, with any further build arguments.
 BuildPreset() {
     local preset=$1

@@ -5,7 +5,7 @@ set -euo pipefail
 . "$(dirname "$0")/lib.sh"
 
 Packages=(wine wine32:i386 wine64 xvfb)
-Result="$CacheFolder/wine-root-$(cat "${BASH_SOURCE[0]}" | sha256sum | cut -c1-12)"
+Result="$CacheFolder/wine-root-$(CacheKey wine "${BASH_SOURCE[0]}")"
 
 if [ ! -d "$Result" ]; then
     Say "Making a root with 32-bit Wine"
