@@ -209,7 +209,7 @@ void TQuilltune_FormMain::BecomeReady() {
         [this] { Find(L"Panel_Loading")->SetVisible(false); },
         [this] { Find(L"Button_OK")->SetEnabled(true); },
         [this] { Find(L"Button_Cancel")->SetEnabled(true); },
-        [this] { Find(L"Button_Apply")->SetEnabled(false); },
+        [this] { EnableApply(); },
     });
 }
 
