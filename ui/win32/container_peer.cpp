@@ -1,6 +1,7 @@
 #include "ui/win32/container_peer.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ui/win32/form_window.h"
 #include "ui/win32/peer_factory.h"
@@ -123,13 +124,33 @@ void TContainerPeer::Forward(UINT message, WPARAM wParam, LPARAM lParam) const {
 }
 
 void TContainerPeer::CreateContent() {
+    if (std::exchange(FHasContent, true)) return;
     for (TControl* child : Control().Children()) CreatePeer(FForm, *child, Handle());
 }
 
-/// A container that only grows or shrinks keeps what it shows; what moves in it is drawn anew.
+void TContainerPeer::Update(TControlAspect aspect) {
+    if (aspect == TControlAspect::Visible && IsShown()) CatchUp();
+    TWindowPeer::Update(aspect);
+}
+
 void TContainerPeer::Place(const TRect& place) {
-    const bool stays = place.Left == Placed().Left && place.Top == Placed().Top;
-    Move(place, stays ? 0 : SWP_NOCOPYBITS | SWP_FRAMECHANGED);
+    FNextPlace = place;
+    if (IsShown()) CatchUp();
+}
+
+void TContainerPeer::LayOut() {
+    if (FLayingOut || Handle() == nullptr) return;
+    FStale = true;
+    if (IsShown()) CatchUp();
+}
+
+void TContainerPeer::CatchUp() {
+    if (const auto place = std::exchange(FNextPlace, std::nullopt)) {
+        // A container that only grows or shrinks keeps what it shows; what moves in it is drawn anew.
+        const bool stays = place->Left == Placed().Left && place->Top == Placed().Top;
+        Move(*place, stays ? 0 : SWP_NOCOPYBITS | SWP_FRAMECHANGED);
+    }
+    if (std::exchange(FStale, false)) LayOutContent();
 }
 
 int TContainerPeer::Margin() const { return FForm.Screen().Scale(FMargin); }
@@ -145,8 +166,7 @@ int TContainerPeer::ContentHeight(int width) const {
     return TLayout(FForm.Form(), FForm.Screen()).ContentSize(Control(), width).Height;
 }
 
-void TContainerPeer::LayOut() {
-    if (FLayingOut || Handle() == nullptr) return;
+void TContainerPeer::LayOutContent() {
     FLayingOut = true;
     RECT area = ContentArea();
     SetScrollRange(ContentHeight(area.right - area.left) + 2 * Margin(),

@@ -2,6 +2,8 @@
 // and hand the messages of the windows in them back to those windows' peers.
 #pragma once
 
+#include <optional>
+
 #include "ui/layout.h"
 #include "ui/win32/window_peer.h"
 
@@ -16,13 +18,18 @@ class TContainerPeer : public TWindowPeer {
 
     ~TContainerPeer() override;
 
+    void Update(TControlAspect aspect) override;
+    /// A container that is hidden takes its place when it is shown.
     void Place(const TRect& place) override;
 
-    /// Places the content anew.
+    /// Places the content anew; that of a container that is hidden, when it is shown.
     virtual void LayOut();
+    /// Does at once what waits until the container is shown.
+    void CatchUp();
 
-    /// Creates the peers of the controls in the container.
+    /// Creates the peers of the controls in the container, unless it has done so.
     void CreateContent();
+    [[nodiscard]] bool HasContent() const { return FHasContent; }
 
     /// Scrolls so that an inner window is in sight.
     void ScrollTo(HWND inner);
@@ -43,6 +50,7 @@ class TContainerPeer : public TWindowPeer {
 
   private:
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void LayOutContent();
     LRESULT Reflect(UINT message, WPARAM wParam, LPARAM lParam);
     [[nodiscard]] SCROLLINFO ScrollState() const;
     void Scroll(WPARAM request);
@@ -55,7 +63,10 @@ class TContainerPeer : public TWindowPeer {
     void SetScrollRange(int content, int visible);
 
     int FMargin;
+    bool FHasContent = false;
     bool FLayingOut = false;
+    bool FStale = false;             ///< the content waits to be laid out
+    std::optional<TRect> FNextPlace;  ///< waits to be taken
     int FWheelRest = 0;  ///< of the wheel's turns: less than a pixel, in pixels times WHEEL_DELTA
 };
 
