@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int kWarmUp = 5;  // pairs that do not count
+
 /// Two programs' times of one kind.
 class TPairs {
   public:
@@ -27,7 +29,8 @@ class TPairs {
 };
 
 /// What a step does until the window is painted.
-double Timed(HWND window, UINT redraw, const std::function<void()>& step = [] {}) {
+double Timed(
+    HWND window, UINT redraw, const std::function<void()>& step = [] {}) {
     const TStopwatch watch;
     step();
     RedrawWindow(window, nullptr, nullptr, redraw | RDW_ALLCHILDREN | RDW_UPDATENOW);
@@ -47,13 +50,20 @@ double Resize(HWND window, int step) {
     });
 }
 
-double Redraw(HWND window) { return Timed(window, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME); }
+/// Times of a step and of a full repaint, with nothing in front of the window.
+std::pair<double, double> Measure(HWND window, int step) {
+    Timed(window, 0,
+          [window] { SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE); });
+    const double resize = Resize(window, step);
+    return {resize, Timed(window, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME)};
+}
 
 /// Waits until the program has no pages to create any more.
 void WaitSettled(const TMainWindow& window) {
     constexpr DWORD kPause = 700;
     std::size_t before = 0;
-    for (std::size_t now = 1; now != before; Sleep(kPause)) before = std::exchange(now, window.Controls().size());
+    for (std::size_t now = 1; now != before; Sleep(kPause))
+        before = std::exchange(now, window.Controls().size());
 }
 
 }  // namespace
@@ -70,13 +80,12 @@ int wmain(int count, wchar_t** arguments) {
         WaitSettled(main);
         TPairs resize;
         TPairs redraw;
-        for (int i = -5; i < steps; ++i) {  // the first pairs warm up
-            // One after the other in front of nothing: neither window covers the other while it is measured.
-            const double resizes[] = {Resize(notepad.Window(), i + steps), Resize(own.Window(), i + steps)};
-            const double redraws[] = {Redraw(notepad.Window()), Redraw(own.Window())};
+        for (int i = -kWarmUp; i < steps; ++i) {
+            const auto [notepadStep, notepadRedraw] = Measure(notepad.Window(), i + kWarmUp);
+            const auto [ownStep, ownRedraw] = Measure(own.Window(), i + kWarmUp);
             if (i < 0) continue;
-            resize.Add(resizes[0], resizes[1]);
-            redraw.Add(redraws[0], redraws[1]);
+            resize.Add(notepadStep, ownStep);
+            redraw.Add(notepadRedraw, ownRedraw);
         }
         std::printf("medians of %d pairs\n", steps);
         resize.Print("resize step");

@@ -21,6 +21,16 @@ std::vector<WORD> EmptyDialog(const wchar_t* windowClass, DWORD style, DWORD ext
     return words;
 }
 
+/// Goes through the group boxes too: they are frames only, to Windows the controls in them are their siblings.
+TControl* FirstWithoutPeer(const TControl& container) {
+    for (TControl* child : container.Children()) {
+        if (child->Peer() == nullptr) return child;
+        if (child->Kind() != TComponentKind::GroupBox) continue;
+        if (TControl* inner = FirstWithoutPeer(*child)) return inner;
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 TContainerPeer::~TContainerPeer() {
@@ -124,8 +134,14 @@ void TContainerPeer::Forward(UINT message, WPARAM wParam, LPARAM lParam) const {
 }
 
 void TContainerPeer::CreateContent() {
-    if (std::exchange(FHasContent, true)) return;
-    for (TControl* child : Control().Children()) CreatePeer(FForm, *child, Handle());
+    while (CreateNext()) continue;
+}
+
+bool TContainerPeer::CreateNext() {
+    TControl* control = FirstWithoutPeer(Control());
+    if (control == nullptr) return false;
+    CreatePeer(FForm, *control, Handle());
+    return true;
 }
 
 void TContainerPeer::Update(TControlAspect aspect) {

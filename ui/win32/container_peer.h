@@ -27,9 +27,10 @@ class TContainerPeer : public TWindowPeer {
     /// Does at once what waits until the container is shown.
     void CatchUp();
 
-    /// Creates the peers of the controls in the container, unless it has done so.
+    /// Creates the peers of the controls in the container, as far as they do not exist yet.
     void CreateContent();
-    [[nodiscard]] bool HasContent() const { return FHasContent; }
+    /// Creates the first of these peers; false when all of them exist.
+    bool CreateNext();
 
     /// Scrolls so that an inner window is in sight.
     void ScrollTo(HWND inner);
@@ -63,9 +64,8 @@ class TContainerPeer : public TWindowPeer {
     void SetScrollRange(int content, int visible);
 
     int FMargin;
-    bool FHasContent = false;
     bool FLayingOut = false;
-    bool FStale = false;             ///< the content waits to be laid out
+    bool FStale = false;              ///< the content waits to be laid out
     std::optional<TRect> FNextPlace;  ///< waits to be taken
     int FWheelRest = 0;  ///< of the wheel's turns: less than a pixel, in pixels times WHEEL_DELTA
 };
