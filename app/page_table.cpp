@@ -22,10 +22,11 @@
 #include "settings/shell/taskbar_page.h"
 
 std::span<const TPageDefinition* const> PageDefinitions() {
+    // In this order their windows are created; the first one is shown first.
     static const std::array kPages{
-        &DisplayPage(), &FileTypesPage(), &FolderPage(),           &InputPage(),   &StartMenuPage(),
-        &TaskbarPage(), &NetworkPage(),   &InternetExplorerPage(), &FirefoxPage(), &MailPage(),
-        &PrivacyPage(), &UserLogonPage(), &DrivesPage(),           &MemoryPage(),  &StartupPage(),
-        &SystemPage(),  &SecurityPage(),  &GeneralPage()};
+        &GeneralPage(),   &DisplayPage(), &FileTypesPage(), &FolderPage(),           &InputPage(),
+        &StartMenuPage(), &TaskbarPage(), &NetworkPage(),   &InternetExplorerPage(), &FirefoxPage(),
+        &MailPage(),      &PrivacyPage(), &UserLogonPage(), &DrivesPage(),           &MemoryPage(),
+        &StartupPage(),   &SystemPage(),  &SecurityPage()};
     return kPages;
 }

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Measures how long Firefox's preference files take to load, natively, and then the start of the 64-bit program under
-# Wine, pair by pair beside Wine's own notepad, so that the ratio holds whatever the machine is doing.
+# Measures how long Firefox's preference files take to load, natively, and then the start of the 64-bit program and the
+# resizing of its window under Wine, pair by pair beside Wine's own notepad, so that the ratio holds whatever the machine
+# is doing.
 #   scripts/bench.sh [pairs]
 set -euo pipefail
 . "$(dirname "$0")/lib.sh"
@@ -12,10 +13,12 @@ BuildPreset bench --target prefs_bench
 
 "$Root/scripts/build.sh"
 RequirePackages "${WinePackages[@]}"
-BuildPreset win64 --target startup_bench
+BuildPreset win64 --target startup_bench resize_bench
 
 Work=$(mktemp -d "${TMPDIR:-/tmp}/quilltune-bench.XXXXXX")
 StartXvfb
 trap 'EndPrefix; kill "$XvfbId"; rm -rf "$Work"' EXIT
 MakePrefix "$Work/prefix"
-wine "$Root/build/win64/tools/startup_bench.exe" "$(WindowsPath "$Root/dist/win64")\\Quilltune.exe" "${1:-15}"
+Program="$(WindowsPath "$Root/dist/win64")\\Quilltune.exe"
+wine "$Root/build/win64/tools/startup_bench.exe" "$Program" "${1:-15}"
+wine "$Root/build/win64/tools/resize_bench.exe" "$Program" 96

@@ -1,74 +1,48 @@
-// How long the program takes until its window is visible and until it can be used, side by side with notepad.
+// How long the program takes until its window is visible and until it can be used, side by side with notepad, and the
+// longest time in which it handles no input.
 //   startup_bench <program> <runs>
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
-#include "tools/automation.h"
+#include "tools/bench.h"
 
 namespace {
-
-constexpr DWORD kPollInterval = 1;
-
-class TStopwatch {
-  public:
-    TStopwatch() { QueryPerformanceCounter(&FStart); }
-    [[nodiscard]] double Milliseconds() const {
-        LARGE_INTEGER now;
-        LARGE_INTEGER frequency;
-        QueryPerformanceCounter(&now);
-        QueryPerformanceFrequency(&frequency);
-        return 1000.0 * static_cast<double>(now.QuadPart - FStart.QuadPart) /
-               static_cast<double>(frequency.QuadPart);
-    }
-
-  private:
-    LARGE_INTEGER FStart{};
-};
 
 struct TTimes {
     double Visible = 0;
     double Ready = 0;
+    double Deaf =
+        0;  ///< the longest stretch without handling input, from visible until all windows are created
 };
 
-template <typename TCondition>
-void Poll(const TCondition& condition) {
-    const DWORD begin = GetTickCount();
-    while (!condition()) {
-        if (GetTickCount() - begin > kPatience) throw TAutomationError(L"a window did not come up");
-        Sleep(kPollInterval);
-    }
-}
-
-/// Starts a program and waits for its window; for our own also until its buttons work.
-TTimes Measure(std::wstring command, const wchar_t* windowClass, bool waitReady) {
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process{};
+TTimes MeasureNotepad() {
     const TStopwatch watch;
-    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                        &process))
-        throw TAutomationError(L"cannot start " + command);
-    HWND window = nullptr;
-    Poll([&] { return (window = FindWindowW(windowClass, nullptr)) != nullptr && IsWindowVisible(window); });
-    TTimes times{watch.Milliseconds(), 0};
-    if (waitReady) {
-        const TMainWindow main = TMainWindow::WaitFor(process.dwProcessId);
-        const HWND ok = main.Find(L"Button_OK");
-        const HWND panel = main.Find(L"Panel_Loading");
-        Poll([&] { return IsWindowEnabled(ok) && !IsWindowVisible(panel); });
-        times.Ready = watch.Milliseconds();
-    }
-    PostMessageW(window, WM_CLOSE, 0, 0);
-    WaitForSingleObject(process.hProcess, kPatience);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-    return times;
+    const TStarted notepad(L"notepad.exe", L"Notepad");
+    return {watch.Milliseconds()};
 }
 
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
+TTimes MeasureOwn(const std::wstring& program) {
+    constexpr double kSettled = 1500;  // after it is visible
+    const TStopwatch watch;
+    const TStarted own(L"\"" + program + L"\"", TMainWindow::kClass);
+    TTimes times{watch.Milliseconds()};
+    const TMainWindow window = TMainWindow::WaitFor(own.Id());
+    HWND ok = nullptr;
+    HWND panel = nullptr;
+    while (times.Ready == 0 || watch.Milliseconds() - times.Visible < kSettled) {
+        const TStopwatch ping;
+        DWORD_PTR answer = 0;
+        SendMessageTimeoutW(own.Window(), WM_NULL, 0, 0, SMTO_NORMAL, kPatience, &answer);
+        times.Deaf = std::max(times.Deaf, ping.Milliseconds());
+        if (ok == nullptr) {
+            ok = window.Find(L"Button_OK");
+            panel = window.Find(L"Panel_Loading");
+        }
+        if (times.Ready == 0 && IsWindowEnabled(ok) && !IsWindowVisible(panel))
+            times.Ready = watch.Milliseconds();
+        Sleep(1);
+    }
+    return times;
 }
 
 }  // namespace
@@ -79,15 +53,17 @@ int wmain(int count, wchar_t** arguments) {
     std::vector<double> notepad;
     std::vector<double> visible;
     std::vector<double> ready;
+    std::vector<double> deaf;
     std::vector<double> ratio;
     try {
         for (int i = -1; i < runs; ++i) {  // the first pair warms up
-            const TTimes other = Measure(L"notepad.exe", L"Notepad", false);
-            const TTimes own = Measure(L"\"" + std::wstring(arguments[1]) + L"\"", TMainWindow::kClass, true);
+            const TTimes other = MeasureNotepad();
+            const TTimes own = MeasureOwn(arguments[1]);
             if (i < 0) continue;
             notepad.push_back(other.Visible);
             visible.push_back(own.Visible);
             ready.push_back(own.Ready - own.Visible);
+            deaf.push_back(own.Deaf);
             ratio.push_back(own.Visible / other.Visible);
         }
     } catch (const TAutomationError& fault) {
@@ -99,5 +75,6 @@ int wmain(int count, wchar_t** arguments) {
     std::printf("Quilltune visible          %7.1f ms\n", Median(visible));
     std::printf("Quilltune / notepad        %7.2f\n", Median(ratio));
     std::printf("visible until ready        %7.1f ms\n", Median(ready));
+    std::printf("longest without input      %7.1f ms\n", Median(deaf));
     return 0;
 }

@@ -8,9 +8,9 @@ void TNotebook::ShowPage(const std::wstring& name) {
         if (page == FActivePage) return;
         TControl* previous = FActivePage;
         FActivePage = page;
+        UpdatePeer(TControlAspect::State);  // before the page is seen: its peer may have to be created
         page->SetVisible(true);
         if (previous != nullptr) previous->SetVisible(false);
-        UpdatePeer(TControlAspect::State);
         return;
     }
 }

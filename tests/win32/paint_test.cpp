@@ -138,6 +138,7 @@ class PaintTest : public TPeerBench {
         BuildAll(other);
         other.Find<TPageControl>(L"Tabs")->SetActiveSheet(
             *other.Find<TTabSheet>(Get<TPageControl>(L"Tabs").ActiveSheet()->Name()));
+        other.Find<TNotebook>(L"Notebook")->ShowPage(Get<TNotebook>(L"Notebook").ActivePage()->Name());
         auto& window = TFormWindow::Attach(other, GetModuleHandleW(nullptr), {});
         window.Show(SW_SHOW);
         MoveWindow(window.Handle(), place.left, place.top, place.right - place.left, place.bottom - place.top,
@@ -223,6 +224,10 @@ TEST_F(PaintTest, FontsFollow) {
         SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof *now, now, 0);
         SendMessageW(FormWindow(), WM_SETTINGCHANGE, now == &larger ? SPI_SETNONCLIENTMETRICS : 0, 0);
         ExpectLikeNew(now == &larger ? "larger" : "as before");
+        Get<TPageControl>(L"Tabs").SetActiveSheet(Get<TTabSheet>(now == &larger ? L"Sheet2" : L"Sheet1"));
+        ExpectLikeNew("a sheet that was hidden");
+        Get<TNotebook>(L"Notebook").ShowPage(now == &larger ? L"2" : L"1");
+        ExpectLikeNew("a page that was hidden");
     }
 }
 

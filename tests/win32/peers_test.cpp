@@ -7,6 +7,7 @@ namespace {
 class PeersTest : public TPeerBench {
   protected:
     PeersTest() {
+        Form.Build(Form, Timer(L"Timer", 10));
         Form.Build(
             Form,
             Notebook(
@@ -170,6 +171,54 @@ TEST_F(PeersTest, PagesComeIntoBeingWhenTheyAreShown) {
     Get<TPageControl>(L"Tabs").SetTabVisible(Get<TTabSheet>(L"B"), false);
     EXPECT_TRUE(IsShown(L"A"));
     EXPECT_EQ(Send(L"Tabs", TCM_GETITEMCOUNT), 1);
+}
+
+TEST_F(PeersTest, WhatIsHiddenIsPlacedWhenItIsShown) {
+    auto& notebook = Get<TNotebook>(L"Notebook");
+    notebook.ShowPage(L"2");
+    Send(L"Tabs", TCM_SETCURFOCUS, 1);
+    Send(L"Tabs", TCM_SETCURFOCUS, 0);
+    notebook.ShowPage(L"1");
+    const auto width = [this](const wchar_t* name) { return Place(name).right - Place(name).left; };
+    const LONG text = width(L"Text");
+    const LONG inner = width(L"InA");
+    RECT place{};
+    const HWND form = static_cast<TFormWindow*>(Form.Peer())->Handle();
+    GetWindowRect(form, &place);
+    SetWindowPos(form, nullptr, 0, 0, place.right - place.left + 50, place.bottom - place.top + 50,
+                 SWP_NOMOVE | SWP_NOZORDER);
+    Get<TCheckBox>(L"InB").SetVisible(false);
+    HandleMessages();
+    const auto widths = [&] { return std::vector{width(L"Text"), width(L"InA"), width(L"InB")}; };
+    EXPECT_EQ(widths(), (std::vector{text + 50, inner, inner}));
+    notebook.ShowPage(L"2");
+    EXPECT_EQ(widths(), (std::vector{text + 50, inner + 50, inner}));
+    Get<TCheckBox>(L"InB").SetVisible(true);
+    HandleMessages();
+    EXPECT_EQ(width(L"InB"), inner);
+    Send(L"Tabs", TCM_SETCURFOCUS, 1);
+    EXPECT_EQ(width(L"InB"), inner + 50);
+}
+
+TEST_F(PeersTest, HiddenPagesComeIntoBeingWhileThereIsNothingElseToDo) {
+    const auto exists = [this](const wchar_t* name) { return Form.Find(name)->Peer() != nullptr; };
+    int ticks = 0;
+    Get<TTimer>(L"Timer").OnTimer = [&](TComponent&) {
+        if (++ticks == 500 || (exists(L"InB") && Place(L"InB").right > Place(L"InB").left))
+            PostQuitMessage(0);
+    };
+    Get<TTimer>(L"Timer").SetEnabled(true);
+    EXPECT_FALSE(exists(L"Tabs"));
+    static_cast<TFormWindow*>(Form.Peer())->Run();
+    EXPECT_LT(ticks, 500);
+    EXPECT_FALSE(IsShown(L"InA") || IsShown(L"InB"));
+    const std::pair hidden{Place(L"InA"), Place(L"InB")};
+    Get<TNotebook>(L"Notebook").ShowPage(L"2");
+    EXPECT_TRUE(IsShown(L"InA"));
+    const RECT first = Place(L"InA");
+    Send(L"Tabs", TCM_SETCURFOCUS, 1);
+    const RECT second = Place(L"InB");
+    EXPECT_TRUE(EqualRect(&hidden.first, &first) && EqualRect(&hidden.second, &second));
 }
 
 TEST_F(PeersTest, AFaultInAHandlerIsReportedAndTheWindowLivesOn) {

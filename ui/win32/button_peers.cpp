@@ -131,7 +131,7 @@ void TGroupBoxPeer::RedrawFrame() const {
     constexpr int kFrameWidth = 5;  // at 96 dots per inch; the controls in the box keep a greater distance
     const TScreen& screen = FForm.Screen();
     const int edge = screen.Scale(kFrameWidth);
-    const int caption = screen.TextSize(L"0", 1).Height;
+    const int caption = screen.TextSize(L"0", 1 << 20).Height;
     const TRect& place = Placed();
     RedrawBelow({place.Left + edge, place.Top + caption, place.Left + place.Width - edge,
                  place.Top + place.Height - edge});

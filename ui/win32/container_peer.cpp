@@ -1,6 +1,7 @@
 #include "ui/win32/container_peer.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ui/win32/form_window.h"
 #include "ui/win32/peer_factory.h"
@@ -18,6 +19,17 @@ std::vector<WORD> EmptyDialog(const wchar_t* windowClass, DWORD style, DWORD ext
     words.push_back(0);
     words.push_back(0);  // no title
     return words;
+}
+
+/// The control at that place among the content, null behind its end. The controls of a group box count behind it: it is a
+/// frame only, to Windows they are its siblings.
+TControl* ContentAt(const TControl& container, std::size_t& index) {
+    for (TControl* child : container.Children()) {
+        if (index-- == 0) return child;
+        if (child->Kind() != TComponentKind::GroupBox) continue;
+        if (TControl* inner = ContentAt(*child, index)) return inner;
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -123,13 +135,44 @@ void TContainerPeer::Forward(UINT message, WPARAM wParam, LPARAM lParam) const {
 }
 
 void TContainerPeer::CreateContent() {
-    for (TControl* child : Control().Children()) CreatePeer(FForm, *child, Handle());
+    while (CreateNext()) continue;
 }
 
-/// A container that only grows or shrinks keeps what it shows; what moves in it is drawn anew.
+bool TContainerPeer::CreateNext() {
+    for (;;) {
+        std::size_t index = FNextControl;
+        TControl* control = ContentAt(Control(), index);
+        if (control == nullptr) return false;
+        ++FNextControl;  // a control that a fault keeps from being created is not tried again
+        if (control->Peer() != nullptr) continue;
+        CreatePeer(FForm, *control, Handle());
+        return true;
+    }
+}
+
+void TContainerPeer::Update(TControlAspect aspect) {
+    if (aspect == TControlAspect::Visible && IsShown()) CatchUp();
+    TWindowPeer::Update(aspect);
+}
+
 void TContainerPeer::Place(const TRect& place) {
-    const bool stays = place.Left == Placed().Left && place.Top == Placed().Top;
-    Move(place, stays ? 0 : SWP_NOCOPYBITS | SWP_FRAMECHANGED);
+    FNextPlace = place;
+    if (IsShown()) CatchUp();
+}
+
+void TContainerPeer::LayOut() {
+    if (FLayingOut || Handle() == nullptr) return;
+    FStale = true;
+    if (IsShown()) CatchUp();
+}
+
+void TContainerPeer::CatchUp() {
+    if (const auto place = std::exchange(FNextPlace, std::nullopt)) {
+        // A container that only grows or shrinks keeps what it shows; what moves in it is drawn anew.
+        const bool stays = place->Left == Placed().Left && place->Top == Placed().Top;
+        Move(*place, stays ? 0 : SWP_NOCOPYBITS | SWP_FRAMECHANGED);
+    }
+    if (std::exchange(FStale, false)) LayOutContent();
 }
 
 int TContainerPeer::Margin() const { return FForm.Screen().Scale(FMargin); }
@@ -145,9 +188,9 @@ int TContainerPeer::ContentHeight(int width) const {
     return TLayout(FForm.Form(), FForm.Screen()).ContentSize(Control(), width).Height;
 }
 
-void TContainerPeer::LayOut() {
-    if (FLayingOut || Handle() == nullptr) return;
+void TContainerPeer::LayOutContent() {
     FLayingOut = true;
+    const std::unique_ptr<bool, void (*)(bool*)> atEnd(&FLayingOut, [](bool* mark) { *mark = false; });
     RECT area = ContentArea();
     SetScrollRange(ContentHeight(area.right - area.left) + 2 * Margin(),
                    area.bottom - area.top + 2 * Margin());
@@ -156,7 +199,6 @@ void TContainerPeer::LayOut() {
     const int height = std::max(static_cast<int>(area.bottom - area.top), ContentHeight(width));
     const int offset = GetScrollPos(Handle(), SB_VERT);
     PlaceContent({area.left, area.top - offset, width, height});
-    FLayingOut = false;
 }
 
 void TContainerPeer::PlaceContent(const TRect& area) {

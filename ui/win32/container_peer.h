@@ -2,6 +2,8 @@
 // and hand the messages of the windows in them back to those windows' peers.
 #pragma once
 
+#include <optional>
+
 #include "ui/layout.h"
 #include "ui/win32/window_peer.h"
 
@@ -16,13 +18,19 @@ class TContainerPeer : public TWindowPeer {
 
     ~TContainerPeer() override;
 
+    void Update(TControlAspect aspect) override;
+    /// A container that is hidden takes its place when it is shown.
     void Place(const TRect& place) override;
 
-    /// Places the content anew.
+    /// Places the content anew; that of a container that is hidden, when it is shown.
     virtual void LayOut();
+    /// Does at once what waits until the container is shown.
+    void CatchUp();
 
-    /// Creates the peers of the controls in the container.
+    /// Creates the peers of the controls in the container, as far as they do not exist yet.
     void CreateContent();
+    /// Creates the first of these peers; false when all of them exist.
+    bool CreateNext();
 
     /// Scrolls so that an inner window is in sight.
     void ScrollTo(HWND inner);
@@ -43,6 +51,7 @@ class TContainerPeer : public TWindowPeer {
 
   private:
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void LayOutContent();
     LRESULT Reflect(UINT message, WPARAM wParam, LPARAM lParam);
     [[nodiscard]] SCROLLINFO ScrollState() const;
     void Scroll(WPARAM request);
@@ -56,6 +65,9 @@ class TContainerPeer : public TWindowPeer {
 
     int FMargin;
     bool FLayingOut = false;
+    std::size_t FNextControl = 0;     ///< of the content, to be created
+    bool FStale = false;              ///< the content waits to be laid out
+    std::optional<TRect> FNextPlace;  ///< waits to be taken
     int FWheelRest = 0;  ///< of the wheel's turns: less than a pixel, in pixels times WHEEL_DELTA
 };
 

@@ -39,6 +39,23 @@ RECT WorkArea(HWND owner) {
     return screen.rcWork;
 }
 
+/// For the sake of whoever waits for an answer, while there is more to do.
+void HandleSentMessages() {
+    MSG message;
+    PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+}
+
+/// Null when a fault kept it from being created.
+TContainerPeer* ContainerOf(const TControl& control) { return static_cast<TContainerPeer*>(control.Peer()); }
+
+/// Creates what the content of a page or sheet is still without.
+void Fill(const TControl& container) {
+    TContainerPeer* peer = ContainerOf(container);
+    if (peer == nullptr || !peer->CreateNext()) return;
+    peer->CreateContent();
+    peer->LayOut();
+}
+
 }  // namespace
 
 TFormWindow::TFormWindow(TForm& form, HINSTANCE instance, TFaultHandler faultHandler, HWND owner)
@@ -68,8 +85,9 @@ void TFormWindow::Show(int showCommand) {
     attempt([this] { FForm.Show(); });
     attempt([this] { FWindow.Open(); });
     ShowWindow(Handle(), showCommand);
+    HandleSentMessages();  // one of them may close the window
     // All at once: the inner windows would otherwise come one after the other.
-    RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    if (Handle() != nullptr) RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 int TFormWindow::Run() {
@@ -78,7 +96,7 @@ int TFormWindow::Run() {
         MSG message;
         if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
             // Looking for a message has handled those that were sent; one of them may have closed the dialog.
-            if (!IsOver() && !CreateNextPage()) WaitMessage();
+            if (!IsOver() && !CreateNext()) WaitMessage();
             continue;
         }
         if (StepSheet(message) || PressButton(message)) continue;
@@ -226,36 +244,53 @@ void TFormWindow::CommitFocus() const {
 void TFormWindow::CreatePage(TControl& page) {
     auto* notebook = static_cast<TNotebookPeer*>(page.Parent()->Peer());
     if (page.Peer() == nullptr && notebook != nullptr) notebook->CreatePage(page);
-    if (!FFilledPages.insert(&page).second) return;
-    auto* peer = static_cast<TContainerPeer*>(page.Peer());
-    if (peer == nullptr) return;  // a fault kept it from being created
-    peer->CreateContent();
-    peer->LayOut();
+    Fill(page);
+    CreateSheets(page);
 }
 
-/// Creates the window of one notebook page, or the content of one when all have their windows; false when there is
-/// nothing left to create.
-bool TFormWindow::CreateNextPage() {
-    if (Handle() == nullptr) return false;
-    try {
-        TControl* unfilled = nullptr;
-        for (const auto& component : FForm.Components()) {
-            if (component->Kind() != TComponentKind::NotebookPage) continue;
-            auto& page = static_cast<TControl&>(*component);
-            auto* notebook = static_cast<TNotebookPeer*>(page.Parent()->Peer());
-            if (page.Peer() == nullptr && notebook != nullptr && FCreatedPages.insert(&page).second) {
-                notebook->CreatePage(page);
-                return true;
-            }
-            if (unfilled == nullptr && !FFilledPages.contains(&page)) unfilled = &page;
+void TFormWindow::CreateSheets(const TControl& container) const {
+    for (const TControl* tabs : container.Children()) {
+        if (tabs->Kind() != TComponentKind::PageControl) continue;
+        for (const TControl* sheet : tabs->Children()) Fill(*sheet);
+    }
+}
+
+/// Creates a few more controls of the notebooks' pages, or lays out a page or sheet that is complete; false when there
+/// is nothing left to do.
+bool TFormWindow::CreateNext() {
+    const auto& components = FForm.Components();
+    for (; Handle() != nullptr && FNextComponent < components.size(); ++FNextComponent) {
+        const TComponentKind kind = components[FNextComponent]->Kind();
+        if (kind != TComponentKind::NotebookPage && kind != TComponentKind::TabSheet) continue;
+        try {
+            if (!CreateSome(static_cast<TControl&>(*components[FNextComponent]))) ++FNextComponent;
+        } catch (...) {
+            ++FNextComponent;  // its other controls come when it is shown
+            Fault(std::current_exception());
         }
-        if (unfilled == nullptr) return false;
-        CreatePage(*unfilled);
         return true;
-    } catch (...) {
-        Fault(std::current_exception());
+    }
+    return false;
+}
+
+/// False when the page or sheet is complete.
+bool TFormWindow::CreateSome(TControl& control) {
+    constexpr int kAtOnce = 8;  // takes less time than a user notices
+    TContainerPeer* peer = ContainerOf(control);
+    if (peer == nullptr) {
+        // What a fault keeps from being created is not tried again.
+        auto* notebook = dynamic_cast<TNotebookPeer*>(control.Parent()->Peer());
+        if (notebook != nullptr) notebook->CreatePage(control);
+        return control.Peer() != nullptr;
+    }
+    for (int i = 0; i < kAtOnce; ++i) {
+        if (peer->CreateNext()) continue;
+        if (i > 0) break;  // the rest is for the next time
+        peer->LayOut();
+        peer->CatchUp();
         return false;
     }
+    return true;
 }
 
 unsigned TFormWindow::StartTimer(TTimer& timer) {
@@ -287,6 +322,7 @@ TFormWindow::TWindow::TWindow(TFormWindow& formWindow, TForm& form)
 
 void TFormWindow::TWindow::Open() {
     CreateContent();
+    FFormWindow.CreateSheets(FFormWindow.FForm);
     SetWindowTextW(Handle(), WindowText().c_str());
     SetInitialSize();
 }

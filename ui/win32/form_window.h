@@ -28,8 +28,8 @@ class TFormWindow : public TFormPeer {
 
     /// Runs the form's OnShow, then creates its controls and shows the window.
     void Show(int showCommand);
-    /// Handles messages until the program is to end; a dialog's, until the dialog is closed. Creates hidden pages
-    /// while there is nothing else to do. The answer is the program's exit code.
+    /// Handles messages until the program is to end; a dialog's, until the dialog is closed. Creates hidden pages,
+    /// a few controls at a time, while there is nothing else to do. The answer is the program's exit code.
     int Run();
     /// Restores the window when it is minimised, and brings it to the front.
     void ComeForward();
@@ -57,7 +57,7 @@ class TFormWindow : public TFormPeer {
     void Fault(std::exception_ptr fault) const;
     /// Commits the edit that has the focus: a button can be pressed without taking the focus from it.
     void CommitFocus() const;
-    /// Creates the window and the content of a notebook page as far as they do not exist yet.
+    /// Creates the window of a notebook page, its content and that of its sheets, as far as they do not exist yet.
     void CreatePage(TControl& page);
     /// Lets the timer tick until StopTimer; the answer identifies it.
     [[nodiscard]] unsigned StartTimer(TTimer& timer);
@@ -84,7 +84,10 @@ class TFormWindow : public TFormPeer {
 
     /// Whether this is a dialog that is closed.
     [[nodiscard]] bool IsOver() const { return FOwner != nullptr && Handle() == nullptr; }
-    bool CreateNextPage();
+    /// Creates the content of the sheets in a container.
+    void CreateSheets(const TControl& container) const;
+    bool CreateNext();
+    static bool CreateSome(TControl& control);
     bool StepSheet(const MSG& message) const;
     bool PressButton(const MSG& message) const;
     void FollowFocus(HWND focus) const;
@@ -101,9 +104,8 @@ class TFormWindow : public TFormPeer {
     std::unique_ptr<TScreen> FScreen = std::make_unique<TScreen>();
     TPictureStore FPictures;
     std::unordered_map<HWND, TWindowPeer*> FPeers;
-    std::set<const TControl*> FChanged;       ///< containers to lay out
-    std::set<const TControl*> FCreatedPages;  ///< notebook pages whose window was created while idle
-    std::set<const TControl*> FFilledPages;   ///< notebook pages whose content exists
+    std::set<const TControl*> FChanged;  ///< containers to lay out
+    std::size_t FNextComponent = 0;      ///< the pages and sheets before it have their content
     std::unordered_map<unsigned, TTimer*> FTimers;
     bool FRestyles = false;  ///< a change of the look waits
     int FLastCommandId = 100;

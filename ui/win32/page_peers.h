@@ -4,7 +4,7 @@
 #include "ui/containers.h"
 #include "ui/win32/container_peer.h"
 
-/// Its pages fill it. The window of a page is created when the page is first shown, or when there is nothing else to
+/// Its pages fill it. The windows of a page are created when the page is first shown, or when there is nothing else to
 /// do (TFormWindow::Run).
 class TNotebookPeer : public TContainerPeer {
   public:

@@ -82,13 +82,10 @@ void CreatePeerAndContent(TFormWindow& form, TControl& control, HWND parent) {
             control.Peer()->Update(TControlAspect::State);  // creates the chosen page, the others come later
             return;
         case TComponentKind::NotebookPage:
-            return;  // its content comes later, too
+        case TComponentKind::TabSheet:
+            return;  // their content comes later, too
         case TComponentKind::PageControl:
             return;  // it must see its sheets before itself
-        case TComponentKind::GroupBox:
-            // A frame only: to Windows the controls in it are its siblings.
-            for (TControl* child : control.Children()) CreatePeer(form, *child, parent);
-            return;
         default:
             if (auto* container = dynamic_cast<TContainerPeer*>(control.Peer())) container->CreateContent();
             return;

@@ -4,6 +4,8 @@
 
 namespace {
 
+constexpr int kUnlimited = 1 << 20;
+
 NONCLIENTMETRICSW ReadMetrics() {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
@@ -34,6 +36,13 @@ bool TScreen::IsCurrent() const {
 }
 
 TSize TScreen::TextSize(const std::wstring& caption, int maxWidth) const {
+    // A layout asks often, and mostly for what needs no wrapping.
+    const auto [known, isNew] = FUnwrapped.try_emplace(caption);
+    if (isNew) known->second = Measure(caption, kUnlimited);
+    return known->second.Width <= maxWidth ? known->second : Measure(caption, maxWidth);
+}
+
+TSize TScreen::Measure(const std::wstring& caption, int maxWidth) const {
     RECT rect{0, 0, maxWidth, 0};
     DrawTextW(FMeasure, caption.c_str(), static_cast<int>(caption.size()), &rect, DT_CALCRECT | DT_WORDBREAK);
     return {static_cast<int>(rect.right), static_cast<int>(rect.bottom)};

@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <unordered_map>
+
 #include "ui/layout.h"
 
 class TScreen : public TLayoutMetrics {
@@ -23,9 +25,12 @@ class TScreen : public TLayoutMetrics {
     [[nodiscard]] HFONT BoldFont() const { return FBoldFont; }
 
   private:
+    [[nodiscard]] TSize Measure(const std::wstring& caption, int maxWidth) const;
+
     NONCLIENTMETRICSW FMetrics;
     int FDotsPerInch;
     HFONT FFont;
     HFONT FBoldFont;
     HDC FMeasure;  ///< a memory device context that holds the font
+    mutable std::unordered_map<std::wstring, TSize> FUnwrapped;  ///< the sizes of captions that were measured
 };

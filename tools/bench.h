@@ -1,0 +1,68 @@
+// What the programs that measure share: a clock, medians, and a program that runs while it is measured.
+#pragma once
+
+#include <algorithm>
+#include <utility>
+
+#include "tools/automation.h"
+
+class TStopwatch {
+  public:
+    TStopwatch() { QueryPerformanceCounter(&FStart); }
+    [[nodiscard]] double Milliseconds() const {
+        LARGE_INTEGER now;
+        LARGE_INTEGER frequency;
+        QueryPerformanceCounter(&now);
+        QueryPerformanceFrequency(&frequency);
+        return 1000.0 * static_cast<double>(now.QuadPart - FStart.QuadPart) /
+               static_cast<double>(frequency.QuadPart);
+    }
+
+  private:
+    LARGE_INTEGER FStart{};
+};
+
+inline double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+/// Asks every millisecond until the answer is true.
+template <typename TCondition>
+void Poll(const TCondition& condition) {
+    const DWORD begin = GetTickCount();
+    while (!condition()) {
+        if (GetTickCount() - begin > kPatience) throw TAutomationError(L"a window did not come up");
+        Sleep(1);
+    }
+}
+
+/// A program that was started and whose window is visible. Closed when the object goes.
+class TStarted {
+  public:
+    TStarted(std::wstring command, const wchar_t* windowClass) {
+        STARTUPINFOW startup{};
+        startup.cb = sizeof startup;
+        if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                            &FProcess))
+            throw TAutomationError(L"cannot start " + command);
+        Poll([&] {
+            return (FWindow = FindWindowW(windowClass, nullptr)) != nullptr && IsWindowVisible(FWindow);
+        });
+    }
+    ~TStarted() {
+        PostMessageW(FWindow, WM_CLOSE, 0, 0);
+        WaitForSingleObject(FProcess.hProcess, kPatience);
+        CloseHandle(FProcess.hThread);
+        CloseHandle(FProcess.hProcess);
+    }
+    TStarted(const TStarted&) = delete;
+    TStarted& operator=(const TStarted&) = delete;
+
+    [[nodiscard]] HWND Window() const { return FWindow; }
+    [[nodiscard]] DWORD Id() const { return FProcess.dwProcessId; }
+
+  private:
+    PROCESS_INFORMATION FProcess{};
+    HWND FWindow = nullptr;
+};
