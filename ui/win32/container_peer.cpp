@@ -66,14 +66,7 @@ void TContainerPeer::CreateContainer(HWND parent, const wchar_t* windowClass, DW
 LRESULT CALLBACK TContainerPeer::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     auto* peer = reinterpret_cast<TContainerPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (peer == nullptr || peer->Handle() != window) return DefDlgProcW(window, message, wParam, lParam);
-    TFormWindow& form = peer->FForm;
-    try {
-        return peer->OnMessage(message, wParam, lParam);
-    } catch (...) {
-        // No exception may cross Windows' own frames.
-        form.Fault(std::current_exception());
-        return 0;
-    }
+    return peer->HandleMessage(message, wParam, lParam);
 }
 
 LRESULT TContainerPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {

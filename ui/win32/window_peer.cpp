@@ -37,11 +37,14 @@ void TWindowPeer::Subclass() {
 LRESULT CALLBACK TWindowPeer::SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     auto* peer = reinterpret_cast<TWindowPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (peer->FHandle == nullptr) return CallWindowProcW(peer->FBaseProc, window, message, wParam, lParam);
-    TFormWindow& form = peer->FForm;
+    return peer->HandleMessage(message, wParam, lParam);
+}
+
+LRESULT TWindowPeer::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    TFormWindow& form = FForm;  // the peer may be gone afterwards
     try {
-        return peer->OnMessage(message, wParam, lParam);
+        return OnMessage(message, wParam, lParam);
     } catch (...) {
-        // No exception may cross Windows' own frames.
         form.Fault(std::current_exception());
         return 0;
     }

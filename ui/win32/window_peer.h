@@ -45,6 +45,8 @@ class TWindowPeer : public TPeer {
 
     /// Lets OnMessage handle the messages of a window whose class is Windows' own.
     void Subclass();
+    /// Lets OnMessage handle a message, and tells its fault to the form: none may cross Windows' own frames.
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
     /// Handles a message of the window.
     virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
