@@ -4,8 +4,8 @@
 // Setting a state that it already has fires nothing.
 #pragma once
 
+#include "ui/color.h"
 #include "ui/component.h"
-#include "ui/dialogs.h"
 
 class TLabel : public TControl {
   public:

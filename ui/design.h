@@ -10,8 +10,8 @@
 #include <optional>
 #include <span>
 
+#include "ui/color.h"
 #include "ui/component.h"
-#include "ui/dialogs.h"
 #include "ui/layout_box.h"
 
 struct TControlDesign;
