@@ -1,7 +1,7 @@
 # The libraries LateLibraries: what the DLLs marked in windows2000_imports.txt export is bound at its first call. Such a
 # library comes before the one of the same DLL that the compiler has. What the loader of Windows binds before a program
 # begins it also looks for in the program's folder, where anybody may have put it; a program can only choose where the
-# others come from (SearchSystemFolderOnly in ui/win32/late_bound.h).
+# others come from (SearchSystemFolderOnly in base/win32/late_bound.h).
 set(ImportList ${CMAKE_CURRENT_LIST_DIR}/windows2000_imports.txt)
 set(LateScripts ${CMAKE_CURRENT_LIST_DIR}/late_library.sh ${CMAKE_CURRENT_LIST_DIR}/listed_imports.sh)
 file(STRINGS ${ImportList} sections REGEX "^\\[[^ ]+ late\\]")

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "platform/clock.h"
+#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/registry.h"
 #include "platform/service_manager.h"
 #include "platform/shell.h"
 #include "platform/system_parameters.h"
 #include "platform/windows_info.h"
-#include "ui/dialogs.h"
 
 /// Made once in the entry point and passed down; everything it refers to outlives it.
 struct TSystem {

@@ -12,8 +12,6 @@ TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl&
     const TControlDesign design = definition.Design();
     FContext.Form.Build(container, design);
     Listen(*FContext.Form.Find(design.Name));
-    BindNumericFields(FContext.Form, definition.SharedHandler,
-                      [this](TComponent& sender) { Changed(sender); });
     for (const TLoader& loader : definition.Loaders)
         for (const TRow& row : loader) ListenToRow(row);
     for (const TPreset& preset : definition.Presets) {
@@ -93,8 +91,10 @@ void TPage::Listen(TControl& container) {
             case TComponentKind::ComboBox:
                 static_cast<TComboBox*>(control)->OnChange = changed;
                 break;
-            case TComponentKind::TrackBar:
             case TComponentKind::UpDown:
+                BindNumericField(static_cast<TUpDown&>(*control), changed);
+                [[fallthrough]];
+            case TComponentKind::TrackBar:
                 static_cast<TRangeControl*>(control)->OnChange = changed;
                 break;
             default:

@@ -1,8 +1,8 @@
 // The kinds of controls that hold others and let the user move between them.
 #pragma once
 
+#include "ui/color.h"
 #include "ui/component.h"
-#include "ui/dialogs.h"
 
 /// One of a notebook's pages; its name is the page's number in decimal.
 class TNotebookPage : public TControl {

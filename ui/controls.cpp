@@ -84,9 +84,9 @@ void TRangeControl::SetPosition(int position) {
     Fire(OnChange);
 }
 
-void TUpDown::SetAssociate(TEdit* edit) {
-    FAssociate = edit;
-    edit->FUpDown = this;
+void TUpDown::SetAssociate(TEdit& edit) {
+    FAssociate = &edit;
+    edit.FUpDown = this;
     PositionSet();
 }
 

@@ -4,8 +4,8 @@
 // Setting a state that it already has fires nothing.
 #pragma once
 
+#include "ui/color.h"
 #include "ui/component.h"
-#include "ui/dialogs.h"
 
 class TLabel : public TControl {
   public:
@@ -87,8 +87,11 @@ class TEdit : public TControl {
     TNotifyEvent OnChange;                        ///< every change of the text
     TNotifyEvent OnExit;                          ///< the focus left the edit
     std::function<bool(wchar_t key)> OnKeyPress;  ///< whether a typed character passes
-    bool DigitsOnly = false;
-    bool Password = false;
+    bool DigitsOnly = false;                      ///< no other characters can be typed
+    // Of a numeric field:
+    bool FiltersKeys = false;   ///< typed characters other than digits and Backspace are discarded
+    bool IsPositive = false;    ///< a number of 0 or less becomes 1 while the user types
+    bool IsSender = false;      ///< changes are told as the edit's own, not as those of its up-down
     int WidthInCharacters = 0;  ///< 0 = as wide as the row lets it be
 
   private:
@@ -134,7 +137,7 @@ class TUpDown : public TRangeControl {
         : TRangeControl(TComponentKind::UpDown, std::move(name), min, max, position) {}
 
     /// Pairs the up-down with the edit, which then shows the position.
-    void SetAssociate(TEdit* edit);
+    void SetAssociate(TEdit& edit);
     [[nodiscard]] TEdit* Associate() const { return FAssociate; }
 
   private:

@@ -41,13 +41,18 @@ TControlDesign&& TControlDesign::Checked() && {
     return std::move(*this);
 }
 
-TControlDesign&& TControlDesign::DigitsOnly() && {
-    IsDigitsOnly = true;
+TControlDesign&& TControlDesign::FilteringKeys() && {
+    FiltersKeys = true;
     return std::move(*this);
 }
 
-TControlDesign&& TControlDesign::Password() && {
-    IsPassword = true;
+TControlDesign&& TControlDesign::Positive() && {
+    IsPositive = true;
+    return std::move(*this);
+}
+
+TControlDesign&& TControlDesign::Sender() && {
+    IsSender = true;
     return std::move(*this);
 }
 

@@ -10,8 +10,8 @@
 #include <optional>
 #include <span>
 
+#include "ui/color.h"
 #include "ui/component.h"
-#include "ui/dialogs.h"
 #include "ui/layout_box.h"
 
 struct TControlDesign;
@@ -28,14 +28,15 @@ struct TControlDesign {
     bool IsVisible = true;
     bool IsEnabled = true;
     bool IsChecked = false;
-    bool IsDigitsOnly = false;
-    bool IsPassword = false;
+    bool FiltersKeys = false;
+    bool IsPositive = false;
+    bool IsSender = false;
     int Min = 0;
     int Max = 100;
     int Position = 0;           ///< position, item index, interval, tag, colour or frames, as the kind has it
     int WidthInCharacters = 0;  ///< of an edit; 0 = what the row leaves
     std::vector<std::wstring> Items;
-    std::wstring Associate;  ///< of an up-down: the edit it belongs to
+    std::wstring Associate;  ///< of an up-down: the edit beside it
     std::wstring Picture;
     int PictureWidth = 32;  ///< at 96 dots per inch
     int PictureHeight = 32;
@@ -51,8 +52,10 @@ struct TControlDesign {
     TControlDesign&& Hidden() &&;
     TControlDesign&& Disabled() &&;
     TControlDesign&& Checked() &&;
-    TControlDesign&& DigitsOnly() &&;
-    TControlDesign&& Password() &&;
+    // Of the edit of an up-down: see TEdit.
+    TControlDesign&& FilteringKeys() &&;
+    TControlDesign&& Positive() &&;
+    TControlDesign&& Sender() &&;
     TControlDesign&& Width(int characters) &&;
 };
 
@@ -128,7 +131,7 @@ TControlDesign CheckBox(const wchar_t* name, const wchar_t* caption);
 TControlDesign RadioButton(const wchar_t* name, const wchar_t* caption);
 TControlDesign Button(const wchar_t* name, const wchar_t* caption);
 TControlDesign Edit(const wchar_t* name, const wchar_t* text = L"");
-/// Stands right after its edit.
+/// Stands right after its edit, whose number has the same bounds.
 TControlDesign UpDown(const wchar_t* name, const wchar_t* edit, int min, int max, int position);
 TControlDesign TrackBar(const wchar_t* name, int min, int max, int position);
 /// The items of a list that stands in more than one place.

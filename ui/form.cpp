@@ -72,15 +72,18 @@ void SetDesignState(const TForm& form, TControl& control, const TControlDesign& 
         case TComponentKind::Edit: {
             auto& edit = static_cast<TEdit&>(control);
             edit.SetText(design.Caption);
-            edit.DigitsOnly = design.IsDigitsOnly;
-            edit.Password = design.IsPassword;
+            edit.FiltersKeys = design.FiltersKeys;
+            edit.IsPositive = design.IsPositive;
+            edit.IsSender = design.IsSender;
             edit.WidthInCharacters = design.WidthInCharacters;
             return;  // the caption of its design is its text
         }
-        case TComponentKind::UpDown:
-            if (auto* edit = form.Find<TEdit>(design.Associate))
-                static_cast<TUpDown&>(control).SetAssociate(edit);
+        case TComponentKind::UpDown: {
+            auto* edit = form.Find<TEdit>(design.Associate);
+            if (edit == nullptr) throw std::logic_error("an up-down without its edit");
+            static_cast<TUpDown&>(control).SetAssociate(*edit);
             break;
+        }
         default:
             break;
     }

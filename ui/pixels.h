@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "ui/dialogs.h"
+#include "ui/color.h"
 
 /// One pixel as 0xAARRGGBB. In a picture the colours are premultiplied: none is larger than the alpha.
 using TPixel = std::uint32_t;

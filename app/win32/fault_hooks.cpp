@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "ui/win32/late_bound.h"
+#include "base/win32/late_bound.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "app/fault_log.h"
-#include "ui/win32/handle.h"
+#include "base/win32/handle.h"
 
 class TFaultHooks {
   public:

@@ -1,11 +1,11 @@
 // Program entry.
 #include "app/main_window.h"
+#include "app/win32/dialogs_win32.h"
 #include "app/win32/fault_hooks.h"
 #include "app/win32/single_instance.h"
+#include "base/win32/late_bound.h"
 #include "platform/win32/win32_system.h"
-#include "ui/win32/dialogs_win32.h"
 #include "ui/win32/form_window.h"
-#include "ui/win32/late_bound.h"
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandLine*/, int showCommand) {
     SearchSystemFolderOnly();  // before anything else: most of Windows' own libraries are loaded at their first call

@@ -1,6 +1,6 @@
 #include "app/win32/single_instance.h"
 
-#include "ui/win32/handle.h"
+#include "base/win32/handle.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "platform/win32/files_win32.h"
 
+#include "base/win32/handle.h"
+#include "base/win32/late_bound.h"
 #include "platform/name_pattern.h"
-#include "ui/win32/handle.h"
-#include "ui/win32/late_bound.h"
 
 namespace {
 

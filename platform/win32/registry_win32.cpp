@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "ui/win32/handle.h"
-#include "ui/win32/late_bound.h"
+#include "base/win32/handle.h"
+#include "base/win32/late_bound.h"
 
 namespace {
 

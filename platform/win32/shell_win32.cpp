@@ -4,7 +4,7 @@
 #include <shlobj.h>
 #include <urlhist.h>
 
-#include "ui/win32/handle.h"
+#include "base/win32/handle.h"
 
 namespace {
 

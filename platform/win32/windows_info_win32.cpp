@@ -6,7 +6,7 @@
 #include <bit>
 #include <cstring>
 
-#include "ui/win32/late_bound.h"
+#include "base/win32/late_bound.h"
 
 namespace {
 

@@ -66,7 +66,7 @@ TControlDesign TabsSheet() {
                             L"On the right end of the tab menu"}))),
         Group(L"GroupBox_Firefox_Tab_MinWidth", L"Width of tabs",
               Row(Label(L"Label_Firefox_Tab_MinWidth_Min", L"At &least:"),
-                  Edit(L"Edit_Firefox_Tab_MinWidth_Min", L"125").Width(4),
+                  Edit(L"Edit_Firefox_Tab_MinWidth_Min", L"125").Width(4).Sender(),
                   UpDown(L"Updown_Firefox_Tab_MinWidth_Min", L"Edit_Firefox_Tab_MinWidth_Min", 36, 500, 125),
                   Label(L"Label_Firefox_Tab_MinWidth_Unit", L"pixels"))));
 }

@@ -56,7 +56,7 @@ TControlDesign ThumbnailSheet() {
         L"TabSheet_Folder_Thumbnail", L"Thumbnails",
         Group(L"GroupBox_Folder_Thumbnail", L"Thumbnails",
               Fields(Row(Label(L"Label_Folder_Thumbnail_Size", L"&Size:"),
-                         Edit(L"Edit_Folder_Thumbnail_Size").Width(4),
+                         Edit(L"Edit_Folder_Thumbnail_Size").Width(4).FilteringKeys().Sender(),
                          UpDown(L"UpDown_Folder_Thumbnail_Size", L"Edit_Folder_Thumbnail_Size", 32, 256, 96),
                          Label(L"Label_Folder_Thumbnail_SizeUnit", L"pixels")),
                      Row(Label(L"Label_Folder_Thumbnail_Quality", L"&Quality, low to high:"),

@@ -3,9 +3,9 @@
 
 #include <filesystem>
 
+#include "app/win32/dialogs_win32.h"
 #include "platform/win32/win32_system.h"
 #include "tests/contract/subject.h"
-#include "ui/win32/dialogs_win32.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <deque>
 #include <vector>
 
-#include "ui/dialogs.h"
+#include "platform/dialogs.h"
 #include "ui/form.h"
 
 /// A message box that was shown.

@@ -1,6 +1,6 @@
 // Message boxes and common dialogs over a form, while another window is the active one.
+#include "app/win32/dialogs_win32.h"
 #include "tests/win32/peer_bench.h"
-#include "ui/win32/dialogs_win32.h"
 
 namespace {
 

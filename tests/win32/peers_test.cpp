@@ -10,22 +10,22 @@ class PeersTest : public TPeerBench {
         Form.Build(Form, Timer(L"Timer", 10));
         Form.Build(
             Form,
-            Notebook(
-                L"Notebook",
-                {NotebookPage(
-                     1,
-                     Group(L"Group", L"Group", CheckBox(L"Box", L"&Box"), RadioButton(L"First", L"First"),
-                           CheckBox(L"Between", L"Between"), RadioButton(L"Second", L"Second"), Edit(L"Last"),
-                           RadioButton(L"Third", L"Third")),
-                     Row(Edit(L"Edit").Width(5).DigitsOnly(), UpDown(L"UpDown", L"Edit", 1, 100, 10)),
-                     Edit(L"Text"), TrackBar(L"Track", 100, 7000, 500),
-                     ComboBox(L"Combo", {L"a", L"b", L"c"}), Button(L"Button", L"Button")),
-                 NotebookPage(2, PageControl(L"Tabs", Sheet(L"A", L"Sheet A", CheckBox(L"InA", L"A")),
-                                             Sheet(L"B", L"Sheet B", CheckBox(L"InB", L"B"))))}));
+            Notebook(L"Notebook",
+                     {NotebookPage(1,
+                                   Group(L"Group", L"Group", CheckBox(L"Box", L"&Box"),
+                                         RadioButton(L"First", L"First"), CheckBox(L"Between", L"Between"),
+                                         RadioButton(L"Second", L"Second"), Edit(L"Last"),
+                                         RadioButton(L"Third", L"Third")),
+                                   Row(Edit(L"Edit").Width(5), UpDown(L"UpDown", L"Edit", 1, 100, 10)),
+                                   Edit(L"Text"), TrackBar(L"Track", 100, 7000, 500),
+                                   ComboBox(L"Combo", {L"a", L"b", L"c"}), Button(L"Button", L"Button")),
+                      NotebookPage(2, PageControl(L"Tabs", Sheet(L"A", L"Sheet A", CheckBox(L"InA", L"A")),
+                                                  Sheet(L"B", L"Sheet B", CheckBox(L"InB", L"B"))))}));
         Get<TCheckBox>(L"Box").OnClick = Get<TButton>(L"Button").OnClick = Note;
         for (const wchar_t* name : {L"First", L"Second", L"Third"}) Get<TRadioButton>(name).OnClick = Note;
         Get<TEdit>(L"Edit").OnChange = Get<TEdit>(L"Text").OnChange = Get<TUpDown>(L"UpDown").OnChange = Note;
         Get<TTrackBar>(L"Track").OnChange = Get<TComboBox>(L"Combo").OnChange = Note;
+        Get<TEdit>(L"Edit").DigitsOnly = true;
         Get<TNotebook>(L"Notebook").ShowPage(L"1");
         Show();
     }

@@ -29,7 +29,6 @@ TEditPeer::TEditPeer(TFormWindow& form, TEdit& edit, HWND parent)
     : TWindowPeer(form, edit), FWhole(edit.Text()) {
     DWORD style = ES_AUTOHSCROLL | WS_TABSTOP | WS_GROUP;
     if (edit.DigitsOnly) style |= ES_NUMBER;
-    if (edit.Password) style |= ES_PASSWORD;
     Create(parent, WC_EDITW, style, WS_EX_CLIENTEDGE);
     Send(EM_LIMITTEXT, kLongestShown);
     Subclass();

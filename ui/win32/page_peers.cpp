@@ -1,7 +1,7 @@
 #include "ui/win32/page_peers.h"
 
+#include "base/win32/late_bound.h"
 #include "ui/win32/form_window.h"
-#include "ui/win32/late_bound.h"
 #include "ui/win32/peer_factory.h"
 
 namespace {

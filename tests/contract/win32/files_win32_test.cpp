@@ -3,8 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include "base/win32/handle.h"
 #include "tests/contract/subject.h"
-#include "ui/win32/handle.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
-#include "ui/win32/late_bound.h"
+#include "base/win32/late_bound.h"
 
 #include <bit>
 #include <string>
 
-#include "ui/win32/handle.h"
+#include "base/win32/handle.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ui/win32/dialogs_win32.h"
+#include "app/win32/dialogs_win32.h"
 
 #include <windows.h>
 #include <commdlg.h>

@@ -1,12 +1,10 @@
 // Questions and choosers that interrupt the user. An interface, so that tests can answer them.
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 
-/// A colour as 0x00BBGGRR, the layout of the Windows COLORREF.
-using TColor = std::uint32_t;
+#include "ui/color.h"
 
 enum class TMessageButtons { Ok, YesNo };
 enum class TMessageIcon { None, Question };

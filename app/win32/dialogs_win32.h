@@ -4,7 +4,7 @@
 #include <array>
 #include <set>
 
-#include "ui/dialogs.h"
+#include "platform/dialogs.h"
 
 /// A form that has no window, or none any more, asks nothing, and so does one that waits for a dialog already: the answer
 /// is then that of a user who declines.
