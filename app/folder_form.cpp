@@ -1,7 +1,7 @@
 #include "app/folder_form.h"
 
-#include "settings/explorer_keys.h"
 #include "settings/shell/desktop_icons.h"
+#include "settings/tell_explorer.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 

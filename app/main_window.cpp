@@ -11,7 +11,7 @@
 #include "platform/service_control.h"
 #include "platform/suite_language.h"
 #include "platform/windows_version.h"
-#include "settings/explorer_keys.h"
+#include "settings/tell_explorer.h"
 
 namespace {
 

@@ -18,10 +18,11 @@ struct TRegRecor {
     TReadStatus ReadResult = TReadStatus::Found;  ///< set by reads only
     TRegAction Action = TRegAction::Write;
     bool IsSystemParameter = false;  ///< the entry is a SystemParametersInfoW call of the four Spi fields
-    std::uint32_t SpiAction = 0;     ///< uiAction
-    std::uint32_t SpiParam = 0;      ///< uiParam
-    TSpiData SpiData;                ///< pvParam
-    std::uint32_t SpiWinIni = 0;     ///< fWinIni; recorders set 1 = SPIF_UPDATEINIFILE
-    std::wstring Setting;            ///< the name of the control that recorded the change
-    bool RestartNeeded = false;      ///< Windows must restart before the change takes effect
+    std::uint32_t SpiGet = 0;     ///< the SPI_GET… code that tells what SpiAction sets; 0 = there is none
+    std::uint32_t SpiAction = 0;  ///< uiAction
+    std::uint32_t SpiParam = 0;   ///< uiParam
+    TSpiData SpiData;             ///< pvParam
+    std::uint32_t SpiWinIni = 0;  ///< fWinIni; recorders set 1 = SPIF_UPDATEINIFILE
+    std::wstring Setting;         ///< the name of the control that recorded the change
+    bool RestartNeeded = false;   ///< Windows must restart before the change takes effect
 };

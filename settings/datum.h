@@ -1,25 +1,10 @@
-// The words in which catalogue rows say where a setting lives, what is stored there and what is written there.
+// The words in which catalogue rows say what is stored at a place and what is written there.
 #pragma once
 
-#include "platform/registry.h"
+#include <limits>
+
 #include "settings/captions.h"
-
-inline constexpr TRootKey kLocalMachine = TRootKey::LocalMachine;
-inline constexpr TRootKey kCurrentUser = TRootKey::CurrentUser;
-inline constexpr TRootKey kClassesRoot = TRootKey::ClassesRoot;
-inline constexpr TRootKey kUsers = TRootKey::Users;
-
-/// Where a setting lives: at a place in the registry, whose `Key` begins with a backslash, or in the preferences of the
-/// user's Firefox profile.
-struct TPlace {
-    TRootKey Root;
-    const wchar_t* Key;
-    const wchar_t* ValueName;  ///< empty = the key's default value; of a preference its name with the quotes
-    bool IsFirefoxPref = false;
-};
-
-/// A preference by its name with the quotes. Its values are texts; writing the empty text removes it.
-constexpr TPlace Pref(const wchar_t* quotedName) { return {kCurrentUser, L"", quotedName, true}; }
+#include "settings/place.h"
 
 /// What one state of a control does to its place.
 struct TDatum {
@@ -28,6 +13,8 @@ struct TDatum {
         Text,
         Caption,   ///< text in the user's language
         AsStored,  ///< the number, in the type that the value has already; a DWORD when there is no value
+        YesOrNo,   ///< "yes" or "no", but the number where a number is stored
+        SetBits,   ///< the number that is there, with the bits of this one
         DeleteValue,
         DeleteKey,
         Nothing,
@@ -47,6 +34,8 @@ constexpr TDatum Translated(TCaption caption) {
     return {.Kind = TDatum::TKind::Caption, .Translation = caption};
 }
 constexpr TDatum AsStored(std::int32_t number) { return {.Kind = TDatum::TKind::AsStored, .Number = number}; }
+constexpr TDatum YesNoAsStored(bool yes) { return {.Kind = TDatum::TKind::YesOrNo, .Number = yes ? 1 : 0}; }
+constexpr TDatum SetBits(std::int32_t bits) { return {.Kind = TDatum::TKind::SetBits, .Number = bits}; }
 inline constexpr TDatum kDeleteValue{.Kind = TDatum::TKind::DeleteValue};
 inline constexpr TDatum kDeleteKey{.Kind = TDatum::TKind::DeleteKey};
 inline constexpr TDatum kNothing{.Kind = TDatum::TKind::Nothing};
@@ -89,15 +78,38 @@ class TMatch {
         return match;
     }
 
+    /// The value is "no" in any case, means 0 or is empty.
+    static constexpr TMatch EmptyOrNo() {
+        TMatch match = No();
+        match.FKind = TKind::EmptyOrNo;
+        return match;
+    }
+    /// The value means no number, or one outside these bounds.
+    static constexpr TMatch Outside(std::int32_t least, std::int32_t most) {
+        TMatch match(least);
+        match.FKind = TKind::Outside;
+        match.FMost = most;
+        return match;
+    }
+
     [[nodiscard]] bool operator()(const TRegValue& value) const;
     /// The question in words, for a reference of the settings.
     [[nodiscard]] std::wstring Words() const;
 
   private:
-    enum class TKind : std::uint8_t { Number, Text, TextAnyCase, NumberOrText, EmptyOrZero };
+    enum class TKind : std::uint8_t {
+        Number,
+        Text,
+        TextAnyCase,
+        NumberOrText,
+        EmptyOrZero,
+        EmptyOrNo,
+        Outside
+    };
 
     TKind FKind;
     std::int32_t FNumber = 0;
+    std::int32_t FMost = 0;
     const wchar_t* FText = L"";
 };
 
@@ -105,3 +117,9 @@ constexpr TMatch AnyCase(const wchar_t* text) { return TMatch::AnyCase(text); }
 inline constexpr TMatch kYes = TMatch::Yes();
 inline constexpr TMatch kNo = TMatch::No();
 inline constexpr TMatch kEmptyOrZero = TMatch::EmptyOrZero();
+inline constexpr TMatch kEmptyOrNo = TMatch::EmptyOrNo();
+/// The value means no number, or a smaller one.
+constexpr TMatch Below(std::int32_t least) {
+    return TMatch::Outside(least, std::numeric_limits<std::int32_t>::max());
+}
+constexpr TMatch Outside(std::int32_t least, std::int32_t most) { return TMatch::Outside(least, most); }

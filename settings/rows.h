@@ -1,7 +1,11 @@
 // The row kinds of the settings catalogue. One row is one setting: the control that stands for it, where it lives,
 // how a stored value shows, what each state records, and whether Windows must restart for it.
 //
-// How a value shows and what a state records are separate on purpose: many settings are not symmetric.
+// How a value shows and what a state records are separate on purpose: many settings are not symmetric. Whatever kind of place
+// a setting has (see settings/place.h), the same rows serve it.
+//
+// Changes are recorded under the control's name, unless a row gives another one: controls of several pages that stand for one
+// setting share a name, so that the last click wins.
 #pragma once
 
 #include <optional>
@@ -12,6 +16,7 @@
 #include "settings/datum.h"
 
 class TComponent;
+enum class TServiceAction : std::int32_t;
 struct TPageContext;
 
 /// Names of controls, in an array beside the rows.
@@ -67,11 +72,17 @@ struct TBoxRecord {
     TDatum Clear;
 };
 
-/// A second change of the same click, recorded under the control's name with `Suffix` behind it.
+/// A second change of the same click, recorded under the first one's name with `Suffix` behind it.
 struct TBoxFurther {
     const wchar_t* Suffix;
     TPlace Value;
     TBoxRecord Records;
+};
+
+/// A label that repeats the number of a control.
+struct TDigits {
+    const wchar_t* Label;
+    const wchar_t* Number;
 };
 
 struct TCheckBoxRow {
@@ -79,11 +90,16 @@ struct TCheckBoxRow {
     TPlace Value;
     TBoxRule Shows;
     TBoxRecord Records;
+    std::optional<TDatum> RecordsWhenMissing = std::nullopt;  ///< by either state, while there is no value
     std::optional<TBoxFurther> Further = std::nullopt;
-    bool Restart = false;               ///< Windows must restart before the change takes effect
-    TLevels LoadedOn = kEveryLevel;     ///< elsewhere the box keeps its state; it records everywhere
-    TControlNames Enables = {};         ///< of use only while the box is checked
-    TControlNames EnablesOnClick = {};  ///< the same, but left alone by the loader
+    const wchar_t* ChangeName = nullptr;  ///< null = the control's name
+    bool Restart = false;                 ///< Windows must restart before the change takes effect
+    TLevels LoadedOn = kEveryLevel;       ///< elsewhere the box keeps its state; it records everywhere
+    TControlNames Enables = {};           ///< of use only while the box is checked
+    TControlNames EnablesOnClick = {};    ///< the same, but left alone by the loader
+    /// A control that the loader enables or disables with the box. A click turns it over, whatever it was.
+    const wchar_t* Toggles = nullptr;
+    std::optional<TDigits> Refreshes = std::nullopt;  ///< brought up to date by a click, too
     std::optional<TPlace> LoadedFrom = std::nullopt;  ///< what shows, where it is not `Value`
     /// A policy that takes away what the box stands for while it is 1: the box is clear then, and checking it turns the
     /// policy off.
@@ -97,6 +113,39 @@ struct TKeyRow {
     TPlace Value;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+};
+
+/// An edit whose text is kept at a place of its own while a box is checked.
+struct TBoxField {
+    const wchar_t* Edit;
+    TPlace Value;
+    const wchar_t* Suffix;  ///< of the change name; see TBoxFurther
+    /// What is written instead of a deletion when a write of the same Apply comes before it; null = the edit's text.
+    const wchar_t* Replaces;
+};
+
+/// A check box whose fields' values are written while it is checked and deleted when it is cleared. What the user types
+/// later is recorded by rows of the edits.
+struct TFieldsRow {
+    const wchar_t* Control;
+    TPlace Value;  ///< what shows
+    TBoxRule Shows;
+    std::optional<TBoxRecord> Records = std::nullopt;  ///< at `Value`; nothing = that is a field's
+    std::span<const TBoxField> Fields;
+    bool Restart = false;
+    TLevels LoadedOn = kEveryLevel;
+};
+
+/// A Windows service that runs while the box is checked. A click makes no pending change but sets the mark that tells Apply
+/// what to do with the service.
+struct TServiceRow {
+    const wchar_t* Control;
+    const wchar_t* Service;
+    TServiceAction TPageContext::*Action;
+    bool Restart = false;
+    TLevels LoadedOn = kEveryLevel;
+    TControlNames Enables = {};  ///< of use only while the box can be and is checked
+    TLevels Levels = kEveryLevel;
 };
 
 /// Which radio button of a pair a stored value checks.
@@ -118,86 +167,144 @@ struct TRadioPairRow {
     TDatum SecondRecords;  ///< while it is not
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    const wchar_t* FirstShows = nullptr;   ///< a picture that is visible while the first button is checked
+    const wchar_t* SecondShows = nullptr;  ///< one that is visible while the second is
 };
 
-/// A drop-down list whose items stand for values. A value that is no item's leaves the choice alone.
+/// A second change of the same choice, recorded under the first one's name with `Suffix` behind it.
+struct TChoiceFurther {
+    const wchar_t* Suffix;
+    TPlace Value;
+    std::span<const TDatum> Items;
+    TLevels Levels = kEveryLevel;  ///< where the place means something
+};
+
+/// A drop-down list whose items stand for values. A value that is no item's leaves the choice alone; where there are two
+/// places, both must be the item's.
 struct TChoiceRow {
     const wchar_t* Control;
     TPlace Value;
-    std::span<const TDatum> Items;  ///< what each item records, and which value chooses it
-    int Missing = -1;               ///< the item that a missing value chooses; -1 leaves the choice alone
+    std::span<const TDatum>
+        Items;         ///< what each item records, and which value chooses it; of nothing any does
+    int Missing = -1;  ///< the item that a missing value chooses; -1 leaves the choice alone
+    std::optional<TChoiceFurther> Further = std::nullopt;
+    const wchar_t* ChangeName = nullptr;  ///< null = the control's name
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
 };
 
-/// How a number is stored.
-enum class TNumberType : std::uint8_t {
-    Dword,
-    Text,  ///< decimal, as REG_SZ
+/// A second place of the same number.
+struct TNumberFurther {
+    const wchar_t* Suffix;
+    TPlace Value;
 };
 
-/// An up-down or track bar whose position is the value. A value that means no number leaves the position alone.
+/// What a row takes for the number.
+enum class TNumberSource : std::uint8_t {
+    Position,
+    Typed,  ///< what stands in the up-down's edit, which may be empty or out of bounds while the user types; as a
+            ///< Decimal to the letter
+};
+
+/// An up-down or track bar whose position is the value, or a list whose value is the number of the item; a number that is
+/// no item's chooses none. A value that means no number leaves the control alone.
 struct TNumberRow {
     const wchar_t* Control;
     TPlace Value;
-    TNumberType Type = TNumberType::Dword;
     std::optional<std::int32_t> Missing = std::nullopt;  ///< the position that a missing value gives
+    bool NoNumberIsFault = false;                        ///< which ends the loader
+    TNumberSource Source = TNumberSource::Position;
+    const wchar_t* Edit = nullptr;                         ///< the up-down's edit, where it records too
+    std::optional<std::int32_t> RemovedAt = std::nullopt;  ///< the position that removes a preference
+    std::optional<TNumberFurther> Further = std::nullopt;
+    const wchar_t* ChangeName = nullptr;  ///< null = the control's name
+    const wchar_t* Suffix = L"";          ///< of the first change's name
+    const wchar_t* Digits = nullptr;      ///< a label that repeats the number
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
-    TLevels Levels = kEveryLevel;  ///< elsewhere another row of the control holds
+    std::optional<TPlace> LoadedFrom = std::nullopt;  ///< what shows, where it is not `Value`
+    TLevels Levels = kEveryLevel;                     ///< elsewhere another row of the control holds
 };
 
-/// An edit whose text is the value, recorded as REG_SZ whenever it changes.
+/// An edit whose text is the value, recorded whenever it changes.
 struct TTextRow {
     const wchar_t* Control;
     TPlace Value;
     const wchar_t* MissingShows = nullptr;  ///< the edit whose text shows when there is no value
+    bool MissingClears = false;             ///< nothing shows then
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
 };
 
-/// Which argument of SystemParametersInfoW carries the value that is set.
-enum class TParameterSlot : std::uint8_t {
-    Param,  ///< uiParam
-    Data,   ///< pvParam, the number itself
-};
-
-/// A system parameter that is on or off, behind a check box or a drop-down list whose first item is "off".
-struct TParameterSwitchRow {
-    const wchar_t* Control;
-    std::uint32_t Get;  ///< SPI_GET… code
-    std::uint32_t Set;  ///< SPI_SET… code
-    TParameterSlot Slot = TParameterSlot::Data;
+/// A switch and an amount that share one value: the amount while the switch is on, and what stands for off.
+struct TSwitchRow {
+    const wchar_t* On;             ///< a check box, or the radio button that stands for on
+    const wchar_t* Off = nullptr;  ///< the one that stands for off
+    /// An up-down or track bar, whose position is the value; or a list, or a pair of radio buttons, with `Items`.
+    TControlNames Amount;
+    TPlace Value;
+    TMatch OffWhen;
+    TDatum OffRecords;
+    TBoxState Missing = kKeep;
+    std::span<const TDatum> Items = {};  ///< what each item of the amount records, and which value chooses it
+    int OtherItem = -1;     ///< the item that any other value chooses; -1 leaves the choice alone
+    TControlNames Enables;  ///< of use only while it is on
+    const wchar_t* ChangeName = nullptr;  ///< null = the name of `On`
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
-    /// A control that the loader enables or disables with the switch. A click turns it over, whatever it was.
-    const wchar_t* Toggles = nullptr;
 };
 
-/// A system parameter that is a number, behind an up-down or track bar.
-struct TParameterNumberRow {
+/// A list that stands for some bits of a number.
+struct TBitsList {
     const wchar_t* Control;
-    std::uint32_t Get;
-    std::uint32_t Set;
-    TParameterSlot Slot = TParameterSlot::Param;
+    std::uint32_t Mask;
+    /// The bits of each item; other bits choose the first one. Empty = the item's number is what the bits are.
+    std::span<const std::uint32_t> Items = {};
+};
+
+/// Lists that make up one number, which they record together.
+struct TListsRow {
+    std::span<const TBitsList> Lists;
+    TPlace Value;
+    std::int32_t Missing;  ///< what counts where there is no value, …
+    std::int32_t Least =
+        std::numeric_limits<std::int32_t>::min();  ///< … or one that means no number or is below this
+    const wchar_t* ChangeName;
+    bool Restart = false;
+    TLevels LoadedOn = kEveryLevel;
+};
+
+/// A button that lets the user pick a colour, and the swatch that shows it. What is no colour leaves the swatch alone.
+struct TColorRow {
+    const wchar_t* Button;
+    const wchar_t* Swatch;
+    TPlace Value;
+    bool Restart = false;
+    TLevels LoadedOn = kEveryLevel;
+};
+
+/// A button that lets the user choose a program, and the edit that shows the command line. What he types there is recorded
+/// by other rows.
+struct TProgramRow {
+    const wchar_t* Button;
+    const wchar_t* Edit;
+    TPlace Value;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
 };
 
 /// A setting that no other kind of row describes: functions beside the table do its work.
 struct TSpecialRow {
-    TControlNames Controls;  ///< those that record, in an array beside the rows
-    TPlace Value;            ///< the place, or the main one
-    const wchar_t* Rule;     ///< one line for the reader of a reference: how it shows and what it records
+    TControlNames Controls;          ///< those that record, in an array beside the rows
+    std::span<const TPlace> Places;  ///< all that it writes
     void (*Load)(TPageContext& context, const TSpecialRow& row);  ///< null = another row's loader shows it
     void (*Record)(TPageContext& context, const TSpecialRow& row, TComponent& sender);
-    std::int32_t Parameter = 0;  ///< whatever number the functions share among rows
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
 };
 
-using TRow = std::variant<TCheckBoxRow, TKeyRow, TRadioPairRow, TChoiceRow, TNumberRow, TTextRow,
-                          TParameterSwitchRow, TParameterNumberRow, TSpecialRow>;
+using TRow = std::variant<TCheckBoxRow, TKeyRow, TFieldsRow, TServiceRow, TRadioPairRow, TChoiceRow,
+                          TNumberRow, TTextRow, TSwitchRow, TListsRow, TColorRow, TProgramRow, TSpecialRow>;
 
 /// The rows of one loader, in the order in which they are loaded.
 using TLoader = std::span<const TRow>;
@@ -205,8 +312,14 @@ using TLoader = std::span<const TRow>;
 /// The controls that record through the row.
 [[nodiscard]] std::vector<std::wstring> ControlsOf(const TRow& row);
 
+/// The places that the row writes. A service has none.
+[[nodiscard]] std::vector<TPlace> PlacesOf(const TRow& row);
+
 /// Where the row holds. A setting whose place differs from one Windows to another has a row for each.
 [[nodiscard]] TLevels LevelsOf(const TRow& row);
+
+/// Whether Windows must restart before a change takes effect.
+[[nodiscard]] bool RestartOf(const TRow& row);
 
 /// Shows the stored value in the row's controls. Called with the window's loading flag set.
 void LoadRow(TPageContext& context, const TRow& row);

@@ -8,8 +8,9 @@
 
 struct TPageContext;
 
-/// What a loader shows: the value at the place, or nothing when it cannot be read. On pages that show pending changes
-/// (see TPageDefinition::ShowsPending) a change of the place that is not written yet answers first.
+/// What a loader shows: what the value at the place means, or nothing when it cannot be read or is none of the place's
+/// coding. On pages that show pending changes (see TPageDefinition::ShowsPending) a change of a registry place that is not
+/// written yet answers first.
 [[nodiscard]] std::optional<TRegValue> Stored(const TPageContext& context, const TPlace& place);
 
 /// The number that Stored means; nothing when there is none.
@@ -17,6 +18,9 @@ struct TPageContext;
 
 /// The set of bits that Stored means; nothing when there is none.
 [[nodiscard]] std::optional<std::uint32_t> StoredBits(const TPageContext& context, const TPlace& place);
+
+/// Whether the registry key of the place is there, in the process's own view of the registry.
+[[nodiscard]] bool KeyExists(const TPageContext& context, const TPlace& place);
 
 /// A change of that name and place, still without type and value.
 [[nodiscard]] TRegRecor RecordAt(const TPlace& place, const std::wstring& changeName);
@@ -28,19 +32,9 @@ void AddChange(TPageContext& context, TRegRecor record);
 ///
 /// Two states of a setting may be different operations: a write and a deletion have change names of their own, and the one
 /// that is recorded takes the place of the other, so that Apply carries out what the last click meant and nothing else.
+/// "Nothing" takes a write back; of a system parameter it leaves what was recorded before.
 void Record(TPageContext& context, const std::wstring& changeName, const TPlace& place, const TDatum& datum);
 void RecordText(TPageContext& context, const std::wstring& changeName, const TPlace& place,
                 const std::wstring& text);
 void RecordNumber(TPageContext& context, const std::wstring& changeName, const TPlace& place,
                   std::int32_t number);
-void RecordBytes(TPageContext& context, const std::wstring& changeName, const TPlace& place, TBytes bytes);
-
-/// A system parameter of up to 32 bits; 0 when Windows does not tell it. `action` is its SPI_GET… code.
-[[nodiscard]] std::uint32_t ReadParameter(const TPageContext& context, std::uint32_t action);
-
-/// Whether a system parameter that is on or off is on. Of these only the lowest byte is sure to be written.
-[[nodiscard]] bool ReadSwitch(const TPageContext& context, std::uint32_t action);
-
-/// Records a call of SystemParametersInfoW that also updates the user's profile.
-void RecordParameter(TPageContext& context, const std::wstring& changeName, std::uint32_t action,
-                     std::uint32_t param, const TSpiData& data);

@@ -1,8 +1,8 @@
 #include "settings/net/firefox_page.h"
 
 #include "engine/reg_value.h"
-#include "platform/faults.h"
-#include "settings/net/firefox_home_page.h"
+#include "settings/page_context.h"
+#include "settings/shared_rows.h"
 #include "settings/store.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
@@ -95,7 +95,6 @@ constexpr TBoxRule kCheckedOnlyWhenFalse{
 constexpr TBoxRule kCheckedUnlessTrue{
     .Missing = kChecked, .When = {{AnyCase(kTrue), kClear}}, .Otherwise = kChecked};
 
-constexpr const wchar_t* kHomePage[] = {L"Edit_Firefox_Common_Homepage_Address"};
 constexpr TRow kCommonRows[] = {
     TCheckBoxRow{.Control = L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing",
                  .Value = Pref(L"\"browser.blink_allowed\""),
@@ -109,7 +108,7 @@ constexpr TRow kCommonRows[] = {
                   .FirstWhen = AnyCase(kTrue),
                   .FirstRecords = Text(kTrue),
                   .SecondRecords = Text(kFalse)},
-    FirefoxHomePageRow(kHomePage),
+    FirefoxHomePageRow(L"Edit_Firefox_Common_Homepage_Address"),
 };
 
 // The delay is read from one preference and written to another, which the Go button has too. A delay of 65000
@@ -133,9 +132,9 @@ void ShowDelay(const TPageContext& context, int milliseconds) {
 }
 
 // Special because three radio buttons and a track bar make one value.
-void LoadMenuSpeed(TPageContext& context, const TSpecialRow& row) {
+void LoadMenuSpeed(TPageContext& context, const TSpecialRow& /*row*/) {
     auto& bar = *context.Form.Find<TTrackBar>(kDelayBar);
-    const auto value = Stored(context, row.Value);
+    const auto value = Stored(context, Pref(L"\"ui.submenuDelay\""));
     const bool isClick = value && TMatch(kOnClick)(*value);
     const bool isDelay = value && !isClick;
     Radio(context, isClick ? kSpeedClick : isDelay ? kSpeedDelay : kSpeedAsWindows).SetChecked(true);
@@ -156,9 +155,7 @@ void RecordMenuSpeed(TPageContext& context, const TSpecialRow& /*row*/, TCompone
     ShowDelay(context, bar.Position());
 }
 
-constexpr const wchar_t* kMenuSpeedRule =
-    L"exactly 65000: on click; missing: as Windows; else the delay, and no number leaves the track bar "
-    L"alone; writes `\"browser.urlbar.hideGoButton\"`: 65000, the track bar's number, or removes it";
+constexpr TPlace kMenuSpeedPlaces[] = {kGoButtonPref};
 
 constexpr TRow kUseRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Firefox_Use_AddressBar_AutoFill",
@@ -170,53 +167,28 @@ constexpr TRow kUseRows[] = {
                  .Shows = kCheckedUnlessTrue,
                  .Records = kFalseWhenChecked},
     TSpecialRow{.Controls = kMenuSpeedControls,
-                .Value = Pref(L"\"ui.submenuDelay\""),
-                .Rule = kMenuSpeedRule,
+                .Places = kMenuSpeedPlaces,
                 .Load = LoadMenuSpeed,
                 .Record = RecordMenuSpeed},
 };
 
-constexpr const wchar_t* kOpenInTab = L"Checkbox_Firefox_Popup_Open_Type";
-constexpr const wchar_t* kOpenInSameTab = L"Radio_Firefox_Popup_Open_SameTab";
-constexpr const wchar_t* kOpenInNewTab = L"Radio_Firefox_Popup_Open_NewTab";
-constexpr const wchar_t* kOpenControls[] = {kOpenInTab, kOpenInSameTab, kOpenInNewTab};
-
-// The values, as Firefox documents them for this preference.
-constexpr const wchar_t* kSameTab = L"1";
-constexpr const wchar_t* kNewWindow = L"2";
-constexpr const wchar_t* kNewTab = L"3";
-
-void EnableOpenTabs(const TPageContext& context, bool enabled) {
-    Radio(context, kOpenInSameTab).SetEnabled(enabled);
-    Radio(context, kOpenInNewTab).SetEnabled(enabled);
-}
-
-// Special because the radio buttons count only while the box is checked, and share its preference.
-void LoadOpenType(TPageContext& context, const TSpecialRow& row) {
-    const std::wstring value = AsText(Stored(context, row.Value).value_or(TRegValue{}));
-    context.Form.Find<TCheckBox>(kOpenInTab)->SetChecked(value != kNewWindow);
-    Radio(context, value == kSameTab ? kOpenInSameTab : kOpenInNewTab).SetChecked(true);
-    EnableOpenTabs(context, value != kNewWindow);
-}
-
-void RecordOpenType(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    const bool inTab = context.Form.Find<TCheckBox>(kOpenInTab)->Checked();
-    EnableOpenTabs(context, inTab);
-    const wchar_t* tab = Radio(context, kOpenInSameTab).Checked() ? kSameTab : kNewTab;
-    RecordText(context, sender.Name(), row.Value, inTab ? tab : kNewWindow);
-}
-
-constexpr const wchar_t* kOpenRule =
-    L"2: the box clear, a new tab; 1: the current tab; else a new tab; writes 2 while the box is clear, "
-    L"else 1 or 3";
+// 1 is the current tab, 2 a new window, 3 a new tab, as Firefox documents them for this preference.
+constexpr TDatum kOpenTabs[] = {Text(L"1"), Text(L"3")};
+constexpr int kNewTab = 1;
+constexpr const wchar_t* kTabRadios[] = {L"Radio_Firefox_Popup_Open_SameTab",
+                                         L"Radio_Firefox_Popup_Open_NewTab"};
 
 // Each of these preferences keeps scripts from taking something away from the windows that they open.
 constexpr TRow kPopupRows[] = {
-    TSpecialRow{.Controls = kOpenControls,
-                .Value = Pref(L"\"browser.link.open_newwindow\""),
-                .Rule = kOpenRule,
-                .Load = LoadOpenType,
-                .Record = RecordOpenType},
+    TSwitchRow{.On = L"Checkbox_Firefox_Popup_Open_Type",
+               .Amount = kTabRadios,
+               .Value = Pref(L"\"browser.link.open_newwindow\""),
+               .OffWhen = L"2",
+               .OffRecords = Text(L"2"),
+               .Missing = kChecked,
+               .Items = kOpenTabs,
+               .OtherItem = kNewTab,
+               .Enables = kTabRadios},
     TCheckBoxRow{.Control = L"Checkbox_Firefox_Popup_JavaScript_Size",
                  .Value = Pref(L"\"dom.disable_window_open_feature.resizable\""),
                  .Shows = kCheckedOnlyWhenFalse,
@@ -239,57 +211,20 @@ constexpr TRow kPopupRows[] = {
                  .Records = kFalseWhenChecked},
 };
 
-constexpr const wchar_t* kCloseButton[] = {L"CB_Firefox_Tab_CloseButton_Pos"};
-
-// Special because a value that is no number is a fault, which ends the loader.
-void LoadCloseButton(TPageContext& context, const TSpecialRow& row) {
-    constexpr int kOnAllTabs = 1;  // Firefox's own default
-    int item = kOnAllTabs;
-    if (const auto value = Stored(context, row.Value)) {
-        const auto number = AsInteger(*value);
-        if (!number) throw EConvertError(AsText(*value));
-        item = *number;
-    }
-    context.Form.Find<TComboBox>(kCloseButton[0])->SetItemIndex(item);
-}
-
-void RecordCloseButton(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    RecordNumber(context, sender.Name(), row.Value, static_cast<TComboBox&>(sender).ItemIndex());
-}
-
-constexpr const wchar_t* kTabWidthUpDown = L"Updown_Firefox_Tab_MinWidth_Min";
-constexpr const wchar_t* kTabWidthControls[] = {kTabWidthUpDown, L"Edit_Firefox_Tab_MinWidth_Min"};
+constexpr int kOnAllTabs = 1;
 constexpr int kDefaultTabWidth = 125;
 
-// Special because Firefox's own default removes the preference.
-void LoadTabWidth(TPageContext& context, const TSpecialRow& row) {
-    const auto value = Stored(context, row.Value);
-    const auto width = value ? AsInteger(*value) : kDefaultTabWidth;
-    if (width) context.Form.Find<TUpDown>(kTabWidthUpDown)->SetPosition(*width);
-}
-
-void RecordTabWidth(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    const int width = context.Form.Find<TUpDown>(kTabWidthUpDown)->Position();
-    if (width != kDefaultTabWidth) return RecordNumber(context, sender.Name(), row.Value, width);
-    // One click of the arrows may come twice, as the edit's change and as theirs, and removing a preference
-    // that is gone would leave an empty one.
-    context.FirefoxChanged = true;
-    if (Stored(context, row.Value)) RecordText(context, sender.Name(), row.Value, L"");
-}
-
+// Of both the preference that is missing means Firefox's own default.
 constexpr TRow kTabsRows[] = {
-    TSpecialRow{
-        .Controls = kCloseButton,
-        .Value = Pref(L"\"browser.tabs.closeButtons\""),
-        .Rule = L"the item of that number; missing: item 1; no number: a fault; writes the item's number",
-        .Load = LoadCloseButton,
-        .Record = RecordCloseButton},
-    TSpecialRow{.Controls = kTabWidthControls,
-                .Value = Pref(L"\"browser.tabs.tabMinWidth\""),
-                .Rule = L"the number; missing: 125; no number: unchanged; writes the number, and 125 removes "
-                        L"the preference",
-                .Load = LoadTabWidth,
-                .Record = RecordTabWidth},
+    TNumberRow{.Control = L"CB_Firefox_Tab_CloseButton_Pos",
+               .Value = Pref(L"\"browser.tabs.closeButtons\""),
+               .Missing = kOnAllTabs,
+               .NoNumberIsFault = true},
+    TNumberRow{.Control = L"Updown_Firefox_Tab_MinWidth_Min",
+               .Value = Pref(L"\"browser.tabs.tabMinWidth\""),
+               .Missing = kDefaultTabWidth,
+               .Edit = L"Edit_Firefox_Tab_MinWidth_Min",
+               .RemovedAt = kDefaultTabWidth},
 };
 
 constexpr TLoader kLoaders[] = {kCommonRows, kUseRows, kPopupRows, kTabsRows};

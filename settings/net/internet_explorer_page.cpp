@@ -1,23 +1,9 @@
 #include "settings/net/internet_explorer_page.h"
 
-#include "engine/reg_value.h"
-#include "platform/text.h"
 #include "settings/page_context.h"
-#include "settings/store.h"
-#include "ui/controls.h"
+#include "settings/row_shapes.h"
 
 namespace {
-
-constexpr const wchar_t* kMain = L"\\Software\\Microsoft\\Internet Explorer\\Main\\";
-constexpr const wchar_t* kTabbedBrowsing = L"\\Software\\Microsoft\\Internet Explorer\\TabbedBrowsing\\";
-constexpr const wchar_t* kNewWindows = L"\\Software\\Microsoft\\Internet Explorer\\New Windows\\";
-constexpr const wchar_t* kTypedUrls = L"\\Software\\Microsoft\\Internet Explorer\\TypedURLs\\";
-constexpr const wchar_t* kInternetSettings =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\";
-constexpr const wchar_t* kUrlHistory =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Url History\\";
-constexpr const wchar_t* kAutoComplete =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\AutoComplete\\";
 
 TControlDesign Design() {
     return NotebookPage(
@@ -119,6 +105,7 @@ constexpr TCheckBoxRow OneOrZero(const wchar_t* control, const wchar_t* key, con
 
 // Special because it is no setting: it is done at once, once the user has agreed.
 constexpr const wchar_t* kClearButton[] = {L"Button_IE_Common_History_Clear"};
+constexpr TPlace kTypedUrlsPlace[] = {{kCurrentUser, kTypedUrls, L""}};
 
 void ClearHistory(TPageContext& context, const TSpecialRow& row, TComponent& /*sender*/) {
     const TMessageAnswer answer =
@@ -126,48 +113,24 @@ void ClearHistory(TPageContext& context, const TSpecialRow& row, TComponent& /*s
                                        TMessageButtons::YesNo, TMessageIcon::Question);
     if (answer != TMessageAnswer::Yes) return;
     context.System.Shell.ClearBrowsingHistory();
-    static_cast<void>(context.System.Registry.DeleteKey(row.Value.Root, row.Value.Key));
-}
-
-// Special because versions of Internet Explorer keep it as a text or as a number; what is there keeps its type.
-constexpr const wchar_t* kPopupBlocker[] = {L"Checkbox_IE_Common_Popup_Block"};
-
-void LoadPopupBlocker(TPageContext& context, const TSpecialRow& row) {
-    const auto value = Stored(context, row.Value);
-    const bool isOff = value && (SameText(AsText(*value), L"no") || AsInteger(*value) == 0);
-    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(!isOff);
-}
-
-void RecordPopupBlocker(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    const bool isOn = static_cast<TCheckBox&>(sender).Checked();
-    const auto value = Stored(context, row.Value);
-    if (value && std::holds_alternative<std::int32_t>(*value))
-        RecordNumber(context, sender.Name(), row.Value, isOn ? 1 : 0);
-    else
-        RecordText(context, sender.Name(), row.Value, isOn ? L"yes" : L"no");
+    static_cast<void>(context.System.Registry.DeleteKey(row.Places[0].Root, row.Places[0].Key));
 }
 
 constexpr TRow kCommonRows[] = {
-    TTextRow{.Control = L"Edit_IE_Common_Homepage_Address", .Value = {kCurrentUser, kMain, L"Start Page"}},
+    TTextRow{.Control = L"Edit_IE_Common_Homepage_Address",
+             .Value = {kCurrentUser, kInternetExplorerMain, L"Start Page"}},
     TNumberRow{.Control = L"Updown_IE_Common_History_KeepDays",
                .Value = {kCurrentUser, kUrlHistory, L"DaysToKeep"}},
-    TSpecialRow{
-        .Controls = kClearButton,
-        .Value = {kCurrentUser, kTypedUrls, L""},
-        .Rule =
-            L"asks, then clears the history of visited pages and deletes this key of typed addresses at once",
-        .Load = nullptr,
-        .Record = ClearHistory},
-    YesOrNo(L"Checkbox_IE_Common_Media_Open", kMain, L"Display Inline Images", kChecked),
-    YesOrNo(L"Checkbox_IE_Common_Media_Resize", kMain, L"Enable AutoImageResize", kChecked),
-    YesOrNo(L"Checkbox_IE_Common_Media_Animation", kMain, L"Play_Animations", kChecked),
-    YesOrNo(L"Checkbox_IE_Common_Media_Sound", kMain, L"Play_Background_Sounds", kChecked),
-    TSpecialRow{.Controls = kPopupBlocker,
-                .Value = {kCurrentUser, kNewWindows, L"PopupMgr"},
-                .Rule = L"clear when \"no\" in any case or 0, else checked; writes text `\"yes\"` or "
-                        L"`\"no\"`, or DWORD 1 or 0 where a DWORD is stored",
-                .Load = LoadPopupBlocker,
-                .Record = RecordPopupBlocker},
+    TSpecialRow{.Controls = kClearButton, .Places = kTypedUrlsPlace, .Load = nullptr, .Record = ClearHistory},
+    YesOrNo(L"Checkbox_IE_Common_Media_Open", kInternetExplorerMain, L"Display Inline Images", kChecked),
+    YesOrNo(L"Checkbox_IE_Common_Media_Resize", kInternetExplorerMain, L"Enable AutoImageResize", kChecked),
+    YesOrNo(L"Checkbox_IE_Common_Media_Animation", kInternetExplorerMain, L"Play_Animations", kChecked),
+    YesOrNo(L"Checkbox_IE_Common_Media_Sound", kInternetExplorerMain, L"Play_Background_Sounds", kChecked),
+    // Versions of Internet Explorer keep it as a text or as a number; what is there keeps its type.
+    TCheckBoxRow{.Control = L"Checkbox_IE_Common_Popup_Block",
+                 .Value = {kCurrentUser, kNewWindows, L"PopupMgr"},
+                 .Shows = {.Missing = kChecked, .When = {{kNo, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = YesNoAsStored(true), .Clear = YesNoAsStored(false)}},
 };
 
 constexpr TDatum kThreeWays[] = {Dword(0), Dword(1), Dword(2)};
@@ -206,15 +169,15 @@ constexpr TRow kTabRows[] = {
 constexpr const wchar_t* kAskControls[] = {L"Checkbox_IE_AutoComplete_Form_Ask"};
 
 constexpr TRow kAutoCompleteRows[] = {
-    YesOrNo(L"Checkbox_IE_AutoComplete_Address_Suggest", kAutoComplete, L"AutoSuggest", kChecked),
-    YesOrNo(L"Checkbox_IE_AutoComplete_Address_Append", kAutoComplete, L"Append Completion", kClear),
-    YesOrNo(L"Checkbox_IE_AutoComplete_Form_Suggest", kMain, L"Use FormSuggest", kClear),
+    YesOrNo(L"Checkbox_IE_AutoComplete_Address_Suggest", kExplorerAutoComplete, L"AutoSuggest", kChecked),
+    YesOrNo(L"Checkbox_IE_AutoComplete_Address_Append", kExplorerAutoComplete, L"Append Completion", kClear),
+    YesOrNo(L"Checkbox_IE_AutoComplete_Form_Suggest", kInternetExplorerMain, L"Use FormSuggest", kClear),
     TCheckBoxRow{.Control = L"Checkbox_IE_AutoComplete_Form_Password",
-                 .Value = {kCurrentUser, kMain, L"FormSuggest Passwords"},
+                 .Value = {kCurrentUser, kInternetExplorerMain, L"FormSuggest Passwords"},
                  .Shows = {.Missing = kChecked, .When = {{AnyCase(L"yes"), kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Text(L"yes"), .Clear = Text(L"no")},
                  .Enables = kAskControls},
-    YesOrNo(L"Checkbox_IE_AutoComplete_Form_Ask", kMain, L"FormSuggest PW Ask", kChecked),
+    YesOrNo(L"Checkbox_IE_AutoComplete_Form_Ask", kInternetExplorerMain, L"FormSuggest PW Ask", kChecked),
 };
 
 constexpr TRow kAdvancedRows[] = {
@@ -233,12 +196,15 @@ constexpr TRow kAdvancedRows[] = {
               kChecked),
     OneOrZero(L"Checkbox_IE_Advanced_Warning_Zone", kInternetSettings, L"WarnonZoneCrossing", kClear),
     OneOrZero(L"Checkbox_IE_Advanced_Warning_Redirect", kInternetSettings, L"WarnOnPostRedirect", kChecked),
-    YesOrNo(L"Checkbox_IE_Advanced_Warning_Script", kMain, L"Error Dlg Displayed On Every Error", kClear),
-    YesOrNo(L"Checkbox_IE_Advanced_Warning_Friendly", kMain, L"Friendly http errors", kChecked),
-    YesOrNo(L"Checkbox_IE_Advanced_Warning_Download", kMain, L"NotifyDownloadComplete", kChecked),
-    YesOrNo(L"Checkbox_IE_Advanced_Warning_Browser", kMain, L"Check_Associations", kChecked),
+    YesOrNo(L"Checkbox_IE_Advanced_Warning_Script", kInternetExplorerMain,
+            L"Error Dlg Displayed On Every Error", kClear),
+    YesOrNo(L"Checkbox_IE_Advanced_Warning_Friendly", kInternetExplorerMain, L"Friendly http errors",
+            kChecked),
+    YesOrNo(L"Checkbox_IE_Advanced_Warning_Download", kInternetExplorerMain, L"NotifyDownloadComplete",
+            kChecked),
+    YesOrNo(L"Checkbox_IE_Advanced_Warning_Browser", kInternetExplorerMain, L"Check_Associations", kChecked),
     TCheckBoxRow{.Control = L"Checkbox_IE_Advanced_Warning_Update",
-                 .Value = {kCurrentUser, kMain, L"NoUpdateCheck"},
+                 .Value = {kCurrentUser, kInternetExplorerMain, L"NoUpdateCheck"},
                  .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
 };

@@ -1,14 +1,11 @@
 #include "settings/net/mail_page.h"
 
-#include <array>
-
+#include "settings/page_context.h"
+#include "settings/row_shapes.h"
 #include "settings/store.h"
 #include "ui/controls.h"
 
 namespace {
-
-constexpr const wchar_t* kOutlookExpress = L"\\SOFTWARE\\Microsoft\\Outlook Express\\";
-constexpr const wchar_t* kMessengerClient = L"\\SOFTWARE\\Policies\\Microsoft\\Messenger\\Client\\";
 
 TControlDesign Design() {
     return NotebookPage(
@@ -38,17 +35,18 @@ constexpr TRow kOutlookExpressRows[] = {
 
 // Special because each version of Outlook has a key of its own: the newest one that is there shows, and a change is
 // recorded for all that are there.
-constexpr std::array kOutlookPreferences{
-    L"\\Software\\Microsoft\\Office\\14.0\\Outlook\\Preferences\\",
-    L"\\Software\\Microsoft\\Office\\12.0\\Outlook\\Preferences\\",
-    L"\\Software\\Microsoft\\Office\\11.0\\Outlook\\Preferences\\",
-    L"\\Software\\Microsoft\\Office\\10.0\\Outlook\\Preferences\\",
+constexpr TPlace Tray(const wchar_t* key) { return As(TCoding::Number, {kCurrentUser, key, L"MinToTray"}); }
+constexpr TPlace kTrayPlaces[] = {
+    Tray(L"\\Software\\Microsoft\\Office\\14.0\\Outlook\\Preferences\\"),
+    Tray(L"\\Software\\Microsoft\\Office\\12.0\\Outlook\\Preferences\\"),
+    Tray(L"\\Software\\Microsoft\\Office\\11.0\\Outlook\\Preferences\\"),
+    Tray(L"\\Software\\Microsoft\\Office\\10.0\\Outlook\\Preferences\\"),
 };
 constexpr const wchar_t* kTray[] = {L"Checkbox_Mail_Outlook_Tray"};
 
 void LoadTray(TPageContext& context, const TSpecialRow& row) {
-    for (const wchar_t* key : kOutlookPreferences) {
-        if (const auto value = StoredNumber(context, {row.Value.Root, key, row.Value.ValueName}))
+    for (const TPlace& place : row.Places) {
+        if (const auto value = StoredNumber(context, place))
             return context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(*value == 1);
     }
 }
@@ -56,21 +54,14 @@ void LoadTray(TPageContext& context, const TSpecialRow& row) {
 void RecordTray(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
     const std::int32_t state = static_cast<TCheckBox&>(sender).Checked() ? 1 : 0;
     std::wstring changeName = sender.Name();
-    for (const wchar_t* key : kOutlookPreferences) {
-        if (context.Changes.CheckExists(RecordAt({row.Value.Root, key, L""}, {})) == TReadStatus::Found)
-            RecordNumber(context, changeName, {row.Value.Root, key, row.Value.ValueName}, state);
+    for (const TPlace& place : row.Places) {
+        if (KeyExists(context, place)) RecordNumber(context, changeName, place, state);
         changeName += L'1';
     }
 }
 
 constexpr TRow kOutlookRows[] = {
-    TSpecialRow{.Controls = kTray,
-                .Value = {kCurrentUser, kOutlookPreferences[0], L"MinToTray"},
-                .Rule = L"checked when 1 in the newest of Office 10.0, 11.0, 12.0, 14.0 that has the value; "
-                        L"writes 1 or 0 for "
-                        L"each version that is there",
-                .Load = LoadTray,
-                .Record = RecordTray},
+    TSpecialRow{.Controls = kTray, .Places = kTrayPlaces, .Load = LoadTray, .Record = RecordTray},
 };
 
 constexpr TRow kMessengerRows[] = {

@@ -1,28 +1,8 @@
 #include "settings/net/network_page.h"
 
-#include "engine/reg_value.h"
-#include "settings/explorer_keys.h"
 #include "settings/net/security_switches.h"
-#include "settings/store.h"
-#include "ui/controls.h"
 
 namespace {
-
-constexpr const wchar_t* kRemoteTasks =
-    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RemoteComputer\\NameSpace\\"
-    L"{D6277990-4C6A-11CF-8D87-00AA0060F5BF}";
-constexpr const wchar_t* kRemotePrinters =
-    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RemoteComputer\\NameSpace\\"
-    L"{2227A280-3AEA-1069-A2DE-08002B30309D}";
-constexpr const wchar_t* kServer = L"\\SYSTEM\\CurrentControlSet\\Services\\lanmanserver\\parameters\\";
-constexpr const wchar_t* kWorkstation =
-    L"\\SYSTEM\\CurrentControlSet\\Services\\lanmanworkstation\\parameters\\";
-constexpr const wchar_t* kDiscovery = L"\\SYSTEM\\CurrentControlSet\\Services\\SSDPSRV\\";
-constexpr const wchar_t* kDeviceHost = L"\\SYSTEM\\CurrentControlSet\\Services\\upnphost\\";
-constexpr const wchar_t* kPacketScheduler = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\PSched\\";
-constexpr const wchar_t* kNetworkPolicies =
-    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\policies\\Network\\";
-constexpr const wchar_t* kWinlogon = L"\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon\\";
 
 constexpr int kQosPercent = 20;  // what Windows itself reserves
 
@@ -106,49 +86,28 @@ constexpr TRow kNeighborRows[] = {
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
 };
 
-// The box and the position make one number: the percentage, or 0 while nothing is reserved. Without a stored
-// value Windows reserves a percentage of its own, so the box is checked.
-constexpr const wchar_t* kQos[] = {L"Checkbox_Net_Advanced_Qos_Keep", L"Updown_Net_Advanced_Qos_Count"};
-
-void EnableQosField(TUpDown& percent, bool enabled) {
-    percent.SetEnabled(enabled);
-    percent.Associate()->SetEnabled(enabled);
-}
-
-void LoadQos(TPageContext& context, const TSpecialRow& row) {
-    auto& percent = *context.Form.Find<TUpDown>(row.Controls[1]);
-    const auto value = Stored(context, row.Value);
-    const auto number = value ? AsInteger(*value) : percent.Position();
-    const bool reserves = !value || (number && *number > 0);
-    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(reserves);
-    EnableQosField(percent, reserves);
-    if (reserves) percent.SetPosition(*number);
-}
-
-void RecordQos(TPageContext& context, const TSpecialRow& row, TComponent& /*sender*/) {
-    auto& percent = *context.Form.Find<TUpDown>(row.Controls[1]);
-    const bool reserves = context.Form.Find<TCheckBox>(row.Controls[0])->Checked();
-    RecordNumber(context, row.Controls[0], row.Value, reserves ? percent.Position() : 0);
-    EnableQosField(percent, reserves);
-}
+constexpr const wchar_t* kQosCount[] = {L"Updown_Net_Advanced_Qos_Count"};
+constexpr const wchar_t* kQosControls[] = {L"Updown_Net_Advanced_Qos_Count", L"Edit_Net_Advanced_Qos_Count"};
 
 constexpr std::int32_t kManual = 3;
 constexpr std::int32_t kDisabled = 4;
 
 constexpr TRow kAdvancedRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Net_Advanced_UPnp_Enable",
-                 .Value = {kLocalMachine, kDiscovery, L"Start"},
+                 .Value = {kLocalMachine, kDiscoveryService, L"Start"},
                  .Shows = {.When = {{kManual, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(kManual), .Clear = Dword(kDisabled)},
                  .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = {kLocalMachine, kDeviceHost, L"Start"},
+                                        .Value = {kLocalMachine, kDeviceHostService, L"Start"},
                                         .Records = {.Checked = Dword(kManual), .Clear = Dword(kDisabled)}}},
-    TSpecialRow{.Controls = kQos,
-                .Value = {kLocalMachine, kPacketScheduler, L"NonBestEffortLimit"},
-                .Rule = L"checked when above 0 or missing, and the position is the number; checked writes "
-                        L"the position, clear 0 (DWORD)",
-                .Load = LoadQos,
-                .Record = RecordQos},
+    // Without a stored value Windows reserves a percentage of its own.
+    TSwitchRow{.On = L"Checkbox_Net_Advanced_Qos_Keep",
+               .Amount = kQosCount,
+               .Value = {kLocalMachine, kPacketScheduler, L"NonBestEffortLimit"},
+               .OffWhen = Below(1),
+               .OffRecords = Dword(0),
+               .Missing = kChecked,
+               .Enables = kQosControls},
 };
 
 constexpr TRow kPasswordRows[] = {
@@ -162,13 +121,7 @@ constexpr TRow kPasswordRows[] = {
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
 };
 
-// A Windows without firewall has no group for it either.
-void LoadFirewallGroup(TPageContext& context, const TSpecialRow& row) {
-    if (!HasFirewall(context)) context.Form.Find(L"GroupBox_Net_Internet_WindowsFirewall")->SetVisible(false);
-    LoadFirewall(context, row);
-}
-
-constexpr const wchar_t* kFirewall[] = {L"Checkbox_Net_Internet_WindowsFirewall_Enable"};
+constexpr const wchar_t* kFirewall = L"Checkbox_Net_Internet_WindowsFirewall_Enable";
 
 constexpr TRow kInternetRows[] = {
     TRadioPairRow{.First = L"Radio_Net_Internet_CloseConnection_Ask",
@@ -179,11 +132,8 @@ constexpr TRow kInternetRows[] = {
                   .FirstWhen = L"0",
                   .FirstRecords = Text(L"0"),
                   .SecondRecords = Text(L"1")},
-    TSpecialRow{.Controls = kFirewall,
-                .Value = kFirewallEnabled,
-                .Rule = kFirewallRule,
-                .Load = LoadFirewallGroup,
-                .Record = RecordFirewall},
+    FirewallServiceRow(kFirewall),
+    FirewallRow(kFirewall),
 };
 
 constexpr TLoader kLoaders[] = {kNeighborRows, kAdvancedRows, kPasswordRows, kInternetRows};
@@ -212,13 +162,20 @@ constexpr TLevelCaption kLevelCaptions[] = {
     {L"TabSheet_Net_Neighbor", kUntilXp, TCaption::NetworkPlaces},
 };
 
+/// A Windows without firewall has no group for it either.
+bool Prepare(TPageContext& context) {
+    if (!HasFirewall(context)) context.Form.Find(L"GroupBox_Net_Internet_WindowsFirewall")->SetVisible(false);
+    return true;
+}
+
 constexpr TPageDefinition kPage{.Tag = 7,
                                 .SharedHandler = L"Checkbox_Net_Neighbor_Common_TaskClick",
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
                                 .LevelCaptions = kLevelCaptions,
-                                .ShowsPending = true};
+                                .ShowsPending = true,
+                                .Prepare = Prepare};
 
 }  // namespace
 

@@ -1,15 +1,9 @@
 #include "settings/net/privacy_page.h"
 
-#include "settings/explorer_keys.h"
 #include "settings/net/security_switches.h"
+#include "settings/shared_rows.h"
 
 namespace {
-
-constexpr const wchar_t* kInternetSettings =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\";
-constexpr const wchar_t* kInternetCache =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Cache\\";
-constexpr const wchar_t* kWebcheck = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Webcheck\\";
 
 TControlDesign Design() {
     return NotebookPage(
@@ -38,22 +32,14 @@ TControlDesign Design() {
                   Buttons(Button(L"Button_Privacy_IE_Default", L"&Default")))));
 }
 
-constexpr const wchar_t* kAutoUpdate[] = {L"Checkbox_Privacy_Common_AutoUpdate_Active",
-                                          L"CB_Privacy_Common_AutoUpdate_Type"};
+constexpr const wchar_t* kAutoUpdateType[] = {L"CB_Privacy_Common_AutoUpdate_Type"};
 
 constexpr TRow kCommonRows[] = {
-    TSpecialRow{.Controls = kAutoUpdate,
-                .Value = kAutoUpdateOptions,
-                .Rule = kAutoUpdateRule,
-                .Load = LoadAutoUpdate,
-                .Record = RecordAutoUpdate},
+    AutoUpdateRow(L"Checkbox_Privacy_Common_AutoUpdate_Active", kAutoUpdateType),
 };
 
 constexpr TRow kCleanTracesRows[] = {
-    TCheckBoxRow{.Control = L"Checkbox_CleanTraces_ClearHistoryList_ClearLogoff",
-                 .Value = {kCurrentUser, kExplorerPolicies, L"ClearRecentDocsOnExit"},
-                 .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+    ClearRecentDocumentsRow(L"Checkbox_CleanTraces_ClearHistoryList_ClearLogoff"),
     TCheckBoxRow{.Control = L"Checkbox_CleanTraces_ClearIECache_ClearOnExit",
                  .Value = {kCurrentUser, kInternetCache, L"Persistent"},
                  .Shows = {.When = {{1, kClear}}, .Otherwise = kChecked},

@@ -1,45 +1,52 @@
-// The protection of Windows: Security Center, Windows Firewall, automatic updates. Each can be switched on
-// several pages; a page names its controls in a special row and gives the row the functions of the switch.
-//
-// A switch that stands for a service records no pending change but sets the mark that tells Apply what to do
-// with the service.
+// The protection of Windows: Security Center, Windows Firewall, automatic updates. Each can be switched on several pages.
 #pragma once
 
-#include "settings/rows.h"
+#include "settings/page_context.h"
+#include "settings/row_shapes.h"
 
 /// Windows Vista and later have Security Center and firewall always, Windows XP while its service
 /// SharedAccess runs, older ones never.
 [[nodiscard]] bool HasFirewall(const TPageContext& context);
 
-// Controls: the check box.
-inline constexpr TPlace kSecurityCenterStart{kLocalMachine,
-                                             L"\\SYSTEM\\CurrentControlSet\\Services\\wscsvc\\", L"Start"};
-inline constexpr const wchar_t* kSecurityCenterRule =
-    L"checked while the service runs; checked enables and starts it, clear stops and disables it";
-void LoadSecurityCenter(TPageContext& context, const TSpecialRow& row);
-void RecordSecurityCenter(TPageContext& context, const TSpecialRow& row, TComponent& sender);
+/// A page disables the box where there is no Security Center before it loads the row.
+[[nodiscard]] constexpr TServiceRow SecurityCenterRow(const wchar_t* control, TControlNames enables = {}) {
+    return {.Control = control,
+            .Service = L"wscsvc",
+            .Action = &TPageContext::SecurityCenterAction,
+            .Enables = enables};
+}
 
-// Controls: the check box.
-inline constexpr TPlace kFirewallEnabled{
-    kLocalMachine,
-    L"\\SYSTEM\\CurrentControlSet\\Services\\SharedAccess\\Parameters\\FirewallPolicy\\StandardProfile\\",
-    L"EnableFirewall"};
-inline constexpr const wchar_t* kFirewallRule =
-    L"until Windows XP checked when 1 or missing, checked: DWORD 1, clear: DWORD 0; since Windows Vista the "
-    L"service MpsSvc: checked while it runs, checked enables and starts it, clear stops and disables it";
-void LoadFirewall(TPageContext& context, const TSpecialRow& row);
-void RecordFirewall(TPageContext& context, const TSpecialRow& row, TComponent& sender);
+/// Since Windows Vista the firewall is a service of its own.
+[[nodiscard]] constexpr TServiceRow FirewallServiceRow(const wchar_t* control) {
+    return {.Control = control,
+            .Service = L"MpsSvc",
+            .Action = &TPageContext::FirewallAction,
+            .Levels = kSinceVista};
+}
 
-// Controls: the check box, then the drop-down list of kinds. Both record under one name, on every page.
-inline constexpr TPlace kAutoUpdateOptions{
-    kLocalMachine, L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\WindowsUpdate\\Auto Update\\",
-    L"AUOptions"};
-inline constexpr const wchar_t* kAutoUpdateRule =
-    L"1: clear; else checked, and the items are 0, 2, 3, 4; missing: unchanged. Writes the same as DWORD";
+[[nodiscard]] constexpr TCheckBoxRow FirewallRow(const wchar_t* control) {
+    return {.Control = control,
+            .Value = {kLocalMachine, kFirewallProfile, L"EnableFirewall"},
+            .Shows = {.Missing = kChecked, .When = {{1, kChecked}}, .Otherwise = kClear},
+            .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+            .Levels = kUntilXp};
+}
+
 /// The items of the list.
 inline constexpr const wchar_t* kAutoUpdateTypes[] = {
     L"Use Windows default settings", L"Notify me before downloading updates",
     L"Notify me before auto downloading and installing updates",
     L"Download and install updates at a scheduled time"};
-void LoadAutoUpdate(TPageContext& context, const TSpecialRow& row);
-void RecordAutoUpdate(TPageContext& context, const TSpecialRow& row, TComponent& sender);
+inline constexpr TDatum kAutoUpdateOptions[] = {Dword(0), Dword(2), Dword(3), Dword(4)};
+
+/// `list` names the drop-down list of kinds.
+[[nodiscard]] constexpr TSwitchRow AutoUpdateRow(const wchar_t* control, TControlNames list) {
+    return {.On = control,
+            .Amount = list,
+            .Value = {kLocalMachine, kAutoUpdate, L"AUOptions"},
+            .OffWhen = 1,
+            .OffRecords = Dword(1),
+            .Items = kAutoUpdateOptions,
+            .Enables = list,
+            .ChangeName = L"CHKAutoupdate"};
+}

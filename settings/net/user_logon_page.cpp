@@ -1,15 +1,8 @@
 #include "settings/net/user_logon_page.h"
 
-#include "engine/reg_value.h"
-#include "settings/store.h"
-#include "ui/controls.h"
+#include "settings/row_shapes.h"
 
 namespace {
-
-constexpr const wchar_t* kWinlogon = L"\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon\\";
-constexpr const wchar_t* kSystemPolicies =
-    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\policies\\system\\";
-constexpr const wchar_t* kDesktop = L"\\Control Panel\\Desktop\\";
 
 constexpr TPlace Winlogon(const wchar_t* value) { return {kLocalMachine, kWinlogon, value}; }
 constexpr TPlace Policy(const wchar_t* value) { return {kLocalMachine, kSystemPolicies, value}; }
@@ -76,37 +69,18 @@ TControlDesign Design() {
         13, PageControl(L"PageControl_UserLogin", CommonSheet(), AutoLoginSheet(), MessageSheet()));
 }
 
-constexpr const wchar_t* kLogonScreens[] = {L"Radio_UserLogin_Common_LoginInterface_XP",
-                                            L"Radio_UserLogin_Common_LoginInterface_2k"};
-
-void ShowLogonScreen(const TPageContext& context, bool isWelcome) {
-    context.Form.Find(kWelcomePicture)->SetVisible(isWelcome);
-    context.Form.Find(kClassicPicture)->SetVisible(!isWelcome);
-}
-
-// Special because a picture shows what is chosen.
-void LoadLogonScreen(TPageContext& context, const TSpecialRow& row) {
-    const auto value = Stored(context, row.Value);
-    if (!value) return;
-    const bool isWelcome = AsInteger(*value) == 1;
-    context.Form.Find<TRadioButton>(kLogonScreens[isWelcome ? 0 : 1])->SetChecked(true);
-    ShowLogonScreen(context, isWelcome);
-}
-
-void RecordLogonScreen(TPageContext& context, const TSpecialRow& row, TComponent& /*sender*/) {
-    const bool isWelcome = context.Form.Find<TRadioButton>(kLogonScreens[0])->Checked();
-    RecordNumber(context, L"RadLogonType", row.Value, isWelcome ? 1 : 0);
-    ShowLogonScreen(context, isWelcome);
-}
-
 constexpr TBoxRecord kOneWhenChecked{.Checked = Dword(1), .Clear = Dword(0)};
 constexpr TRow kCommonRows[] = {
-    TSpecialRow{.Controls = kLogonScreens,
-                .Value = Winlogon(L"LogonType"),
-                .Rule = L"1: the first; else the second; missing: unchanged; writes 1 or 0",
-                .Load = LoadLogonScreen,
-                .Record = RecordLogonScreen,
-                .LoadedOn = kUntilXp},
+    TRadioPairRow{.First = L"Radio_UserLogin_Common_LoginInterface_XP",
+                  .Second = L"Radio_UserLogin_Common_LoginInterface_2k",
+                  .ChangeName = L"RadLogonType",
+                  .Value = Winlogon(L"LogonType"),
+                  .FirstWhen = 1,
+                  .FirstRecords = Dword(1),
+                  .SecondRecords = Dword(0),
+                  .LoadedOn = kUntilXp,
+                  .FirstShows = kWelcomePicture,
+                  .SecondShows = kClassicPicture},
     // This option and the one for shutting down have an older place at Winlogon, spelled differently here.
     TCheckBoxRow{.Control = L"Checkbox_UserLogin_Common_Set_UserName",
                  .Value = Policy(L"dontdisplaylastusername"),
@@ -133,75 +107,25 @@ constexpr TRow kCommonRows[] = {
                  .Records = kOneWhenChecked},
 };
 
-/// An edit and the value that it holds.
-struct TField {
-    const wchar_t* Edit;
-    TPlace Value;
-};
+constexpr TTextRow TextRow(const TBoxField& field) { return {.Control = field.Edit, .Value = field.Value}; }
 
-constexpr TTextRow TextRow(const TField& field) { return {.Control = field.Edit, .Value = field.Value}; }
-
-TEdit& EditOf(const TPageContext& context, const TField& field) {
-    return *context.Form.Find<TEdit>(field.Edit);
-}
-
-void EnableFields(const TPageContext& context, std::span<const TField> fields, bool enabled) {
-    for (const TField& field : fields) EditOf(context, field).SetEnabled(enabled);
-}
-
-void ShowBoxWithFields(const TPageContext& context, const TSpecialRow& row, std::span<const TField> fields,
-                       bool checked) {
-    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(checked);
-    EnableFields(context, fields, checked);
-}
-
-/// Deletes the value. If a write is recorded under that name already, it remains a write, and of `text`.
-void RecordDeletion(TPageContext& context, const std::wstring& changeName, const TPlace& place,
-                    const std::wstring& text) {
-    TRegRecor record = RecordAt(place, changeName);
-    record.Action = TRegAction::DeleteValue;
-    record.Value = text;
-    AddChange(context, std::move(record));
-}
-
-constexpr const wchar_t* kAutoLogon[] = {L"Checkbox_UserLogin_AutoLogin_ActiveAutoLogin"};
 // Windows keeps the password as it is typed.
-constexpr TField kUserName{L"Edit_UserLogin_AutoLogin_LoginInfo_UserName", Winlogon(L"DefaultUserName")};
-constexpr TField kPassword{L"Edit_UserLogin_AutoLogin_LoginInfo_Password", Winlogon(L"DefaultPassword")};
-constexpr TField kDomain{L"Edit_UserLogin_AutoLogin_LoginInfo_Domain", Winlogon(L"DefaultDomainName")};
-constexpr TField kCredentials[] = {kUserName, kPassword, kDomain};
-
-// Special because the box writes or deletes the three fields' values beside its own.
-void LoadAutoLogon(TPageContext& context, const TSpecialRow& row) {
-    const auto value = Stored(context, row.Value);
-    ShowBoxWithFields(context, row, kCredentials, value && AsText(*value) == L"1");
-}
-
-void RecordAutoLogon(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    const bool checked = static_cast<TCheckBox&>(sender).Checked();
-    const std::wstring& name = sender.Name();
-    EnableFields(context, kCredentials, checked);
-    RecordText(context, name, row.Value, checked ? L"1" : L"0");
-    if (checked) {
-        RecordText(context, name + L"1", kUserName.Value, EditOf(context, kUserName).Text());
-        RecordText(context, name + L"2", kPassword.Value, EditOf(context, kPassword).Text());
-        RecordText(context, name + L"3", kDomain.Value, EditOf(context, kDomain).Text());
-    } else {
-        RecordDeletion(context, name + L"1", kUserName.Value, L"xxxxxx");
-        RecordDeletion(context, name + L"2", kPassword.Value, L"");
-        RecordDeletion(context, name + L"3", kDomain.Value, EditOf(context, kDomain).Text());
-    }
-}
+constexpr TBoxField kUserName{L"Edit_UserLogin_AutoLogin_LoginInfo_UserName", Winlogon(L"DefaultUserName"),
+                              L"1", L"xxxxxx"};
+constexpr TBoxField kPassword{L"Edit_UserLogin_AutoLogin_LoginInfo_Password", Winlogon(L"DefaultPassword"),
+                              L"2", L""};
+constexpr TBoxField kDomain{L"Edit_UserLogin_AutoLogin_LoginInfo_Domain", Winlogon(L"DefaultDomainName"),
+                            L"3", nullptr};
+constexpr TBoxField kCredentials[] = {kUserName, kPassword, kDomain};
 
 constexpr TBoxRule kClearWhenZero{.When = {{L"0", kClear}}, .Otherwise = kChecked};
 constexpr TBoxRecord kTextOneWhenChecked{.Checked = Text(L"1"), .Clear = Text(L"0")};
 constexpr TRow kAutoLoginRows[] = {
-    TSpecialRow{.Controls = kAutoLogon,
-                .Value = Winlogon(L"AutoAdminLogon"),
-                .Rule = L"checked when \"1\", else clear; writes 1 and the three fields' texts, or 0 and "
-                        L"deletes their values",
-                .Load = LoadAutoLogon,
-                .Record = RecordAutoLogon},
+    TFieldsRow{.Control = L"Checkbox_UserLogin_AutoLogin_ActiveAutoLogin",
+               .Value = Winlogon(L"AutoAdminLogon"),
+               .Shows = {.Missing = kClear, .When = {{L"1", kChecked}}, .Otherwise = kClear},
+               .Records = kTextOneWhenChecked,
+               .Fields = kCredentials},
     TextRow(kUserName),
     TextRow(kPassword),
     TextRow(kDomain),
@@ -215,36 +139,17 @@ constexpr TRow kAutoLoginRows[] = {
                  .Records = kTextOneWhenChecked},
 };
 
-constexpr const wchar_t* kNotice[] = {L"Checkbox_UserLogin_Message_Notify_ActiveShowMessage"};
-constexpr TField kNoticeTitle{L"Edit_UserLogin_Message_Notify_Title", Winlogon(L"LegalNoticeCaption")};
-constexpr TField kNoticeText{L"Edit_UserLogin_Message_Notify_Text", Winlogon(L"LegalNoticeText")};
-constexpr TField kNoticeFields[] = {kNoticeTitle, kNoticeText};
-
-// Special because the box has no value of its own: it writes or deletes those of its fields.
-void LoadNotice(TPageContext& context, const TSpecialRow& row) {
-    ShowBoxWithFields(context, row, kNoticeFields, Stored(context, row.Value).has_value());
-}
-
-void RecordNotice(TPageContext& context, const TSpecialRow& /*row*/, TComponent& sender) {
-    const bool checked = static_cast<TCheckBox&>(sender).Checked();
-    EnableFields(context, kNoticeFields, checked);
-    const auto record = [&](const std::wstring& changeName, const TField& field) {
-        if (checked)
-            RecordText(context, changeName, field.Value, EditOf(context, field).Text());
-        else
-            RecordDeletion(context, changeName, field.Value, L"");
-    };
-    record(sender.Name(), kNoticeTitle);
-    record(sender.Name() + L"1", kNoticeText);
-}
+constexpr TBoxField kNoticeTitle{L"Edit_UserLogin_Message_Notify_Title", Winlogon(L"LegalNoticeCaption"), L"",
+                                 L""};
+constexpr TBoxField kNoticeText{L"Edit_UserLogin_Message_Notify_Text", Winlogon(L"LegalNoticeText"), L"1",
+                                L""};
+constexpr TBoxField kNoticeFields[] = {kNoticeTitle, kNoticeText};
 
 constexpr TRow kMessageRows[] = {
-    TSpecialRow{.Controls = kNotice,
-                .Value = kNoticeTitle.Value,
-                .Rule = L"checked unless missing; writes the two fields' texts, or deletes this value and "
-                        L"`LegalNoticeText`",
-                .Load = LoadNotice,
-                .Record = RecordNotice},
+    TFieldsRow{.Control = L"Checkbox_UserLogin_Message_Notify_ActiveShowMessage",
+               .Value = kNoticeTitle.Value,
+               .Shows = {.Missing = kClear, .Otherwise = kChecked},
+               .Fields = kNoticeFields},
     TextRow(kNoticeTitle),
     TextRow(kNoticeText),
     TCheckBoxRow{.Control = L"Checkbox_UserLogin_Message_Logoff_ActiveShow",

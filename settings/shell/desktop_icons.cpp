@@ -1,18 +1,11 @@
 #include "settings/shell/desktop_icons.h"
 
-#include "settings/explorer_keys.h"
+#include "settings/page_context.h"
+#include "settings/row_shapes.h"
 #include "settings/store.h"
 #include "ui/controls.h"
 
 namespace {
-
-// Windows keeps a set of hidden icons for each of its two Start menus; its own dialog writes both.
-constexpr const wchar_t* kNewStartPanel =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideDesktopIcons\\NewStartPanel\\";
-constexpr const wchar_t* kClassicStartMenu =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideDesktopIcons\\ClassicStartMenu\\";
-constexpr const wchar_t* kHideMyComputerIcons =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideMyComputerIcons\\";
 
 // Class identifiers of the shell's folders.
 constexpr const wchar_t* kMyComputer = L"{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
@@ -119,13 +112,13 @@ constexpr TRow kMyComputerRows[] = {
                       L""}},
 };
 
-// "NoDrives" is a mask with one bit for each drive that is hidden, A: in the lowest. The list shows and changes them
+// Special because it is a list of drives: "NoDrives" is a mask with one bit for each drive that is hidden, A: in the lowest. The list shows and changes them
 // all, so no row of it has a fixed number to record.
 constexpr int kDriveCount = 26;
 constexpr std::uint32_t kAllDrives = (1U << kDriveCount) - 1;
 
 void LoadDrives(TPageContext& context, const TSpecialRow& row) {
-    const std::uint32_t mask = StoredBits(context, row.Value).value_or(0);
+    const std::uint32_t mask = StoredBits(context, row.Places[0]).value_or(0);
     std::vector<TListView::TRow> drives;
     drives.reserve(kDriveCount);
     for (int i = 0; i < kDriveCount; ++i)
@@ -135,23 +128,19 @@ void LoadDrives(TPageContext& context, const TSpecialRow& row) {
 }
 
 void RecordDrives(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    std::uint32_t mask = StoredBits(context, row.Value).value_or(0) & ~kAllDrives;
+    std::uint32_t mask = StoredBits(context, row.Places[0]).value_or(0) & ~kAllDrives;
     std::uint32_t bit = 1;
     for (const TListView::TRow& drive : static_cast<TListView&>(sender).Rows()) {
         if (drive.Checked) mask |= bit;
         bit <<= 1;
     }
-    RecordNumber(context, sender.Name(), row.Value, static_cast<std::int32_t>(mask));
+    RecordNumber(context, sender.Name(), row.Places[0], static_cast<std::int32_t>(mask));
 }
 
 constexpr const wchar_t* kDrives[] = {L"ListView_Folder_Drivers"};
+constexpr TPlace kNoDrives[] = {ExplorerPolicy(L"NoDrives")};
 constexpr TRow kDriveRows[] = {
-    TSpecialRow{
-        .Controls = kDrives,
-        .Value = {kCurrentUser, kExplorerPolicies, L"NoDrives"},
-        .Rule = L"a drive is checked while its bit is set, A: the lowest; changes these 26 bits alone",
-        .Load = LoadDrives,
-        .Record = RecordDrives},
+    TSpecialRow{.Controls = kDrives, .Places = kNoDrives, .Load = LoadDrives, .Record = RecordDrives},
 };
 
 constexpr TLoader kLoaders[] = {kDesktopRows, kMyComputerRows, kDriveRows};

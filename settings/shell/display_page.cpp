@@ -1,15 +1,8 @@
 #include "settings/shell/display_page.h"
 
-#include <algorithm>
-
-#include "settings/explorer_keys.h"
-#include "settings/shell/font_smoothing.h"
-#include "settings/store.h"
-#include "ui/controls.h"
+#include "settings/shared_rows.h"
 
 namespace {
-
-constexpr const wchar_t* kDesktop = L"\\Control Panel\\Desktop\\";
 
 TControlDesign EffectSheet() {
     return Sheet(
@@ -92,119 +85,48 @@ TControlDesign Design() {
         1, PageControl(L"PageControl_Display", EffectSheet(), AnimationSheet(), MenuSheet(), FontSheet()));
 }
 
-/// An option that is written in whatever type Windows keeps it.
-constexpr TCheckBoxRow Option(const wchar_t* control, const wchar_t* key, const wchar_t* valueName,
-                              bool restart = false) {
-    return {.Control = control,
-            .Value = {kCurrentUser, key, valueName},
-            .Shows = {.When = {{0, kClear}}, .Otherwise = kChecked},
-            .Records = {.Checked = AsStored(1), .Clear = AsStored(0)},
-            .Restart = restart};
-}
-
-// Special because the switch is a field of a structure (ANIMATIONINFO), which every change has of its own.
-constexpr std::uint32_t kGetAnimation = 0x48;  // SPI_GETANIMATION
-constexpr std::uint32_t kSetAnimation = 0x49;  // SPI_SETANIMATION
-constexpr std::uint8_t kAnimationSize = 8;     // cbSize, iMinAnimate
-
-std::vector<std::uint8_t> AnimationInfo(bool animates) {
-    return {kAnimationSize, 0, 0, 0, static_cast<std::uint8_t>(animates ? 1 : 0), 0, 0, 0};
-}
-
-void LoadMinimizeAnimation(TPageContext& context, const TSpecialRow& row) {
-    auto info = AnimationInfo(false);
-    const bool known = context.System.Parameters.Get(kGetAnimation, kAnimationSize, info);
-    const bool animates =
-        known && std::any_of(info.begin() + 4, info.end(), [](auto byte) { return byte != 0; });
-    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(animates);
-}
-
-void RecordMinimizeAnimation(TPageContext& context, const TSpecialRow& /*row*/, TComponent& sender) {
-    RecordParameter(context, sender.Name(), kSetAnimation, kAnimationSize,
-                    AnimationInfo(static_cast<TCheckBox&>(sender).Checked()));
-}
-
-void RecordSmoothing(TPageContext& context, const TSpecialRow& /*row*/, TComponent& sender) {
-    RecordFontSmoothing(context, L"CBfontset", static_cast<TComboBox&>(sender));
-}
-
-constexpr const wchar_t* kMaxAndMin[] = {L"Checkbox_Display_Animation_MessageAndAnimation_MaxAndMin"};
-constexpr const wchar_t* kSmoothType[] = {L"CB_Display_FontSmooth_SmoothType"};
-
 // The numbers are the codes of SystemParametersInfo, SPI_GET… and SPI_SET….
 constexpr TRow kRows[] = {
-    TParameterSwitchRow{.Control = L"CheckBox_Display_Effect_DisplayAndEffectSettings_Title",
-                        .Get = 0x1008,  // …GRADIENTCAPTIONS
-                        .Set = 0x1009},
-    TParameterSwitchRow{.Control = L"Checkbox_Display_Effect_BehaviorSettings_Keyboard",
-                        .Get = 0x100A,  // …KEYBOARDCUES
-                        .Set = 0x100B},
-    TParameterSwitchRow{.Control = L"Checkbox_Display_Effect_BehaviorSettings_ToolTip",
-                        .Get = 0x100E,  // …HOTTRACKING
-                        .Set = 0x100F,
-                        .Restart = true},
-    TParameterSwitchRow{.Control = L"Checkbox_Display_Animation_DynamicElements_ComboBox",
-                        .Get = 0x1004,  // …COMBOBOXANIMATION
-                        .Set = 0x1005},
-    TParameterSwitchRow{.Control = L"Checkbox_Display_Animation_DynamicElements_SmoothListBox",
-                        .Get = 0x1006,  // …LISTBOXSMOOTHSCROLLING
-                        .Set = 0x1007,
-                        .Restart = true},
-    TParameterSwitchRow{.Control = L"Checkbox_Display_MenuAppearance_WindowsAndMessage_UseType",
-                        .Get = 0x1002,  // …MENUANIMATION
-                        .Set = 0x1003,
-                        .Toggles = L"CB_Display_MenuAppearance_WindowsAndMessage_UseType"},
-    TParameterSwitchRow{.Control = L"CheckBox_Display_Effect_DisplayAndEffectSettings_CurSh",
-                        .Get = 0x101A,  // …CURSORSHADOW
-                        .Set = 0x101B},
-    TParameterSwitchRow{.Control = L"Checkbox_Display_Animation_MessageAndAnimation_ToolTip",
-                        .Get = 0x1016,  // …TOOLTIPANIMATION
-                        .Set = 0x1017,
-                        .Toggles = L"CB_Display_Animation_MessageAndAnimation_ToolTipType"},
-    TParameterSwitchRow{.Control = L"CB_Display_Animation_MessageAndAnimation_ToolTipType",
-                        .Get = 0x1018,  // …TOOLTIPFADE
-                        .Set = 0x1019},
-    TParameterSwitchRow{.Control = L"Checkbox_Display_MenuAppearance_WindowsAndMessage_Click",
-                        .Get = 0x1014,  // …SELECTIONFADE
-                        .Set = 0x1015},
-    TParameterSwitchRow{.Control = L"CB_Display_MenuAppearance_WindowsAndMessage_UseType",
-                        .Get = 0x1012,  // …MENUFADE
-                        .Set = 0x1013},
-    TParameterSwitchRow{.Control = L"Checkbox_Display_MenuAppearance_DynamicElements_GraphicMenu",
-                        .Get = 0x1022,  // …FLATMENU
-                        .Set = 0x1023,
-                        .LoadedOn = kSinceXp},
-    TParameterSwitchRow{.Control = L"Checkbox_Display_MenuAppearance_DynamicElements_MenuShadow",
-                        .Get = 0x1024,  // …DROPSHADOW
-                        .Set = 0x1025,
-                        .LoadedOn = kSinceXp},
-    Option(L"Checkbox_Display_Effect_BehaviorSettings_DesktopWinVersion", kDesktop, L"PaintDesktopVersion",
-           true),
-    TParameterSwitchRow{.Control = L"CheckBox_Display_Effect_DisplayAndEffectSettings_Drag",
-                        .Get = 0x26,  // …DRAGFULLWINDOWS
-                        .Set = 0x25,
-                        .Slot = TParameterSlot::Param},
+    ParameterBox(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Title",
+                 Effect(0x1008)),  // …GRADIENTCAPTIONS
+    ParameterBox(L"Checkbox_Display_Effect_BehaviorSettings_Keyboard", Effect(0x100A)),  // …KEYBOARDCUES
+    WithRestart(
+        ParameterBox(L"Checkbox_Display_Effect_BehaviorSettings_ToolTip", Effect(0x100E))),  // …HOTTRACKING
+    ParameterBox(L"Checkbox_Display_Animation_DynamicElements_ComboBox",
+                 Effect(0x1004)),  // …COMBOBOXANIMATION
+    WithRestart(ParameterBox(L"Checkbox_Display_Animation_DynamicElements_SmoothListBox",
+                             Effect(0x1006))),  // …LISTBOXSMOOTHSCROLLING
+    ParameterBox(L"Checkbox_Display_MenuAppearance_WindowsAndMessage_UseType", Effect(0x1002),
+                 L"CB_Display_MenuAppearance_WindowsAndMessage_UseType"),  // …MENUANIMATION
+    ParameterBox(L"CheckBox_Display_Effect_DisplayAndEffectSettings_CurSh", Effect(0x101A)),  // …CURSORSHADOW
+    ParameterBox(L"Checkbox_Display_Animation_MessageAndAnimation_ToolTip", Effect(0x1016),
+                 L"CB_Display_Animation_MessageAndAnimation_ToolTipType"),  // …TOOLTIPANIMATION
+    ParameterList(L"CB_Display_Animation_MessageAndAnimation_ToolTipType", Effect(0x1018)),  // …TOOLTIPFADE
+    ParameterBox(L"Checkbox_Display_MenuAppearance_WindowsAndMessage_Click",
+                 Effect(0x1014)),  // …SELECTIONFADE
+    ParameterList(L"CB_Display_MenuAppearance_WindowsAndMessage_UseType", Effect(0x1012)),  // …MENUFADE
+    ReadOn(kSinceXp, ParameterBox(L"Checkbox_Display_MenuAppearance_DynamicElements_GraphicMenu",
+                                  Effect(0x1022))),  // …FLATMENU
+    ReadOn(kSinceXp, ParameterBox(L"Checkbox_Display_MenuAppearance_DynamicElements_MenuShadow",
+                                  Effect(0x1024))),  // …DROPSHADOW
+    WindowsVersionRow(L"Checkbox_Display_Effect_BehaviorSettings_DesktopWinVersion"),
+    DragFullWindowsRow(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Drag"),
     TCheckBoxRow{.Control = L"Checkbox_Display_Animation_DynamicElements_ListAndTree",
                  .Value = {kCurrentUser, kDesktop, L"SmoothScroll"},
                  .Shows = {.When = {{kEmptyOrZero, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = AsStored(1), .Clear = AsStored(0)}},
-    TSpecialRow{.Controls = kSmoothType,
-                .Value = kFontSmoothing,
-                .Rule = kFontSmoothingRule,
-                .Load = LoadFontSmoothing,
-                .Record = RecordSmoothing},
-    Option(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Background", kExplorerAdvanced,
-           L"ListviewWatermark"),
-    Option(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Rect", kExplorerAdvanced,
-           L"ListviewAlphaSelect"),
-    Option(L"CheckBox_Display_Effect_DisplayAndEffectSettings_DesktopShadow", kExplorerAdvanced,
-           L"ListviewShadow"),
-    Option(L"Checkbox_Display_Effect_BehaviorSettings_Folder", kExplorerAdvanced, L"WebView", true),
-    TSpecialRow{.Controls = kMaxAndMin,
-                .Value = {kCurrentUser, L"\\Control Panel\\Desktop\\WindowMetrics\\", L"MinAnimate"},
-                .Rule = L"the system parameter 0x48 (ANIMATIONINFO); set by 0x49",
-                .Load = LoadMinimizeAnimation,
-                .Record = RecordMinimizeAnimation},
+    FontSmoothingRow(L"CB_Display_FontSmooth_SmoothType", L"CBfontset"),
+    TypeKeepingBox(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Background", kExplorerAdvanced,
+                   L"ListviewWatermark"),
+    TypeKeepingBox(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Rect", kExplorerAdvanced,
+                   L"ListviewAlphaSelect"),
+    TypeKeepingBox(L"CheckBox_Display_Effect_DisplayAndEffectSettings_DesktopShadow", kExplorerAdvanced,
+                   L"ListviewShadow"),
+    WithRestart(
+        TypeKeepingBox(L"Checkbox_Display_Effect_BehaviorSettings_Folder", kExplorerAdvanced, L"WebView")),
+    // iMinAnimate, with cbSize before it.
+    ParameterBox(L"Checkbox_Display_Animation_MessageAndAnimation_MaxAndMin",
+                 BlockParameter(0x48, 0x49, 8, 4)),  // …ANIMATION
 };
 
 constexpr TLoader kLoaders[] = {kRows};

@@ -1,18 +1,8 @@
 #include "settings/shell/drives_page.h"
 
-#include "settings/store.h"
-#include "ui/controls.h"
+#include "settings/shared_rows.h"
 
 namespace {
-
-constexpr const wchar_t* kExplorerPolicies =
-    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\policies\\Explorer\\";
-constexpr const wchar_t* kUserExplorerPolicies =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
-constexpr const wchar_t* kFileSystem = L"\\SYSTEM\\CurrentControlSet\\Control\\FileSystem\\";
-constexpr const wchar_t* kCdrom = L"\\SYSTEM\\CurrentControlSet\\Services\\Cdrom\\";
-constexpr const wchar_t* kIdeController =
-    L"\\SYSTEM\\CurrentControlSet\\Control\\Class\\{4D36E96A-E325-11CE-BFC1-08002BE10318}\\0000\\";
 
 TControlDesign Design() {
     return NotebookPage(
@@ -49,72 +39,39 @@ constexpr TRow kCommonRows[] = {
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Restart = true},
-    // NTFS stamps every file it touches unless this value is 1.
-    TCheckBoxRow{.Control = L"Checkbox_Drives_Common_NTFS_SaveLastVisitData",
-                 .Value = {kLocalMachine, kFileSystem, L"NtfsDisableLastAccessUpdate"},
-                 .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+    LastAccessRow(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData"),
     TCheckBoxRow{.Control = L"Checkbox_Drives_Common_NTFS_SaveShortName",
                  .Value = {kLocalMachine, kFileSystem, L"NtfsDisable8dot3NameCreation"},
                  .Shows = {.When = {{1, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
 };
 
-constexpr TRow kDiskSpaceRows[] = {
-    TCheckBoxRow{.Control = L"Checkbox_Drives_DiskSpace_SpaceWarn_ShowWarn",
-                 .Value = {kCurrentUser, kExplorerPolicies, L"NoLowDiskSpaceChecks"},
-                 .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-                 .Restart = true},
-};
+constexpr TRow kDiskSpaceRows[] = {DiskSpaceRow(L"Checkbox_Drives_DiskSpace_SpaceWarn_ShowWarn")};
 
 // "NoDriveTypeAutoRun" is a mask with one bit for each drive type whose AutoPlay is off (the types of
-// GetDriveTypeW). Two boxes change a bit each, so no fixed number can be recorded: the others must stay.
-constexpr std::int32_t kRemovableDrives = 0x04;
-constexpr std::int32_t kCdDrives = 0x20;
+// GetDriveTypeW). Without a stored mask the bit is set whatever the box says: the system's default mask is not known here.
+constexpr std::uint32_t kRemovableDrives = 0x04;
+constexpr std::uint32_t kCdDrives = 0x20;
 
-void LoadAutoPlay(TPageContext& context, const TSpecialRow& row) {
-    const auto mask = StoredBits(context, row.Value);
-    const auto bit = static_cast<std::uint32_t>(row.Parameter);
-    if (mask) context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked((*mask & bit) == 0);
+constexpr TCheckBoxRow AutoPlay(const wchar_t* control, std::uint32_t driveType) {
+    return {.Control = control,
+            .Value = Bits(driveType, ExplorerPolicy(L"NoDriveTypeAutoRun")),
+            .Shows = {.When = {{0, kChecked}}, .Otherwise = kClear},
+            .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+            .RecordsWhenMissing = Dword(1)};
 }
-
-void RecordAutoPlay(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    const auto mask = StoredBits(context, row.Value);
-    const auto bit = static_cast<std::uint32_t>(row.Parameter);
-    // Without a stored mask the bit is set whatever the box says: the system's default mask is not known here.
-    std::uint32_t changed = bit;
-    if (mask) changed = static_cast<TCheckBox&>(sender).Checked() ? *mask & ~bit : *mask | bit;
-    RecordNumber(context, sender.Name(), row.Value, static_cast<std::int32_t>(changed));
-}
-
-constexpr TPlace kAutoPlayMask{kCurrentUser, kUserExplorerPolicies, L"NoDriveTypeAutoRun"};
-constexpr const wchar_t* kRemovableMedia[] = {L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia"};
-constexpr const wchar_t* kDvd[] = {L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD"};
-constexpr const wchar_t* kAutoPlayRule =
-    L"checked while the drive type's bit is clear; changes that bit alone";
 
 constexpr TRow kAutoPlayRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable",
-                 .Value = {kLocalMachine, kExplorerPolicies, L"CDRAutoRun"},
+                 .Value = {kLocalMachine, kExplorerPoliciesUpper, L"CDRAutoRun"},
                  .Shows = {.Missing = kChecked, .When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = {kLocalMachine, kCdrom, L"Autorun"},
+                                        .Value = {kLocalMachine, kCdromService, L"Autorun"},
                                         .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
                  .Restart = true},
-    TSpecialRow{.Controls = kRemovableMedia,
-                .Value = kAutoPlayMask,
-                .Rule = kAutoPlayRule,
-                .Load = LoadAutoPlay,
-                .Record = RecordAutoPlay,
-                .Parameter = kRemovableDrives},
-    TSpecialRow{.Controls = kDvd,
-                .Value = kAutoPlayMask,
-                .Rule = kAutoPlayRule,
-                .Load = LoadAutoPlay,
-                .Record = RecordAutoPlay,
-                .Parameter = kCdDrives},
+    AutoPlay(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia", kRemovableDrives),
+    AutoPlay(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD", kCdDrives),
 };
 
 constexpr TLoader kLoaders[] = {kCommonRows, kDiskSpaceRows, kAutoPlayRows};

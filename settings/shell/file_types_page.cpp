@@ -2,7 +2,7 @@
 
 #include "engine/reg_value.h"
 #include "platform/text.h"
-#include "settings/explorer_keys.h"
+#include "settings/shared_rows.h"
 #include "settings/store.h"
 #include "ui/controls.h"
 
@@ -64,11 +64,6 @@ TControlDesign Design() {
 /// The default value of a key in the classes of files.
 constexpr TPlace DefaultOf(const wchar_t* key) { return {kClassesRoot, key, L""}; }
 
-// A menu entry is there while its key has a default value, whatever it is, and goes with the whole key. The
-// spellings that are read and written differ in case and in the last backslash only; to Windows they are one
-// key.
-constexpr TBoxRule kShowsWhileRegistered{.Missing = kClear, .Otherwise = kChecked};
-
 constexpr TRow kMenuOperationRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_Drive_OpenDrive",
                  .Value = DefaultOf(L"\\Folder\\shell\\Menu_root\\"),
@@ -79,15 +74,7 @@ constexpr TRow kMenuOperationRows[] = {
                                         .Records = {.Checked = Text(L"Explorer.exe /e,/root,/idlist,%I"),
                                                     .Clear = kNothing}},
                  .LoadedFrom = DefaultOf(L"\\Folder\\shell\\Menu_root")},
-    TCheckBoxRow{
-        .Control = L"Checkbox_FileType_MenuOperation_Drive_OpenCmd",
-        .Value = DefaultOf(L"\\Directory\\shell\\Menu_CMD\\"),
-        .Shows = kShowsWhileRegistered,
-        .Records = {.Checked = Translated(TCaption::OpenCmd), .Clear = kDeleteKey},
-        .Further = TBoxFurther{.Suffix = L"1",
-                               .Value = DefaultOf(L"\\Directory\\shell\\Menu_CMD\\Command\\"),
-                               .Records = {.Checked = Text(L"cmd.exe /k \"cd %L\""), .Clear = kNothing}},
-        .LoadedFrom = DefaultOf(L"\\Directory\\shell\\Menu_Cmd")},
+    OpenCmdRow(L"Checkbox_FileType_MenuOperation_Drive_OpenCmd"),
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_SendTo",
                  .Value = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Send To\\"),
                  .Shows = kShowsWhileRegistered,
@@ -103,12 +90,10 @@ constexpr TRow kMenuOperationRows[] = {
                  .Shows = kShowsWhileRegistered,
                  .Records = {.Checked = Text(L"{C2FBB631-2971-11D1-A18C-00C04FD75D13}"), .Clear = kDeleteKey},
                  .LoadedFrom = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Move To")},
-    TCheckBoxRow{
-        .Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_Encryption",
-        .Value = {kLocalMachine, L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\",
-                  L"EncryptionContextMenu"},
-        .Shows = {.When = {{L"1", kChecked}}, .Otherwise = kClear},
-        .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+    TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_Encryption",
+                 .Value = {kLocalMachine, kExplorerAdvancedUpper, L"EncryptionContextMenu"},
+                 .Shows = {.When = {{L"1", kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
     TCheckBoxRow{
         .Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_New",
         .Value = DefaultOf(L"\\Directory\\Background\\shellex\\ContextMenuHandlers\\New\\"),
@@ -126,10 +111,11 @@ constexpr const wchar_t* kUnknownRadios[] = {L"Radio_FileType_OpenFile_DefaultPr
                                              L"Radio_FileType_OpenFile_DefaultPrograme_Open"};
 constexpr const wchar_t* kNoEndExeRadios[] = {L"Radio_FileType_OpenFile_NoEndExe_OpenWith",
                                               L"Radio_FileType_OpenFile_NoEndExe_Open"};
-constexpr const wchar_t* kUnknownChangeButton[] = {kUnknownChange};
-constexpr const wchar_t* kNoEndExeChangeButton[] = {kNoEndExeChange};
-
 constexpr const wchar_t* kAskByDialog = L"openas";  // the verb that shows the "Open With" dialog
+constexpr TPlace kUnknownPlaces[] = {DefaultOf(L"\\Unknown\\shell\\"),
+                                     DefaultOf(L"\\Unknown\\shell\\open\\Command\\")};
+constexpr TPlace kNoEndExePlaces[] = {DefaultOf(L"\\.\\shell\\open\\"),
+                                      DefaultOf(L"\\.\\shell\\open\\Command\\")};
 constexpr TPlace kNoInternetOpenWith{kCurrentUser, kExplorerPolicies, L"NoInternetOpenWith"};
 
 void EnableUnknown(const TPageContext& context, TOpening opening) {
@@ -139,7 +125,7 @@ void EnableUnknown(const TPageContext& context, TOpening opening) {
 }
 
 void LoadUnknown(TPageContext& context, const TSpecialRow& row) {
-    const auto verb = Stored(context, row.Value);
+    const auto verb = Stored(context, row.Places[0]);
     const TOpening opening = !verb || AsText(*verb) == kAskByDialog ? kWithDialog : kWithProgram;
     context.Form.Find<TRadioButton>(row.Controls[opening])->SetChecked(true);
     EnableUnknown(context, opening);
@@ -154,11 +140,10 @@ std::wstring UnknownCommand(const TPageContext& context) {
 void RecordUnknown(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
     const TOpening opening = sender.Name() == row.Controls[kWithProgram] ? kWithProgram : kWithDialog;
     if (opening == kWithProgram) {
-        RecordText(context, sender.Name() + L"1", row.Value, L"open");
-        RecordText(context, sender.Name() + L"2", DefaultOf(L"\\Unknown\\shell\\open\\Command\\"),
-                   UnknownCommand(context));
+        RecordText(context, sender.Name() + L"1", row.Places[0], L"open");
+        RecordText(context, sender.Name() + L"2", row.Places[1], UnknownCommand(context));
     } else {
-        RecordText(context, sender.Name(), row.Value, kAskByDialog);
+        RecordText(context, sender.Name(), row.Places[0], kAskByDialog);
     }
     EnableUnknown(context, opening);
 }
@@ -181,96 +166,44 @@ void LoadNoEndExe(TPageContext& context, const TSpecialRow& row) {
 void RecordNoEndExe(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
     const TOpening opening = sender.Name() == row.Controls[kWithProgram] ? kWithProgram : kWithDialog;
     if (opening == kWithProgram)
-        RecordText(context, sender.Name(), DefaultOf(L"\\.\\shell\\open\\Command\\"),
-                   UnknownCommand(context));
+        RecordText(context, sender.Name(), row.Places[1], UnknownCommand(context));
     else
-        Record(context, sender.Name(), row.Value, kDeleteKey);
+        Record(context, sender.Name(), row.Places[0], kDeleteKey);
     EnableNoEndExe(context, opening);
 }
 
-/// The edit that shows the command line of a Change button's group.
-TEdit& CommandEdit(const TPageContext& context, const TSpecialRow& row) {
-    const bool isUnknown = std::wstring_view(row.Controls[0]) == kUnknownChange;
-    return *context.Form.Find<TEdit>(isUnknown ? kUnknownEdit : kNoEndExeEdit);
-}
-
-void LoadCommand(TPageContext& context, const TSpecialRow& row) {
-    if (const auto command = Stored(context, row.Value)) CommandEdit(context, row).SetText(AsText(*command));
-}
-
-void ChooseProgram(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    const auto path = context.System.Dialogs.OpenFile(
-        context.Form, context.Captions[TCaption::ExeFile] + L"(*.exe,*.com,*.bat)|*.exe;*.com;*.bat;|" +
-                          context.Captions[TCaption::AllFile] + L"(*.*)|*.*;");
-    if (!path) return;
-    const std::wstring command = L'"' + *path + L"\" \"%1\"";
-    CommandEdit(context, row).SetText(command);
-    RecordText(context, sender.Name(), row.Value, command);
-}
-
-constexpr const wchar_t* kCommandRule =
-    L"its edit shows the command line; a press lets the user choose the program and records it";
-
 constexpr TRow kOpenFileRows[] = {
+    // Special because the verb and its command are two entries, of which none may share its name with the dialog's.
     TSpecialRow{
-        .Controls = kUnknownRadios,
-        .Value = DefaultOf(L"\\Unknown\\shell\\"),
-        .Rule = L"the first while missing or \"openas\", which it records; the second records \"open\" and "
-                L"the command",
-        .Load = LoadUnknown,
-        .Record = RecordUnknown},
-    TSpecialRow{.Controls = kUnknownChangeButton,
-                .Value = DefaultOf(L"\\Unknown\\shell\\open\\command\\"),
-                .Rule = kCommandRule,
-                .Load = LoadCommand,
-                .Record = ChooseProgram},
+        .Controls = kUnknownRadios, .Places = kUnknownPlaces, .Load = LoadUnknown, .Record = RecordUnknown},
+    TProgramRow{.Button = kUnknownChange,
+                .Edit = kUnknownEdit,
+                .Value = DefaultOf(L"\\Unknown\\shell\\open\\command\\")},
     TCheckBoxRow{.Control = kNet,
                  .Value = kNoInternetOpenWith,
                  .Shows = {.When = {{L"0", kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
-    TSpecialRow{
-        .Controls = kNoEndExeRadios,
-        .Value = DefaultOf(L"\\.\\shell\\open\\"),
-        .Rule = L"the second while \"NoInternetOpenWith\" is missing; the first deletes the key, the second "
-                L"records the command for files of unknown type",
-        .Load = LoadNoEndExe,
-        .Record = RecordNoEndExe},
-    TSpecialRow{.Controls = kNoEndExeChangeButton,
-                .Value = DefaultOf(L"\\.\\shell\\open\\command\\"),
-                .Rule = kCommandRule,
-                .Load = LoadCommand,
-                .Record = ChooseProgram},
+    // Special because it shows the value of another setting and takes its command from another edit.
+    TSpecialRow{.Controls = kNoEndExeRadios,
+                .Places = kNoEndExePlaces,
+                .Load = LoadNoEndExe,
+                .Record = RecordNoEndExe},
+    TProgramRow{
+        .Button = kNoEndExeChange, .Edit = kNoEndExeEdit, .Value = DefaultOf(L"\\.\\shell\\open\\command\\")},
 };
 
 // New shortcuts are called "Shortcut to …" unless the first byte of "link" is 0. The byte is more than a
-// switch (Windows itself starts with 0x1E), so bits are added to what stands there; the other bytes stay as
-// they are.
-constexpr TPlace kLink{kCurrentUser, L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\", L"link"};
-constexpr std::uint8_t kAddsHead = 0x0F;
-
-void LoadAddHead(TPageContext& context, const TSpecialRow& row) {
-    const auto link = Stored(context, row.Value);
-    if (!link) return;
-    const TBytes bytes = AsBytes(*link);
-    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(!bytes.empty() && bytes[0] != 0);
-}
-
-void RecordAddHead(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    TBytes bytes = AsBytes(Stored(context, row.Value).value_or(TRegValue{}));
-    if (bytes.empty()) bytes.push_back(0);
-    bytes[0] = static_cast<TCheckBox&>(sender).Checked() ? bytes[0] | kAddsHead : 0;
-    RecordBytes(context, sender.Name(), row.Value, bytes);
-}
-
-constexpr const wchar_t* kAddHead[] = {L"Checkbox_FileType_Advanced_NewShortcut_AddHead"};
+// switch (Windows itself starts with 0x1E), so bits are added to what stands there.
+constexpr TPlace kLink{kCurrentUser, kExplorer, L"link"};
+constexpr std::int32_t kAddsHead = 0x0F;
+constexpr const wchar_t* kAddHead = L"Checkbox_FileType_Advanced_NewShortcut_AddHead";
 
 constexpr TRow kAdvancedRows[] = {
-    TSpecialRow{.Controls = kAddHead,
-                .Value = kLink,
-                .Rule = L"checked unless the first byte is 0; sets the bits 0x0F of it or makes it 0",
-                .Load = LoadAddHead,
-                .Record = RecordAddHead,
-                .Restart = true},
+    TCheckBoxRow{.Control = kAddHead,
+                 .Value = As(TCoding::FirstByte, kLink),
+                 .Shows = {.When = {{0, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = SetBits(kAddsHead), .Clear = Dword(0)},
+                 .Restart = true},
     // Whether the preview is registered is deliberately not asked, so that another viewer's change does not clear the
     // box: it starts from whether Explorer has kept a "link" for the user. Clearing takes only the right to be the
     // default from the preview: the pictures' menu keeps its entry.
@@ -300,7 +233,7 @@ constexpr TPresetState kOpenFileDefault[] = {
     {kNet, 1},
     {kNoEndExeRadios[kWithDialog], 1},
 };
-constexpr TPresetState kAdvancedDefault[] = {{kAddHead[0], 1}, {kOpenPicture, 1}};
+constexpr TPresetState kAdvancedDefault[] = {{kAddHead, 1}, {kOpenPicture, 1}};
 constexpr TPreset kPresets[] = {
     {L"Button_FileType_MenuOperation_Default", kMenuOperationDefault},
     {L"Button_FileType_OpenFile_Default", kOpenFileDefault},

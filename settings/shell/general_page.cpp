@@ -1,22 +1,7 @@
 #include "settings/shell/general_page.h"
 
-#include <array>
-#include <stdexcept>
-
-#include "settings/net/firefox_home_page.h"
-#include "settings/net/privacy_page.h"
 #include "settings/net/security_switches.h"
-#include "settings/shell/admin_tools.h"
-#include "settings/shell/display_page.h"
-#include "settings/shell/drives_page.h"
-#include "settings/shell/file_types_page.h"
-#include "settings/shell/folder_page.h"
-#include "settings/shell/font_smoothing.h"
-#include "settings/shell/input_page.h"
-#include "settings/shell/memory_page.h"
-#include "settings/shell/minimized_windows.h"
-#include "settings/shell/startup_page.h"
-#include "settings/shell/taskbar_page.h"
+#include "settings/shared_rows.h"
 #include "ui/controls.h"
 
 namespace {
@@ -104,28 +89,6 @@ TControlDesign Design() {
                                         SecuritySheet(), OthersSheet()));
 }
 
-/// The row of another page, for a control of this one. What depends on the original stays on its own page.
-TRow Repeat(const TPageDefinition& page, const std::wstring& original, const wchar_t* control) {
-    for (const TLoader& loader : page.Loaders) {
-        for (TRow row : loader) {
-            const bool found = std::visit(
-                [&](auto& kind) {
-                    if constexpr (requires { kind.Control; }) {
-                        if (kind.Control != original) return false;
-                        kind.Control = control;
-                        if constexpr (requires { kind.Enables; }) kind.Enables = kind.EnablesOnClick = {};
-                        if constexpr (requires { kind.Toggles; }) kind.Toggles = nullptr;
-                        return true;
-                    }
-                    return false;
-                },
-                row);
-            if (found) return row;
-        }
-    }
-    throw std::logic_error("no such row to repeat");
-}
-
 bool IsFirefoxMarked(const TPageContext& context) { return context.FirefoxChanged; }
 bool IsCenterMarked(const TPageContext& context) {
     return context.SecurityCenterAction != TServiceAction::Nothing;
@@ -169,82 +132,47 @@ constexpr TTwin kTwins[] = {
     {L"Checkbox_CommonSettings_Others_Message_Beep", L"Checkbox_Startup_Error_Sound_beep"},
 };
 
-/// The row of the control's twin, which lies on that page.
-TRow RepeatTwin(const TPageDefinition& page, const std::wstring& control) {
-    for (const TTwin& twin : kTwins)
-        if (twin.Control == control) return Repeat(page, twin.Twin, twin.Control);
-    throw std::logic_error("no twin to repeat");
-}
+constexpr const wchar_t* kHomePage = L"Edit_CommonSettings_Display_FirefoxHomepage_HomePage";
+constexpr const wchar_t* kActiveSC = L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveSC";
+constexpr const wchar_t* kStartWF = L"ChkeckBox_CommonSettings_Security_SecuritySettings_StartWF";
+constexpr const wchar_t* kAdminTools = L"Checkbox_CommonSettings_Display_StartMenu_AdminTools";
+constexpr const wchar_t* kAutoUpdateType[] = {L"CB_CommonSettings_Security_SecuritySettings_AutoUpdateType"};
+constexpr auto kMinimizedLists =
+    MinimizedLists(L"CB_CommonSettings_Display_MinWindow_Arrange",
+                   L"CB_CommonSettings_Display_MinWindow_Left", L"CB_CommonSettings_Display_MinWindow_Top");
 
-constexpr const wchar_t* kMinimizedLists[] = {L"CB_CommonSettings_Display_MinWindow_Arrange",
-                                              L"CB_CommonSettings_Display_MinWindow_Left",
-                                              L"CB_CommonSettings_Display_MinWindow_Top"};
-constexpr const wchar_t* kAdminTools[] = {L"Checkbox_CommonSettings_Display_StartMenu_AdminTools"};
-constexpr const wchar_t* kHomePage[] = {L"Edit_CommonSettings_Display_FirefoxHomepage_HomePage"};
-constexpr const wchar_t* kActiveSC[] = {L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveSC"};
-constexpr const wchar_t* kStartWF[] = {L"ChkeckBox_CommonSettings_Security_SecuritySettings_StartWF"};
-constexpr const wchar_t* kActiveAU[] = {L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveAU",
-                                        L"CB_CommonSettings_Security_SecuritySettings_AutoUpdateType"};
-constexpr const wchar_t* kSmoothType[] = {L"CB_CommonSettings_Others_Font_SmoothType"};
-
-// The box goes with the firewall, as its group does on the network page.
-void LoadStartWF(TPageContext& context, const TSpecialRow& row) {
-    LoadFirewall(context, row);
-    context.Form.Find(row.Controls[0])->SetVisible(HasFirewall(context));
-}
-
-void RecordSmoothing(TPageContext& context, const TSpecialRow& /*row*/, TComponent& sender) {
-    RecordFontSmoothing(context, L"norCBfont", static_cast<TComboBox&>(sender));
-}
-
-/// The rows are those of other pages, which are asked for them when the page is first wanted.
-struct TGeneralCatalogue {
-    const std::vector<TRow> Display{
-        RepeatTwin(DisplayPage(), L"Checkbox_CommonSettings_Display_Desktop_WinVersion"),
-        RepeatTwin(DisplayPage(), L"Checkbox_CommonSettings_Display_Desktop_Drag"),
-        MinimizedWindowsRow(kMinimizedLists),
-        AdminToolsRow(kAdminTools),
-        FirefoxHomePageRow(kHomePage),
-    };
-    const std::vector<TRow> Function{
-        RepeatTwin(InputPage(), L"UpDownCur_CommonSettings_Function_CursorWidth_Width"),
-        RepeatTwin(InputPage(), L"Checkbox_CommonSettings_Function_Keyboard_WinKey"),
-        RepeatTwin(FolderPage(), L"Checkbox_CommonSettings_Function_Explorer_Restore"),
-        RepeatTwin(FileTypesPage(), L"Checkbox_CommonSettings_Function_Explorer_OpenCmd"),
-        RepeatTwin(StartupPage(), L"Checkbox_CommonSettings_Function_Explorer_AutoRun"),
-        RepeatTwin(DrivesPage(), L"Checkbox_CommonSettings_Function_Drives_LastVisit"),
-        RepeatTwin(DrivesPage(), L"Checkbox_CommonSettings_Function_Drives_SpaceWarn"),
-    };
-    const std::vector<TRow> Security{
-        TSpecialRow{.Controls = kActiveSC,
-                    .Value = kSecurityCenterStart,
-                    .Rule = kSecurityCenterRule,
-                    .Load = LoadSecurityCenter,
-                    .Record = RecordSecurityCenter},
-        TSpecialRow{.Controls = kStartWF,
-                    .Value = kFirewallEnabled,
-                    .Rule = kFirewallRule,
-                    .Load = LoadStartWF,
-                    .Record = RecordFirewall},
-        TSpecialRow{.Controls = kActiveAU,
-                    .Value = kAutoUpdateOptions,
-                    .Rule = kAutoUpdateRule,
-                    .Load = LoadAutoUpdate,
-                    .Record = RecordAutoUpdate},
-        RepeatTwin(PrivacyPage(), L"Checkbox_CommonSettings_Security_Traces_ClearLogoff"),
-        RepeatTwin(MemoryPage(), L"Checkbox_CommonSettings_Security_Traces_Pagefile"),
-    };
-    const std::vector<TRow> Others{
-        TSpecialRow{.Controls = kSmoothType,
-                    .Value = kFontSmoothing,
-                    .Rule = kFontSmoothingRule,
-                    .Load = LoadFontSmoothing,
-                    .Record = RecordSmoothing},
-        RepeatTwin(TaskbarPage(), L"Checkbox_CommonSettings_Others_Message_Balloons"),
-        RepeatTwin(StartupPage(), L"Checkbox_CommonSettings_Others_Message_Beep"),
-    };
-    const std::array<TLoader, 4> Loaders{Display, Function, Security, Others};
+constexpr TRow kDisplayRows[] = {
+    WindowsVersionRow(L"Checkbox_CommonSettings_Display_Desktop_WinVersion"),
+    DragFullWindowsRow(L"Checkbox_CommonSettings_Display_Desktop_Drag"),
+    MinimizedWindowsRow(kMinimizedLists),
+    AdminToolsRow(kAdminTools, kUntil2000),
+    AdminToolsRow(kAdminTools, kSinceXp),
+    FirefoxHomePageRow(kHomePage),
 };
+constexpr TRow kFunctionRows[] = {
+    CaretWidthRow(L"UpDownCur_CommonSettings_Function_CursorWidth_Width"),
+    WindowsKeyRow(L"Checkbox_CommonSettings_Function_Keyboard_WinKey"),
+    RestoreFoldersRow(L"Checkbox_CommonSettings_Function_Explorer_Restore"),
+    OpenCmdRow(L"Checkbox_CommonSettings_Function_Explorer_OpenCmd"),
+    AutoRestartExplorerRow(L"Checkbox_CommonSettings_Function_Explorer_AutoRun"),
+    LastAccessRow(L"Checkbox_CommonSettings_Function_Drives_LastVisit"),
+    DiskSpaceRow(L"Checkbox_CommonSettings_Function_Drives_SpaceWarn"),
+};
+constexpr TRow kSecurityRows[] = {
+    SecurityCenterRow(kActiveSC),
+    FirewallServiceRow(kStartWF),
+    FirewallRow(kStartWF),
+    AutoUpdateRow(L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveAU", kAutoUpdateType),
+    ClearRecentDocumentsRow(L"Checkbox_CommonSettings_Security_Traces_ClearLogoff"),
+    ClearPagefileRow(L"Checkbox_CommonSettings_Security_Traces_Pagefile"),
+};
+constexpr TRow kOthersRows[] = {
+    FontSmoothingRow(L"CB_CommonSettings_Others_Font_SmoothType", L"norCBfont"),
+    BalloonTipsRow(L"Checkbox_CommonSettings_Others_Message_Balloons"),
+    BeepRow(L"Checkbox_CommonSettings_Others_Message_Beep"),
+};
+
+constexpr TLoader kLoaders[] = {kDisplayRows, kFunctionRows, kSecurityRows, kOthersRows};
 
 // Windows 2000 knows neither the policy of the Windows key nor that of balloon tips.
 constexpr TOffer kOffers[] = {{L"GroupBox_CommonSettings_Function_Keyboard", kNotWindows2000},
@@ -252,22 +180,23 @@ constexpr TOffer kOffers[] = {{L"GroupBox_CommonSettings_Function_Keyboard", kNo
 
 bool Prepare(TPageContext& context) {
     const bool installed = context.Firefox.IsFirefoxInstalled();
-    context.Form.Find(kHomePage[0])->SetEnabled(installed);
+    context.Form.Find(kHomePage)->SetEnabled(installed);
     if (installed) context.Firefox.LoadFirefoxPrefs();
+    const bool hasFirewall = HasFirewall(context);
+    if (!hasFirewall) context.Form.Find(kActiveSC)->SetEnabled(false);
+    context.Form.Find(kStartWF)->SetVisible(hasFirewall);
     return true;
 }
 
+constexpr TPageDefinition kPage{.Tag = 19,
+                                .SharedHandler = L"CB_CommonSettings_Others_Font_SmoothTypeChange",
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = {},
+                                .Offers = kOffers,
+                                .Twins = kTwins,
+                                .Prepare = Prepare};
+
 }  // namespace
 
-const TPageDefinition& GeneralPage() {
-    static const TGeneralCatalogue kCatalogue;
-    static const TPageDefinition kPage{.Tag = 19,
-                                       .SharedHandler = L"CB_CommonSettings_Others_Font_SmoothTypeChange",
-                                       .Design = Design,
-                                       .Loaders = kCatalogue.Loaders,
-                                       .Presets = {},
-                                       .Offers = kOffers,
-                                       .Twins = kTwins,
-                                       .Prepare = Prepare};
-    return kPage;
-}
+const TPageDefinition& GeneralPage() { return kPage; }

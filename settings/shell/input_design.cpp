@@ -1,8 +1,8 @@
 #include "settings/shell/input_design.h"
 
-namespace {
+#include "settings/coding.h"
 
-constexpr int kNoBlinkStep = 100;  // how far left of the slowest the slider goes
+namespace {
 
 TControlDesign SensitivitySheet() {
     return Sheet(
@@ -88,9 +88,8 @@ TControlDesign KeyboardSheet() {
                          TrackBar(L"TrackBar_Use_Keyboard_Repeat_Rate", 0, 31, 31)))),
         Group(L"GroupBox_Use_Keyboard_Cursor", L"Cursor",
               Fields(Row(Label(L"Label_Use_Keyboard_BlinkingCursor_Speed", L"&Blink rate, none to fast:"),
-                         TrackBar(L"TrackBar_Use_Keyboard_BlinkingCursor_Speed",
-                                  MirrorBlink(kSlowestBlink + kNoBlinkStep), MirrorBlink(kFastestBlink),
-                                  kDefaultBlinkSpeed)),
+                         TrackBar(L"TrackBar_Use_Keyboard_BlinkingCursor_Speed", kNoBlinkSpeed,
+                                  kFastestBlinkSpeed, kDefaultBlinkSpeed)),
                      Row(Label(L"Label_Use_Keyboard_CursorWidth_Width", L"&Width:"),
                          Edit(L"Edit_Use_Keyboard_CursorWidth_Width").Width(5).Positive(),
                          UpDown(L"UpDown_Use_Keyboard_CursorWidth_Width",

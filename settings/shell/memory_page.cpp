@@ -1,9 +1,8 @@
 #include "settings/shell/memory_page.h"
 
-namespace {
+#include "settings/shared_rows.h"
 
-constexpr const wchar_t* kMemoryManagement =
-    L"\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management\\";
+namespace {
 
 TControlDesign Design() {
     return NotebookPage(
@@ -36,10 +35,7 @@ constexpr TRow kMemoryManageRows[] = {
                   .FirstRecords = Dword(1),
                   .SecondRecords = Dword(0),
                   .Restart = true},
-    TCheckBoxRow{.Control = L"Checkbox_MemoryAndCache_MemoryManage_Pagefile_Delete",
-                 .Value = {kLocalMachine, kMemoryManagement, L"ClearPageFileAtShutdown"},
-                 .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+    ClearPagefileRow(L"Checkbox_MemoryAndCache_MemoryManage_Pagefile_Delete"),
 };
 
 constexpr TRow kMemoryUseRows[] = {

@@ -1,7 +1,6 @@
 #include "settings/shell/start_menu_page.h"
 
-#include "settings/explorer_keys.h"
-#include "settings/shell/admin_tools.h"
+#include "settings/shared_rows.h"
 
 namespace {
 
@@ -137,9 +136,8 @@ constexpr TRow kCommonRows[] = {
                  .Restart = true,
                  .Policy = ExplorerPolicy(L"Intellimenus"),
                  .Levels = kXpAndVista},
-    TParameterNumberRow{.Control = L"UpDown_Use_StartMenu_Common_Menu_Delay",
-                        .Get = 0x6A,   // SPI_GETMENUSHOWDELAY
-                        .Set = 0x6B},  // SPI_SETMENUSHOWDELAY
+    TNumberRow{.Control = L"UpDown_Use_StartMenu_Common_Menu_Delay",
+               .Value = NumberParameter(0x6A, 0x6B)},  // …MENUSHOWDELAY
     Cascading(L"Checkbox_Use_StartMenu_Common_Classic_ControlPanel", L"CascadeControlPanel"),
     Cascading(L"Checkbox_Use_StartMenu_Common_Classic_MyDocuments", L"CascadeMyDocuments"),
     Cascading(L"Checkbox_Use_StartMenu_Common_Classic_Network", L"CascadeNetworkConnections"),
@@ -164,7 +162,7 @@ constexpr const wchar_t* kSearch = L"Checkbox_Use_StartMenu_Items_Search";
 constexpr const wchar_t* kHelp = L"Checkbox_Use_StartMenu_Items_Help";
 constexpr const wchar_t* kNetConn = L"Checkbox_Use_StartMenu_Items_NetConn";
 constexpr const wchar_t* kPrinters = L"Checkbox_Use_StartMenu_Items_Printers";
-constexpr const wchar_t* kAdminTools[] = {L"Checkbox_Use_StartMenu_Items_AdminTools"};
+constexpr const wchar_t* kAdminTools = L"Checkbox_Use_StartMenu_Items_AdminTools";
 
 // Windows 2000 has no options for its commands, only policies that forbid them.
 constexpr TRow kItemRows[] = {
@@ -191,7 +189,8 @@ constexpr TRow kItemRows[] = {
     On(kOnlyVista, Option(kPrinters, L"Start_ShowPrinters", kClear)),
     On(kSinceWindows7, Option(kPrinters, L"Start_ShowPrinters")),
     Option(L"Checkbox_Use_StartMenu_Items_Programs", L"Start_ShowSetProgramAccessAndDefaults"),
-    AdminToolsRow(kAdminTools),
+    AdminToolsRow(kAdminTools, kUntil2000),
+    AdminToolsRow(kAdminTools, kSinceXp),
     PolicyRow(L"Checkbox_Use_StartMenu_Items_LogOff", L"StartMenuLogOff"),
 };
 

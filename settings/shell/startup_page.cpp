@@ -1,17 +1,8 @@
 #include "settings/shell/startup_page.h"
 
-#include "settings/explorer_keys.h"
-#include "settings/store.h"
-#include "ui/controls.h"
+#include "settings/shared_rows.h"
 
 namespace {
-
-constexpr const wchar_t* kBootOptimize = L"\\SOFTWARE\\Microsoft\\Dfrg\\BootOptimizeFunction\\";
-constexpr const wchar_t* kControl = L"\\SYSTEM\\CurrentControlSet\\Control\\";
-constexpr const wchar_t* kSessionManager = L"\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\";
-constexpr const wchar_t* kCrashControl = L"\\SYSTEM\\CurrentControlSet\\Control\\CrashControl\\";
-constexpr const wchar_t* kWinlogon = L"\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon\\";
-constexpr const wchar_t* kDesktop = L"\\Control Panel\\Desktop\\";
 
 constexpr const wchar_t* kDelayEdit = L"Edit_Startup_System_DelayTime_Time";
 constexpr const wchar_t* kWaitEdit = L"Edit_Startup_Exit_WaitTime_Time";
@@ -89,7 +80,7 @@ constexpr TRow kSystemRows[] = {
     // The options are one of two fixed texts; whatever else Windows was started with is not kept.
     TCheckBoxRow{
         .Control = L"Checkbox_Startup_System_ErrorMessage_Enable",
-        .Value = {kLocalMachine, kControl, L"SystemStartOptions"},
+        .Value = {kLocalMachine, kSystemControl, L"SystemStartOptions"},
         .Shows = {.When = {{AnyCase(L"NOEXECUTE=OPTIN  FASTDETECT  TUTAG=ZTASZ8 NOGUIBOOT"), kChecked}},
                   .Otherwise = kClear},
         .Records = {.Checked = Text(L"NOEXECUTE=OPTIN  FASTDETECT  TUTAG=ZTASZ8 NOGUIBOOT"),
@@ -100,8 +91,7 @@ constexpr TRow kSystemRows[] = {
 
 constexpr TRow kExitRows[] = {
     TNumberRow{.Control = L"UpDown_Startup_Exit_WaitTime_Time",
-               .Value = {kCurrentUser, kDesktop, L"HungAppTimeout"},
-               .Type = TNumberType::Text},
+               .Value = As(TCoding::Decimal, {kCurrentUser, kDesktop, L"HungAppTimeout"})},
     TRadioPairRow{.First = L"Radio_Startup_Exit_AutoClose_AutoClose",
                   .Second = L"Radio_Startup_Exit_AutoClose_ShowCloseDialog",
                   .ChangeName = L"Radio_Startup_Exit_AutoClose_AutoClose",
@@ -113,11 +103,7 @@ constexpr TRow kExitRows[] = {
 };
 
 constexpr TRow kDesktopAndTaskbarRows[] = {
-    TCheckBoxRow{.Control = L"Checkbox_Startup_DesktopAndTaskbar_AutoRestartExplorer_AutoRun",
-                 .Value = {kLocalMachine, kWinlogon, L"AutoRestartShell"},
-                 .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Restart = true},
+    AutoRestartExplorerRow(L"Checkbox_Startup_DesktopAndTaskbar_AutoRestartExplorer_AutoRun"),
     TRadioPairRow{.First = L"Radio_Startup_DesktopAndTaskbar_DAndTSeparateProcess_Process",
                   .Second = L"Radio_Startup_DesktopAndTaskbar_DAndTSeparateProcess_Explorer",
                   .ChangeName = L"RadProcess",
@@ -128,35 +114,14 @@ constexpr TRow kDesktopAndTaskbarRows[] = {
                   .Restart = true},
 };
 
-// The stored number is the item's index: one that is no item's leaves the list without a choice, where a choice
-// row would go on showing the first item.
-void LoadAutoReboot(TPageContext& context, const TSpecialRow& row) {
-    if (const auto index = StoredNumber(context, row.Value))
-        context.Form.Find<TComboBox>(row.Controls[0])->SetItemIndex(*index);
-}
-
-void RecordAutoReboot(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    RecordNumber(context, sender.Name(), row.Value, static_cast<TComboBox&>(sender).ItemIndex());
-}
-
-constexpr const wchar_t* kCrashType[] = {L"CB_Startup_Error_SystemError_Type"};
-constexpr std::uint32_t kGetBeep = 1;  // SPI_GETBEEP
-constexpr std::uint32_t kSetBeep = 2;  // SPI_SETBEEP
-
 constexpr TRow kErrorRows[] = {
-    TParameterSwitchRow{.Control = L"Checkbox_Startup_Error_Sound_beep",
-                        .Get = kGetBeep,
-                        .Set = kSetBeep,
-                        .Slot = TParameterSlot::Param},
+    BeepRow(L"Checkbox_Startup_Error_Sound_beep"),
     TCheckBoxRow{.Control = L"Checkbox_Startup_Error_SystemError_Log",
                  .Value = {kLocalMachine, kCrashControl, L"LogEvent"},
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
-    TSpecialRow{.Controls = kCrashType,
-                .Value = {kLocalMachine, kCrashControl, L"AutoReboot"},
-                .Rule = L"the number is the item's index; a number that is no item's chooses none",
-                .Load = LoadAutoReboot,
-                .Record = RecordAutoReboot},
+    TNumberRow{.Control = L"CB_Startup_Error_SystemError_Type",
+               .Value = {kLocalMachine, kCrashControl, L"AutoReboot"}},
 };
 
 constexpr TLoader kLoaders[] = {kSystemRows, kExitRows, kDesktopAndTaskbarRows, kErrorRows};

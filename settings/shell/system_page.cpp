@@ -1,20 +1,11 @@
 #include "settings/shell/system_page.h"
 
+#include "settings/page_context.h"
+#include "settings/row_shapes.h"
 #include "settings/store.h"
 #include "ui/controls.h"
 
 namespace {
-
-constexpr const wchar_t* kWindowsNt = L"\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\";
-constexpr const wchar_t* kSetupUser = L"\\Software\\Microsoft\\MS Setup (ACME)\\User Info\\";
-constexpr const wchar_t* kCommonDialog =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\comdlg32\\";
-constexpr const wchar_t* kAutoComplete =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\AutoComplete\\";
-constexpr const wchar_t* kIndexService = L"\\SYSTEM\\CurrentControlSet\\Services\\CiSvc\\";
-constexpr const wchar_t* kCabinetState =
-    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\CabinetState\\";
-constexpr const wchar_t* kCommandProcessor = L"\\Software\\Microsoft\\Command Processor\\";
 
 constexpr const wchar_t* kOwner = L"Edit_System_Common_Infomation_Name";
 constexpr const wchar_t* kOrganization = L"Edit_System_Common_Infomation_Company";
@@ -94,35 +85,34 @@ constexpr TRow kCommonRows[] = {
              .MissingShows = kOrganization},
 };
 
-// The back button follows the state of the completion box, not its own, and only when its own box is clicked.
+// Special because the back button follows the state of the completion box, not its own, and only when its own box is clicked.
 void LoadShowReturn(TPageContext& context, const TSpecialRow& row) {
-    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(StoredNumber(context, row.Value) != 1);
+    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(StoredNumber(context, row.Places[0]) != 1);
 }
 
 void RecordShowReturn(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
     const bool completes = context.Form.Find<TCheckBox>(kAutofinish)->Checked();
-    RecordNumber(context, sender.Name(), row.Value, completes ? 0 : 1);
+    RecordNumber(context, sender.Name(), row.Places[0], completes ? 0 : 1);
 }
 
 constexpr const wchar_t* kShowReturnBox[] = {kShowReturn};
+constexpr TPlace kNoBackButton[] = {{kCurrentUser, kCommonDialogPolicies, L"NoBackButton"}};
 
 constexpr TRow kCommonDialogRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_System_CommonDialog_FileName_Recent",
-                 .Value = {kCurrentUser, kCommonDialog, L"NoFileMru"},
+                 .Value = {kCurrentUser, kCommonDialogPolicies, L"NoFileMru"},
                  .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
     TCheckBoxRow{.Control = kAutofinish,
-                 .Value = {kCurrentUser, kAutoComplete, L"AutoComplete In File Dialog"},
+                 .Value = {kCurrentUser, kExplorerAutoComplete, L"AutoComplete In File Dialog"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
     TSpecialRow{.Controls = kShowReturnBox,
-                .Value = {kCurrentUser, kCommonDialog, L"NoBackButton"},
-                .Rule = L"clear when 1, checked otherwise or missing; a click records 0 while file names are "
-                        L"completed, else 1",
+                .Places = kNoBackButton,
                 .Load = LoadShowReturn,
                 .Record = RecordShowReturn},
     TCheckBoxRow{.Control = L"Checkbox_System_CommonDialog_FolderNavigation_ShowLeft",
-                 .Value = {kCurrentUser, kCommonDialog, L"NoPlacesBar"},
+                 .Value = {kCurrentUser, kCommonDialogPolicies, L"NoPlacesBar"},
                  .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
 };
@@ -139,33 +129,16 @@ constexpr TRow kSearchRows[] = {
                  .Records = {.Checked = Text(L"no"), .Clear = Text(L"yes")}},
 };
 
-// Both colours are one byte: the background's number in the upper half, the text's in the lower. Both lists record
-// under one name, so that the byte is written once.
-constexpr int kColors = 16;
-
-void LoadColors(TPageContext& context, const TSpecialRow& row) {
-    constexpr int kWhiteOnBlack = 7;
-    // 0 stands for the console's own default.
-    const std::int32_t stored = StoredNumber(context, row.Value).value_or(0);
-    const int colors = stored > 0 ? stored % (kColors * kColors) : kWhiteOnBlack;
-    context.Form.Find<TComboBox>(kBackground)->SetItemIndex(colors / kColors);
-    context.Form.Find<TComboBox>(kText)->SetItemIndex(colors % kColors);
-}
-
-void RecordColors(TPageContext& context, const TSpecialRow& row, TComponent& /*sender*/) {
-    const int background = context.Form.Find<TComboBox>(kBackground)->ItemIndex();
-    const int text = context.Form.Find<TComboBox>(kText)->ItemIndex();
-    RecordNumber(context, kBackground, row.Value, background * kColors + text);
-}
-
-constexpr const wchar_t* kColorLists[] = {kBackground, kText};
+// Both colours are one byte. 0 stands for the console's own default, white on black.
+constexpr TBitsList kColorLists[] = {{kBackground, 0xF0}, {kText, 0x0F}};
+constexpr std::int32_t kWhiteOnBlack = 0x07;
 
 constexpr TRow kCmdRows[] = {
-    TSpecialRow{.Controls = kColorLists,
-                .Value = {kCurrentUser, kCommandProcessor, L"DefaultColor"},
-                .Rule = L"background times 16 plus text; missing or not above 0 shows white on black",
-                .Load = LoadColors,
-                .Record = RecordColors},
+    TListsRow{.Lists = kColorLists,
+              .Value = {kCurrentUser, kCommandProcessor, L"DefaultColor"},
+              .Missing = kWhiteOnBlack,
+              .Least = 1,
+              .ChangeName = kBackground},
 };
 
 constexpr TLoader kLoaders[] = {kCommonRows, kCommonDialogRows, kSearchRows, kCmdRows};

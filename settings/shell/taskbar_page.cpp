@@ -1,13 +1,8 @@
 #include "settings/shell/taskbar_page.h"
 
-#include "settings/explorer_keys.h"
-#include "settings/shell/minimized_windows.h"
-#include "settings/store.h"
-#include "ui/controls.h"
+#include "settings/shared_rows.h"
 
 namespace {
-
-constexpr const wchar_t* kExplorer = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
 
 TControlDesign Design() {
     return NotebookPage(
@@ -74,49 +69,22 @@ TControlDesign Design() {
                   Buttons(Button(L"Button_Taskbar_MinWindow_Default", L"&Default")))));
 }
 
-// Special because the box and the up-down are one parameter, the foreground lock timeout: in milliseconds, 0 when any
-// program may open its window at any time.
-constexpr const wchar_t* kForegroundLock[] = {L"Checkbox_Taskbar_ButtonFlashes_Active",
-                                              L"UpDown_Taskbar_ButtonFlashes_Common_Time"};
-constexpr std::uint32_t kGetForegroundLockTimeout = 0x2000;  // SPI_GETFOREGROUNDLOCKTIMEOUT
-constexpr std::uint32_t kSetForegroundLockTimeout = 0x2001;  // SPI_SETFOREGROUNDLOCKTIMEOUT
-constexpr std::uint32_t kMillisecondsPerSecond = 1000;
-
-void EnableTime(const TPageContext& context, bool enabled) {
-    for (const wchar_t* name :
-         {L"Label_Taskbar_ButtonFlashes_Common_Time", L"Edit_Taskbar_ButtonFlashes_Common_Time",
-          L"UpDown_Taskbar_ButtonFlashes_Common_Time"})
-        context.Form.Find(name)->SetEnabled(enabled);
-}
-
-void LoadForegroundLock(TPageContext& context, const TSpecialRow& row) {
-    const std::uint32_t timeout = ReadParameter(context, kGetForegroundLockTimeout);
-    context.Form.Find<TCheckBox>(row.Controls[0])->SetChecked(timeout != 0);
-    EnableTime(context, timeout != 0);
-    if (timeout == 0) return;
-    const std::uint32_t seconds = (timeout - 1) / kMillisecondsPerSecond + 1;
-    context.Form.Find<TUpDown>(row.Controls[1])->SetPosition(static_cast<int>(seconds));
-}
-
-void RecordForegroundLock(TPageContext& context, const TSpecialRow& row, TComponent& /*sender*/) {
-    const bool locks = context.Form.Find<TCheckBox>(row.Controls[0])->Checked();
-    const int seconds = context.Form.Find<TUpDown>(row.Controls[1])->Position();
-    EnableTime(context, locks);
-    RecordParameter(context, row.Controls[0], kSetForegroundLockTimeout, 0,
-                    locks ? static_cast<std::uint32_t>(seconds) * kMillisecondsPerSecond : 0);
-}
+constexpr const wchar_t* kTime[] = {L"UpDown_Taskbar_ButtonFlashes_Common_Time"};
+constexpr const wchar_t* kTimeControls[] = {L"Label_Taskbar_ButtonFlashes_Common_Time",
+                                            L"Edit_Taskbar_ButtonFlashes_Common_Time",
+                                            L"UpDown_Taskbar_ButtonFlashes_Common_Time"};
 
 constexpr TRow kFlashRows[] = {
-    TSpecialRow{
-        .Controls = kForegroundLock,
-        .Value = {kCurrentUser, L"\\Control Panel\\Desktop\\", L"ForegroundLockTimeout"},
-        .Rule = L"the system parameter 0x2000 in milliseconds, clear when 0; set by 0x2001, 0 when clear",
-        .Load = LoadForegroundLock,
-        .Record = RecordForegroundLock},
-    TParameterNumberRow{.Control = L"UpDown_Taskbar_ButtonFlashes_Speed_Flash",
-                        .Get = 0x2004,  // SPI_GETFOREGROUNDFLASHCOUNT
-                        .Set = 0x2005,  // SPI_SETFOREGROUNDFLASHCOUNT
-                        .Slot = TParameterSlot::Data},
+    // 0 when any program may open its window at any time.
+    TSwitchRow{.On = L"Checkbox_Taskbar_ButtonFlashes_Active",
+               .Amount = kTime,
+               .Value = As(TCoding::Seconds, NumberParameter(0x2000, 0x2001,  // …FOREGROUNDLOCKTIMEOUT
+                                                             TParameterSlot::Data)),
+               .OffWhen = 0,
+               .OffRecords = Dword(0),
+               .Enables = kTimeControls},
+    TNumberRow{.Control = L"UpDown_Taskbar_ButtonFlashes_Speed_Flash",
+               .Value = NumberParameter(0x2004, 0x2005, TParameterSlot::Data)},  // …FOREGROUNDFLASHCOUNT
 };
 
 constexpr TDatum kCombineValues[] = {Dword(0), Dword(1), Dword(2)};
@@ -163,15 +131,11 @@ constexpr TRow kNotificationRows[] = {
     PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Network", L"HideSCANetwork"),
     PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Power", L"HideSCAPower"),
     PolicyRow(L"Checkbox_Taskbar_Notification_Icons_ActionCenter", L"HideSCAHealth"),
-    TCheckBoxRow{.Control = L"Checkbox_Taskbar_Notification_Balloons_Show",
-                 .Value = {kCurrentUser, kExplorerAdvanced, L"EnableBalloonTips"},
-                 .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Restart = true},
+    BalloonTipsRow(L"Checkbox_Taskbar_Notification_Balloons_Show"),
 };
 
-constexpr const wchar_t* kMinimizedLists[] = {L"CB_Taskbar_MinWindow_Arrange", L"CB_Taskbar_MinWindow_Left",
-                                              L"CB_Taskbar_MinWindow_Top"};
+constexpr auto kMinimizedLists = MinimizedLists(L"CB_Taskbar_MinWindow_Arrange", L"CB_Taskbar_MinWindow_Left",
+                                                L"CB_Taskbar_MinWindow_Top");
 constexpr TRow kMinimizedRows[] = {MinimizedWindowsRow(kMinimizedLists)};
 
 constexpr TLoader kLoaders[] = {kFlashRows, kButtonRows, kNotificationRows, kMinimizedRows};

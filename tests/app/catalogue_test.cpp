@@ -18,10 +18,9 @@ bool Fits(const TRow& row, TComponentKind kind) {
     if (std::holds_alternative<TRadioPairRow>(row)) return kind == TComponentKind::RadioButton;
     if (std::holds_alternative<TChoiceRow>(row)) return kind == TComponentKind::ComboBox;
     if (std::holds_alternative<TTextRow>(row)) return kind == TComponentKind::Edit;
-    if (std::holds_alternative<TNumberRow>(row) || std::holds_alternative<TParameterNumberRow>(row))
-        return kind == TComponentKind::UpDown || kind == TComponentKind::TrackBar;
-    if (std::holds_alternative<TParameterSwitchRow>(row))
-        return kind == TComponentKind::CheckBox || kind == TComponentKind::ComboBox;
+    if (std::holds_alternative<TNumberRow>(row))
+        return kind == TComponentKind::UpDown || kind == TComponentKind::TrackBar ||
+               kind == TComponentKind::Edit || kind == TComponentKind::ComboBox;
     return true;
 }
 

@@ -25,14 +25,8 @@ std::vector<std::wstring> StoredAfter(const TPageDefinition& page, bool populate
     TPageBench bench(page);
     for (const TLoader& loader : page.Loaders) {
         for (const TRow& row : loader) {
-            std::visit(
-                [&](const auto& kind) {
-                    if constexpr (requires { kind.Value; })
-                        if (populated && !kind.Value.IsFirefoxPref) Populate(bench, kind.Value);
-                    if constexpr (requires { kind.Further; })
-                        if (populated && kind.Further) Populate(bench, kind.Further->Value);
-                },
-                row);
+            for (const TPlace& place : PlacesOf(row))
+                if (populated && place.Kind == TPlaceKind::Registry) Populate(bench, place);
         }
     }
     for (const TLoader& loader : page.Loaders) {

@@ -25,8 +25,8 @@ constexpr TBoxRecord kRecords{.Checked = Dword(1), .Clear = Dword(0)};
 constexpr TDatum kItems[] = {Dword(1), Dword(2)};
 constexpr const wchar_t* kButtons[] = {L"Button"};
 
-void RecordPress(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
-    RecordNumber(context, sender.Name(), row.Value, 5);
+void RecordPress(TPageContext& context, const TSpecialRow& /*row*/, TComponent& sender) {
+    RecordNumber(context, sender.Name(), kPlace, 5);
 }
 
 constexpr TRow kRows[] = {
@@ -36,7 +36,7 @@ constexpr TRow kRows[] = {
     TChoiceRow{.Control = L"List", .Value = kPlace, .Items = kItems},
     TNumberRow{.Control = L"Slider", .Value = kPlace},
     TTextRow{.Control = L"Text", .Value = kPlace},
-    TSpecialRow{.Controls = kButtons, .Value = kPlace, .Rule = L"", .Load = nullptr, .Record = RecordPress},
+    TSpecialRow{.Controls = kButtons, .Places = {}, .Load = nullptr, .Record = RecordPress},
 };
 constexpr TLoader kLoaders[] = {kRows};
 constexpr TOffer kOffers[] = {{L"Box", kSinceXp}, {L"Group", kSinceVista}, {L"OtherSheet", kUntilXp}};

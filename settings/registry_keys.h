@@ -1,0 +1,109 @@
+// The registry keys of the settings, each once. To Windows the spellings of a key are one and the same; those that a page has
+// always written with another spelling keep it, and say so in their names.
+#pragma once
+
+// The user's desktop, input and shell
+
+inline constexpr const wchar_t* kColors = L"\\Control Panel\\Colors\\";
+inline constexpr const wchar_t* kDesktop = L"\\Control Panel\\Desktop\\";
+inline constexpr const wchar_t* kWindowMetrics = L"\\Control Panel\\Desktop\\WindowMetrics\\";
+inline constexpr const wchar_t* kKeyboard = L"\\Control Panel\\Keyboard\\";
+/// In HKEY_USERS: the keyboard of the logon screen.
+inline constexpr const wchar_t* kLogonKeyboard = L"\\.DEFAULT\\Control Panel\\Keyboard\\";
+inline constexpr const wchar_t* kMouse = L"\\Control Panel\\Mouse\\";
+inline constexpr const wchar_t* kShell = L"\\Software\\Microsoft\\Windows\\Shell\\";
+inline constexpr const wchar_t* kShellNoRoam = L"\\Software\\Microsoft\\Windows\\ShellNoRoam\\";
+
+// Windows Explorer
+
+inline constexpr const wchar_t* kExplorer = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
+inline constexpr const wchar_t* kExplorerUpper =
+    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
+/// The user's own choices, as Explorer's dialogs keep them.
+inline constexpr const wchar_t* kExplorerAdvanced =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\";
+inline constexpr const wchar_t* kExplorerAdvancedUpper =
+    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\";
+/// Group policies. Most of them are a DWORD that takes something away when it is 1.
+inline constexpr const wchar_t* kExplorerPolicies =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
+inline constexpr const wchar_t* kExplorerPoliciesUpper =
+    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\policies\\Explorer\\";
+inline constexpr const wchar_t* kExplorerAutoComplete =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\AutoComplete\\";
+inline constexpr const wchar_t* kCabinetState =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\CabinetState\\";
+inline constexpr const wchar_t* kCommonDialogPolicies =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\comdlg32\\";
+inline constexpr const wchar_t* kFolderVerbs = L"\\Folder\\shell\\";
+inline constexpr const wchar_t* kExploreVerb = L"\\Folder\\shell\\explore\\";
+inline constexpr const wchar_t* kExploreCommand = L"\\Folder\\shell\\explore\\Command";
+
+// The icons that the desktop hides, for each of the two Start menus; Windows' own dialog writes both.
+inline constexpr const wchar_t* kNewStartPanel =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideDesktopIcons\\NewStartPanel\\";
+inline constexpr const wchar_t* kClassicStartMenu =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideDesktopIcons\\ClassicStartMenu\\";
+inline constexpr const wchar_t* kHideMyComputerIcons =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\HideMyComputerIcons\\";
+inline constexpr const wchar_t* kRemoteTasks =
+    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RemoteComputer\\NameSpace\\"
+    L"{D6277990-4C6A-11CF-8D87-00AA0060F5BF}";
+inline constexpr const wchar_t* kRemotePrinters =
+    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RemoteComputer\\NameSpace\\"
+    L"{2227A280-3AEA-1069-A2DE-08002B30309D}";
+
+// Internet Explorer and other programs
+
+inline constexpr const wchar_t* kInternetExplorerMain = L"\\Software\\Microsoft\\Internet Explorer\\Main\\";
+inline constexpr const wchar_t* kNewWindows = L"\\Software\\Microsoft\\Internet Explorer\\New Windows\\";
+inline constexpr const wchar_t* kTabbedBrowsing =
+    L"\\Software\\Microsoft\\Internet Explorer\\TabbedBrowsing\\";
+inline constexpr const wchar_t* kTypedUrls = L"\\Software\\Microsoft\\Internet Explorer\\TypedURLs\\";
+inline constexpr const wchar_t* kInternetSettings =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\";
+inline constexpr const wchar_t* kInternetCache =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Cache\\";
+inline constexpr const wchar_t* kUrlHistory =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Url History\\";
+inline constexpr const wchar_t* kWebcheck = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Webcheck\\";
+inline constexpr const wchar_t* kOutlookExpress = L"\\SOFTWARE\\Microsoft\\Outlook Express\\";
+inline constexpr const wchar_t* kMessengerClient = L"\\SOFTWARE\\Policies\\Microsoft\\Messenger\\Client\\";
+inline constexpr const wchar_t* kCommandProcessor = L"\\Software\\Microsoft\\Command Processor\\";
+
+// Windows, its start and its logon
+
+inline constexpr const wchar_t* kWindowsNt = L"\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\";
+inline constexpr const wchar_t* kSetupUser = L"\\Software\\Microsoft\\MS Setup (ACME)\\User Info\\";
+inline constexpr const wchar_t* kWinlogon = L"\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon\\";
+inline constexpr const wchar_t* kSystemPolicies =
+    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\policies\\system\\";
+inline constexpr const wchar_t* kNetworkPolicies =
+    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\policies\\Network\\";
+inline constexpr const wchar_t* kPacketScheduler = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\PSched\\";
+inline constexpr const wchar_t* kSecurityCenter = L"\\SOFTWARE\\Microsoft\\Security Center\\";
+inline constexpr const wchar_t* kAutoUpdate =
+    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\WindowsUpdate\\Auto Update\\";
+inline constexpr const wchar_t* kBootOptimize = L"\\SOFTWARE\\Microsoft\\Dfrg\\BootOptimizeFunction\\";
+inline constexpr const wchar_t* kSystemControl = L"\\SYSTEM\\CurrentControlSet\\Control\\";
+inline constexpr const wchar_t* kCrashControl = L"\\SYSTEM\\CurrentControlSet\\Control\\CrashControl\\";
+inline constexpr const wchar_t* kFileSystem = L"\\SYSTEM\\CurrentControlSet\\Control\\FileSystem\\";
+/// The class of the controllers of hard disks; the first of them.
+inline constexpr const wchar_t* kIdeController =
+    L"\\SYSTEM\\CurrentControlSet\\Control\\Class\\{4D36E96A-E325-11CE-BFC1-08002BE10318}\\0000\\";
+inline constexpr const wchar_t* kSessionManager = L"\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\";
+inline constexpr const wchar_t* kMemoryManagement =
+    L"\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management\\";
+
+// Services
+
+inline constexpr const wchar_t* kCdromService = L"\\SYSTEM\\CurrentControlSet\\Services\\Cdrom\\";
+inline constexpr const wchar_t* kIndexService = L"\\SYSTEM\\CurrentControlSet\\Services\\CiSvc\\";
+inline constexpr const wchar_t* kServer =
+    L"\\SYSTEM\\CurrentControlSet\\Services\\lanmanserver\\parameters\\";
+inline constexpr const wchar_t* kWorkstation =
+    L"\\SYSTEM\\CurrentControlSet\\Services\\lanmanworkstation\\parameters\\";
+inline constexpr const wchar_t* kDiscoveryService = L"\\SYSTEM\\CurrentControlSet\\Services\\SSDPSRV\\";
+inline constexpr const wchar_t* kDeviceHostService = L"\\SYSTEM\\CurrentControlSet\\Services\\upnphost\\";
+inline constexpr const wchar_t* kFirewallProfile =
+    L"\\SYSTEM\\CurrentControlSet\\Services\\SharedAccess\\Parameters\\FirewallPolicy\\StandardProfile\\";

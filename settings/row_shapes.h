@@ -1,0 +1,79 @@
+// Rows of the shapes that several pages use.
+//
+// Explorer reads its settings once. After each Apply it is told that they changed, and reads its preferences again. What
+// it has built before from a policy (menus, the notification area) it may keep until the next logon: rows of policies, and
+// those few of preferences that the taskbar reads only when it starts, are marked with Restart. This holds for the pages
+// of the Start menu and the taskbar; on the others each row has a mark of its own.
+#pragma once
+
+#include "settings/registry_keys.h"
+#include "settings/rows.h"
+
+[[nodiscard]] constexpr TPlace ExplorerPolicy(const wchar_t* policy) {
+    return {kCurrentUser, kExplorerPolicies, policy};
+}
+
+/// A policy that takes away what the box stands for.
+[[nodiscard]] constexpr TCheckBoxRow PolicyRow(const wchar_t* control, const wchar_t* policy) {
+    return {.Control = control,
+            .Value = ExplorerPolicy(policy),
+            .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
+            .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+            .Restart = true};
+}
+
+/// The row of a preference that a policy can overrule.
+[[nodiscard]] constexpr TCheckBoxRow Unless(const wchar_t* policy, TCheckBoxRow row) {
+    row.Policy = ExplorerPolicy(policy);
+    return row;
+}
+
+/// The row, on these levels alone.
+template <typename T>
+[[nodiscard]] constexpr T On(TLevels levels, T row) {
+    row.Levels = levels;
+    return row;
+}
+
+/// The row, read on these levels alone.
+template <typename T>
+[[nodiscard]] constexpr T ReadOn(TLevels levels, T row) {
+    row.LoadedOn = levels;
+    return row;
+}
+
+/// The row of what waits for a restart.
+template <typename T>
+[[nodiscard]] constexpr T WithRestart(T row) {
+    row.Restart = true;
+    return row;
+}
+
+/// An option that is written in whatever type Windows keeps it.
+[[nodiscard]] constexpr TCheckBoxRow TypeKeepingBox(const wchar_t* control, const wchar_t* key,
+                                                    const wchar_t* valueName) {
+    return {.Control = control,
+            .Value = {kCurrentUser, key, valueName},
+            .Shows = {.When = {{0, kClear}}, .Otherwise = kChecked},
+            .Records = {.Checked = AsStored(1), .Clear = AsStored(0)}};
+}
+
+/// One of the switches from 0x1000 on, which are set by the code behind the one that asks.
+[[nodiscard]] constexpr TPlace Effect(std::uint32_t get) { return SwitchParameter(get, get + 1); }
+
+/// A system parameter that is on or off.
+[[nodiscard]] constexpr TCheckBoxRow ParameterBox(const wchar_t* control, TPlace parameter,
+                                                  const wchar_t* toggles = nullptr) {
+    return {.Control = control,
+            .Value = parameter,
+            .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
+            .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+            .Toggles = toggles};
+}
+
+inline constexpr TDatum kOffAndOn[] = {Dword(0), Dword(1)};
+
+/// A system parameter that is off with the first item of a list and on with the second.
+[[nodiscard]] constexpr TChoiceRow ParameterList(const wchar_t* control, TPlace parameter) {
+    return {.Control = control, .Value = parameter, .Items = kOffAndOn};
+}

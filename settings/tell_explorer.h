@@ -1,0 +1,10 @@
+// When Windows Explorer takes over what the pages write.
+#pragma once
+
+#include "platform/shell.h"
+
+/// Tells Explorer that its settings changed: policies, folder options, and those of the Start menu and the taskbar.
+inline void TellExplorer(TShell& shell) {
+    for (const wchar_t* area : {L"Policy", L"ShellState", L"TraySettings"})
+        shell.BroadcastSettingChange(area);
+}
