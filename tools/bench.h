@@ -5,6 +5,9 @@
 #include <utility>
 
 #include "tools/automation.h"
+// After windows.h, which they need.
+#include <commctrl.h>
+#include <psapi.h>
 
 class TStopwatch {
   public:
@@ -25,6 +28,17 @@ class TStopwatch {
 inline double Median(std::vector<double> values) {
     std::sort(values.begin(), values.end());
     return values[values.size() / 2];
+}
+
+/// How long a step takes until the window, of any process, is painted; `redraw` are flags of RedrawWindow.
+inline double Timed(
+    HWND window, UINT redraw, const std::function<void()>& step = [] {}) {
+    const TStopwatch watch;
+    step();
+    RedrawWindow(window, nullptr, nullptr, redraw | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kPatience, &answer);
+    return watch.Milliseconds();
 }
 
 /// Asks every millisecond until the answer is true.
@@ -61,6 +75,12 @@ class TStarted {
 
     [[nodiscard]] HWND Window() const { return FWindow; }
     [[nodiscard]] DWORD Id() const { return FProcess.dwProcessId; }
+    /// The most memory that the program has had at a time.
+    [[nodiscard]] double PeakMegabytes() const {
+        PROCESS_MEMORY_COUNTERS counters{};
+        GetProcessMemoryInfo(FProcess.hProcess, &counters, sizeof counters);
+        return static_cast<double>(counters.PeakWorkingSetSize) / (1 << 20);
+    }
 
   private:
     PROCESS_INFORMATION FProcess{};

@@ -28,17 +28,6 @@ class TPairs {
     std::vector<double> FRatio;
 };
 
-/// What a step does until the window is painted.
-double Timed(
-    HWND window, UINT redraw, const std::function<void()>& step = [] {}) {
-    const TStopwatch watch;
-    step();
-    RedrawWindow(window, nullptr, nullptr, redraw | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    DWORD_PTR answer = 0;
-    SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kPatience, &answer);
-    return watch.Milliseconds();
-}
-
 /// One step of a user who drags the corner of the window to and fro.
 double Resize(HWND window, int step) {
     constexpr int kTurn = 24;

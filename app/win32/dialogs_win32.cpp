@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "ui/win32/form_window.h"
+#include "ui/win32/late_bound.h"
 
 namespace {
 
@@ -67,6 +68,7 @@ std::optional<std::wstring> TWin32Dialogs::OpenFile(const TForm& asker, const st
     dialog.lpstrFile = path.data();
     dialog.nMaxFile = kLongestPath;
     dialog.Flags = OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST | OFN_NOCHANGEDIR;
+    LoadForCommonDialogs();
     if (!GetOpenFileNameW(&dialog)) return std::nullopt;
     return std::wstring(path.c_str());
 }
@@ -80,6 +82,7 @@ std::optional<TColor> TWin32Dialogs::PickColor(const TForm& asker, TColor initia
     dialog.rgbResult = initial;
     dialog.lpCustColors = FCustomColors.data();
     dialog.Flags = CC_FULLOPEN | CC_RGBINIT | CC_ANYCOLOR;
+    LoadForCommonDialogs();
     if (!ChooseColorW(&dialog)) return std::nullopt;
     return dialog.rgbResult;
 }

@@ -45,10 +45,11 @@ void SearchSystemFolderOnly() {
     // Where the first is missing, and sometimes where it is not (Wine, for what its libraries bind late), the program's
     // folder is still searched. A library that is loaded is not searched for again, so those that Windows' own libraries
     // ask for are loaded here, for good.
-    for (const wchar_t* name :
-         {L"ole32.dll", L"uxtheme.dll", L"msimg32.dll", L"imm32.dll", L"version.dll", L"winspool.drv"})
+    for (const wchar_t* name : {L"ole32.dll", L"uxtheme.dll", L"msimg32.dll", L"imm32.dll", L"version.dll"})
         LoadSystemLibrary(name);
 }
+
+void LoadForCommonDialogs() { LoadSystemLibrary(L"winspool.drv"); }
 
 bool ProcessIsWow64() {
     const TSystemLibrary kernel(L"kernel32.dll");

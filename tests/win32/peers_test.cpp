@@ -221,6 +221,40 @@ TEST_F(PeersTest, HiddenPagesComeIntoBeingWhileThereIsNothingElseToDo) {
     EXPECT_TRUE(EqualRect(&hidden.first, &first) && EqualRect(&hidden.second, &second));
 }
 
+using TStartTest = TPeerBench;
+
+TEST_F(TStartTest, TimersWaitForTheFirstPageAndAShownPageIsFilledSheetBySheet) {
+    const auto page = [](int tag) {
+        const auto sheet = [tag](std::wstring name) {
+            name += std::to_wstring(tag);
+            TControlDesign design = Sheet(name.c_str(), L"Sheet");
+            for (int i = 0; i < 60; ++i)
+                design.Children.push_back(CheckBox((name + std::to_wstring(i)).c_str(), L"Box"));
+            design.Children.push_back(CheckBox((L"Last" + name).c_str(), L"Box"));
+            return design;
+        };
+        return NotebookPage(tag,
+                            PageControl((L"Tabs" + std::to_wstring(tag)).c_str(), sheet(L"A"), sheet(L"B")));
+    };
+    Form.Build(Form, Timer(L"Timer", 1));
+    Form.Build(Form, Notebook(L"Notebook", {page(1), page(2), page(3)}));
+    const auto exists = [this](const wchar_t* name) { return Form.Find(name)->Peer() != nullptr; };
+    int ticks = 0;
+    Get<TTimer>(L"Timer").OnTimer = [&](TComponent&) {
+        if (++ticks == 1) {
+            EXPECT_TRUE(exists(L"LastB1"));
+            Get<TNotebook>(L"Notebook").ShowPage(L"3");
+            EXPECT_EQ(std::pair(exists(L"LastA3"), exists(L"LastB3")), std::pair(true, false));
+        }
+        EXPECT_TRUE(exists(L"LastB3") || !exists(L"B21"));
+        if (ticks == 500 || exists(L"LastB2")) PostQuitMessage(0);
+    };
+    Get<TTimer>(L"Timer").SetEnabled(true);
+    Show();
+    static_cast<TFormWindow*>(Form.Peer())->Run();
+    EXPECT_LT(ticks, 500);
+}
+
 TEST_F(PeersTest, AFaultInAHandlerIsReportedAndTheWindowLivesOn) {
     Get<TCheckBox>(L"Box").OnClick = [](TComponent&) { throw std::runtime_error("fault"); };
     Send(L"Box", BM_CLICK);

@@ -131,6 +131,20 @@ void TContainerPeer::CreateContent() {
     while (CreateNext()) continue;
 }
 
+void TContainerPeer::Fill() {
+    if (CreateNext()) {
+        CreateContent();
+        FStale = true;
+    }
+    if (IsShown()) CatchUp();
+}
+
+bool TContainerPeer::FillNext() {
+    if (!CreateNext()) return CatchUpNext();
+    FStale = true;
+    return true;
+}
+
 bool TContainerPeer::CreateNext() {
     for (;;) {
         std::size_t index = FNextControl;
@@ -160,12 +174,24 @@ void TContainerPeer::LayOut() {
 }
 
 void TContainerPeer::CatchUp() {
+    while (CatchUpNext()) continue;
+}
+
+bool TContainerPeer::CatchUpNext() {
     if (const auto place = std::exchange(FNextPlace, std::nullopt)) {
         // A container that only grows or shrinks keeps what it shows; what moves in it is drawn anew.
         const bool stays = place->Left == Placed().Left && place->Top == Placed().Top;
         Move(*place, stays ? 0 : SWP_NOCOPYBITS | SWP_FRAMECHANGED);
+    } else if (std::exchange(FStale, false)) {
+        LayOutContent();
+    } else if (!FPlaces.empty()) {
+        const auto [peer, inner] = FPlaces.front();
+        FPlaces.pop_front();
+        peer->Place(inner);
+    } else {
+        return false;
     }
-    if (std::exchange(FStale, false)) LayOutContent();
+    return true;
 }
 
 int TContainerPeer::Margin() const { return FForm.Screen().Scale(FMargin); }
@@ -195,9 +221,11 @@ void TContainerPeer::LayOutContent() {
 }
 
 void TContainerPeer::PlaceContent(const TRect& area) {
-    TLayout(FForm.Form(), FForm.Screen()).Arrange(Control(), area, [](TControl& control, const TRect& place) {
-        if (auto* peer = dynamic_cast<TWindowPeer*>(control.Peer())) peer->Place(place);
-    });
+    FPlaces.clear();
+    TLayout(FForm.Form(), FForm.Screen())
+        .Arrange(Control(), area, [this](TControl& control, const TRect& place) {
+            if (auto* peer = dynamic_cast<TWindowPeer*>(control.Peer())) FPlaces.emplace_back(peer, place);
+        });
 }
 
 void TContainerPeer::SetScrollRange(int content, int visible) {

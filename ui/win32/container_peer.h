@@ -2,7 +2,9 @@
 // and hand the messages of the windows in them back to those windows' peers.
 #pragma once
 
+#include <deque>
 #include <optional>
+#include <utility>
 
 #include "ui/layout.h"
 #include "ui/win32/window_peer.h"
@@ -29,8 +31,10 @@ class TContainerPeer : public TWindowPeer {
 
     /// Creates the peers of the controls in the container, as far as they do not exist yet.
     void CreateContent();
-    /// Creates the first of these peers; false when all of them exist.
-    bool CreateNext();
+    /// Creates and places what the container is still without.
+    void Fill();
+    /// Creates one more peer, or when all of them exist, places one; false when nothing waits any more.
+    bool FillNext();
 
     /// Scrolls so that an inner window is in sight.
     void ScrollTo(HWND inner);
@@ -51,6 +55,10 @@ class TContainerPeer : public TWindowPeer {
 
   private:
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    /// Creates the first peer that does not exist yet; false when all of them exist.
+    bool CreateNext();
+    /// Does the next of what CatchUp does; false when nothing waits any more.
+    bool CatchUpNext();
     void LayOutContent();
     LRESULT Reflect(UINT message, WPARAM wParam, LPARAM lParam);
     [[nodiscard]] SCROLLINFO ScrollState() const;
@@ -65,9 +73,10 @@ class TContainerPeer : public TWindowPeer {
 
     int FMargin;
     bool FLayingOut = false;
-    std::size_t FNextControl = 0;     ///< of the content, to be created
-    bool FStale = false;              ///< the content waits to be laid out
-    std::optional<TRect> FNextPlace;  ///< waits to be taken
+    std::size_t FNextControl = 0;                        ///< of the content, to be created
+    bool FStale = false;                                 ///< the content waits to be laid out
+    std::optional<TRect> FNextPlace;                     ///< waits to be taken
+    std::deque<std::pair<TWindowPeer*, TRect>> FPlaces;  ///< of the content, that wait to be taken
     int FWheelRest = 0;  ///< of the wheel's turns: less than a pixel, in pixels times WHEEL_DELTA
 };
 

@@ -48,12 +48,22 @@ void HandleSentMessages() {
 /// Null when a fault kept it from being created.
 TContainerPeer* ContainerOf(const TControl& control) { return static_cast<TContainerPeer*>(control.Peer()); }
 
-/// Creates what the content of a page or sheet is still without.
-void Fill(const TControl& container) {
-    TContainerPeer* peer = ContainerOf(container);
-    if (peer == nullptr || !peer->CreateNext()) return;
-    peer->CreateContent();
-    peer->LayOut();
+/// The content of the sheets in a container, or only of the chosen ones.
+void FillSheets(const TControl& container, bool chosenOnly) {
+    for (const TControl* tabs : container.Children()) {
+        if (tabs->Kind() != TComponentKind::PageControl) continue;
+        for (const TControl* sheet : tabs->Children()) {
+            if (chosenOnly && sheet != static_cast<const TPageControl*>(tabs)->ActiveSheet()) continue;
+            if (TContainerPeer* peer = ContainerOf(*sheet)) peer->Fill();
+        }
+    }
+}
+
+/// The notebook page that a sheet lies on, or that the control is; null for a sheet of a dialog.
+const TControl* PageOf(const TControl& control) {
+    const TControl* page = &control;
+    while (page != nullptr && page->Kind() != TComponentKind::NotebookPage) page = page->Parent();
+    return page;
 }
 
 }  // namespace
@@ -93,8 +103,10 @@ void TFormWindow::Show(int showCommand) {
 int TFormWindow::Run() {
     HWND focus = nullptr;
     while (!IsOver()) {
+        // The timers that end the start wait for the page that they show.
+        constexpr UINT kNoTimer = PM_QS_INPUT | PM_QS_PAINT | PM_QS_SENDMESSAGE | QS_POSTMESSAGE << 16;
         MSG message;
-        if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | (CreatesFirstPage() ? kNoTimer : 0))) {
             // Looking for a message has handled those that were sent; one of them may have closed the dialog.
             if (!IsOver() && !CreateNext()) WaitMessage();
             continue;
@@ -244,52 +256,36 @@ void TFormWindow::CommitFocus() const {
 void TFormWindow::CreatePage(TControl& page) {
     auto* notebook = static_cast<TNotebookPeer*>(page.Parent()->Peer());
     if (page.Peer() == nullptr && notebook != nullptr) notebook->CreatePage(page);
-    Fill(page);
-    CreateSheets(page);
-}
-
-void TFormWindow::CreateSheets(const TControl& container) const {
-    for (const TControl* tabs : container.Children()) {
-        if (tabs->Kind() != TComponentKind::PageControl) continue;
-        for (const TControl* sheet : tabs->Children()) Fill(*sheet);
+    if (TContainerPeer* peer = ContainerOf(page)) {
+        peer->Fill();
+        peer->CatchUp();  // the sheets get their size before their content
     }
+    FillSheets(page, true);
+    std::ranges::stable_partition(FUnfilled, [&](const TControl* each) { return PageOf(*each) == &page; });
 }
 
-/// Creates a few more controls of the notebooks' pages, or lays out a page or sheet that is complete; false when there
-/// is nothing left to do.
+bool TFormWindow::CreatesFirstPage() const {
+    if (FUnfilled.empty()) return false;
+    const TControl* page = PageOf(*FUnfilled.front());
+    return page != nullptr && page == page->Parent()->Children().front();
+}
+
+/// Creates or places one more control of the pages and sheets; false when there is nothing left to do.
 bool TFormWindow::CreateNext() {
-    const auto& components = FForm.Components();
-    for (; Handle() != nullptr && FNextComponent < components.size(); ++FNextComponent) {
-        const TComponentKind kind = components[FNextComponent]->Kind();
-        if (kind != TComponentKind::NotebookPage && kind != TComponentKind::TabSheet) continue;
-        try {
-            if (!CreateSome(static_cast<TControl&>(*components[FNextComponent]))) ++FNextComponent;
-        } catch (...) {
-            ++FNextComponent;  // its other controls come when it is shown
-            Fault(std::current_exception());
+    if (Handle() == nullptr || FUnfilled.empty()) return false;
+    TControl* control = FUnfilled.front();
+    bool isFilled = true;  // what a fault keeps from being created is not tried again
+    try {
+        if (TContainerPeer* peer = ContainerOf(*control)) {
+            isFilled = !peer->FillNext();
+        } else if (auto* notebook = dynamic_cast<TNotebookPeer*>(control->Parent()->Peer())) {
+            notebook->CreatePage(*control);
+            isFilled = control->Peer() == nullptr;
         }
-        return true;
+    } catch (...) {
+        Fault(std::current_exception());
     }
-    return false;
-}
-
-/// False when the page or sheet is complete.
-bool TFormWindow::CreateSome(TControl& control) {
-    constexpr int kAtOnce = 8;  // takes less time than a user notices
-    TContainerPeer* peer = ContainerOf(control);
-    if (peer == nullptr) {
-        // What a fault keeps from being created is not tried again.
-        auto* notebook = dynamic_cast<TNotebookPeer*>(control.Parent()->Peer());
-        if (notebook != nullptr) notebook->CreatePage(control);
-        return control.Peer() != nullptr;
-    }
-    for (int i = 0; i < kAtOnce; ++i) {
-        if (peer->CreateNext()) continue;
-        if (i > 0) break;  // the rest is for the next time
-        peer->LayOut();
-        peer->CatchUp();
-        return false;
-    }
+    if (isFilled) std::erase(FUnfilled, control);
     return true;
 }
 
@@ -321,8 +317,13 @@ TFormWindow::TWindow::TWindow(TFormWindow& formWindow, TForm& form)
 }
 
 void TFormWindow::TWindow::Open() {
+    for (const auto& component : FFormWindow.FForm.Components()) {
+        const TComponentKind kind = component->Kind();
+        if (kind == TComponentKind::NotebookPage || kind == TComponentKind::TabSheet)
+            FFormWindow.FUnfilled.push_back(static_cast<TControl*>(component.get()));
+    }
     CreateContent();
-    FFormWindow.CreateSheets(FFormWindow.FForm);
+    FillSheets(FFormWindow.FForm, false);
     SetWindowTextW(Handle(), WindowText().c_str());
     SetInitialSize();
 }

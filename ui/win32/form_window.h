@@ -1,6 +1,7 @@
 // The native window of a form, and what all its peers share.
 #pragma once
 
+#include <deque>
 #include <exception>
 #include <set>
 #include <unordered_map>
@@ -28,8 +29,8 @@ class TFormWindow : public TFormPeer {
 
     /// Runs the form's OnShow, then creates its controls and shows the window.
     void Show(int showCommand);
-    /// Handles messages until the program is to end; a dialog's, until the dialog is closed. Creates hidden pages,
-    /// a few controls at a time, while there is nothing else to do. The answer is the program's exit code.
+    /// Handles messages until the program is to end; a dialog's, until the dialog is closed. Creates what is hidden,
+    /// a control at a time, while there is nothing else to do. The answer is the program's exit code.
     int Run();
     /// Restores the window when it is minimised, and brings it to the front.
     void ComeForward();
@@ -57,7 +58,8 @@ class TFormWindow : public TFormPeer {
     void Fault(std::exception_ptr fault) const;
     /// Commits the edit that has the focus: a button can be pressed without taking the focus from it.
     void CommitFocus() const;
-    /// Creates the window of a notebook page, its content and that of its sheets, as far as they do not exist yet.
+    /// Creates what is to be seen of a notebook page, as far as it does not exist yet: its window, its content and that
+    /// of the chosen sheets. Its other sheets are the next to get theirs.
     void CreatePage(TControl& page);
     /// Lets the timer tick until StopTimer; the answer identifies it.
     [[nodiscard]] unsigned StartTimer(TTimer& timer);
@@ -84,10 +86,9 @@ class TFormWindow : public TFormPeer {
 
     /// Whether this is a dialog that is closed.
     [[nodiscard]] bool IsOver() const { return FOwner != nullptr && Handle() == nullptr; }
-    /// Creates the content of the sheets in a container.
-    void CreateSheets(const TControl& container) const;
     bool CreateNext();
-    static bool CreateSome(TControl& control);
+    /// Whether the notebook's first page is still being created.
+    [[nodiscard]] bool CreatesFirstPage() const;
     bool StepSheet(const MSG& message) const;
     bool PressButton(const MSG& message) const;
     void FollowFocus(HWND focus) const;
@@ -105,7 +106,8 @@ class TFormWindow : public TFormPeer {
     TPictureStore FPictures;
     std::unordered_map<HWND, TWindowPeer*> FPeers;
     std::set<const TControl*> FChanged;  ///< containers to lay out
-    std::size_t FNextComponent = 0;      ///< the pages and sheets before it have their content
+    std::deque<TControl*>
+        FUnfilled;  ///< pages and sheets that may lack content, in the order of its creation
     std::unordered_map<unsigned, TTimer*> FTimers;
     bool FRestyles = false;  ///< a change of the look waits
     int FLastCommandId = 100;

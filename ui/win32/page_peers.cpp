@@ -66,6 +66,7 @@ void TPageControlPeer::ShowState() {
     for (std::size_t i = 0; i < sheets.size(); ++i) {
         if (sheets[i] == active) Send(TCM_SETCURSEL, i);
     }
+    if (Control().Peer() != this) return;  // still being created; the sheets are shown or hidden already
     for (TControl* sheet : Control().Children()) {
         if (TWindowPeer* peer = PeerOf(*sheet)) peer->Update(TControlAspect::Visible);
     }
@@ -107,6 +108,7 @@ bool TTabSheetPeer::IsShown() const {
 }
 
 void TTabSheetPeer::Update(TControlAspect aspect) {
+    if (aspect == TControlAspect::Visible && IsShown()) Fill();
     // A sheet's caption is on its tab.
     if (aspect == TControlAspect::Caption)
         Control().Parent()->Peer()->Update(TControlAspect::Items);

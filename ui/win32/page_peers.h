@@ -4,8 +4,8 @@
 #include "ui/containers.h"
 #include "ui/win32/container_peer.h"
 
-/// Its pages fill it. The windows of a page are created when the page is first shown, or when there is nothing else to
-/// do (TFormWindow::Run).
+/// Its pages fill it. The windows of a page, and those of each of its sheets, are created when it is first shown, or
+/// when there is nothing else to do (TFormWindow::Run).
 class TNotebookPeer : public TContainerPeer {
   public:
     TNotebookPeer(TFormWindow& form, TNotebook& notebook, HWND parent);

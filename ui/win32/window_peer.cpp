@@ -71,6 +71,7 @@ void TWindowPeer::Move(const TRect& place, UINT flags) {
 
 void TWindowPeer::RedrawBelow(const RECT& hole) const {
     const HWND parent = GetParent(FHandle);
+    if (!IsWindowVisible(parent)) return;
     RECT place{};
     GetWindowRect(FHandle, &place);
     MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
