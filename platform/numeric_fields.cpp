@@ -5,6 +5,7 @@
 #include "platform/faults.h"
 #include "platform/text.h"
 #include "ui/controls.h"
+#include "ui/decimal.h"
 
 namespace {
 
@@ -160,7 +161,7 @@ class TBoundField {
 
     void Exit() const {
         if (!FEdit.Text().empty() && Number() >= FField.Min) return;
-        FEdit.SetText(std::to_wstring(FField.Min));
+        FEdit.SetText(DecimalText(FField.Min));
         FChanged(FPaired);
     }
 
@@ -176,7 +177,7 @@ class TBoundField {
     }
 
     /// The edit has the focus, so that the corrected text comes back to Change.
-    void Correct(int number) const { FEdit.SetText(std::to_wstring(number)); }
+    void Correct(int number) const { FEdit.SetText(DecimalText(number)); }
 
     const TNumericField& FField;
     TEdit& FEdit;

@@ -7,6 +7,7 @@
 #include "settings/page_context.h"
 #include "settings/store.h"
 #include "ui/controls.h"
+#include "ui/decimal.h"
 
 namespace {
 
@@ -104,7 +105,7 @@ void Load(TPageContext& context, const TNumberRow& row) {
 void RecordFrom(TPageContext& context, const TNumberRow& row, TComponent& sender) {
     const int position = static_cast<TRangeControl&>(sender).Position();
     if (row.Type == TNumberType::Text)
-        RecordText(context, sender.Name(), row.Value, std::to_wstring(position));
+        RecordText(context, sender.Name(), row.Value, DecimalText(position));
     else
         RecordNumber(context, sender.Name(), row.Value, position);
 }

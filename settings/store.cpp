@@ -5,6 +5,7 @@
 #include "engine/reg_value.h"
 #include "platform/text.h"
 #include "settings/page_context.h"
+#include "ui/decimal.h"
 
 bool TMatch::operator()(const TRegValue& value) const {
     switch (FKind) {
@@ -25,13 +26,13 @@ bool TMatch::operator()(const TRegValue& value) const {
 std::wstring TMatch::Words() const {
     switch (FKind) {
         case TKind::Number:
-            return std::to_wstring(FNumber);
+            return DecimalText(FNumber);
         case TKind::Text:
             return L'"' + std::wstring(FText) + L'"';
         case TKind::TextAnyCase:
             return L'"' + std::wstring(FText) + L"\" in any case";
         case TKind::NumberOrText:
-            return std::to_wstring(FNumber) + L" or \"" + FText + L"\" in any case";
+            return DecimalText(FNumber) + L" or \"" + FText + L"\" in any case";
         case TKind::EmptyOrZero:
             break;
     }
@@ -137,7 +138,7 @@ void RecordText(TPageContext& context, const std::wstring& changeName, const TPl
 
 void RecordNumber(TPageContext& context, const std::wstring& changeName, const TPlace& place,
                   std::int32_t number) {
-    if (place.IsFirefoxPref) return RecordText(context, changeName, place, std::to_wstring(number));
+    if (place.IsFirefoxPref) return RecordText(context, changeName, place, DecimalText(number));
     RecordValue(context, changeName, place, TRegDataType::Dword, number);
 }
 

@@ -11,6 +11,7 @@
 #include <span>
 
 #include "ui/component.h"
+#include "ui/decimal.h"
 #include "ui/dialogs.h"
 #include "ui/layout_box.h"
 
@@ -102,7 +103,7 @@ TControlDesign Overlay(TContent&&... content) {
 // Containers.
 template <typename... TContent>
 TControlDesign NotebookPage(int tag, TContent&&... content) {
-    return Container(TComponentKind::NotebookPage, std::to_wstring(tag).c_str(), L"", Designs(content...));
+    return Container(TComponentKind::NotebookPage, DecimalText(tag).c_str(), L"", Designs(content...));
 }
 /// The tabs of a notebook page.
 template <typename... TSheets>

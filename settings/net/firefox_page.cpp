@@ -6,6 +6,7 @@
 #include "settings/store.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
+#include "ui/decimal.h"
 
 namespace {
 
@@ -128,8 +129,7 @@ TRadioButton& Radio(const TPageContext& context, const wchar_t* name) {
 }
 
 void ShowDelay(const TPageContext& context, int milliseconds) {
-    context.Form.Find(L"Label_Firefox_Use_MenuSpeed_Delay")
-        ->SetCaption(std::to_wstring(milliseconds) + L" ms");
+    context.Form.Find(L"Label_Firefox_Use_MenuSpeed_Delay")->SetCaption(DecimalText(milliseconds) + L" ms");
 }
 
 // Special because three radio buttons and a track bar make one value.

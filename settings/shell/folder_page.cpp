@@ -7,6 +7,7 @@
 #include "settings/shell/folder_design.h"
 #include "settings/store.h"
 #include "ui/controls.h"
+#include "ui/decimal.h"
 
 namespace {
 
@@ -50,7 +51,7 @@ void RecordTree(TPageContext& context, const TSpecialRow& /*row*/, TComponent& s
 // sets how many of each and shows the first number. A label repeats it in digits.
 void ShowCount(const TPageContext& context) {
     const int count = context.Form.Find<TTrackBar>(kCount)->Position();
-    context.Form.Find<TLabel>(kCountShow)->SetCaption(std::to_wstring(count));
+    context.Form.Find<TLabel>(kCountShow)->SetCaption(DecimalText(count));
 }
 
 void LoadCount(TPageContext& context, const TSpecialRow& row) {
@@ -133,8 +134,8 @@ void RecordColorText(TPageContext& context, const TSpecialRow& row, TComponent& 
     const auto color = ChangedColor(context, row);
     if (!color) return;
     RecordText(context, sender.Name(), row.Value,
-               std::to_wstring(*color & 0xFF) + L' ' + std::to_wstring(*color >> 8 & 0xFF) + L' ' +
-                   std::to_wstring(*color >> 16));
+               DecimalText(*color & 0xFF) + L' ' + DecimalText(*color >> 8 & 0xFF) + L' ' +
+                   DecimalText(*color >> 16));
 }
 
 // The edit's text is the value, whether it was typed or its up-down changed it. While the user types anew it

@@ -6,6 +6,7 @@
 #include "settings/shell/input_design.h"
 #include "settings/store.h"
 #include "ui/controls.h"
+#include "ui/decimal.h"
 
 namespace {
 
@@ -202,7 +203,7 @@ void LoadBlink(TPageContext& context, const TSpecialRow& row) {
 
 void RecordBlink(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
     const std::int32_t time = MirrorBlink(static_cast<TTrackBar&>(sender).Position());
-    RecordText(context, sender.Name(), row.Value, std::to_wstring(time > kSlowestBlink ? kNoBlink : time));
+    RecordText(context, sender.Name(), row.Value, DecimalText(time > kSlowestBlink ? kNoBlink : time));
 }
 
 // Special because the value is a set of bits, one for each light of the keyboard, kept as decimal text without a sign.
@@ -222,7 +223,7 @@ void RecordNumLock(TPageContext& context, const TSpecialRow& row, TComponent& se
     const std::uint32_t light = static_cast<TCheckBox&>(sender).Checked() ? kNumLockLight : 0;
     const auto record = [&](const std::wstring& name, const TPlace& place) {
         const std::uint32_t others = StoredBits(context, place).value_or(0) & ~kNumLockLight;
-        RecordText(context, name, place, std::to_wstring(others | light));
+        RecordText(context, name, place, DecimalText(others | light));
     };
     record(sender.Name(), row.Value);
     record(sender.Name() + L"1", kLogonLights);

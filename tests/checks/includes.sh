@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Includes go down only, and Windows stays in the win32 folders:
 # - a floor includes itself and the floors below it, by paths from the project's folder;
-# - outside a win32 folder there is no header of Windows or C (cxxabi.h is C++'s own), and none from a win32 folder;
+# - outside a win32 folder there is no header of Windows or C, and none from a win32 folder;
 # - only ui/win32/late_bound.cpp looks functions up at run time.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
@@ -17,7 +17,7 @@ find app settings engine platform ui -name '*.h' -o -name '*.cpp' | sort | xargs
         else if (Rank[Target[1]] < Own) Complain("includes a higher floor: " Part[2])
         if (Portable && Part[2] ~ /\/win32\//) Complain("portable code includes " Part[2])
     }
-    /^[ \t]*#[ \t]*include[ \t]*<.*\.h>/ && !/<cxxabi\.h>/ && Portable { Complain("portable code includes a header of Windows or C") }
+    /^[ \t]*#[ \t]*include[ \t]*<.*\.h>/ && Portable { Complain("portable code includes a header of Windows or C") }
     /GetProcAddress|LoadLibrary/ && FILENAME != "ui/win32/late_bound.cpp" && !/^[ \t]*\/\// {
         Complain("functions are looked up in ui/win32/late_bound.cpp only")
     }
