@@ -1,5 +1,7 @@
 #include "app/category_table.h"
 
+#include "base/decimal.h"
+
 namespace {
 
 constexpr TCategoryItemRow kCommonSettings[] = {
@@ -48,7 +50,7 @@ constexpr TCategoryGroupRow kGroups[] = {
 std::span<const TCategoryGroupRow> CategoryTable() { return kGroups; }
 
 std::wstring CategoryItemName(const std::wstring& group, std::size_t index) {
-    return group + L".Items[" + std::to_wstring(index) + L"]";
+    return group + L".Items[" + DecimalText(static_cast<std::int64_t>(index)) + L"]";
 }
 
 TControlDesign CategoryBarDesign() {

@@ -1,9 +1,7 @@
 #include "app/fault_log.h"
 
-#include <cxxabi.h>
-
 #include <algorithm>
-#include <cstdlib>
+#include <charconv>
 #include <iterator>
 #include <span>
 #include <typeinfo>
@@ -31,12 +29,28 @@ std::wstring FromUtf8(std::string_view text, const TWindowsInfo& windows) {
     return DecodeText(bytes, windows);
 }
 
-/// The name of a class as it stands in the source.
+/// The name of a class as it stands in the source: the compiler writes it as "St" for std and each part after its length,
+/// between N and E when there are several. What is written otherwise stays as it is; the C++ library could read all of it,
+/// but with printf's help it is 60 KB of program.
 std::string ClassName(const std::type_info& type) {
-    int status = 0;
-    const std::unique_ptr<char, void (*)(void*)> name(
-        abi::__cxa_demangle(type.name(), nullptr, nullptr, &status), std::free);
-    return name ? name.get() : type.name();
+    std::string_view rest = type.name();
+    if (rest.starts_with('N') && rest.ends_with('E')) rest = rest.substr(1, rest.size() - 2);
+    std::string name;
+    if (rest.starts_with("St")) {
+        name = "std";
+        rest.remove_prefix(2);
+    }
+    while (!rest.empty()) {
+        const char* const end = rest.data() + rest.size();
+        std::size_t length = 0;
+        const auto [part, fault] = std::from_chars(rest.data(), end, length);
+        if (fault != std::errc() || length > static_cast<std::size_t>(end - part)) return type.name();
+        if (!name.empty()) name += "::";
+        const std::string_view word(part, length);
+        name += word.starts_with("_GLOBAL__N") ? "(anonymous namespace)" : word;
+        rest = {part + length, end};
+    }
+    return name;
 }
 
 /// What a fault says must not break its block.

@@ -8,6 +8,7 @@
 #include "app/category_table.h"
 #include "app/folder_form.h"
 #include "app/timing_log.h"
+#include "base/decimal.h"
 #include "platform/service_control.h"
 #include "platform/suite_language.h"
 #include "platform/windows_version.h"
@@ -68,7 +69,7 @@ void TQuilltune_FormMain::BuildControls() {
                                                  [this](TComponent& sender) { PageChanged(sender); }));
     }
     for (int tag = 1; tag <= kPageCount; ++tag) {
-        if (Find(std::to_wstring(tag)) == nullptr) Build(notebook, NotebookPage(tag));
+        if (Find(DecimalText(tag)) == nullptr) Build(notebook, NotebookPage(tag));
     }
     FTwins = std::make_unique<TTwinControls>(FContext);
     Find<TButton>(L"Button_OK")->Default = true;
@@ -219,7 +220,7 @@ void TQuilltune_FormMain::RzGroup1Items0Click(TComponent& sender) {
     // A fault of a loader is for the fault log; the page shows what was loaded until then.
     TakeAll({
         [&] { LoadPage(item.Tag()); },
-        [&] { Find<TNotebook>(L"Notebook_Main")->ShowPage(std::to_wstring(item.Tag())); },
+        [&] { Find<TNotebook>(L"Notebook_Main")->ShowPage(DecimalText(item.Tag())); },
         [&] {
             if (&item != FSelectedItem) SelectItem(item);
         },

@@ -1,5 +1,6 @@
 #include "engine/reg_value.h"
 
+#include "base/decimal.h"
 #include "platform/text.h"
 
 std::optional<std::int32_t> AsInteger(const TRegValue& value) {
@@ -21,7 +22,7 @@ std::optional<std::uint32_t> AsBits(const TRegValue& value) {
 }
 
 std::wstring AsText(const TRegValue& value) {
-    if (const auto* number = std::get_if<std::int32_t>(&value)) return std::to_wstring(*number);
+    if (const auto* number = std::get_if<std::int32_t>(&value)) return DecimalText(*number);
     if (const auto* text = std::get_if<std::wstring>(&value)) return *text;
     if (const auto* bytes = std::get_if<TBytes>(&value)) return {bytes->begin(), bytes->end()};
     return {};

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "base/decimal.h"
 #include "platform/app_frame.h"
 #include "ui/controls.h"
 #include "ui/form.h"
@@ -13,7 +14,7 @@ constexpr std::wstring_view kExtension = L".lng";
 
 /// The key of the i-th of the texts of a list, such as ComboBox1.Items[0].Caption.
 std::wstring KeyOf(const TComponent& component, const wchar_t* list, std::size_t i) {
-    return component.Name() + L'.' + list + L'[' + std::to_wstring(i) + L"].Caption";
+    return component.Name() + L'.' + list + L'[' + DecimalText(static_cast<std::int64_t>(i)) + L"].Caption";
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "platform/numeric_fields.h"
 
+#include "base/decimal.h"
 #include "platform/faults.h"
 #include "platform/text.h"
 
@@ -23,7 +24,7 @@ class TNumericField {
 
     void Exit() const {
         if (!FEdit.Text().empty() && Number() >= FUpDown.Min()) return;
-        FEdit.SetText(std::to_wstring(FUpDown.Min()));
+        FEdit.SetText(DecimalText(FUpDown.Min()));
         Tell();
     }
 
@@ -39,7 +40,7 @@ class TNumericField {
     }
 
     /// The edit has the focus, so that the corrected text comes back to Change.
-    void Correct(int number) const { FEdit.SetText(std::to_wstring(number)); }
+    void Correct(int number) const { FEdit.SetText(DecimalText(number)); }
 
     void Tell() const {
         if (FEdit.IsSender)

@@ -1,25 +1,53 @@
 #!/usr/bin/env bash
-# Measures how long Firefox's preference files take to load, natively, and then the start of the 64-bit program, the
-# showing of its pages and the resizing of its window under Wine, in turns with Wine's own notepad and winecfg, so that the
-# ratio holds whatever the machine is doing.
+# Prints the measures of docs/performance.md, in its order: of the 64-bit program under Wine, pair by pair beside what it is
+# compared with, so that the ratio holds whatever the machine is doing; and natively those that need no window.
 #   scripts/bench.sh [pairs]
 set -euo pipefail
 . "$(dirname "$0")/lib.sh"
 . "$(dirname "$0")/wine.sh"
 
-RequirePackages "${BuildPackages[@]}" libgtest-dev libgmock-dev
-BuildPreset bench --target prefs_bench
-"$Root/build/bench/tests/prefs_bench"
+Heading() { printf '\n%s\n' "$1"; }
+# Runs the program $1 of the tools under Wine, in the working folder.
+Measure() {
+    local tool=$1
+    shift
+    (cd "$Work" && wine "$Root/build/win64/tools/$tool.exe" "$@" </dev/null)
+}
 
+RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" libgtest-dev libgmock-dev
 "$Root/scripts/build.sh"
-RequirePackages "${WinePackages[@]}"
-BuildPreset win64 --target startup_bench page_bench resize_bench
+BuildPreset win64 --target startup_bench page_bench resize_bench apply_bench
+NativeBenches=(prefs_bench)
+LanguagePackages=(libsimpleini-dev libinih-dev)
+if dpkg -s "${LanguagePackages[@]}" >/dev/null 2>&1; then NativeBenches+=(language_bench); fi
+BuildPreset bench --target "${NativeBenches[@]}"
 
 Work=$(mktemp -d "${TMPDIR:-/tmp}/quilltune-bench.XXXXXX")
 StartXvfb
 trap 'EndPrefix; kill "$XvfbId"; rm -rf "$Work"' EXIT
 MakePrefix "$Work/prefix"
 Program="$(WindowsPath "$Root/dist/win64")\\Quilltune.exe"
-wine "$Root/build/win64/tools/startup_bench.exe" "$Program" "${1:-15}"
-wine "$Root/build/win64/tools/page_bench.exe" "$Program" 3
-wine "$Root/build/win64/tools/resize_bench.exe" "$Program" 96
+
+Heading "Machine"
+sed -n 's/^model name[^:]*: //p' /proc/cpuinfo | sort | uniq -c | sed 's/^ *\([0-9]*\) /\1 x /'
+echo "Debian $(cat /etc/debian_version), $(wine --version), load $(cut -d ' ' -f 1 /proc/loadavg), $(date +%F)"
+Heading "Start"
+Measure startup_bench "$Program" "${1:-15}"
+Heading "Window"
+Measure resize_bench "$Program" 96
+Heading "Pages"
+Measure page_bench "$Program" 3
+Heading "Apply"
+Measure apply_bench 15
+Heading "Preference files, natively"
+"$Root/build/bench/tests/prefs_bench"
+Heading "Language files, natively"
+if [[ " ${NativeBenches[*]} " == *" language_bench "* ]]; then
+    "$Root/build/bench/tests/language_bench"
+else
+    echo "skipped: it needs ${LanguagePackages[*]}"
+fi
+Heading "Size"
+for Target in win32 win64; do
+    printf '%s program %8d bytes\n' "$Target" "$(stat -c %s "$Root/dist/$Target/Quilltune.exe")"
+done

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 
+#include "base/decimal.h"
 #include "engine/reg_value.h"
 #include "platform/text.h"
 
@@ -64,8 +65,8 @@ std::optional<TRegValue> ColorOfText(std::wstring_view text) {
 }
 
 std::wstring ColorText(std::int32_t color) {
-    return std::to_wstring(color & 0xFF) + L' ' + std::to_wstring(color >> 8 & 0xFF) + L' ' +
-           std::to_wstring(color >> 16);
+    return DecimalText(color & 0xFF) + L' ' + DecimalText(color >> 8 & 0xFF) + L' ' +
+           DecimalText(color >> 16);
 }
 
 std::wstring Quoted(const std::wstring& text) {
@@ -143,11 +144,11 @@ TKept Encode(const TPlace& place, std::int32_t number, const std::optional<TRegV
         case TCoding::Quoted:
             break;
         case TCoding::Decimal:
-            return {TRegDataType::String, place.Mask != 0 ? std::to_wstring(bits) : std::to_wstring(whole)};
+            return {TRegDataType::String, place.Mask != 0 ? DecimalText(bits) : DecimalText(whole)};
         case TCoding::Seconds:
             return {TRegDataType::Dword, static_cast<std::int32_t>(bits * kMillisecondsPerSecond)};
         case TCoding::BlinkRate:
-            return {TRegDataType::String, std::to_wstring(BlinkTimeOf(whole))};
+            return {TRegDataType::String, DecimalText(BlinkTimeOf(whole))};
         case TCoding::FirstByte:
             return {TRegDataType::Binary, WithFirstByte(whole, stored)};
         case TCoding::ColorBytes:

@@ -2,6 +2,7 @@
 
 #include <bit>
 
+#include "base/decimal.h"
 #include "platform/text.h"
 #include "settings/coding.h"
 
@@ -35,8 +36,8 @@ TText InParameter(const TParameter& parameter) {
     if (parameter.Get != 0) words += L"read " + Hex(parameter.Get) + L", ";
     words += L"set " + Hex(parameter.Set);
     if (parameter.BlockSize != 0)
-        return words + L" (the number at byte " + std::to_wstring(parameter.Offset) + L" of " +
-               std::to_wstring(parameter.BlockSize) + L")";
+        return words + L" (the number at byte " + DecimalText(parameter.Offset) + L" of " +
+               DecimalText(parameter.BlockSize) + L")";
     return words + (parameter.Slot == TParameterSlot::Param ? L" (uiParam)" : L" (pvParam)");
 }
 
@@ -51,7 +52,7 @@ TText Words(TCoding coding) {
         case TCoding::Seconds:
             return L", in milliseconds";
         case TCoding::BlinkRate:
-            return L", as " + std::to_wstring(MirrorBlink(0)) +
+            return L", as " + DecimalText(MirrorBlink(0)) +
                    L" less the milliseconds in decimal text, -1 at the left end";
         case TCoding::FirstByte:
             return L", the first byte";
@@ -76,11 +77,11 @@ TText Words(const TPlace& place, const TDatum& datum) {
     if (datum.Kind != TDatum::TKind::Dword) return Words(datum);
     if (std::popcount(place.Mask) == 1)
         return (datum.Number != 0 ? L"sets the bit " : L"clears the bit ") + Hex(place.Mask);
-    return Numbers(place) + std::to_wstring(datum.Number);
+    return Numbers(place) + DecimalText(datum.Number);
 }
 
 TText Words(const TDatum& datum) {
-    const TText number = std::to_wstring(datum.Number);
+    const TText number = DecimalText(datum.Number);
     switch (datum.Kind) {
         case TDatum::TKind::Dword:
             return L"DWORD " + number;
@@ -158,13 +159,14 @@ TText From(const std::optional<TPlace>& loadedFrom, const TPlace& place) {
 TText Missing(const TPlace& place, const std::optional<std::int32_t>& missing) {
     // A parameter that is a number is never missing.
     if (place.Kind == TPlaceKind::Parameter && place.Parameter.BlockSize == 0) return {};
-    return L"; missing: " + (missing ? std::to_wstring(*missing) : TText(L"unchanged"));
+    return L"; missing: " + (missing ? DecimalText(*missing) : TText(L"unchanged"));
 }
 
 TText Items(const TPlace& place, std::span<const TDatum> items) {
     TText words;
     for (std::size_t i = 0; i < items.size(); ++i)
-        words += (i == 0 ? L"item " : L"; item ") + std::to_wstring(i) + L": " + Words(place, items[i]);
+        words += (i == 0 ? L"item " : L"; item ") + DecimalText(static_cast<std::int64_t>(i)) + L": " +
+                 Words(place, items[i]);
     return words;
 }
 
@@ -216,14 +218,14 @@ TRowWords Entry(const TChoiceRow& row) {
             L". Also " + Words(row.Further->Value) + L": " + Items(row.Further->Value, row.Further->Items);
     return {Words(row.Value),
             L"the item of the value; missing: " +
-                (row.Missing < 0 ? TText(L"unchanged") : L"item " + std::to_wstring(row.Missing)),
+                (row.Missing < 0 ? TText(L"unchanged") : L"item " + DecimalText(row.Missing)),
             writes};
 }
 
 TRowWords Entry(const TNumberRow& row) {
     TText writes = Numbers(row.Value) + L"the number" + Words(row.Value.Coding);
     if (row.Source == TNumberSource::Typed) writes += L", as it was typed";
-    if (row.RemovedAt) writes += L"; " + std::to_wstring(*row.RemovedAt) + L" removes it";
+    if (row.RemovedAt) writes += L"; " + DecimalText(*row.RemovedAt) + L" removes it";
     if (row.Further) writes += L". Also " + Words(row.Further->Value);
     return {Words(row.Value),
             From(row.LoadedFrom, row.Value) + L"the number" +
@@ -246,7 +248,7 @@ TRowWords Entry(const TSwitchRow& row) {
                                            : Items(row.Value, row.Items);
     TText shows = L"off when " + row.OffWhen.Words() + L"; else on, with the " +
                   (row.Items.empty() ? L"number" : L"item of the value");
-    if (row.OtherItem >= 0) shows += L", else item " + std::to_wstring(row.OtherItem);
+    if (row.OtherItem >= 0) shows += L", else item " + DecimalText(row.OtherItem);
     if (row.Value.Kind != TPlaceKind::Parameter)
         shows += TText(L"; missing: ") + (row.Missing == kKeep ? L"unchanged" : L"on");
     return {Words(row.Value), shows, L"on: " + amount + L"; off: " + Words(row.Value, row.OffRecords)};
@@ -257,7 +259,8 @@ TRowWords Entry(const TListsRow& row) {
     for (const TBitsList& list : row.Lists) {
         shows += (shows.empty() ? L"the bits " : L"; the bits ") + Hex(list.Mask) + L" of the number: ";
         for (std::size_t i = 0; i < list.Items.size(); ++i)
-            shows += (i == 0 ? L"item " : L", item ") + std::to_wstring(i) + L" " + Hex(list.Items[i]);
+            shows += (i == 0 ? L"item " : L", item ") + DecimalText(static_cast<std::int64_t>(i)) + L" " +
+                     Hex(list.Items[i]);
         if (list.Items.empty()) shows += L"the item's number";
     }
     return {Words(row.Value), shows + Missing(row.Value, row.Missing),

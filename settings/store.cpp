@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/decimal.h"
 #include "engine/reg_value.h"
 #include "platform/text.h"
 #include "settings/coding.h"
@@ -32,13 +33,13 @@ bool TMatch::operator()(const TRegValue& value) const {
 std::wstring TMatch::Words() const {
     switch (FKind) {
         case TKind::Number:
-            return std::to_wstring(FNumber);
+            return DecimalText(FNumber);
         case TKind::Text:
             return L'"' + std::wstring(FText) + L'"';
         case TKind::TextAnyCase:
             return L'"' + std::wstring(FText) + L"\" in any case";
         case TKind::NumberOrText:
-            return std::to_wstring(FNumber) + L" or \"" + FText + L"\" in any case";
+            return DecimalText(FNumber) + L" or \"" + FText + L"\" in any case";
         case TKind::EmptyOrZero:
             return L"0 or empty";
         case TKind::EmptyOrNo:
@@ -46,8 +47,8 @@ std::wstring TMatch::Words() const {
         case TKind::Outside:
             break;
     }
-    return L"below " + std::to_wstring(FNumber) +
-           (FMost < std::numeric_limits<std::int32_t>::max() ? L" or above " + std::to_wstring(FMost) : L"") +
+    return L"below " + DecimalText(FNumber) +
+           (FMost < std::numeric_limits<std::int32_t>::max() ? L" or above " + DecimalText(FMost) : L"") +
            L" or no number";
 }
 

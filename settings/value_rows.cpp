@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <bit>
 
+#include "base/decimal.h"
 #include "engine/reg_value.h"
 #include "platform/faults.h"
 #include "platform/text.h"
@@ -82,7 +83,7 @@ void RemovePreference(TPageContext& context, const std::wstring& changeName, con
 }  // namespace
 
 void ShowDigits(const TPageContext& context, const TDigits& digits) {
-    context.Form.Find(digits.Label)->SetCaption(std::to_wstring(NumberOf(*context.Form.Find(digits.Number))));
+    context.Form.Find(digits.Label)->SetCaption(DecimalText(NumberOf(*context.Form.Find(digits.Number))));
 }
 
 void Load(TPageContext& context, const TNumberRow& row) {

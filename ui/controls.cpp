@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <optional>
 
+#include "base/decimal.h"
+
 namespace {
 
 /// The text as a decimal number, blanks around it allowed; nothing when it is anything else.
@@ -91,7 +93,7 @@ void TUpDown::SetAssociate(TEdit& edit) {
 }
 
 void TUpDown::PositionSet() {
-    if (FAssociate != nullptr) FAssociate->SetText(std::to_wstring(FPosition));
+    if (FAssociate != nullptr) FAssociate->SetText(DecimalText(FPosition));
 }
 
 void TUpDown::FollowText(const std::wstring& text) {

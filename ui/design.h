@@ -10,6 +10,7 @@
 #include <optional>
 #include <span>
 
+#include "base/decimal.h"
 #include "ui/color.h"
 #include "ui/component.h"
 #include "ui/layout_box.h"
@@ -105,7 +106,7 @@ TControlDesign Overlay(TContent&&... content) {
 // Containers.
 template <typename... TContent>
 TControlDesign NotebookPage(int tag, TContent&&... content) {
-    return Container(TComponentKind::NotebookPage, std::to_wstring(tag).c_str(), L"", Designs(content...));
+    return Container(TComponentKind::NotebookPage, DecimalText(tag).c_str(), L"", Designs(content...));
 }
 /// The tabs of a notebook page.
 template <typename... TSheets>

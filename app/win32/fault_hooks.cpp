@@ -76,6 +76,10 @@ bool IsOwnCode(const void* address) {
 
 }  // namespace
 
+/// What the C++ library does with an uncaught exception as long as it is not told otherwise. Its own function writes to a
+/// console that is not there, and would bring in 60 KB to name the exception.
+void __gnu_cxx::__verbose_terminate_handler() { std::_Exit(3); }
+
 TFaultHooks::TFaultHooks(TFaultLog& log)
     : FLog(log),
       FAsked(CreateEventW(nullptr, FALSE, FALSE, nullptr)),

@@ -1,5 +1,6 @@
 #include "settings/net/firefox_page.h"
 
+#include "base/decimal.h"
 #include "engine/reg_value.h"
 #include "settings/page_context.h"
 #include "settings/shared_rows.h"
@@ -127,8 +128,7 @@ TRadioButton& Radio(const TPageContext& context, const wchar_t* name) {
 }
 
 void ShowDelay(const TPageContext& context, int milliseconds) {
-    context.Form.Find(L"Label_Firefox_Use_MenuSpeed_Delay")
-        ->SetCaption(std::to_wstring(milliseconds) + L" ms");
+    context.Form.Find(L"Label_Firefox_Use_MenuSpeed_Delay")->SetCaption(DecimalText(milliseconds) + L" ms");
 }
 
 // Special because three radio buttons and a track bar make one value.

@@ -20,6 +20,12 @@ struct TOwnFault : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// One whose name says more than where it stands.
+template <typename T>
+struct TOddFault : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
 class TFaultLogTest : public testing::Test {
   protected:
     TFaultLogTest() {
@@ -61,7 +67,8 @@ TEST_F(TFaultLogTest, NamesAndMessagesAreReadable) {
          "Exception Type=std::runtime_error\r\nError Message=one  two three \xF0\x9F\x98\x80 "
          "\xEF\xBF\xBD\r\n"},
         {std::make_exception_ptr(std::out_of_range("x")), "Exception Type=std::out_of_range\r\n"},
-        {std::make_exception_ptr(TOwnFault("x")), "::TOwnFault\r\n"},
+        {std::make_exception_ptr(TOwnFault("x")), "Exception Type=(anonymous namespace)::TOwnFault\r\n"},
+        {std::make_exception_ptr(TOddFault<int>("x")), "TOddFaultIiE"},
         {std::make_exception_ptr(5), "Exception Type=unknown\r\nError Message=\r\n"},
         {std::make_exception_ptr(std::string("x")), "Exception Type=unknown\r\nError Message=\r\n"},
     };

@@ -223,7 +223,7 @@ TEST_F(PeersTest, HiddenPagesComeIntoBeingWhileThereIsNothingElseToDo) {
 
 using TStartTest = TPeerBench;
 
-TEST_F(TStartTest, TimersWaitForTheFirstPageAndAShownPageIsFilledSheetBySheet) {
+TEST_F(TStartTest, TimersWaitForTheFirstPageAndAShownPageIsComplete) {
     const auto page = [](int tag) {
         const auto sheet = [tag](std::wstring name) {
             name += std::to_wstring(tag);
@@ -244,9 +244,8 @@ TEST_F(TStartTest, TimersWaitForTheFirstPageAndAShownPageIsFilledSheetBySheet) {
         if (++ticks == 1) {
             EXPECT_TRUE(exists(L"LastB1"));
             Get<TNotebook>(L"Notebook").ShowPage(L"3");
-            EXPECT_EQ(std::pair(exists(L"LastA3"), exists(L"LastB3")), std::pair(true, false));
+            EXPECT_TRUE(exists(L"LastA3") && exists(L"LastB3"));
         }
-        EXPECT_TRUE(exists(L"LastB3") || !exists(L"B21"));
         if (ticks == 500 || exists(L"LastB2")) PostQuitMessage(0);
     };
     Get<TTimer>(L"Timer").SetEnabled(true);

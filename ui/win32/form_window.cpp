@@ -48,14 +48,12 @@ void HandleSentMessages() {
 /// Null when a fault kept it from being created.
 TContainerPeer* ContainerOf(const TControl& control) { return static_cast<TContainerPeer*>(control.Peer()); }
 
-/// The content of the sheets in a container, or only of the chosen ones.
-void FillSheets(const TControl& container, bool chosenOnly) {
+/// Creates the content of the sheets in a container.
+void FillSheets(const TControl& container) {
     for (const TControl* tabs : container.Children()) {
         if (tabs->Kind() != TComponentKind::PageControl) continue;
-        for (const TControl* sheet : tabs->Children()) {
-            if (chosenOnly && sheet != static_cast<const TPageControl*>(tabs)->ActiveSheet()) continue;
+        for (const TControl* sheet : tabs->Children())
             if (TContainerPeer* peer = ContainerOf(*sheet)) peer->Fill();
-        }
     }
 }
 
@@ -260,8 +258,8 @@ void TFormWindow::CreatePage(TControl& page) {
         peer->Fill();
         peer->CatchUp();  // the sheets get their size before their content
     }
-    FillSheets(page, true);
-    std::ranges::stable_partition(FUnfilled, [&](const TControl* each) { return PageOf(*each) == &page; });
+    // All of them, so that whoever looks for a control finds it when its page is shown.
+    FillSheets(page);
 }
 
 bool TFormWindow::CreatesFirstPage() const {
@@ -323,7 +321,7 @@ void TFormWindow::TWindow::Open() {
             FFormWindow.FUnfilled.push_back(static_cast<TControl*>(component.get()));
     }
     CreateContent();
-    FillSheets(FFormWindow.FForm, false);
+    FillSheets(FFormWindow.FForm);
     SetWindowTextW(Handle(), WindowText().c_str());
     SetInitialSize();
 }

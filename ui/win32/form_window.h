@@ -59,7 +59,7 @@ class TFormWindow : public TFormPeer {
     /// Commits the edit that has the focus: a button can be pressed without taking the focus from it.
     void CommitFocus() const;
     /// Creates what is to be seen of a notebook page, as far as it does not exist yet: its window, its content and that
-    /// of the chosen sheets. Its other sheets are the next to get theirs.
+    /// of its sheets.
     void CreatePage(TControl& page);
     /// Lets the timer tick until StopTimer; the answer identifies it.
     [[nodiscard]] unsigned StartTimer(TTimer& timer);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/decimal.h"
 #include "ui/win32/form_window.h"
 #include "ui/win32/paint_buffer.h"
 
@@ -25,7 +26,7 @@ void TImagePeer::OnDraw(const DRAWITEMSTRUCT& item) {
     FillRect(buffer.Handle(), &area, reinterpret_cast<HBRUSH>(background));
 
     std::wstring name = image.Picture();
-    if (image.Frames() > 1) name += L"_" + std::to_wstring(image.Frame());
+    if (image.Frames() > 1) name += L"_" + DecimalText(image.Frame());
     const TPicture* picture =
         FForm.Pictures().Find(name, std::min(height, width * image.Height() / image.Width()));
     if (picture == nullptr) return;

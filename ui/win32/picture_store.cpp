@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "base/decimal.h"
 #include "ui/win32/paint_buffer.h"
 #include "ui/win32/png_decoder.h"
 
@@ -33,12 +34,12 @@ const TPicture* TPictureStore::Find(const std::wstring& name, int size) {
 std::optional<TPixels> TPictureStore::Load(const std::wstring& name, int size) const {
     const auto* const enough = std::lower_bound(std::begin(kSizes), std::end(kSizes), size);
     for (const auto* kept = enough; kept != std::end(kSizes); ++kept) {
-        std::optional<TPixels> pixels = Decode(name + L"_" + std::to_wstring(*kept));
+        std::optional<TPixels> pixels = Decode(name + L"_" + DecimalText(*kept));
         if (pixels && *kept > size) pixels = ScalePixels(*pixels, pixels->Width * size / *kept, size);
         if (pixels) return pixels;
     }
     for (const auto* kept = enough; kept != std::begin(kSizes); --kept) {
-        if (std::optional<TPixels> pixels = Decode(name + L"_" + std::to_wstring(kept[-1]))) return pixels;
+        if (std::optional<TPixels> pixels = Decode(name + L"_" + DecimalText(kept[-1]))) return pixels;
     }
     return std::nullopt;
 }
