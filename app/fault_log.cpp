@@ -135,14 +135,14 @@ void TFaultLog::Add(std::wstring_view type, std::wstring_view message) noexcept 
     if (FWriting) return;
     FWriting = true;
     try {
-        Append(Block(type, message));
+        Append(LinesOf(type, message));
     } catch (...) {
         // There is nobody left to tell.
     }
     FWriting = false;
 }
 
-std::vector<std::wstring> TFaultLog::Block(std::wstring_view type, std::wstring_view message) const {
+std::vector<std::wstring> TFaultLog::LinesOf(std::wstring_view type, std::wstring_view message) const {
     const std::wstring program = FSystem.Windows.ProgramFile();
     std::wstring osName;
     GetOSName(FSystem, osName);

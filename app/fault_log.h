@@ -23,7 +23,7 @@ class TFaultLog {
     void Add(std::wstring_view type, std::wstring_view message) noexcept;
 
   private:
-    [[nodiscard]] std::vector<std::wstring> Block(std::wstring_view type, std::wstring_view message) const;
+    [[nodiscard]] std::vector<std::wstring> LinesOf(std::wstring_view type, std::wstring_view message) const;
     void Append(const std::vector<std::wstring>& block) const;
 
     TSystem& FSystem;

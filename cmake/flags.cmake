@@ -7,6 +7,9 @@ target_include_directories(quilltune_flags INTERFACE ${CMAKE_SOURCE_DIR})
 # A catalogue row names only the fields it sets; the others have their defaults, which is the point of such a row.
 target_compile_options(quilltune_flags INTERFACE -Wall -Wextra -Werror -Wno-missing-field-initializers)
 
+# Of the program itself, not of its tests.
+set(QUILLTUNE_STRICT_WARNINGS -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast)
+
 if(WIN32)
     # Windows 2000 is the oldest system: its headers hide whatever came later.
     target_compile_definitions(quilltune_flags INTERFACE

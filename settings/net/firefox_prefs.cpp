@@ -50,7 +50,7 @@ bool TFirefoxPrefs::IsFirefoxInstalled() const {
     });
 }
 
-std::optional<TFirefoxPrefs::TBytes> TFirefoxPrefs::ReadFile(const std::wstring& path) const {
+std::optional<TFirefoxPrefs::TBytes> TFirefoxPrefs::ReadBytes(const std::wstring& path) const {
     auto bytes = FSystem.Files.Read(path);
     if (!bytes && FSystem.Files.Exists(path)) throw EUnreadable(path);
     return bytes;
@@ -58,7 +58,7 @@ std::optional<TFirefoxPrefs::TBytes> TFirefoxPrefs::ReadFile(const std::wstring&
 
 std::wstring TFirefoxPrefs::FindProfileFolder() const {
     TExtIniFile profiles;
-    if (const auto bytes = ReadFile(FFirefoxFolder + L"profiles.ini"))
+    if (const auto bytes = ReadBytes(FFirefoxFolder + L"profiles.ini"))
         profiles.SetStrings(TLineReader(DecodeUtf8OrAnsi(*bytes, FSystem.Windows).Text));
     const auto sections = profiles.ReadSections();
     const auto found = std::ranges::find_if(sections, [&](const std::wstring& section) {
@@ -71,9 +71,10 @@ std::wstring TFirefoxPrefs::FindProfileFolder() const {
 
 TFirefoxPrefs::TContent TFirefoxPrefs::ReadProfile(const std::wstring& profileFolder) const {
     const std::wstring userFile = profileFolder + kUserFile;
-    TContent content{.State = TState::Loaded, .UserFile = ReadFile(userFile)};
+    TContent content{.State = TState::Loaded, .UserFile = ReadBytes(userFile)};
     const bool exists = content.UserFile.has_value();
-    const TBytes bytes = exists ? *content.UserFile : ReadFile(profileFolder + kPrefsFile).value_or(TBytes());
+    const TBytes bytes =
+        exists ? *content.UserFile : ReadBytes(profileFolder + kPrefsFile).value_or(TBytes());
     const auto [text, encoding] = DecodeUtf8OrAnsi(bytes, FSystem.Windows);
     if (!exists) {
         // Without the copy the next load begins from prefs.js again, which is no loss.
@@ -125,7 +126,7 @@ bool TFirefoxPrefs::HasEdit(std::wstring_view quotedName) const {
 }
 
 void TFirefoxPrefs::FollowUserFile(const std::wstring& path) {
-    auto bytes = ReadFile(path);
+    auto bytes = ReadBytes(path);
     if (!bytes || bytes == FContent.UserFile) return;
     auto [text, encoding] = DecodeUtf8OrAnsi(*bytes, FSystem.Windows);
     FContent = {.State = TState::Loaded,

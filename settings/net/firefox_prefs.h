@@ -65,7 +65,7 @@ class TFirefoxPrefs {
         bool Appended;  ///< no statement named it
     };
 
-    [[nodiscard]] std::optional<TBytes> ReadFile(const std::wstring& path) const;
+    [[nodiscard]] std::optional<TBytes> ReadBytes(const std::wstring& path) const;
     [[nodiscard]] std::wstring FindProfileFolder() const;
     [[nodiscard]] TContent ReadProfile(const std::wstring& profileFolder) const;
     /// Reads user.js again should it have changed.

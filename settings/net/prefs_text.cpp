@@ -59,12 +59,13 @@ class TCode {
             while ((end = FCode.find(L';', end)) != std::wstring::npos) FQuotedEnds.push_back(++end);
             FWhiteSpace = at + part.size();
         } else {
-            const auto begin = std::ranges::find_if(part, IsCode) - part.begin();
-            const auto rest = part.rend() - std::find_if(part.rbegin(), part.rend(), IsCode);
+            const auto begin = static_cast<std::size_t>(std::ranges::find_if(part, IsCode) - part.begin());
+            const auto rest =
+                static_cast<std::size_t>(part.rend() - std::find_if(part.rbegin(), part.rend(), IsCode));
             if (rest > 0) {
-                EndWhiteSpace(at + static_cast<std::size_t>(begin));
+                EndWhiteSpace(at + begin);
                 AddWithoutLineEnds(part.substr(begin, rest - begin));
-                FWhiteSpace = at + static_cast<std::size_t>(rest);
+                FWhiteSpace = at + rest;
             }
         }
     }
@@ -85,7 +86,8 @@ class TCode {
 
     void AddWithoutLineEnds(std::wstring_view text) {
         for (;;) {
-            const std::size_t length = std::ranges::find_if(text, IsLineEnd) - text.begin();
+            const auto length =
+                static_cast<std::size_t>(std::ranges::find_if(text, IsLineEnd) - text.begin());
             FCode += text.substr(0, length);
             if (length == text.size()) return;
             text.remove_prefix(length + 1);

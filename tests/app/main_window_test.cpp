@@ -1,6 +1,7 @@
 #include "app/main_window.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -189,8 +190,8 @@ TEST_F(TMainWindow, ChangesMadeWhileAServiceIsWaitedForAreLeftForTheNextApply) {
     Fake.Services.Put(L"wscsvc", {});
     Click(kDriverItem);
     Marks().SecurityCenterAction = TServiceAction::Enable;
-    Fake.Clock.OnProcessMessages = [this] {
-        Fake.Clock.OnProcessMessages = nullptr;
+    Fake.Clock.OnProcessMessages = [this, ran = false]() mutable {
+        if (std::exchange(ran, true)) return;
         Toggle(kUdma);
         Click(L"RzGroup_Display.Items[0]");
         Toggle(L"Checkbox_FileType_MenuOperation_FileAndFolder_SendTo");
@@ -348,8 +349,8 @@ TEST_F(TMainWindow, BecomesUsableWhateverFaultItsStartMeets) {
 TEST_F(TMainWindow, APageOpenedWhileAnotherLoadsDoesNotEndItsLoading) {
     InstallFirefox(Fake, "user_pref(\"browser.blink_allowed\", false);");
     Open();
-    Fake.Clock.OnProcessMessages = [this] {
-        Fake.Clock.OnProcessMessages = nullptr;
+    Fake.Clock.OnProcessMessages = [this, ran = false]() mutable {
+        if (std::exchange(ran, true)) return;
         Click(kDriverItem);
     };
     Click(L"RzGroup_Use.Items[1]");
