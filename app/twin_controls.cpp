@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "app/page_table.h"
-#include "ui/controls.h"
+#include "ui/state.h"
 
 namespace {
 
@@ -17,21 +17,8 @@ const TPageDefinition* PageOf(const std::wstring& control) {
 }
 
 void CopyState(const TControl& from, TControl& to) {
-    switch (to.Kind()) {
-        case TComponentKind::CheckBox:
-            return static_cast<TCheckBox&>(to).SetChecked(static_cast<const TCheckBox&>(from).Checked());
-        case TComponentKind::ComboBox:
-            to.SetEnabled(from.Enabled());
-            return static_cast<TComboBox&>(to).SetItemIndex(static_cast<const TComboBox&>(from).ItemIndex());
-        case TComponentKind::TrackBar:
-        case TComponentKind::UpDown:
-            return static_cast<TRangeControl&>(to).SetPosition(
-                static_cast<const TRangeControl&>(from).Position());
-        case TComponentKind::Edit:
-            return static_cast<TEdit&>(to).SetText(static_cast<const TEdit&>(from).Text());
-        default:
-            return;
-    }
+    if (to.Kind() == TComponentKind::ComboBox) to.SetEnabled(from.Enabled());
+    SetState(to, StateOf(from));
 }
 
 }  // namespace
