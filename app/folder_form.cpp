@@ -41,7 +41,7 @@ void TQuilltune_FormFolder::FormShow() {
 }
 
 void TQuilltune_FormFolder::Button_OKClick() {
-    FChanges.WriteAll();
+    CarryOut(FChanges);
     Close();
     // The desktop builds its icons anew when associations change.
     FContext.System.Shell.NotifyChange(kAllEvents, kFlush);

@@ -3,12 +3,10 @@
 #include <exception>
 #include <functional>
 #include <initializer_list>
-#include <utility>
 
 #include "app/category_table.h"
 #include "app/folder_form.h"
 #include "app/timing_log.h"
-#include "platform/service_control.h"
 #include "platform/suite_language.h"
 #include "platform/windows_version.h"
 #include "settings/explorer_keys.h"
@@ -257,10 +255,7 @@ void TQuilltune_FormMain::PageChanged(TComponent& sender) {
 }
 
 void TQuilltune_FormMain::EnableApply() {
-    Find(L"Button_Apply")
-        ->SetEnabled(!FChanges.Pending().empty() || FContext.FirefoxChanged ||
-                     FContext.SecurityCenterAction != TServiceAction::Nothing ||
-                     FContext.FirewallAction != TServiceAction::Nothing);
+    Find(L"Button_Apply")->SetEnabled(!FChanges.IsEmpty() || FContext.FirefoxChanged);
 }
 
 void TQuilltune_FormMain::Button_OKClick() {
@@ -271,26 +266,13 @@ void TQuilltune_FormMain::Button_OKClick() {
 void TQuilltune_FormMain::Button_CancelClick() { Close(); }
 
 void TQuilltune_FormMain::Button_ApplyClick() {
-    const TWritten written = FChanges.WriteAll();
-    ApplyServices();
+    const TWritten written = CarryOut(FChanges);
     // Only for what was written: while a service is waited for, the user may have changed more.
     if (written.RestartNeeded) OfferRestart();
     NotifyShell(written.AssociationsChanged);
     ApplyFirefox();
     FTwins->Written();
     EnableApply();
-}
-
-void TQuilltune_FormMain::ApplyServices() {
-    // The mark is taken before the wait, which handles messages: another Apply meanwhile must not repeat it.
-    const auto carryOut = [this](TServiceAction& mark, const wchar_t* service) {
-        const TServiceAction action = std::exchange(mark, TServiceAction::Nothing);
-        if (action == TServiceAction::Enable) StartServiceByName(FSystem, service);
-        if (action == TServiceAction::Disable) StopServiceByName(FSystem, service);
-    };
-    carryOut(FContext.SecurityCenterAction, L"wscsvc");
-    // Older systems have no firewall service of this name.
-    if (FContext.WindowsLevel > 5) carryOut(FContext.FirewallAction, L"MpsSvc");
 }
 
 void TQuilltune_FormMain::OfferRestart() {

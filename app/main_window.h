@@ -43,7 +43,6 @@ class TQuilltune_FormMain : public TForm {
     void BecomeReady();
     void LoadPage(int tag);
     void SelectItem(TCategoryItem& item);
-    void ApplyServices();
     void OfferRestart();
     void NotifyShell(bool associationsChanged);
     void ApplyFirefox();

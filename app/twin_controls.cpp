@@ -79,12 +79,12 @@ void TTwinControls::Written() {
 
 bool TTwinControls::IsPending(const TPair& pair) const {
     if (pair.Changed && pair.IsMarked != nullptr && pair.IsMarked(FContext)) return true;
-    const auto recorded = [](const TSide& side, const TRegRecor& change) {
-        return std::ranges::count(side.Controls, change.Setting, &TControl::Name) != 0;
+    const auto recorded = [&](const auto& change) {
+        return std::ranges::count(pair.First.Controls, change.Setting, &TControl::Name) != 0 ||
+               std::ranges::count(pair.Second.Controls, change.Setting, &TControl::Name) != 0;
     };
-    return std::ranges::any_of(FContext.Changes.Pending(), [&](const TRegRecor& change) {
-        return recorded(pair.First, change) || recorded(pair.Second, change);
-    });
+    return std::ranges::any_of(FContext.Changes.Pending(), recorded) ||
+           std::ranges::any_of(FContext.Changes.Services(), recorded);
 }
 
 void TTwinControls::Follow(const TSide& leader, const TSide& follower) {

@@ -17,11 +17,13 @@ struct TRegRecor {
     TRegValue Value;
     TReadStatus ReadResult = TReadStatus::Found;  ///< set by reads only
     TRegAction Action = TRegAction::Write;
-    bool IsSystemParameter = false;  ///< the entry is a SystemParametersInfoW call of the four Spi fields
-    std::uint32_t SpiAction = 0;     ///< uiAction
-    std::uint32_t SpiParam = 0;      ///< uiParam
-    TSpiData SpiData;                ///< pvParam
-    std::uint32_t SpiWinIni = 0;     ///< fWinIni; recorders set 1 = SPIF_UPDATEINIFILE
-    std::wstring Setting;            ///< the name of the control that recorded the change
-    bool RestartNeeded = false;      ///< Windows must restart before the change takes effect
+    bool IsSystemParameter = false;  ///< the entry is a SystemParametersInfoW call of the Spi fields
+    std::uint32_t SpiGet = 0;     ///< the SPI_GET… code that tells what SpiAction sets; 0 = there is none
+    bool SpiInParam = false;      ///< the number that is set is SpiParam; otherwise it is SpiData
+    std::uint32_t SpiAction = 0;  ///< uiAction
+    std::uint32_t SpiParam = 0;   ///< uiParam
+    TSpiData SpiData;             ///< pvParam
+    std::uint32_t SpiWinIni = 0;  ///< fWinIni; recorders set 1 = SPIF_UPDATEINIFILE
+    std::wstring Setting;         ///< the name of the control that recorded the change
+    bool RestartNeeded = false;   ///< Windows must restart before the change takes effect
 };

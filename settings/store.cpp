@@ -132,7 +132,7 @@ void RecordText(TPageContext& context, const std::wstring& changeName, const TPl
                 const std::wstring& text) {
     if (!place.IsFirefoxPref) return RecordValue(context, changeName, place, TRegDataType::String, text);
     context.FirefoxChanged = true;
-    context.Firefox.SetFirefoxPref(place.ValueName, text);
+    context.Firefox.SetFirefoxPref(place.ValueName, text, context.Setting);
 }
 
 void RecordNumber(TPageContext& context, const std::wstring& changeName, const TPlace& place,

@@ -18,8 +18,14 @@ bool Runs(const TPageContext& context, const wchar_t* service) {
     return QueryServiceRunning(context.System, service) == TServiceAnswer::Running;
 }
 
-TServiceAction ActionOf(TComponent& box) {
-    return static_cast<TCheckBox&>(box).Checked() ? TServiceAction::Enable : TServiceAction::Disable;
+constexpr int kSecurityCenter = 0;
+constexpr int kFirewall = 1;
+
+void RecordService(TPageContext& context, int service, TComponent& box) {
+    context.Changes.Switch({.Service = kSecurityServices[service],
+                            .Order = service,
+                            .On = static_cast<TCheckBox&>(box).Checked(),
+                            .Setting = context.Setting});
 }
 
 constexpr std::int32_t kUpdatesOff = 1;
@@ -34,23 +40,23 @@ bool HasFirewall(const TPageContext& context) {
 void LoadSecurityCenter(TPageContext& context, const TSpecialRow& row) {
     auto& box = *context.Form.Find<TCheckBox>(row.Controls[0]);
     if (!HasFirewall(context)) box.SetEnabled(false);
-    box.SetChecked(Runs(context, L"wscsvc"));
+    box.SetChecked(Runs(context, kSecurityServices[kSecurityCenter]));
 }
 
 void RecordSecurityCenter(TPageContext& context, const TSpecialRow& /*row*/, TComponent& sender) {
-    context.SecurityCenterAction = ActionOf(sender);
+    RecordService(context, kSecurityCenter, sender);
 }
 
 void LoadFirewall(TPageContext& context, const TSpecialRow& row) {
     auto& box = *context.Form.Find<TCheckBox>(row.Controls[0]);
-    if (context.WindowsLevel >= kVista) return box.SetChecked(Runs(context, L"MpsSvc"));
+    if (context.WindowsLevel >= kVista) return box.SetChecked(Runs(context, kSecurityServices[kFirewall]));
     const auto value = Stored(context, row.Value);
     box.SetChecked(!value || AsInteger(*value) == 1);
 }
 
 void RecordFirewall(TPageContext& context, const TSpecialRow& row, TComponent& sender) {
     if (context.WindowsLevel >= kVista)
-        context.FirewallAction = ActionOf(sender);
+        RecordService(context, kFirewall, sender);
     else
         RecordNumber(context, sender.Name(), row.Value, static_cast<TCheckBox&>(sender).Checked() ? 1 : 0);
 }

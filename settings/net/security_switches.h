@@ -1,8 +1,7 @@
 // The protection of Windows: Security Center, Windows Firewall, automatic updates. Each can be switched on
 // several pages; a page names its controls in a special row and gives the row the functions of the switch.
 //
-// A switch that stands for a service records no pending change but sets the mark that tells Apply what to do
-// with the service.
+// A switch that stands for a service records what becomes of the service.
 #pragma once
 
 #include "settings/rows.h"
@@ -10,6 +9,9 @@
 /// Windows Vista and later have Security Center and firewall always, Windows XP while its service
 /// SharedAccess runs, older ones never.
 [[nodiscard]] bool HasFirewall(const TPageContext& context);
+
+// The services, in the order in which Apply switches them.
+inline constexpr const wchar_t* kSecurityServices[] = {L"wscsvc", L"MpsSvc"};
 
 // Controls: the check box.
 inline constexpr TPlace kSecurityCenterStart{kLocalMachine,

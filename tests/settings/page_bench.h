@@ -36,6 +36,12 @@ class TPageBench {
     [[nodiscard]] bool NeedsRestart() const {
         return std::ranges::any_of(FChanges.Pending(), &TRegRecor::RestartNeeded);
     }
+    /// What Apply will do with a service: 0 nothing, 1 switch it on, 2 off.
+    [[nodiscard]] int Switches(const wchar_t* service) const {
+        for (const TServiceSwitch& each : FChanges.Services())
+            if (each.Service == service) return each.On ? 1 : 2;
+        return 0;
+    }
     void Store(const TPlace& place, const TRegistryData& data) {
         Fake.Registry.Put({place.Root, place.Key, place.ValueName}, data);
     }
