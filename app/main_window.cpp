@@ -4,11 +4,11 @@
 #include <functional>
 #include <initializer_list>
 
-#include "app/category_table.h"
 #include "app/folder_form.h"
 #include "app/timing_log.h"
 #include "platform/suite_language.h"
 #include "platform/windows_version.h"
+#include "settings/category_table.h"
 #include "settings/explorer_keys.h"
 
 namespace {
@@ -102,7 +102,10 @@ void TQuilltune_FormMain::FormCreate() {
     GetOSName(FSystem, osName);
     FSystem.Shell.DebugOutput(L"OsName:" + osName);
     FContext.WindowsLevel = WindowsLevel(osName);
-    if (FContext.WindowsLevel < 5) Find(CategoryItemName(L"RzGroup_Use", 1))->SetVisible(false);
+    for (const TCategoryGroupRow& group : CategoryTable())
+        for (std::size_t i = 0; i < group.Items.size(); ++i)
+            if (!group.Items[i].Levels.Include(FContext.WindowsLevel))
+                Find(group.Name)->Children()[i]->SetVisible(false);
     for (const wchar_t* group : {L"RzGroup_CommonSettings", L"RzGroup_Display", L"RzGroup_Use",
                                  L"RzGroup_Communication", L"RzGroup_Manage"}) {
         for (TControl* item : Find(group)->Children())
@@ -138,32 +141,10 @@ void TQuilltune_FormMain::FormShow() {
     log.Add(L"end:");
 }
 
-namespace {
-
-void ReinitialiseListsOf(TControl& container) {
-    for (TControl* control : container.Children()) {
-        if (control->Kind() == TComponentKind::ComboBox)
-            static_cast<TComboBox*>(control)->Reinitialise();
-        else
-            ReinitialiseListsOf(*control);
-    }
-}
-
-}  // namespace
-
-/// Pages whose drop-down lists start with their first item chosen until the page's loader chooses another.
 void TQuilltune_FormMain::ReinitialiseLists(TTimingLog& log) {
-    struct TPageLists {
-        const wchar_t* Label;
-        const wchar_t* Page;
-    };
-    constexpr TPageLists kPages[] = {
-        {L"CB_Com:", L"19"}, {L"CB_Dis:", L"1"},  {L"CB_FF:", L"9"},
-        {L"CB_Pri:", L"12"}, {L"CB_Sta:", L"16"}, {L"CB_Tas:", L"6"},
-    };
-    for (const TPageLists& page : kPages) {
+    for (const TPageLists& page : PagesOfChosenLists()) {
         log.Add(page.Label);
-        ReinitialiseListsOf(*Find(page.Page));
+        ChooseFirstItems(*Find(std::to_wstring(page.Tag)));
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "app/page_table.h"
+#include "settings/page_table.h"
 #include "ui/state.h"
 
 namespace {

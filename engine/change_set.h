@@ -13,6 +13,8 @@ struct TRegistryTarget {
     std::wstring Key;        ///< without backslashes at its ends
     std::wstring ValueName;  ///< empty = the key's default value
     bool IsKey = false;  ///< the key itself with all that is in it and below it; there is no value name then
+
+    bool operator==(const TRegistryTarget&) const = default;
 };
 
 /// A parameter of SystemParametersInfoW.
@@ -21,14 +23,20 @@ struct TParameterTarget {
     std::uint32_t Get = 0;      ///< SPI_GET… code; 0 = Windows does not tell it
     bool InParam = false;       ///< a number that is set in uiParam; otherwise in pvParam
     std::size_t BlockSize = 0;  ///< of the structure that pvParam points to; 0 = it is a number
+
+    bool operator==(const TParameterTarget&) const = default;
 };
 
 struct TServiceTarget {
     std::wstring Service;
+
+    bool operator==(const TServiceTarget&) const = default;
 };
 
 struct TPreferenceTarget {
     std::wstring QuotedName;
+
+    bool operator==(const TPreferenceTarget&) const = default;
 };
 
 using TTarget = std::variant<TRegistryTarget, TParameterTarget, TServiceTarget, TPreferenceTarget>;
@@ -55,6 +63,8 @@ struct TChange {
     TContent After;              ///< what will be there when all changes of the set are made
     bool Restart = false;        ///< Windows must restart before it takes effect
     bool IsOverwritten = false;  ///< a later change of the set leaves something else there
+
+    bool operator==(const TChange&) const = default;
 };
 
 /// Preferences that a program keeps in a file of its own. They are changed in memory and saved as a whole.

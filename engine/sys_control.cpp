@@ -52,6 +52,11 @@ void TSysControl::Switch(const TServiceSwitch& service) {
     FServices.insert(std::ranges::upper_bound(FServices, service.Order, {}, &TServiceSwitch::Order), service);
 }
 
+void TSysControl::Clear() {
+    FPending.clear();
+    FServices.clear();
+}
+
 void TSysControl::Remove(std::wstring_view name) {
     std::erase_if(FPending, [&](const TRegRecor& entry) { return entry.Name == name; });
 }

@@ -35,6 +35,9 @@ class TSysControl {
     /// Records what becomes of a service, in place of what was recorded for it before.
     void Switch(const TServiceSwitch& service);
 
+    /// Takes everything back.
+    void Clear();
+
     /// Takes the changes of that name back.
     void Remove(std::wstring_view name);
 

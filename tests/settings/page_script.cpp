@@ -7,9 +7,9 @@
 #include <memory>
 #include <sstream>
 
-#include "app/page_table.h"
 #include "platform/text.h"
 #include "platform/unicode.h"
+#include "settings/page_table.h"
 #include "settings/shell/desktop_icons.h"
 #include "tests/settings/page_bench.h"
 
