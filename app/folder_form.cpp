@@ -18,7 +18,7 @@ TQuilltune_FormFolder::TQuilltune_FormFolder(const TPageContext& owner, const TL
       FPage(DesktopIcons(), FContext, *this, [](TComponent&) {}) {
     ClientWidth = 360;
     ClientHeight = 330;
-    SetCaption(L"Icons and Drives");
+    SetCaption(kDesktopIconsCaption);
     Build(*this, Buttons(Button(L"Button_OK", L"OK"), Button(L"Button_Cancel", L"Cancel")));
     auto* ok = Find<TButton>(L"Button_OK");
     ok->Default = true;
@@ -35,13 +35,11 @@ void TQuilltune_FormFolder::ChooseSheet(const wchar_t* name) {
 
 void TQuilltune_FormFolder::FormShow() {
     FLanguage.Translate(*this);
-    Find(L"TabSheet_Folder_Desktop")->SetCaption(FContext.Captions[TCaption::Desktop]);
-    Find(L"TabSheet_Folder_Drivers")->SetCaption(FContext.Captions[TCaption::Drivers]);
     FPage.Load();
 }
 
 void TQuilltune_FormFolder::Button_OKClick() {
-    FChanges.WriteAll();
+    CarryOut(FChanges);
     Close();
     // The desktop builds its icons anew when associations change.
     FContext.System.Shell.NotifyChange(kAllEvents, kFlush);

@@ -3,15 +3,13 @@
 #include <exception>
 #include <functional>
 #include <initializer_list>
-#include <utility>
 
-#include "app/category_table.h"
 #include "app/folder_form.h"
 #include "app/timing_log.h"
 #include "base/decimal.h"
-#include "platform/service_control.h"
 #include "platform/suite_language.h"
 #include "platform/windows_version.h"
+#include "settings/category_table.h"
 #include "settings/tell_explorer.h"
 
 namespace {
@@ -105,7 +103,10 @@ void TQuilltune_FormMain::FormCreate() {
     GetOSName(FSystem, osName);
     FSystem.Shell.DebugOutput(L"OsName:" + osName);
     FContext.WindowsLevel = WindowsLevel(osName);
-    if (FContext.WindowsLevel < 5) Find(CategoryItemName(L"RzGroup_Use", 1))->SetVisible(false);
+    for (const TCategoryGroupRow& group : CategoryTable())
+        for (std::size_t i = 0; i < group.Items.size(); ++i)
+            if (!group.Items[i].Levels.Include(FContext.WindowsLevel))
+                Find(group.Name)->Children()[i]->SetVisible(false);
     for (const wchar_t* group : {L"RzGroup_CommonSettings", L"RzGroup_Display", L"RzGroup_Use",
                                  L"RzGroup_Communication", L"RzGroup_Manage"}) {
         for (TControl* item : Find(group)->Children())
@@ -141,32 +142,10 @@ void TQuilltune_FormMain::FormShow() {
     log.Add(L"end:");
 }
 
-namespace {
-
-void ReinitialiseListsOf(TControl& container) {
-    for (TControl* control : container.Children()) {
-        if (control->Kind() == TComponentKind::ComboBox)
-            static_cast<TComboBox*>(control)->Reinitialise();
-        else
-            ReinitialiseListsOf(*control);
-    }
-}
-
-}  // namespace
-
-/// Pages whose drop-down lists start with their first item chosen until the page's loader chooses another.
 void TQuilltune_FormMain::ReinitialiseLists(TTimingLog& log) {
-    struct TPageLists {
-        const wchar_t* Label;
-        const wchar_t* Page;
-    };
-    constexpr TPageLists kPages[] = {
-        {L"CB_Com:", L"19"}, {L"CB_Dis:", L"1"},  {L"CB_FF:", L"9"},
-        {L"CB_Pri:", L"12"}, {L"CB_Sta:", L"16"}, {L"CB_Tas:", L"6"},
-    };
-    for (const TPageLists& page : kPages) {
+    for (const TPageLists& page : PagesOfChosenLists()) {
         log.Add(page.Label);
-        ReinitialiseListsOf(*Find(page.Page));
+        ChooseFirstItems(*Find(DecimalText(page.Tag)));
     }
 }
 
@@ -258,10 +237,7 @@ void TQuilltune_FormMain::PageChanged(TComponent& sender) {
 }
 
 void TQuilltune_FormMain::EnableApply() {
-    Find(L"Button_Apply")
-        ->SetEnabled(!FChanges.Pending().empty() || FContext.FirefoxChanged ||
-                     FContext.SecurityCenterAction != TServiceAction::Nothing ||
-                     FContext.FirewallAction != TServiceAction::Nothing);
+    Find(L"Button_Apply")->SetEnabled(!FChanges.IsEmpty() || FContext.FirefoxChanged);
 }
 
 void TQuilltune_FormMain::Button_OKClick() {
@@ -272,26 +248,13 @@ void TQuilltune_FormMain::Button_OKClick() {
 void TQuilltune_FormMain::Button_CancelClick() { Close(); }
 
 void TQuilltune_FormMain::Button_ApplyClick() {
-    const TWritten written = FChanges.WriteAll();
-    ApplyServices();
+    const TWritten written = CarryOut(FChanges);
     // Only for what was written: while a service is waited for, the user may have changed more.
     if (written.RestartNeeded) OfferRestart();
     NotifyShell(written.AssociationsChanged);
     ApplyFirefox();
     FTwins->Written();
     EnableApply();
-}
-
-void TQuilltune_FormMain::ApplyServices() {
-    // The mark is taken before the wait, which handles messages: another Apply meanwhile must not repeat it.
-    const auto carryOut = [this](TServiceAction& mark, const wchar_t* service) {
-        const TServiceAction action = std::exchange(mark, TServiceAction::Nothing);
-        if (action == TServiceAction::Enable) StartServiceByName(FSystem, service);
-        if (action == TServiceAction::Disable) StopServiceByName(FSystem, service);
-    };
-    carryOut(FContext.SecurityCenterAction, L"wscsvc");
-    // Older systems have no firewall service of this name.
-    if (FContext.WindowsLevel > 5) carryOut(FContext.FirewallAction, L"MpsSvc");
 }
 
 void TQuilltune_FormMain::OfferRestart() {

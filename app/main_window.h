@@ -4,12 +4,12 @@
 #include <memory>
 #include <set>
 
-#include "app/page_table.h"
 #include "app/twin_controls.h"
 #include "platform/app_frame.h"
 #include "platform/language.h"
 #include "settings/net/firefox_prefs.h"
 #include "settings/page_context.h"
+#include "settings/page_table.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 
@@ -43,7 +43,6 @@ class TQuilltune_FormMain : public TForm {
     void BecomeReady();
     void LoadPage(int tag);
     void SelectItem(TCategoryItem& item);
-    void ApplyServices();
     void OfferRestart();
     void NotifyShell(bool associationsChanged);
     void ApplyFirefox();

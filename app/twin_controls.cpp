@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "app/page_table.h"
-#include "ui/controls.h"
+#include "settings/page_table.h"
+#include "ui/state.h"
 
 namespace {
 
@@ -17,21 +17,8 @@ const TPageDefinition* PageOf(const std::wstring& control) {
 }
 
 void CopyState(const TControl& from, TControl& to) {
-    switch (to.Kind()) {
-        case TComponentKind::CheckBox:
-            return static_cast<TCheckBox&>(to).SetChecked(static_cast<const TCheckBox&>(from).Checked());
-        case TComponentKind::ComboBox:
-            to.SetEnabled(from.Enabled());
-            return static_cast<TComboBox&>(to).SetItemIndex(static_cast<const TComboBox&>(from).ItemIndex());
-        case TComponentKind::TrackBar:
-        case TComponentKind::UpDown:
-            return static_cast<TRangeControl&>(to).SetPosition(
-                static_cast<const TRangeControl&>(from).Position());
-        case TComponentKind::Edit:
-            return static_cast<TEdit&>(to).SetText(static_cast<const TEdit&>(from).Text());
-        default:
-            return;
-    }
+    if (to.Kind() == TComponentKind::ComboBox) to.SetEnabled(from.Enabled());
+    SetState(to, StateOf(from));
 }
 
 }  // namespace
@@ -92,12 +79,12 @@ void TTwinControls::Written() {
 
 bool TTwinControls::IsPending(const TPair& pair) const {
     if (pair.Changed && pair.IsMarked != nullptr && pair.IsMarked(FContext)) return true;
-    const auto recorded = [](const TSide& side, const TRegRecor& change) {
-        return std::ranges::count(side.Controls, change.Setting, &TControl::Name) != 0;
+    const auto recorded = [&](const auto& change) {
+        return std::ranges::count(pair.First.Controls, change.Setting, &TControl::Name) != 0 ||
+               std::ranges::count(pair.Second.Controls, change.Setting, &TControl::Name) != 0;
     };
-    return std::ranges::any_of(FContext.Changes.Pending(), [&](const TRegRecor& change) {
-        return recorded(pair.First, change) || recorded(pair.Second, change);
-    });
+    return std::ranges::any_of(FContext.Changes.Pending(), recorded) ||
+           std::ranges::any_of(FContext.Changes.Services(), recorded);
 }
 
 void TTwinControls::Follow(const TSide& leader, const TSide& follower) {

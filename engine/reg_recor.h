@@ -17,7 +17,8 @@ struct TRegRecor {
     TRegValue Value;
     TReadStatus ReadResult = TReadStatus::Found;  ///< set by reads only
     TRegAction Action = TRegAction::Write;
-    bool IsSystemParameter = false;  ///< the entry is a SystemParametersInfoW call of the four Spi fields
+    bool IsSystemParameter = false;  ///< the entry is a SystemParametersInfoW call of the Spi fields
+    bool SpiInParam = false;         ///< the number that is set is SpiParam; otherwise it is SpiData
     std::uint32_t SpiGet = 0;     ///< the SPI_GET… code that tells what SpiAction sets; 0 = there is none
     std::uint32_t SpiAction = 0;  ///< uiAction
     std::uint32_t SpiParam = 0;   ///< uiParam

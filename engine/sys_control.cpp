@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "engine/reg_value.h"
+#include "platform/service_control.h"
 #include "platform/text.h"
 
 namespace {
@@ -33,6 +34,8 @@ void TSysControl::Add(const TRegRecor& record) {
         found = true;
         entry.RestartNeeded |= record.RestartNeeded;
         if (entry.IsSystemParameter) {
+            entry.SpiGet = record.SpiGet;
+            entry.SpiInParam = record.SpiInParam;
             entry.SpiAction = record.SpiAction;
             entry.SpiParam = record.SpiParam;
             entry.SpiData = record.SpiData;
@@ -42,6 +45,16 @@ void TSysControl::Add(const TRegRecor& record) {
         }
     }
     if (!found) FPending.push_back(record);
+}
+
+void TSysControl::Switch(const TServiceSwitch& service) {
+    std::erase_if(FServices, [&](const TServiceSwitch& entry) { return entry.Service == service.Service; });
+    FServices.insert(std::ranges::upper_bound(FServices, service.Order, {}, &TServiceSwitch::Order), service);
+}
+
+void TSysControl::Clear() {
+    FPending.clear();
+    FServices.clear();
 }
 
 void TSysControl::Remove(std::wstring_view name) {
@@ -89,6 +102,17 @@ TWritten TSysControl::WriteAll() {
     }
     FPending.clear();
     return written;
+}
+
+void TSysControl::SwitchServices() {
+    // The entry is taken before the wait, which handles messages: another pass meanwhile must not repeat it.
+    for (auto next = FServices.begin(); next != FServices.end();) {
+        const TServiceSwitch service = *next;
+        FServices.erase(next);
+        service.On ? StartServiceByName(FSystem, service.Service)
+                   : StopServiceByName(FSystem, service.Service);
+        next = std::ranges::upper_bound(FServices, service.Order, {}, &TServiceSwitch::Order);
+    }
 }
 
 TWriteStatus TSysControl::Write(const TRegRecor& record) {

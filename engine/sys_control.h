@@ -7,6 +7,14 @@
 #include "engine/reg_recor.h"
 #include "platform/system.h"
 
+/// What Apply does with a Windows service.
+struct TServiceSwitch {
+    std::wstring Service;  ///< its key name
+    int Order = 0;         ///< services are switched in this order, whichever was recorded first
+    bool On = false;       ///< enables and starts it; otherwise stops and disables it
+    std::wstring Setting;  ///< the name of the control that recorded it
+};
+
 /// What a pass of writes has done.
 struct TWritten {
     bool RestartNeeded = false;        ///< something was written that waits for a restart, for the first time
@@ -18,11 +26,17 @@ class TSysControl {
     /// `system` outlives the object.
     explicit TSysControl(TSystem& system) : FSystem(system) {}
 
-    /// Records a change. When its name is known already, only the value (for a system parameter: the four Spi
+    /// Records a change. When its name is known already, only the value (for a system parameter: the Spi
     /// fields) of the known entry changes: it keeps its place, address, type and action. A recorder that means
     /// a different operation for the same control therefore uses a name of its own. The mark of a restart, once set,
     /// stays.
     void Add(const TRegRecor& record);
+
+    /// Records what becomes of a service, in place of what was recorded for it before.
+    void Switch(const TServiceSwitch& service);
+
+    /// Takes everything back.
+    void Clear();
 
     /// Takes the changes of that name back.
     void Remove(std::wstring_view name);
@@ -44,12 +58,20 @@ class TSysControl {
     /// written until then; a failure is not reported.
     TWritten WriteAll();
 
+    /// Switches the services, each once, and waits for each. A service that is recorded while another one is waited for
+    /// is switched too if its turn is still to come; all others are left for the next pass. Failures are not reported.
+    void SwitchServices();
+
     /// The changes not yet written.
     [[nodiscard]] std::span<const TRegRecor> Pending() const { return FPending; }
+    /// The services not yet switched, in the order in which they will be.
+    [[nodiscard]] std::span<const TServiceSwitch> Services() const { return FServices; }
+    [[nodiscard]] bool IsEmpty() const { return FPending.empty() && FServices.empty(); }
 
   private:
     [[nodiscard]] TWriteStatus Write(const TRegRecor& record);
 
     TSystem& FSystem;
     std::vector<TRegRecor> FPending;
+    std::vector<TServiceSwitch> FServices;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -43,6 +44,17 @@ struct TRegistryData {
     bool operator==(const TRegistryData&) const = default;
 };
 
+/// A stored value to the byte, with its REG_… type.
+struct TRawValue {
+    std::uint32_t Type = 0;
+    TBytes Bytes;
+
+    bool operator==(const TRawValue&) const = default;
+};
+
+/// What Write stores of the data, which must fit its type. Of type Unknown nothing is stored.
+[[nodiscard]] std::optional<TRawValue> RawValueOf(const TRegistryData& data);
+
 /// Which registry a 32-bit process on 64-bit Windows sees; everywhere else the two are the same.
 enum class TRegistryView {
     Native,   ///< the 64-bit view (KEY_WOW64_64KEY), the one that Windows itself uses
@@ -73,6 +85,9 @@ class TRegistry {
 
     /// Reads the value (an empty name reads the key's default value, which may be missing).
     [[nodiscard]] virtual TReadStatus Read(const TRegistryPlace& place, TRegistryData& data) const = 0;
+
+    /// Reads the value whatever its type and size, also where the user may only read.
+    [[nodiscard]] virtual TReadStatus ReadRaw(const TRegistryPlace& place, TRawValue& value) const = 0;
 
     /// Opens or creates the key and writes the value. Data of type Unknown creates the key and writes nothing.
     /// The alternative held by `data.Value` must fit `data.Type`; if it does not, the answer is Refused.

@@ -5,13 +5,16 @@ namespace {
 constexpr std::uint32_t kManagerAllAccess = 0xF003F;  // SC_MANAGER_ALL_ACCESS
 constexpr std::uint32_t kServiceAllAccess = 0xF01FF;  // SERVICE_ALL_ACCESS
 constexpr std::uint32_t kGenericRead = 0x80000000;    // GENERIC_READ
+constexpr std::uint32_t kManagerConnect = 0x0001;     // SC_MANAGER_CONNECT
+constexpr std::uint32_t kServiceQuery = 0x0005;       // SERVICE_QUERY_CONFIG | SERVICE_QUERY_STATUS
 
 /// An opened service, released at the end of its scope. Either handle may be none; the calls then fail.
 class TOpenService {
   public:
-    TOpenService(TServiceManager& services, const std::wstring& name, std::uint32_t access)
+    TOpenService(TServiceManager& services, const std::wstring& name, std::uint32_t access,
+                 std::uint32_t managerAccess = kManagerAllAccess)
         : FServices(services),
-          FManager(services.OpenManager(kManagerAllAccess)),
+          FManager(services.OpenManager(managerAccess)),
           FService(services.OpenNamedService(FManager, name, access)) {}
     ~TOpenService() {
         FServices.Close(FService);
@@ -29,6 +32,17 @@ class TOpenService {
 };
 
 }  // namespace
+
+std::optional<TServiceStatus> ReadServiceStatus(TSystem& system, const std::wstring& serviceName) {
+    const TOpenService service(system.Services, serviceName, kServiceQuery, kManagerConnect);
+    TServiceStatus status;
+    auto state = TServiceState::Stopped;
+    if (!system.Services.QueryStartType(service.Handle(), status.StartType) ||
+        !system.Services.QueryState(service.Handle(), state))
+        return std::nullopt;
+    status.Runs = state == TServiceState::Running;
+    return status;
+}
 
 bool StartServiceByName(TSystem& system, const std::wstring& serviceName) try {
     constexpr std::uint32_t kWait = 500;

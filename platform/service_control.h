@@ -1,6 +1,8 @@
 // Switching Windows services on and off. Failures show in the answers only; every handle is released.
 #pragma once
 
+#include <optional>
+
 #include "platform/system.h"
 
 /// What a service answers when it is asked for its state.
@@ -9,6 +11,18 @@ enum class TServiceAnswer : int {
     Unknown = 1,  ///< it cannot be opened, or it answers that it is neither running nor silent
     Running = 2,
 };
+
+/// How a service is set up, and whether it runs.
+struct TServiceStatus {
+    TServiceStartType StartType = TServiceStartType::Manual;
+    bool Runs = false;
+
+    bool operator==(const TServiceStatus&) const = default;
+};
+
+/// Nothing when there is no such service or the user may not ask.
+[[nodiscard]] std::optional<TServiceStatus> ReadServiceStatus(TSystem& system,
+                                                              const std::wstring& serviceName);
 
 /// Sets the start type to automatic, starts the service and waits while it is starting, as long as that takes;
 /// window messages are handled meanwhile. True when it ends up running, false also when it ran already.

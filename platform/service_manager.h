@@ -46,6 +46,8 @@ class TServiceManager {
                                        TServiceState& state) = 0;
     /// StartServiceW without arguments.
     [[nodiscard]] virtual bool Start(TServiceHandle service) = 0;
+    /// The start type that QueryServiceConfigW answers; it may be one that no service of this program has.
+    [[nodiscard]] virtual bool QueryStartType(TServiceHandle service, TServiceStartType& startType) = 0;
     /// ChangeServiceConfigW that changes the start type alone.
     [[nodiscard]] virtual bool ChangeStartType(TServiceHandle service, TServiceStartType startType) = 0;
 };

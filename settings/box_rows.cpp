@@ -119,13 +119,14 @@ void RecordFrom(TPageContext& context, const TFieldsRow& row, TComponent& sender
 
 void Load(TPageContext& context, const TServiceRow& row) {
     auto& box = *context.Form.Find<TCheckBox>(row.Control);
-    box.SetChecked(QueryServiceRunning(context.System, row.Service) == TServiceAnswer::Running);
+    box.SetChecked(QueryServiceRunning(context.System, row.Value.ValueName) == TServiceAnswer::Running);
     EnableAll(context, row.Enables, box.Enabled() && box.Checked());
 }
 
 void RecordFrom(TPageContext& context, const TServiceRow& row, TComponent& sender) {
     const bool checked = IsChecked(sender);
-    context.*row.Action = checked ? TServiceAction::Enable : TServiceAction::Disable;
+    context.Changes.Switch(
+        {.Service = row.Value.ValueName, .Order = row.Order, .On = checked, .Setting = context.Setting});
     EnableAll(context, row.Enables, checked);
 }
 

@@ -5,6 +5,7 @@
 #include "platform/numeric_fields.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
+#include "ui/state.h"
 
 TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl& container,
              TNotifyEvent changed)
@@ -108,22 +109,6 @@ void TPage::ApplyPreset(const TPreset& preset) const {
     for (const TPresetState& state : preset.States) {
         TControl* control = FContext.Form.Find(state.Control);
         if (control == nullptr || !state.Levels.Include(FContext.WindowsLevel)) continue;
-        switch (control->Kind()) {
-            case TComponentKind::CheckBox:
-                static_cast<TCheckBox*>(control)->SetChecked(state.State != 0);
-                break;
-            case TComponentKind::RadioButton:
-                static_cast<TRadioButton*>(control)->SetChecked(state.State != 0);
-                break;
-            case TComponentKind::ComboBox:
-                static_cast<TComboBox*>(control)->SetItemIndex(state.State);
-                break;
-            case TComponentKind::TrackBar:
-            case TComponentKind::UpDown:
-                static_cast<TRangeControl*>(control)->SetPosition(state.State);
-                break;
-            default:
-                break;
-        }
+        SetState(*control, StateFromNumber(*control, state.State));
     }
 }

@@ -7,9 +7,6 @@
 #include "settings/net/firefox_prefs.h"
 #include "ui/form.h"
 
-/// What Apply does with a Windows service.
-enum class TServiceAction : std::int32_t { Nothing = 0, Enable = 1, Disable = 2 };
-
 struct TPageContext {
     TSystem& System;
     TForm& Form;
@@ -21,8 +18,6 @@ struct TPageContext {
     bool Loading = false;       ///< a loader fills controls; their events record nothing
     bool ShowsPending = false;  ///< the loading page shows changes that are not written yet
     bool FirefoxChanged = false;
-    TServiceAction SecurityCenterAction = TServiceAction::Nothing;
-    TServiceAction FirewallAction = TServiceAction::Nothing;
 
     // While a row records, its changes are marked with these; see TRegRecor.
     std::wstring Setting;

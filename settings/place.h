@@ -1,5 +1,5 @@
-// Where a setting lives and how it is kept there: a registry value, a parameter of SystemParametersInfoW or a preference
-// of the user's Firefox profile; whole, or some bits of it; as it is, or in a coding of its own.
+// Where a setting lives and how it is kept there: a registry value, a parameter of SystemParametersInfoW, a service or a
+// preference of the user's Firefox profile; whole, or some bits of it; as it is, or in a coding of its own.
 #pragma once
 
 #include "platform/registry.h"
@@ -40,13 +40,13 @@ enum class TCoding : std::uint8_t {
     Quoted,      ///< a text in quotes, with a backslash before quotes and backslashes
 };
 
-enum class TPlaceKind : std::uint8_t { Registry, Parameter, Preference };
+enum class TPlaceKind : std::uint8_t { Registry, Parameter, Service, Preference };
 
 struct TPlace {
     TRootKey Root = TRootKey::CurrentUser;
     const wchar_t* Key = L"";  ///< begins with a backslash
     const wchar_t* ValueName =
-        L"";  ///< empty = the key's default value; of a preference its name with the quotes
+        L"";  ///< empty = the key's default value; of a preference its name with the quotes, of a service its name
     TPlaceKind Kind = TPlaceKind::Registry;
     TCoding Coding = TCoding::Plain;
     /// The bits of the number that are the setting; the others stay as they are. Where the number that is there is none,
@@ -58,6 +58,11 @@ struct TPlace {
 /// A preference by its name with the quotes. Its values are texts; writing the empty text removes it.
 [[nodiscard]] constexpr TPlace Pref(const wchar_t* quotedName) {
     return {.ValueName = quotedName, .Kind = TPlaceKind::Preference};
+}
+
+/// Whether a service runs. Rows of services read and switch it.
+[[nodiscard]] constexpr TPlace Service(const wchar_t* name) {
+    return {.ValueName = name, .Kind = TPlaceKind::Service};
 }
 
 [[nodiscard]] constexpr TPlace NumberParameter(std::uint32_t get, std::uint32_t set,

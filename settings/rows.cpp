@@ -58,7 +58,6 @@ TNames Controls(const T& row) {
 
 using TPlaces = std::vector<TPlace>;
 
-TPlaces Places(const TServiceRow& /*row*/) { return {}; }
 TPlaces Places(const TSpecialRow& row) { return {row.Places.begin(), row.Places.end()}; }
 TPlaces Places(const TFieldsRow& row) {
     TPlaces places;

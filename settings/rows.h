@@ -16,7 +16,6 @@
 #include "settings/datum.h"
 
 class TComponent;
-enum class TServiceAction : std::int32_t;
 struct TPageContext;
 
 /// Names of controls, in an array beside the rows.
@@ -136,12 +135,11 @@ struct TFieldsRow {
     TLevels LoadedOn = kEveryLevel;
 };
 
-/// A Windows service that runs while the box is checked. A click makes no pending change but sets the mark that tells Apply
-/// what to do with the service.
+/// A Windows service that runs while the box is checked.
 struct TServiceRow {
     const wchar_t* Control;
-    const wchar_t* Service;
-    TServiceAction TPageContext::*Action;
+    TPlace Value;
+    int Order;  ///< in which Apply switches services
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
     TControlNames Enables = {};  ///< of use only while the box can be and is checked
@@ -312,7 +310,7 @@ using TLoader = std::span<const TRow>;
 /// The controls that record through the row.
 [[nodiscard]] std::vector<std::wstring> ControlsOf(const TRow& row);
 
-/// The places that the row writes. A service has none.
+/// The places that the row writes.
 [[nodiscard]] std::vector<TPlace> PlacesOf(const TRow& row);
 
 /// Where the row holds. A setting whose place differs from one Windows to another has a row for each.

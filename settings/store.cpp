@@ -82,6 +82,8 @@ std::optional<TRegValue> Present(const TPageContext& context, const TPlace& plac
             if (value == TFirefoxPrefs::kNoSuchPref) return std::nullopt;
             return value;
         }
+        case TPlaceKind::Service:
+            return std::nullopt;
         case TPlaceKind::Registry:
             break;
     }
@@ -178,6 +180,7 @@ void RecordParameter(TPageContext& context, const std::wstring& changeName, cons
         record.SpiParam = parameter.BlockSize;
         record.SpiData = std::move(block);
     } else if (parameter.Slot == TParameterSlot::Param) {
+        record.SpiInParam = true;
         record.SpiParam = number;
         record.SpiData = std::uint32_t{0};
     } else {
@@ -193,7 +196,9 @@ void RecordKept(TPageContext& context, const std::wstring& changeName, const TPl
             return RecordParameter(context, changeName, place.Parameter, AsBits(kept.Value).value_or(0));
         case TPlaceKind::Preference:
             context.FirefoxChanged = true;
-            return context.Firefox.SetFirefoxPref(place.ValueName, AsText(kept.Value));
+            return context.Firefox.SetFirefoxPref(place.ValueName, AsText(kept.Value), context.Setting);
+        case TPlaceKind::Service:
+            return;
         case TPlaceKind::Registry:
             break;
     }

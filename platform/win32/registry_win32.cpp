@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 
 #include "base/win32/handle.h"
 #include "base/win32/late_bound.h"
 
 namespace {
 
-/// A value larger than that is none of ours and reads as one of unknown type.
+/// A value larger than that is none of ours and is shown as one of unknown type.
 constexpr DWORD kLargestValue = 16 * 1024 * 1024;
 /// The longest name of a key, in characters.
 constexpr DWORD kLongestKeyName = 255;
@@ -34,15 +35,15 @@ std::wstring Trimmed(const std::wstring& key) {
     return key.substr(first, key.find_last_not_of(L'\\') - first + 1);
 }
 
-/// For full access in the view; an invalid handle when the key cannot be opened.
-TKeyHandle Open(HKEY parent, const std::wstring& key, REGSAM view) {
+/// For full access in the view, or another one; an invalid handle when the key cannot be opened.
+TKeyHandle Open(HKEY parent, const std::wstring& key, REGSAM view, REGSAM access = KEY_ALL_ACCESS) {
     HKEY handle = nullptr;
-    const LONG error = RegOpenKeyExW(parent, key.c_str(), 0, KEY_ALL_ACCESS | view, &handle);
+    const LONG error = RegOpenKeyExW(parent, key.c_str(), 0, access | view, &handle);
     return TKeyHandle(error == ERROR_SUCCESS ? handle : nullptr);
 }
 
-TKeyHandle Open(TRootKey root, const std::wstring& key, REGSAM view) {
-    return Open(RootOf(root), Trimmed(key), view);
+TKeyHandle Open(TRootKey root, const std::wstring& key, REGSAM view, REGSAM access = KEY_ALL_ACCESS) {
+    return Open(RootOf(root), Trimmed(key), view, access);
 }
 
 /// The key's own names, taken down before anything changes them.
@@ -58,12 +59,12 @@ std::vector<std::wstring> SubKeysOf(HKEY key) {
     return names;
 }
 
-/// The bytes of a value and its REG_… type; false when it cannot be read.
-bool QueryValue(HKEY key, const std::wstring& name, DWORD& type, TBytes& bytes) {
+/// The bytes of a value and its REG_… type; of a value larger than `largest` no type. False when it cannot be read.
+bool QueryValue(HKEY key, const std::wstring& name, DWORD largest, DWORD& type, TBytes& bytes) {
     DWORD size = 0;
     LONG error = RegQueryValueExW(key, name.c_str(), nullptr, &type, nullptr, &size);
     while (error == ERROR_SUCCESS) {
-        if (size > kLargestValue) {
+        if (size > largest) {
             type = REG_NONE;
             return true;
         }
@@ -113,31 +114,12 @@ TRegistryData Decode(DWORD type, TBytes bytes) {
     return {};
 }
 
-bool SetValue(HKEY key, const std::wstring& name, DWORD type, const void* data, std::size_t size) {
-    return RegSetValueExW(key, name.c_str(), 0, type, static_cast<const BYTE*>(data),
-                          static_cast<DWORD>(size)) == ERROR_SUCCESS;
-}
-
 /// False when Windows refuses, and when the value is not of the type.
 bool SetValue(HKEY key, const std::wstring& name, const TRegistryData& data) {
-    const auto* text = std::get_if<std::wstring>(&data.Value);
-    const auto* number = std::get_if<std::int32_t>(&data.Value);
-    const auto* bytes = std::get_if<TBytes>(&data.Value);
-    switch (data.Type) {
-        case TRegDataType::Unknown:
-            return true;
-        case TRegDataType::String:
-        case TRegDataType::ExpandString: {
-            if (text == nullptr) return false;
-            const DWORD type = data.Type == TRegDataType::String ? REG_SZ : REG_EXPAND_SZ;
-            return SetValue(key, name, type, text->c_str(), (text->size() + 1) * sizeof(wchar_t));
-        }
-        case TRegDataType::Dword:
-            return number != nullptr && SetValue(key, name, REG_DWORD, number, sizeof(*number));
-        case TRegDataType::Binary:
-            return bytes != nullptr && SetValue(key, name, REG_BINARY, bytes->data(), bytes->size());
-    }
-    return false;
+    if (data.Type == TRegDataType::Unknown) return true;
+    const auto value = RawValueOf(data);
+    return value && RegSetValueExW(key, name.c_str(), 0, value->Type, value->Bytes.data(),
+                                   static_cast<DWORD>(value->Bytes.size())) == ERROR_SUCCESS;
 }
 
 /// Windows deletes a key only when it has no subkeys.
@@ -169,8 +151,19 @@ TReadStatus TWin32Registry::Read(const TRegistryPlace& place, TRegistryData& dat
     if (!key.IsValid()) return TReadStatus::KeyUnavailable;
     DWORD type = REG_NONE;
     TBytes bytes;
-    if (!QueryValue(key.Get(), place.ValueName, type, bytes)) return TReadStatus::ValueMissing;
+    if (!QueryValue(key.Get(), place.ValueName, kLargestValue, type, bytes)) return TReadStatus::ValueMissing;
     data = Decode(type, std::move(bytes));
+    return TReadStatus::Found;
+}
+
+TReadStatus TWin32Registry::ReadRaw(const TRegistryPlace& place, TRawValue& value) const {
+    const TKeyHandle key = Open(place.Root, place.Key, FNativeView, KEY_READ);
+    if (!key.IsValid()) return TReadStatus::KeyUnavailable;
+    DWORD type = REG_NONE;
+    TBytes bytes;
+    if (!QueryValue(key.Get(), place.ValueName, std::numeric_limits<DWORD>::max(), type, bytes))
+        return TReadStatus::ValueMissing;
+    value = {type, std::move(bytes)};
     return TReadStatus::Found;
 }
 

@@ -10,6 +10,7 @@ class TWin32Registry : public TRegistry {
 
     [[nodiscard]] TReadStatus Check(const TRegistryPlace& place, TRegistryView view) const override;
     [[nodiscard]] TReadStatus Read(const TRegistryPlace& place, TRegistryData& data) const override;
+    [[nodiscard]] TReadStatus ReadRaw(const TRegistryPlace& place, TRawValue& value) const override;
     [[nodiscard]] TWriteStatus Write(const TRegistryPlace& place, const TRegistryData& data) override;
     [[nodiscard]] TWriteStatus DeleteValue(const TRegistryPlace& place) override;
     [[nodiscard]] TWriteStatus DeleteKey(TRootKey root, const std::wstring& key) override;

@@ -41,6 +41,15 @@ bool TWin32ServiceManager::Start(TServiceHandle service) {
     return StartServiceW(NativeHandle(service), 0, nullptr);
 }
 
+bool TWin32ServiceManager::QueryStartType(TServiceHandle service, TServiceStartType& startType) {
+    alignas(QUERY_SERVICE_CONFIGW) BYTE buffer[8192];  // the most that Windows ever needs
+    auto* config = reinterpret_cast<QUERY_SERVICE_CONFIGW*>(buffer);
+    DWORD needed = 0;
+    if (!QueryServiceConfigW(NativeHandle(service), config, sizeof buffer, &needed)) return false;
+    startType = TServiceStartType{static_cast<std::uint32_t>(config->dwStartType)};
+    return true;
+}
+
 bool TWin32ServiceManager::ChangeStartType(TServiceHandle service, TServiceStartType startType) {
     return ChangeServiceConfigW(NativeHandle(service), SERVICE_NO_CHANGE, static_cast<DWORD>(startType),
                                 SERVICE_NO_CHANGE, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,

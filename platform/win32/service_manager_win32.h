@@ -13,5 +13,6 @@ class TWin32ServiceManager : public TServiceManager {
     [[nodiscard]] bool Control(TServiceHandle service, TServiceControl control,
                                TServiceState& state) override;
     [[nodiscard]] bool Start(TServiceHandle service) override;
+    [[nodiscard]] bool QueryStartType(TServiceHandle service, TServiceStartType& startType) override;
     [[nodiscard]] bool ChangeStartType(TServiceHandle service, TServiceStartType startType) override;
 };

@@ -112,9 +112,10 @@ std::wstring TFirefoxPrefs::GetFirefoxPref(std::wstring_view quotedName) const {
     return kNoSuchPref;
 }
 
-void TFirefoxPrefs::SetFirefoxPref(std::wstring_view quotedName, std::wstring_view value) {
+void TFirefoxPrefs::SetFirefoxPref(std::wstring_view quotedName, std::wstring_view value,
+                                   std::wstring_view setting) {
     const bool appended = !ChangePref(FContent.Entries, quotedName, value);
-    FEdits.push_back({std::wstring(quotedName), std::wstring(value), appended});
+    FEdits.push_back({std::wstring(quotedName), std::wstring(value), appended, std::wstring(setting)});
     if (!appended) return;
     FSystem.Shell.DebugOutput(L"not has");
     FSystem.Shell.DebugOutput(FContent.Entries.emplace_back(MakePref(quotedName, value)));
@@ -123,6 +124,42 @@ void TFirefoxPrefs::SetFirefoxPref(std::wstring_view quotedName, std::wstring_vi
 bool TFirefoxPrefs::HasEdit(std::wstring_view quotedName) const {
     return std::ranges::any_of(FEdits,
                                [&](const TEdit& edit) { return SameText(edit.QuotedName, quotedName); });
+}
+
+namespace {
+
+/// The last statement counts.
+TPreferenceContent LastValue(const std::vector<std::wstring>& entries, std::wstring_view quotedName) {
+    for (std::size_t i = entries.size(); i-- > 0;)
+        if (auto value = WholePrefValue(entries[i], quotedName)) return value;
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::vector<TFirefoxPrefs::TEdited> TFirefoxPrefs::Edited() const {
+    std::vector<TEdited> edited;
+    if (FContent.State == TState::Nothing) return edited;
+    for (const TEdit& edit : FEdits) {
+        const auto isSame = [&](const TEdited& each) {
+            return each.Setting == edit.Setting && SameText(each.QuotedName, edit.QuotedName);
+        };
+        std::erase_if(edited, isSame);
+        edited.push_back({edit.Setting, edit.QuotedName,
+                          edit.Value.empty() ? std::nullopt : TPreferenceContent(edit.Value)});
+    }
+    // Removing what no statement names leaves a statement without a value.
+    for (TEdited& each : edited)
+        if (!each.After) each.After = LastValue(FContent.Entries, each.QuotedName);
+    return edited;
+}
+
+TPreferenceContent TFirefoxPrefs::Saved(std::wstring_view quotedName) const {
+    if (FContent.State == TState::Nothing) return std::nullopt;
+    for (const wchar_t* file : {kUserFile, kPrefsFile})
+        if (const auto bytes = FSystem.Files.Read(FFirefoxProfileFolder + file))
+            return LastValue(SplitPrefs(DecodeUtf8OrAnsi(*bytes, FSystem.Windows).Text, [] {}), quotedName);
+    return std::nullopt;
 }
 
 void TFirefoxPrefs::FollowUserFile(const std::wstring& path) {

@@ -1,12 +1,12 @@
 // The preferences of the user's Firefox profile: read from its prefs.js and user.js, edited, written back as user.js.
 #pragma once
 
-#include "platform/system.h"
+#include "engine/change_set.h"
 #include "platform/text.h"
 
 /// Names of prefs have their quotes, and values are what is written between the comma and the closing parenthesis; see
 /// settings/net/prefs_entry.h. Nothing is converted or checked.
-class TFirefoxPrefs {
+class TFirefoxPrefs : public TPreferenceStore {
   public:
     /// What GetFirefoxPref answers when no statement names the pref.
     static constexpr const wchar_t* kNoSuchPref = L"Noexsit";
@@ -34,11 +34,17 @@ class TFirefoxPrefs {
     [[nodiscard]] std::wstring GetFirefoxPref(std::wstring_view quotedName) const;
 
     /// Sets the value in every statement that names the pref; an empty value removes the statements. When there is none,
-    /// one is appended, even with an empty value.
-    void SetFirefoxPref(std::wstring_view quotedName, std::wstring_view value);
+    /// one is appended, even with an empty value. `setting` is the name of the control that stands for it.
+    void SetFirefoxPref(std::wstring_view quotedName, std::wstring_view value,
+                        std::wstring_view setting = {});
 
     /// Whether the pref was set since it was last loaded or saved.
     [[nodiscard]] bool HasEdit(std::wstring_view quotedName) const;
+
+    /// Nothing as long as there is nothing to save to.
+    [[nodiscard]] std::vector<TEdited> Edited() const override;
+    /// What the profile's user.js says now or, where there is none, its prefs.js, which the next load begins from.
+    [[nodiscard]] TPreferenceContent Saved(std::wstring_view quotedName) const override;
 
     /// Replaces the profile's user.js by the entries, in the encoding in which they were read. Should the file no longer
     /// be as it was when it was loaded or saved, it is read again, and what was set since then is set in what it says now;
@@ -63,6 +69,7 @@ class TFirefoxPrefs {
         std::wstring QuotedName;
         std::wstring Value;
         bool Appended;  ///< no statement named it
+        std::wstring Setting;
     };
 
     [[nodiscard]] std::optional<TBytes> ReadBytes(const std::wstring& path) const;

@@ -132,17 +132,31 @@ std::wstring WithoutNamed(std::wstring entry, const TStatements& statements) {
 
 }  // namespace
 
-std::optional<std::wstring> PrefValue(std::wstring_view entry, std::wstring_view quotedName) {
+namespace {
+
+/// What stands from `skipped` characters behind the comma on.
+std::optional<std::wstring> ValueOf(std::wstring_view entry, std::wstring_view quotedName,
+                                    std::size_t skipped) {
     if (FindText(entry, quotedName) == std::wstring_view::npos) return std::nullopt;
     const std::wstring text = WithBlankedComments(entry);
     const TStatements statements = FindStatements(text, quotedName);
     if (statements.Named.empty()) return std::nullopt;
     const TStatement& statement = statements.Named.front();
-    // The space behind the comma; where the comma is missing, what stands in its place goes too.
-    const std::size_t begin = statement.Value.value_or(statement.NameEnd + 1) + 1;
+    // Where the comma is missing, what stands in its place goes too.
+    const std::size_t begin = statement.Value.value_or(statement.NameEnd + 1) + skipped;
     if (!statement.IsClosed || begin > statement.ValueEnd) return L"";
     const std::wstring value = text.substr(begin, statement.ValueEnd - begin);
     return std::wstring(Trim(value));
+}
+
+}  // namespace
+
+std::optional<std::wstring> PrefValue(std::wstring_view entry, std::wstring_view quotedName) {
+    return ValueOf(entry, quotedName, 1);  // the space behind the comma
+}
+
+std::optional<std::wstring> WholePrefValue(std::wstring_view entry, std::wstring_view quotedName) {
+    return ValueOf(entry, quotedName, 0);
 }
 
 bool ChangePref(std::vector<std::wstring>& entries, std::wstring_view quotedName, std::wstring_view value) {

@@ -14,6 +14,10 @@
 /// character is lost when the comma and the value have no space between them.
 [[nodiscard]] std::optional<std::wstring> PrefValue(std::wstring_view entry, std::wstring_view quotedName);
 
+/// PrefValue without that loss: the value as Firefox reads it.
+[[nodiscard]] std::optional<std::wstring> WholePrefValue(std::wstring_view entry,
+                                                         std::wstring_view quotedName);
+
 /// Sets the value wherever the entries name the pref, and leaves all around it. An empty value removes the statements and
 /// keeps their comments. False, and nothing changed, when no entry names the pref.
 [[nodiscard]] bool ChangePref(std::vector<std::wstring>& entries, std::wstring_view quotedName,

@@ -1,6 +1,7 @@
 #include "settings/net/security_switches.h"
 
 #include "platform/service_control.h"
+#include "settings/page_context.h"
 
 bool HasFirewall(const TPageContext& context) {
     return kSinceVista.Include(context.WindowsLevel) ||

@@ -1,8 +1,9 @@
 // The protection of Windows: Security Center, Windows Firewall, automatic updates. Each can be switched on several pages.
 #pragma once
 
-#include "settings/page_context.h"
 #include "settings/row_shapes.h"
+
+struct TPageContext;
 
 /// Windows Vista and later have Security Center and firewall always, Windows XP while its service
 /// SharedAccess runs, older ones never.
@@ -10,18 +11,12 @@
 
 /// A page disables the box where there is no Security Center before it loads the row.
 [[nodiscard]] constexpr TServiceRow SecurityCenterRow(const wchar_t* control, TControlNames enables = {}) {
-    return {.Control = control,
-            .Service = L"wscsvc",
-            .Action = &TPageContext::SecurityCenterAction,
-            .Enables = enables};
+    return {.Control = control, .Value = Service(L"wscsvc"), .Order = 0, .Enables = enables};
 }
 
 /// Since Windows Vista the firewall is a service of its own.
 [[nodiscard]] constexpr TServiceRow FirewallServiceRow(const wchar_t* control) {
-    return {.Control = control,
-            .Service = L"MpsSvc",
-            .Action = &TPageContext::FirewallAction,
-            .Levels = kSinceVista};
+    return {.Control = control, .Value = Service(L"MpsSvc"), .Order = 1, .Levels = kSinceVista};
 }
 
 [[nodiscard]] constexpr TCheckBoxRow FirewallRow(const wchar_t* control) {

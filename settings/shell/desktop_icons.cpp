@@ -163,6 +163,8 @@ constexpr TOffer kOffers[] = {
 };
 
 constexpr TLevelCaption kLevelCaptions[] = {
+    {L"TabSheet_Folder_Desktop", kEveryLevel, TCaption::Desktop},
+    {L"TabSheet_Folder_Drivers", kEveryLevel, TCaption::Drivers},
     {L"Checkbox_Folder_Desktop_MyComputer", kUntilXp, TCaption::DesktopMyComputer},
     {L"TabSheet_Folder_MyComputer", kUntilXp, TCaption::MyComputer},
 };

@@ -3,5 +3,7 @@
 
 #include "settings/page.h"
 
+inline constexpr const wchar_t* kDesktopIconsCaption = L"Icons and Drives";
+
 /// A page outside the notebook: three sheets.
 [[nodiscard]] const TPageDefinition& DesktopIcons();

@@ -90,12 +90,6 @@ TControlDesign Design() {
 }
 
 bool IsFirefoxMarked(const TPageContext& context) { return context.FirefoxChanged; }
-bool IsCenterMarked(const TPageContext& context) {
-    return context.SecurityCenterAction != TServiceAction::Nothing;
-}
-bool IsFirewallMarked(const TPageContext& context) {
-    return context.FirewallAction != TServiceAction::Nothing;
-}
 
 constexpr TTwin kTwins[] = {
     {L"Checkbox_CommonSettings_Display_Desktop_WinVersion",
@@ -116,10 +110,9 @@ constexpr TTwin kTwins[] = {
      L"Checkbox_Startup_DesktopAndTaskbar_AutoRestartExplorer_AutoRun"},
     {L"Checkbox_CommonSettings_Function_Drives_LastVisit", L"Checkbox_Drives_Common_NTFS_SaveLastVisitData"},
     {L"Checkbox_CommonSettings_Function_Drives_SpaceWarn", L"Checkbox_Drives_DiskSpace_SpaceWarn_ShowWarn"},
-    {L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveSC", L"Checkbox_Security_Center_Active",
-     IsCenterMarked},
+    {L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveSC", L"Checkbox_Security_Center_Active"},
     {L"ChkeckBox_CommonSettings_Security_SecuritySettings_StartWF",
-     L"Checkbox_Net_Internet_WindowsFirewall_Enable", IsFirewallMarked},
+     L"Checkbox_Net_Internet_WindowsFirewall_Enable"},
     {L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveAU",
      L"Checkbox_Privacy_Common_AutoUpdate_Active"},
     {L"CB_CommonSettings_Security_SecuritySettings_AutoUpdateType", L"CB_Privacy_Common_AutoUpdate_Type"},

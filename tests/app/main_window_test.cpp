@@ -189,7 +189,7 @@ TEST_F(TMainWindow, ChangesMadeWhileAServiceIsWaitedForAreLeftForTheNextApply) {
     Open();
     Fake.Services.Put(L"wscsvc", {});
     Click(kDriverItem);
-    Marks().SecurityCenterAction = TServiceAction::Enable;
+    Marks().Changes.Switch({.Service = L"wscsvc", .On = true});
     Fake.Clock.OnProcessMessages = [this, ran = false]() mutable {
         if (std::exchange(ran, true)) return;
         Toggle(kUdma);
@@ -211,8 +211,8 @@ TEST_F(TMainWindow, ApplySwitchesServicesAndTellsTheShellOfAssociations) {
         Open(vista ? 6 : 5, vista ? 0 : 1);
         Fake.Services.Put(L"wscsvc", {.State = TServiceState::Running});
         Fake.Services.Put(L"MpsSvc", {});
-        Marks().SecurityCenterAction = TServiceAction::Disable;
-        if (vista) Marks().FirewallAction = TServiceAction::Enable;
+        if (vista) Marks().Changes.Switch({.Service = L"MpsSvc", .Order = 1, .On = true});
+        Marks().Changes.Switch({.Service = L"wscsvc"});
         Click(L"RzGroup_Display.Items[0]");
         Toggle(L"Checkbox_FileType_MenuOperation_FileAndFolder_SendTo");
         Fake.Services.Calls.clear();

@@ -55,6 +55,9 @@ TEST_F(TRegistryContract, EveryTypeRoundTrips) {
                 ASSERT_EQ(Registry().Write({key.Root, key.Path, name}, data), TWriteStatus::Done);
                 EXPECT_EQ(Get({key.Root, key.Path, name}), data)
                     << key.Path << " type " << static_cast<int>(data.Type);
+                TRawValue raw;
+                EXPECT_EQ(Registry().ReadRaw({key.Root, key.Path, name}, raw), TReadStatus::Found);
+                EXPECT_EQ(raw, RawValueOf(data));
             }
         }
     }
@@ -82,6 +85,9 @@ TEST_F(TRegistryContract, WhatIsMissingIsToldApartAndLeavesTheOutput) {
         TRegistryData data = Text(L"before");
         EXPECT_EQ(Registry().Read(each.Place, data), each.Read) << each.Place.Key << each.Place.ValueName;
         EXPECT_EQ(data, each.Read == Found ? Number(1) : Text(L"before"));
+        TRawValue raw{7, {1}};
+        EXPECT_EQ(Registry().ReadRaw(each.Place, raw), each.Read);
+        EXPECT_EQ(raw, each.Read == Found ? (TRawValue{4, {1, 0, 0, 0}}) : (TRawValue{7, {1}}));
         for (const TRegistryView view : {TRegistryView::Native, TRegistryView::Process})
             EXPECT_EQ(Registry().Check(each.Place, view), each.Check);
     }

@@ -1,3 +1,4 @@
+#include "platform/service_control.h"
 #include "tests/contract/subject.h"
 
 namespace {
@@ -26,6 +27,9 @@ TEST_F(TServicesContract, UnknownServicesAndWrongHandlesFail) {
         EXPECT_FALSE(Services.Control(wrong, TServiceControl::Stop, state));
         EXPECT_FALSE(Services.Start(wrong));
         EXPECT_FALSE(Services.ChangeStartType(wrong, TServiceStartType::Manual));
+        auto startType = TServiceStartType::Disabled;
+        EXPECT_FALSE(Services.QueryStartType(wrong, startType));
+        EXPECT_EQ(startType, TServiceStartType::Disabled);
         EXPECT_EQ(state, TServiceState::Paused);
     }
     Services.Close(TServiceHandle::None);
@@ -44,6 +48,8 @@ TEST_F(TServicesContract, AnInstalledServiceAnswersUnlessItIsStopped) {
     EXPECT_EQ(answered, stopped ? TServiceState::Paused : queried);
     EXPECT_EQ(Services.OpenNamedService(service, name, kQueryAndAsk), TServiceHandle::None);
     Services.Close(service);
+    EXPECT_EQ(ReadServiceStatus(System(), name).value().Runs, queried == TServiceState::Running);
+    EXPECT_EQ(ReadServiceStatus(System(), L"Vandrel-No-Such-Service"), std::nullopt);
 }
 
 }  // namespace

@@ -10,14 +10,19 @@
 #include "platform/text.h"
 
 class TFakeRegistry : public TRegistry {
+    struct TValue {
+        std::wstring Name;
+        TRegistryData Data;
+        TRawValue Raw;
+    };
     /// A key; those below it stand beside it, with longer paths.
     struct TKey {
         std::wstring Path;
-        std::vector<std::pair<std::wstring, TRegistryData>> Values;
+        std::vector<TValue> Values;
     };
 
     static auto FindValue(auto& key, std::wstring_view name) {
-        return std::ranges::find_if(key.Values, [&](const auto& each) { return SameText(each.first, name); });
+        return std::ranges::find_if(key.Values, [&](const auto& each) { return SameText(each.Name, name); });
     }
 
   public:
@@ -29,26 +34,24 @@ class TFakeRegistry : public TRegistry {
 
     /// Puts a value there, whatever the faults; keys are created on the way.
     void Put(const TRegistryPlace& place, const TRegistryData& data) {
-        TKey& key = Create(Path(place.Root, place.Key));
-        if (const auto value = FindValue(key, place.ValueName); value != key.Values.end())
-            value->second = data;
-        else
-            key.Values.emplace_back(place.ValueName, data);
+        Put(place, data, RawValueOf(data).value_or(TRawValue{}));
     }
+    /// Puts a value of a type there that the program does not know.
+    void PutRaw(const TRegistryPlace& place, const TRawValue& raw) { Put(place, {}, raw); }
     void PutKey(TRootKey root, std::wstring_view key) { Create(Path(root, key)); }
     /// The stored value, whatever the faults; null when there is none.
     [[nodiscard]] const TRegistryData* Find(const TRegistryPlace& place) const {
         const TKey* key = FindKey(Path(place.Root, place.Key));
         if (key == nullptr) return nullptr;
         const auto value = FindValue(*key, place.ValueName);
-        return value == key->Values.end() ? nullptr : &value->second;
+        return value == key->Values.end() ? nullptr : &value->Data;
     }
     /// Every key and value, a line each, in alphabetical order.
     [[nodiscard]] std::vector<std::wstring> Lines() const {
         std::vector<std::wstring> lines;
         for (const TKey& key : FKeys) {
             lines.push_back(key.Path);
-            for (const auto& [name, data] : key.Values)
+            for (const auto& [name, data, raw] : key.Values)
                 lines.push_back(key.Path + L'[' + name + L"] = " + AsText(data.Value));
         }
         std::ranges::sort(lines);
@@ -74,17 +77,24 @@ class TFakeRegistry : public TRegistry {
         data = *stored;
         return TReadStatus::Found;
     }
+    [[nodiscard]] TReadStatus ReadRaw(const TRegistryPlace& place, TRawValue& value) const override {
+        const TKey* key = FindKey(Path(place.Root, place.Key));
+        if (key == nullptr) return TReadStatus::KeyUnavailable;
+        const auto stored = FindValue(*key, place.ValueName);
+        if (stored == key->Values.end()) return TReadStatus::ValueMissing;
+        value = stored->Raw;
+        return TReadStatus::Found;
+    }
     [[nodiscard]] TWriteStatus Write(const TRegistryPlace& place, const TRegistryData& data) override {
         if (IsDenied(Path(place.Root, place.Key))) return TWriteStatus::KeyUnavailable;
         PutKey(place.Root, place.Key);
-        const std::size_t alternatives[] = {data.Value.index(), 2, 2, 1, 3};  // that fit the types
-        if (TakeFault() || data.Value.index() != alternatives[static_cast<std::size_t>(data.Type)])
+        if (TakeFault() || (data.Type != TRegDataType::Unknown && !RawValueOf(data)))
             return TWriteStatus::Refused;
         TRegistryData stored = data;
         // Text ends at its first NUL.
         if (auto* text = std::get_if<std::wstring>(&stored.Value))
             text->resize(std::min(text->find(L'\0'), text->size()));
-        if (data.Type != TRegDataType::Unknown) Put(place, stored);
+        if (const auto raw = RawValueOf(data)) Put(place, stored, *raw);
         return TWriteStatus::Done;
     }
     [[nodiscard]] TWriteStatus DeleteValue(const TRegistryPlace& place) override {
@@ -92,7 +102,7 @@ class TFakeRegistry : public TRegistry {
         if (!Opens(path)) return TWriteStatus::KeyUnavailable;
         if (TakeFault()) return TWriteStatus::Refused;
         std::erase_if(Create(path).Values,
-                      [&](const auto& each) { return SameText(each.first, place.ValueName); });
+                      [&](const auto& each) { return SameText(each.Name, place.ValueName); });
         return TWriteStatus::Done;
     }
     [[nodiscard]] TWriteStatus DeleteKey(TRootKey root, const std::wstring& key) override {
@@ -114,6 +124,13 @@ class TFakeRegistry : public TRegistry {
     }
 
   private:
+    void Put(const TRegistryPlace& place, const TRegistryData& data, const TRawValue& raw) {
+        TKey& key = Create(Path(place.Root, place.Key));
+        auto value = FindValue(key, place.ValueName);
+        if (value == key.Values.end()) value = key.Values.insert(value, {place.ValueName, {}, {}});
+        value->Data = data;
+        value->Raw = raw;
+    }
     /// The root and the names from there on, with one backslash before each; surplus ones do not count.
     static std::wstring Path(TRootKey root, std::wstring_view key) {
         std::wstring path = std::to_wstring(static_cast<std::uint32_t>(root)) + L'\\';

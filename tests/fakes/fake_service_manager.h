@@ -75,6 +75,12 @@ class TFakeServiceManager : public TServiceManager {
         Enter(*service, TServiceState::StartPending, service->StartsInto);
         return true;
     }
+    [[nodiscard]] bool QueryStartType(TServiceHandle handle, TServiceStartType& startType) override {
+        const TFakeService* service = Find(handle);
+        if (!Succeeds("config") || service == nullptr) return false;
+        startType = service->StartType;
+        return true;
+    }
     [[nodiscard]] bool ChangeStartType(TServiceHandle handle, TServiceStartType startType) override {
         TFakeService* service = Find(handle);
         if (!Succeeds("type", static_cast<std::uint32_t>(startType)) || service == nullptr) return false;

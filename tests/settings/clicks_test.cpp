@@ -1,5 +1,5 @@
 // However often a box is clicked, Apply leaves what one click into the state that it shows would leave.
-#include "app/page_table.h"
+#include "settings/page_table.h"
 #include "settings/shell/desktop_icons.h"
 #include "tests/settings/page_bench.h"
 

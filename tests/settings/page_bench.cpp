@@ -62,46 +62,25 @@ std::string Narrow(const std::wstring& text) { return testing::PrintToString(tex
 }  // namespace
 
 std::wstring TPageBench::State(const std::wstring& name) {
-    TControl& control = Get<TControl>(name);
-    switch (control.Kind()) {
-        case TComponentKind::CheckBox:
-        case TComponentKind::RadioButton:
-            return Checked(name) ? L"on" : L"off";
-        case TComponentKind::ComboBox:
-            return std::to_wstring(static_cast<TComboBox&>(control).ItemIndex());
-        case TComponentKind::TrackBar:
-        case TComponentKind::UpDown:
-            return std::to_wstring(static_cast<TRangeControl&>(control).Position());
-        case TComponentKind::Edit:
-            return static_cast<TEdit&>(control).Text();
-        case TComponentKind::ColorSwatch:
-            return L"0x" + Hex(static_cast<TColorSwatch&>(control).Color(), 6);
-        default:
-            return control.Caption();
-    }
+    const TControl& control = Get<TControl>(name);
+    const TControlState state = StateOf(control);
+    if (const auto* checked = std::get_if<bool>(&state)) return *checked ? L"on" : L"off";
+    if (const auto* item = std::get_if<TItemState>(&state)) return std::to_wstring(item->Index);
+    if (const auto* number = std::get_if<TNumberState>(&state)) return std::to_wstring(number->Number);
+    if (const auto* text = std::get_if<std::wstring>(&state)) return *text;
+    if (const auto* color = std::get_if<TColorState>(&state)) return L"0x" + Hex(color->Color, 6);
+    return control.Caption();
 }
 
 void TPageBench::Act(const std::wstring& name, const std::wstring& state) {
     TControl& control = Get<TControl>(name);
-    switch (control.Kind()) {
-        case TComponentKind::CheckBox:
-        case TComponentKind::RadioButton:
-            return Click(name, state == L"on");
-        case TComponentKind::ComboBox:
-            return static_cast<TComboBox&>(control).SetItemIndex(std::stoi(state));
-        case TComponentKind::TrackBar:
-        case TComponentKind::UpDown:
-            return static_cast<TRangeControl&>(control).SetPosition(std::stoi(state));
-        case TComponentKind::Edit: {
-            auto& edit = static_cast<TEdit&>(control);
-            edit.SetFocused(true);
-            return edit.SetText(state);
-        }
-        case TComponentKind::Button:
-            return static_cast<TButton&>(control).Click();
-        default:
-            throw std::logic_error("a user does nothing to such a control");
+    if (auto* button = dynamic_cast<TButton*>(&control)) return button->Click();
+    if (auto* edit = dynamic_cast<TEdit*>(&control)) {
+        edit->SetFocused(true);
+        return edit->SetText(state);
     }
+    const bool isBox = std::holds_alternative<bool>(StateOf(control));
+    SetState(control, StateFromNumber(control, isBox ? state == L"on" : std::stoi(state)));
 }
 
 std::vector<std::wstring> TPageBench::Pending() const {

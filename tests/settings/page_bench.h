@@ -9,6 +9,7 @@
 #include "tests/fakes/fake_system.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
+#include "ui/state.h"
 
 class TPageBench {
   public:
@@ -35,6 +36,12 @@ class TPageBench {
     [[nodiscard]] bool NeedsRestart() const {
         return std::ranges::any_of(FChanges.Pending(), &TRegRecor::RestartNeeded);
     }
+    /// What Apply will do with a service: 0 nothing, 1 switch it on, 2 off.
+    [[nodiscard]] int Switches(const wchar_t* service) const {
+        for (const TServiceSwitch& each : FChanges.Services())
+            if (each.Service == service) return each.On ? 1 : 2;
+        return 0;
+    }
     void Store(const TPlace& place, const TRegistryData& data) {
         Fake.Registry.Put({place.Root, place.Key, place.ValueName}, data);
     }
@@ -47,22 +54,14 @@ class TPageBench {
         return *control;
     }
     /// Whether a check box or radio button is checked.
-    bool Checked(const std::wstring& name) {
-        if (auto* box = FForm.Find<TCheckBox>(name)) return box->Checked();
-        return Get<TRadioButton>(name).Checked();
-    }
+    bool Checked(const std::wstring& name) { return std::get<bool>(StateOf(Get<TControl>(name))); }
     /// Sets a check box or radio button without recording.
     void Preset(const std::wstring& name, bool checked) {
         const TLoadingScope loading(Context);
         Click(name, checked);
     }
     /// Sets a check box or radio button as a user would.
-    void Click(const std::wstring& name, bool checked) {
-        if (auto* box = FForm.Find<TCheckBox>(name))
-            box->SetChecked(checked);
-        else
-            Get<TRadioButton>(name).SetChecked(checked);
-    }
+    void Click(const std::wstring& name, bool checked) { SetState(Get<TControl>(name), checked); }
 
     /// What a control shows: "on" or "off", a text, a position, an item index, a colour (0xBBGGRR).
     std::wstring State(const std::wstring& name);

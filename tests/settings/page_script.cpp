@@ -7,9 +7,9 @@
 #include <memory>
 #include <sstream>
 
-#include "app/page_table.h"
 #include "platform/text.h"
 #include "platform/unicode.h"
+#include "settings/page_table.h"
 #include "settings/shell/desktop_icons.h"
 #include "tests/settings/page_bench.h"
 
@@ -247,13 +247,9 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
     {L"prefs", Prefs},
     {L"now", Now},
     {L"security",
-     [](TScene& s, TLine rest, const TLines&) {
-         EXPECT_EQ(static_cast<int>(s.FBench.Context.SecurityCenterAction), std::stoi(rest));
-     }},
+     [](TScene& s, TLine rest, const TLines&) { EXPECT_EQ(s.FBench.Switches(L"wscsvc"), std::stoi(rest)); }},
     {L"firewall",
-     [](TScene& s, TLine rest, const TLines&) {
-         EXPECT_EQ(static_cast<int>(s.FBench.Context.FirewallAction), std::stoi(rest));
-     }},
+     [](TScene& s, TLine rest, const TLines&) { EXPECT_EQ(s.FBench.Switches(L"MpsSvc"), std::stoi(rest)); }},
     {L"restart", [](TScene& s, TLine, const TLines&) { s.FRestart = true; }},
 };
 

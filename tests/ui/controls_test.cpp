@@ -5,6 +5,7 @@
 #include "ui/containers.h"
 #include "ui/design.h"
 #include "ui/form.h"
+#include "ui/state.h"
 
 namespace {
 
@@ -128,6 +129,28 @@ TEST(TFormTest, RefusesTwoComponentsOfOneName) {
     form.Build(form, CheckBox(L"Box", L""));
     EXPECT_THROW(form.Build(form, CheckBox(L"Box", L"")), std::logic_error);
     EXPECT_EQ(form.Find<TRadioButton>(L"Box"), nullptr) << "found by name, but of another type";
+}
+
+TEST(TState, IsReadAndSetAlikeAndOtherKindsChangeNothing) {
+    TForm form(L"Form", L"TForm");
+    form.Build(form, Group(L"All", L"", CheckBox(L"0", L""), RadioButton(L"1", L""),
+                           ComboBox(L"2", {L"a", L"b"}), TrackBar(L"3", 0, 9, 0), Edit(L"4"),
+                           ColorSwatch(L"5", 0), ListView(L"6", {L""}), Label(L"7", L"")));
+    form.Find<TListView>(L"6")->SetRows({{{L"A:"}, false}, {{L"B:"}, false}});
+    const TControlState states[] = {
+        true, true, TItemState{1}, TNumberState{7}, L"text", TColorState{0xFF}, TChecksState{false, true},
+        {}};
+    for (std::size_t i = 0; i < std::size(states); ++i) {
+        TControl& control = *form.Find(std::to_wstring(i));
+        for (const TControlState& state : states) {
+            const TControlState before = StateOf(control);
+            SetState(control, state);
+            EXPECT_EQ(StateOf(control), state.index() == before.index() ? state : before) << i;
+        }
+        EXPECT_EQ(StateOf(control), states[i]);
+        SetState(control, StateFromNumber(control, 0));
+        EXPECT_EQ(StateOf(control), i > 3 ? states[i] : StateFromNumber(control, 0));
+    }
 }
 
 TEST(TFormTest, NotebooksAndTabsShowOneOfTheirs) {

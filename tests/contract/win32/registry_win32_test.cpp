@@ -57,6 +57,9 @@ TEST_F(TRegistryWin32, ReadsWhateverIsStored) {
         TRegistryData data{Binary, 1};
         ASSERT_EQ(Registry().Read(Place(), data), TReadStatus::Found) << each.What;
         EXPECT_TRUE(data == each.Expected) << each.What;
+        TRawValue raw;
+        ASSERT_EQ(Registry().ReadRaw(Place(), raw), TReadStatus::Found) << each.What;
+        EXPECT_TRUE(raw == (TRawValue{each.Type, each.Bytes})) << each.What;
         EXPECT_EQ(Registry().Check(Place(), TRegistryView::Native), TReadStatus::Found);
     }
 }

@@ -39,13 +39,6 @@ class TTestService {
         SERVICE_STATUS status{};
         return QueryServiceStatus(FService, &status) ? status.dwCurrentState : 0;
     }
-    void ExpectStartType(DWORD type) const {
-        alignas(QUERY_SERVICE_CONFIGW) BYTE buffer[8192];  // the most that Windows ever needs
-        auto* config = reinterpret_cast<QUERY_SERVICE_CONFIGW*>(buffer);
-        DWORD needed = 0;
-        ASSERT_TRUE(QueryServiceConfigW(FService, config, sizeof buffer, &needed));
-        EXPECT_EQ(config->dwStartType, type);
-    }
 
   private:
     SC_HANDLE FManager;
@@ -56,6 +49,7 @@ class TServiceControlWin32 : public TContractTest {
   protected:
     bool Start(const wchar_t* name = kName) { return StartServiceByName(System(), name); }
     bool Stop(const wchar_t* name = kName) { return StopServiceByName(System(), name); }
+    std::optional<TServiceStatus> Status() { return ReadServiceStatus(System(), kName); }
     TServiceAnswer Answer(const wchar_t* name = kName) { return QueryServiceRunning(System(), name); }
 };
 
@@ -65,12 +59,12 @@ TEST_F(TServiceControlWin32, SwitchesAServiceOnAndOffOnce) {
         EXPECT_EQ(Answer(), TServiceAnswer::Silent);
         EXPECT_TRUE(Start());
         EXPECT_FALSE(Start()) << "it runs already";
-        service.ExpectStartType(SERVICE_AUTO_START);
+        EXPECT_EQ(Status(), (TServiceStatus{TServiceStartType::Automatic, true}));
         EXPECT_EQ(Answer(), TServiceAnswer::Running);
 
         EXPECT_TRUE(Stop());
         EXPECT_FALSE(Stop()) << "it is stopped already";
-        service.ExpectStartType(SERVICE_DISABLED);
+        EXPECT_EQ(Status(), (TServiceStatus{TServiceStartType::Disabled, false}));
         EXPECT_EQ(service.State(), static_cast<DWORD>(SERVICE_STOPPED));
     }
 }

@@ -168,7 +168,14 @@ TEST_F(TFirefoxPrefsTest, SavingKeepsWhatOthersWroteSinceItWasLoaded) {
     for (const auto& [now, written] : cases) {
         edit();
         Fake.Files.PutText(kUserFile, now);
+        const auto changes = PendingChanges(Fake.System, TSysControl(Fake.System), &Prefs);
+        ASSERT_EQ(changes.size(), 3U);
+        if (now == kBefore) {
+            EXPECT_EQ(changes[1].Before, TContent(TPreferenceContent(L"1")));
+        }
         EXPECT_EQ(Saved(), written);
+        for (const TChange& change : changes)
+            EXPECT_EQ(change.After, ContentOf(Fake.System, change.Target, &Prefs));
         Fake.Files.PutText(kUserFile, std::string(written) + "user_pref(\"e\", 7);");
         EXPECT_EQ(Saved(), std::string(written) + "user_pref(\"e\", 7);\r\n")
             << "what was saved is no edit any more";

@@ -4,7 +4,7 @@
 #include <optional>
 #include <span>
 
-#include "settings/captions.h"
+#include "settings/rows.h"
 #include "ui/design.h"
 
 struct TCategoryItemRow {
@@ -12,6 +12,7 @@ struct TCategoryItemRow {
     int Tag;                       ///< number of the notebook page
     const wchar_t* Picture;        ///< base name of the icon
     std::optional<TCaption> Text;  ///< absent for a hidden item, which keeps its caption
+    TLevels Levels = kEveryLevel;  ///< elsewhere it is hidden, too
 };
 
 struct TCategoryGroupRow {

@@ -1,4 +1,4 @@
-#include "app/category_table.h"
+#include "settings/category_table.h"
 
 #include "base/decimal.h"
 
@@ -15,7 +15,7 @@ constexpr TCategoryItemRow kDisplay[] = {
 };
 constexpr TCategoryItemRow kUse[] = {
     {L"Internet Explorer", 8, L"internet", TCaption::BrowserIE},
-    {L"Mozilla Firefox", 9, L"browser", TCaption::BrowserFF},
+    {L"Mozilla Firefox", 9, L"browser", TCaption::BrowserFF, kSinceXp},
 };
 constexpr TCategoryItemRow kCommunication[] = {
     {L"Infomation", 17, L"information", TCaption::SystemInfomation},

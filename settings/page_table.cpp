@@ -1,4 +1,4 @@
-#include "app/page_table.h"
+#include "settings/page_table.h"
 
 #include <array>
 
@@ -20,6 +20,7 @@
 #include "settings/shell/startup_page.h"
 #include "settings/shell/system_page.h"
 #include "settings/shell/taskbar_page.h"
+#include "ui/controls.h"
 
 std::span<const TPageDefinition* const> PageDefinitions() {
     // In this order their windows are created; the first one is shown first.
@@ -29,4 +30,19 @@ std::span<const TPageDefinition* const> PageDefinitions() {
         &MailPage(),      &PrivacyPage(), &UserLogonPage(), &DrivesPage(),           &MemoryPage(),
         &StartupPage(),   &SystemPage(),  &SecurityPage()};
     return kPages;
+}
+
+std::span<const TPageLists> PagesOfChosenLists() {
+    static constexpr TPageLists kPages[] = {{L"CB_Com:", 19}, {L"CB_Dis:", 1},  {L"CB_FF:", 9},
+                                            {L"CB_Pri:", 12}, {L"CB_Sta:", 16}, {L"CB_Tas:", 6}};
+    return kPages;
+}
+
+void ChooseFirstItems(TControl& container) {
+    for (TControl* control : container.Children()) {
+        if (control->Kind() == TComponentKind::ComboBox)
+            static_cast<TComboBox*>(control)->Reinitialise();
+        else
+            ChooseFirstItems(*control);
+    }
 }

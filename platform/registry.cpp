@@ -1,0 +1,54 @@
+#include "platform/registry.h"
+
+namespace {
+
+// The REG_… types, as documented, by TRegDataType.
+constexpr std::uint32_t kTypes[] = {0, 1, 2, 4, 3};
+
+void AppendUnit(TBytes& bytes, std::uint32_t unit) {
+    bytes.push_back(static_cast<std::uint8_t>(unit));
+    bytes.push_back(static_cast<std::uint8_t>(unit >> 8));
+}
+
+/// UTF-16 with its NUL. What is no character stays as it is.
+TBytes BytesOf(const std::wstring& text) {
+    TBytes bytes;
+    for (const wchar_t c : text) {
+        const auto code = static_cast<std::uint32_t>(c);
+        if (code > 0xFFFF) AppendUnit(bytes, 0xD800 + ((code - 0x10000) >> 10));
+        AppendUnit(bytes, code > 0xFFFF ? 0xDC00 + ((code - 0x10000) & 0x3FF) : code);
+    }
+    AppendUnit(bytes, 0);
+    return bytes;
+}
+
+TBytes BytesOf(std::int32_t number) {
+    TBytes bytes;
+    AppendUnit(bytes, static_cast<std::uint32_t>(number));
+    AppendUnit(bytes, static_cast<std::uint32_t>(number) >> 16);
+    return bytes;
+}
+
+}  // namespace
+
+std::optional<TRawValue> RawValueOf(const TRegistryData& data) {
+    const std::uint32_t type = kTypes[static_cast<std::size_t>(data.Type)];
+    const auto* text = std::get_if<std::wstring>(&data.Value);
+    const auto* number = std::get_if<std::int32_t>(&data.Value);
+    const auto* bytes = std::get_if<TBytes>(&data.Value);
+    switch (data.Type) {
+        case TRegDataType::String:
+        case TRegDataType::ExpandString:
+            if (text != nullptr) return TRawValue{type, BytesOf(*text)};
+            break;
+        case TRegDataType::Dword:
+            if (number != nullptr) return TRawValue{type, BytesOf(*number)};
+            break;
+        case TRegDataType::Binary:
+            if (bytes != nullptr) return TRawValue{type, *bytes};
+            break;
+        case TRegDataType::Unknown:
+            break;
+    }
+    return std::nullopt;
+}

@@ -1,0 +1,304 @@
+#include "settings/catalogue.h"
+
+#include <algorithm>
+#include <deque>
+
+#include "base/decimal.h"
+#include "platform/app_frame.h"
+#include "platform/text.h"
+#include "settings/category_table.h"
+#include "settings/page_table.h"
+#include "settings/shell/desktop_icons.h"
+#include "ui/containers.h"
+#include "ui/controls.h"
+
+namespace {
+
+/// Those that differ in what they offer: any other, Windows 2000, XP, Vista, 7.
+constexpr int kLevels[] = {0, 4, 5, 6, 7};
+
+/// A caption without its access key and the colon at its end.
+std::wstring Plain(std::wstring caption) {
+    std::erase(caption, L'&');
+    if (!caption.empty() && caption.back() == L':') caption.pop_back();
+    return caption;
+}
+
+bool IsSwatch(const TControl& control) { return control.Kind() == TComponentKind::ColorSwatch; }
+
+/// The control whose text a user reads beside this one: itself, the label or box before it, or its group.
+const TControl& CaptionedBy(const TControl& control) {
+    const auto hasOwn = [](const TControl& c) {
+        return c.Kind() == TComponentKind::CheckBox || c.Kind() == TComponentKind::RadioButton ||
+               c.Kind() == TComponentKind::Button || c.Kind() == TComponentKind::Label;
+    };
+    if (hasOwn(control)) return control;
+    const TControl* captioned = control.Parent();
+    for (const TControl* sibling : control.Parent()->Children()) {
+        if (sibling == &control) break;
+        if (hasOwn(*sibling)) captioned = sibling;
+    }
+    return *captioned;
+}
+
+const TControl* Above(const TControl& control, TComponentKind kind) {
+    const TControl* c = control.Parent();
+    while (c != nullptr && c->Kind() != kind) c = c->Parent();
+    return c;
+}
+
+TLevels Both(const TLevels& a, const TLevels& b) {
+    return {std::max(a.First, b.First), std::min(a.Last, b.Last), std::max(a.Except, b.Except)};
+}
+
+/// Where neither the control nor what it lies in is hidden.
+TLevels OfferedOn(const TPageDefinition& page, const TControl& control) {
+    TLevels levels;
+    for (const TControl* c = &control; c != nullptr; c = c->Parent())
+        for (const TOffer& offer : page.Offers)
+            if (c->Name() == offer.Control) levels = Both(levels, offer.Levels);
+    return levels;
+}
+
+std::vector<std::wstring> WordsIn(std::wstring_view text) {
+    std::vector<std::wstring> words;
+    while (!(text = Trim(text)).empty()) {
+        const std::size_t end = std::min(text.find(L' '), text.size());
+        words.emplace_back(text.substr(0, end));
+        text.remove_prefix(end);
+    }
+    return words;
+}
+
+std::wstring PlaceText(const TTarget& target) {
+    if (const auto* registry = std::get_if<TRegistryTarget>(&target))
+        return registry->Key + L'\\' + registry->ValueName;
+    if (const auto* service = std::get_if<TServiceTarget>(&target)) return service->Service;
+    if (const auto* preference = std::get_if<TPreferenceTarget>(&target)) return preference->QuotedName;
+    return {};
+}
+
+/// How far behind a setting stands among those that hold all words; nothing when it does not hold them.
+std::optional<int> RankOf(const TSetting& setting, const std::vector<std::wstring>& words) {
+    std::wstring places = setting.Id;
+    for (const TRow* row : setting.Rows)
+        for (const TTarget& target : TargetsOf(*row)) places += L'\n' + PlaceText(target);
+    const std::wstring texts[] = {setting.Caption, setting.Explanation,
+                                  setting.Group + L'\n' + setting.Sheet + L'\n' + setting.Page, places};
+    int rank = 0;
+    for (const std::wstring& word : words) {
+        const auto* text = std::ranges::find_if(
+            texts, [&](const std::wstring& each) { return FindText(each, word) != std::wstring::npos; });
+        if (text == std::end(texts)) return std::nullopt;
+        rank += static_cast<int>(text - std::begin(texts));
+    }
+    return rank;
+}
+
+}  // namespace
+
+/// A form with its pages, and what they work with.
+struct TCatalogue::TModel {
+    TForm Form;
+    TPageContext Context;
+    std::vector<std::unique_ptr<TPageModel>> Pages{};
+    std::deque<TSetting> Settings{};
+
+    TModel(const wchar_t* name, const wchar_t* className, TSystem& system, TSysControl& changes,
+           TFirefoxPrefs& firefox, int windowsLevel)
+        : Form(name, className),
+          Context{.System = system,
+                  .Form = Form,
+                  .Changes = changes,
+                  .Firefox = firefox,
+                  .WindowsLevel = windowsLevel} {}
+};
+
+TCatalogue::TCatalogue(TSystem& system, const TLanguage* language, int windowsLevel)
+    : FScratch(system),
+      FLanguage(language),
+      FChanges(FScratch.System),
+      FFirefox(FScratch.System, TAppFrame(system).AppDataPath + L"\\Mozilla\\Firefox\\"),
+      FWindow(std::make_unique<TModel>(L"Quilltune_FormMain", L"TQuilltune_FormMain", FScratch.System,
+                                       FChanges, FFirefox, windowsLevel)),
+      FDialog(std::make_unique<TModel>(L"Quilltune_FormFolder", L"TQuilltune_FormFolder", FScratch.System,
+                                       FChanges, FFirefox, windowsLevel)) {
+    TForm& window = FWindow->Form;
+    window.Build(window, Notebook(L"Notebook_Main", {}));
+    FDialog->Form.SetCaption(kDesktopIconsCaption);
+    const auto add = [this](TModel& model, const TPageDefinition& page, TControl& container) {
+        model.Pages.push_back(std::make_unique<TPageModel>(page, model.Context, FScratch, container));
+    };
+    for (const TPageDefinition* page : PageDefinitions())
+        add(*FWindow, *page, *window.Find(L"Notebook_Main"));
+    add(*FDialog, DesktopIcons(), FDialog->Form);
+    for (TModel* model : {FWindow.get(), FDialog.get()}) {
+        if (FLanguage == nullptr) continue;
+        model->Context.Captions.Load(*FLanguage);
+        FLanguage->Translate(model->Form);
+    }
+    for (const TPageLists& page : PagesOfChosenLists()) ChooseFirstItems(*window.Find(DecimalText(page.Tag)));
+    for (const TCategoryGroupRow& group : CategoryTable())
+        for (const TCategoryItemRow& item : group.Items)
+            for (const auto& page : FWindow->Pages)
+                if (page->Definition().Tag == item.Tag)
+                    AddPage(*FWindow, *page, item.Text ? FWindow->Context.Captions[*item.Text] : item.Caption,
+                            item.Text ? item.Levels : TLevels{.Last = -1});
+    AddPage(*FDialog, *FDialog->Pages.front(), FDialog->Form.Caption(), kEveryLevel);
+}
+
+TCatalogue::~TCatalogue() = default;
+
+TSetting& TCatalogue::AddSetting(TModel& model, TPageModel& page, const TControl& control) {
+    const TPageDefinition& definition = page.Definition();
+    const TControl& captioned = CaptionedBy(control);
+    TSetting& setting = model.Settings.emplace_back();
+    setting.Id = control.Name();
+    setting.Caption = setting.GeneralCaption = Plain(captioned.Caption());
+    const auto captionOf = [&](const TControl* container) {
+        if (container == nullptr) return std::wstring();
+        std::wstring caption = container->Caption();
+        for (const TLevelCaption& name : definition.LevelCaptions)
+            if (container->Name() == name.Control && name.Levels.Include(model.Context.WindowsLevel))
+                caption = model.Context.Captions[name.Caption];
+        return Plain(caption);
+    };
+    setting.Caption = captionOf(&captioned);
+    for (const TLevelCaption& name : definition.LevelCaptions)
+        if (captioned.Name() == name.Control)
+            setting.LevelNames.push_back({name.Levels, Plain(model.Context.Captions[name.Caption])});
+    setting.Sheet = captionOf(Above(control, TComponentKind::TabSheet));
+    setting.Group = captionOf(Above(control, TComponentKind::GroupBox));
+    if (FLanguage != nullptr)
+        setting.Explanation =
+            FLanguage->ReadString(L"Scanner_" + model.Form.Name(), setting.Id + L".Hint", L"");
+    if (IsSwatch(control)) return setting;
+    FSettings.push_back(&setting);
+    FOwners.emplace(&setting, &page);
+    return setting;
+}
+
+void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& caption,
+                         const TLevels& reachable) {
+    const TPageDefinition& definition = page.Definition();
+    TCataloguedPage& catalogued = FPages.emplace_back(TCataloguedPage{&definition, caption, {}});
+    const std::size_t first = model.Settings.size();
+    const auto add = [&](const std::wstring& name, const TLevels& levels) -> TSetting& {
+        auto found =
+            std::find_if(model.Settings.begin() + static_cast<std::ptrdiff_t>(first), model.Settings.end(),
+                         [&](const TSetting& each) { return each.Id == name; });
+        const TControl& control = *model.Form.Find(name);
+        TSetting& setting = found == model.Settings.end() ? AddSetting(model, page, control) : *found;
+        setting.Page = caption;
+        const TLevels offered = Both(Both(levels, reachable), OfferedOn(definition, control));
+        for (const int level : kLevels)
+            if (offered.Include(level) && std::ranges::count(setting.Levels, level) == 0)
+                setting.Levels.push_back(level);
+        return setting;
+    };
+    for (const TLoader& loader : definition.Loaders) {
+        for (const TRow& row : loader) {
+            const auto names = ControlsOf(row);
+            TCataloguedRow entry{
+                &row, {}, Both(LevelsOf(row), OfferedOn(definition, *model.Form.Find(names.front())))};
+            std::vector<TSetting*> own;
+            for (const std::wstring& name : names) {
+                TSetting& setting = add(name, LevelsOf(row));
+                setting.Rows.push_back(&row);
+                setting.Restart |= RestartOf(row) && LevelsOf(row).Include(model.Context.WindowsLevel);
+                // The caption of a swatch says what the button before it is for.
+                if (IsSwatch(*model.Form.Find(name))) own.front()->Caption = setting.Caption;
+                own.push_back(&setting);
+            }
+            entry.Settings.assign(own.begin(), own.end());
+            catalogued.Rows.push_back(std::move(entry));
+        }
+    }
+    for (const TPreset& preset : definition.Presets) add(preset.Button, kEveryLevel).Preset = &preset;
+}
+
+TPageModel& TCatalogue::Loaded(const TSetting& setting) {
+    TPageModel& page = *FOwners.at(&setting);
+    page.Load();
+    return page;
+}
+
+TControl& TCatalogue::ControlOf(const TSetting& setting) const {
+    return *FOwners.at(&setting)->Context().Form.Find(setting.Id);
+}
+
+void TCatalogue::Drop(TPageModel& page) {
+    FChanges.Clear();
+    page.Context().FirefoxChanged = false;
+    page.Forget();
+}
+
+const TSetting* TCatalogue::Find(std::wstring_view id) const {
+    const auto found =
+        std::ranges::find_if(FSettings, [&](const TSetting* setting) { return SameText(setting->Id, id); });
+    return found == FSettings.end() ? nullptr : *found;
+}
+
+std::vector<const TSetting*> TCatalogue::Search(std::wstring_view text) const {
+    const std::vector<std::wstring> words = WordsIn(text);
+    std::vector<std::pair<int, const TSetting*>> ranked;
+    for (const TSetting* setting : FSettings)
+        if (const auto rank = RankOf(*setting, words)) ranked.emplace_back(*rank, setting);
+    std::ranges::stable_sort(ranked, {}, &std::pair<int, const TSetting*>::first);
+    std::vector<const TSetting*> found;
+    for (const auto& [rank, setting] : ranked) found.push_back(setting);
+    return found;
+}
+
+TStates TCatalogue::States(const TSetting& setting) {
+    TPageModel& page = Loaded(setting);
+    TControl& control = ControlOf(setting);
+    TStates states = page.StatesOf(control);
+    if (control.Kind() == TComponentKind::Button) Drop(page);  // it was pressed
+    return states;
+}
+
+TPresent TCatalogue::Present(const TSetting& setting) {
+    TPageModel& page = Loaded(setting);
+    TControl& control = ControlOf(setting);
+    TPresent present{.State = {}, .IsOffered = TPageModel::IsShown(control), .IsEnabled = control.Enabled()};
+    present.IsOffered &= std::ranges::count(setting.Levels, page.Context().WindowsLevel) != 0;
+    for (const TRow* row : setting.Rows) {
+        if (!LevelsOf(*row).Include(page.Context().WindowsLevel)) continue;
+        for (const TTarget& target : TargetsOf(*row))
+            present.Stored.push_back({target, ContentOf(FScratch.System, target, &FFirefox)});
+    }
+    present.State = page.StateOfSetting(control);
+    if (control.Kind() == TComponentKind::Button) Drop(page);
+    return present;
+}
+
+std::vector<TChange> TCatalogue::WouldWrite(const TSetting& setting, const TControlState& state) {
+    if (!States(setting).Allow(state)) return {};
+    TPageModel& page = Loaded(setting);
+    // A preset may reach controls of other pages.
+    const auto others = PresetStates(setting);
+    for (const auto& [other, unused] : others) Loaded(*other);
+    page.Change(ControlOf(setting), state);
+    auto changes =
+        PendingChanges(FScratch.System, FChanges, page.Context().FirefoxChanged ? &FFirefox : nullptr);
+    Drop(page);
+    for (const auto& [other, unused] : others) FOwners.at(other)->Forget();
+    return changes;
+}
+
+std::vector<std::pair<const TSetting*, TControlState>> TCatalogue::PresetStates(
+    const TSetting& preset) const {
+    std::vector<std::pair<const TSetting*, TControlState>> states;
+    if (preset.Preset == nullptr) return states;
+    const TPageContext& context = FOwners.at(&preset)->Context();
+    for (const TPresetState& state : preset.Preset->States)
+        if (const TSetting* setting = Find(state.Control);
+            setting != nullptr && state.Levels.Include(context.WindowsLevel))
+            states.emplace_back(setting, StateFromNumber(ControlOf(*setting), state.State));
+    return states;
+}
+
+void TCatalogue::Refresh() {
+    for (const auto& [setting, page] : FOwners) page->Forget();
+}

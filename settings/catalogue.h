@@ -1,0 +1,112 @@
+// The catalogue of all settings as a model that can be asked, without a window: what there is, what state it is in, what is
+// stored, what each state would write. Asking records nothing and touches nothing.
+//
+// It answers from forms without a native side: they are loaded, changed and record like the window's.
+#pragma once
+
+#include <map>
+#include <memory>
+
+#include "platform/language.h"
+#include "settings/page_model.h"
+#include "settings/row_places.h"
+
+/// A control that stands for a setting, or a preset button, which brings others into the states that it stands for. Its
+/// texts are in the user's language, and captions are without access keys and the colon at their ends.
+struct TSetting {
+    struct TLevelName {
+        TLevels Levels;
+        std::wstring Caption;
+    };
+
+    std::wstring Id;       ///< the control's name
+    std::wstring Caption;  ///< as this Windows has it: its own, or that of the label or group before it
+    std::wstring GeneralCaption;         ///< as those have it that have no other name for it …
+    std::vector<TLevelName> LevelNames;  ///< … and the other names
+    std::wstring Page;
+    std::wstring Sheet;
+    std::wstring Group;             ///< empty when it is in none
+    std::wstring Explanation;       ///< empty when the language has none
+    std::vector<const TRow*> Rows;  ///< the rows that it records through; none of a preset
+    const TPreset* Preset = nullptr;
+    std::vector<int> Levels;  ///< the Windows levels on which it is offered
+    bool Restart = false;     ///< Windows must restart before a change takes effect
+};
+
+/// A row, with the settings that record through it.
+struct TCataloguedRow {
+    const TRow* Row;
+    std::vector<const TSetting*> Settings;  ///< and what shows a colour, which is no setting of its own
+    TLevels Levels;                         ///< where it holds and its first control is not hidden
+};
+
+/// A page, or a dialog with settings.
+struct TCataloguedPage {
+    const TPageDefinition* Definition;
+    std::wstring Caption;
+    std::vector<TCataloguedRow> Rows;  ///< in the order in which they are loaded
+};
+
+/// A setting as it is now.
+struct TPresent {
+    struct TStored {
+        TTarget Target;
+        TContent Content;
+    };
+
+    TControlState State;
+    bool IsOffered = false;       ///< this Windows, as it is set up now, shows it
+    bool IsEnabled = false;       ///< it can be changed as it is now
+    std::vector<TStored> Stored;  ///< what is stored at each of its places
+};
+
+class TCatalogue {
+  public:
+    /// `language` is null for English. It and `system` outlive the catalogue.
+    TCatalogue(TSystem& system, const TLanguage* language, int windowsLevel);
+    ~TCatalogue();
+
+    [[nodiscard]] const std::vector<TCataloguedPage>& Pages() const { return FPages; }
+    /// Every setting once, page by page, presets behind the other settings of their page.
+    [[nodiscard]] const std::vector<const TSetting*>& Settings() const { return FSettings; }
+    /// The setting of that name, in any case of the letters; null when there is none.
+    [[nodiscard]] const TSetting* Find(std::wstring_view id) const;
+    /// The settings that hold all words of the text in any of their texts, names and places; the best first: words count
+    /// most in the caption, then in the explanation, then in page, sheet and group, then elsewhere.
+    [[nodiscard]] std::vector<const TSetting*> Search(std::wstring_view text) const;
+
+    /// The states that it can be brought into.
+    [[nodiscard]] TStates States(const TSetting& setting);
+    /// A page is read when it is first asked for; see Refresh. A fault of its loader leaves what was loaded until then.
+    [[nodiscard]] TPresent Present(const TSetting& setting);
+    /// What a user's change into the state would leave pending, though the setting be in that state already. Nothing when
+    /// the setting has no such state.
+    [[nodiscard]] std::vector<TChange> WouldWrite(const TSetting& setting, const TControlState& state);
+    /// What a preset brings about on this Windows.
+    [[nodiscard]] std::vector<std::pair<const TSetting*, TControlState>> PresetStates(
+        const TSetting& preset) const;
+
+    /// From now on everything is read anew.
+    void Refresh();
+
+  private:
+    struct TModel;
+
+    void AddPage(TModel& model, TPageModel& page, const std::wstring& caption, const TLevels& reachable);
+    TSetting& AddSetting(TModel& model, TPageModel& page, const TControl& control);
+    /// The setting's page, loaded.
+    TPageModel& Loaded(const TSetting& setting);
+    /// Takes back what the page has recorded and shows.
+    void Drop(TPageModel& page);
+    [[nodiscard]] TControl& ControlOf(const TSetting& setting) const;
+
+    TScratchSystem FScratch;
+    const TLanguage* FLanguage;
+    TSysControl FChanges;
+    TFirefoxPrefs FFirefox;
+    std::unique_ptr<TModel> FWindow;
+    std::unique_ptr<TModel> FDialog;
+    std::vector<TCataloguedPage> FPages;
+    std::vector<const TSetting*> FSettings;
+    std::map<const TSetting*, TPageModel*> FOwners;
+};
