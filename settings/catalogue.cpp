@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <utility>
 
 #include "base/decimal.h"
 #include "platform/app_frame.h"
@@ -229,7 +230,8 @@ TControl& TCatalogue::ControlOf(const TSetting& setting) const {
 
 void TCatalogue::Drop(TPageModel& page) {
     FChanges.Clear();
-    page.Context().FirefoxChanged = false;
+    // Pages share the preferences: whichever is asked next must read them again.
+    if (std::exchange(page.Context().FirefoxChanged, false)) Refresh();
     page.Forget();
 }
 

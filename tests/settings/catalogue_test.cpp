@@ -108,6 +108,10 @@ void ExpectRight(int level, bool populated) {
     Prepare(fake, L"C:\\Data\\Mozilla\\Firefox\\",
             populated ? std::span(catalogue.Pages()) : std::span<const TCataloguedPage>());
     const auto before = fake.Registry.Lines();
+    const TSetting& homePage = *catalogue.Find(L"Edit_CommonSettings_Display_FirefoxHomepage_HomePage");
+    (void)catalogue.Present(homePage);
+    (void)catalogue.WouldWrite(*catalogue.Find(L"Checkbox_Firefox_Use_AddressBar_AutoFill"), false);
+    EXPECT_EQ(catalogue.WouldWrite(homePage, L"a").size(), 1U) << "nothing stays of what was asked before";
     int clicks = 0;
     for (const TCataloguedPage& page : catalogue.Pages()) {
         for (const TSetting* setting : catalogue.Settings()) {

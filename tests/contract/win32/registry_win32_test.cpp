@@ -51,7 +51,9 @@ TEST_F(TRegistryWin32, ReadsWhateverIsStored) {
         {"huge bytes", REG_BINARY, TBytes(3'000'000, 7), {Binary, TBytes(3'000'000, 7)}},
     };
     for (const auto& each : cases) {
-        ASSERT_EQ(RegSetValueExW(key.Get(), L"v", 0, each.Type, each.Bytes.data(),
+        TBytes stored = each.Bytes;
+        stored.insert(stored.end(), {0xFF, 0xFF});  // Windows takes a NUL in that stands behind a text
+        ASSERT_EQ(RegSetValueExW(key.Get(), L"v", 0, each.Type, stored.data(),
                                  static_cast<DWORD>(each.Bytes.size())),
                   ERROR_SUCCESS);
         TRegistryData data{Binary, 1};
