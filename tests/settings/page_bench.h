@@ -70,37 +70,13 @@ class TPageBench {
     void Act(const std::wstring& name, const std::wstring& state);
 
     /// The pending changes, one line each, in order:
-    ///   name: HKCU\key[value name] = 1         a DWORD; a text is in quotes, bytes are hexadecimal
+    ///   name: HKCU\key[value name] = 1         a DWORD; a text is in quotes, bytes are hexadecimal; no backslash ends the key
     ///   name: delete HKCU\key[value name]
     ///   name: delete HKCU\key
     ///   name: parameter 0x1009(0, 1)           a number or bytes as the second argument
     std::vector<std::wstring> Pending() const;
 };
 
-/// A stored value and what a control then shows.
-struct TShownCase {
-    const wchar_t* Control;
-    TPlace Value;
-    std::optional<TRegistryData> Stored;  ///< none = missing
-    std::wstring Shows;                   ///< as TPageBench::State words it; "kept" = as before
-    int Level = 7;
-};
-
-/// What a user does to a control of a fresh page and what that records.
-struct TRecordedCase {
-    const wchar_t* Control;
-    std::wstring State;
-    std::vector<std::wstring> Pending;
-    bool Restart = false;
-};
-
 inline TRegistryData Number(std::int32_t number) { return {TRegDataType::Dword, number}; }
 inline TRegistryData String(const wchar_t* text) { return {TRegDataType::String, std::wstring(text)}; }
 inline TRegistryData Bytes(TBytes bytes) { return {TRegDataType::Binary, std::move(bytes)}; }
-
-/// Loads the page for each case, from both states of a check box, and checks that loading records nothing.
-void ExpectShown(const TPageDefinition& page, std::span<const TShownCase> cases);
-
-/// Does what each case says on a page of its own that was not loaded. A check box that is in the state already is
-/// brought into the other one beforehand.
-void ExpectRecorded(const TPageDefinition& page, std::span<const TRecordedCase> cases);
