@@ -63,8 +63,9 @@ std::wstring TPageBench::State(const std::wstring& name) {
     TControl& control = Get<TControl>(name);
     switch (control.Kind()) {
         case TComponentKind::CheckBox:
+            return static_cast<TCheckBox&>(control).Checked() ? L"on" : L"off";
         case TComponentKind::RadioButton:
-            return Checked(name) ? L"on" : L"off";
+            return static_cast<TRadioButton&>(control).Checked() ? L"on" : L"off";
         case TComponentKind::ComboBox:
             return std::to_wstring(static_cast<TComboBox&>(control).ItemIndex());
         case TComponentKind::TrackBar:
@@ -74,6 +75,12 @@ std::wstring TPageBench::State(const std::wstring& name) {
             return static_cast<TEdit&>(control).Text();
         case TComponentKind::ColorSwatch:
             return L"0x" + Hex(static_cast<TColorSwatch&>(control).Color(), 6);
+        case TComponentKind::ListView: {
+            std::wstring initials;
+            for (const auto& row : static_cast<TListView&>(control).Rows())
+                if (row.Checked) initials += row.Cells[0][0];
+            return initials.empty() ? L"none" : initials;
+        }
         default:
             return control.Caption();
     }
@@ -83,8 +90,9 @@ void TPageBench::Act(const std::wstring& name, const std::wstring& state) {
     TControl& control = Get<TControl>(name);
     switch (control.Kind()) {
         case TComponentKind::CheckBox:
+            return static_cast<TCheckBox&>(control).SetChecked(state == L"on");
         case TComponentKind::RadioButton:
-            return Click(name, state == L"on");
+            return static_cast<TRadioButton&>(control).SetChecked(state == L"on");
         case TComponentKind::ComboBox:
             return static_cast<TComboBox&>(control).SetItemIndex(std::stoi(state));
         case TComponentKind::TrackBar:
@@ -94,6 +102,13 @@ void TPageBench::Act(const std::wstring& name, const std::wstring& state) {
             auto& edit = static_cast<TEdit&>(control);
             edit.SetFocused(true);
             return edit.SetText(state);
+        }
+        case TComponentKind::ListView: {
+            auto& list = static_cast<TListView&>(control);
+            for (std::size_t i = 0; i < list.Rows().size(); ++i)
+                if (list.Rows()[i].Cells[0].starts_with(state))
+                    list.SetRowChecked(i, !list.Rows()[i].Checked);
+            return;
         }
         case TComponentKind::Button:
             return static_cast<TButton&>(control).Click();

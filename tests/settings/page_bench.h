@@ -35,10 +35,6 @@ class TPageBench {
     [[nodiscard]] bool NeedsRestart() const {
         return std::ranges::any_of(FChanges.Pending(), &TRegRecor::RestartNeeded);
     }
-    void Store(const TPlace& place, const TRegistryData& data) {
-        Fake.Registry.Put({place.Root, place.Key, place.ValueName}, data);
-    }
-    void Store(const TPlace& place, std::int32_t number) { Store(place, {TRegDataType::Dword, number}); }
 
     template <typename T>
     T& Get(const std::wstring& name) {
@@ -46,28 +42,18 @@ class TPageBench {
         if (control == nullptr) throw std::logic_error("no such control of that type");
         return *control;
     }
-    /// Whether a check box or radio button is checked.
-    bool Checked(const std::wstring& name) {
-        if (auto* box = FForm.Find<TCheckBox>(name)) return box->Checked();
-        return Get<TRadioButton>(name).Checked();
-    }
-    /// Sets a check box or radio button without recording.
-    void Preset(const std::wstring& name, bool checked) {
-        const TLoadingScope loading(Context);
-        Click(name, checked);
-    }
-    /// Sets a check box or radio button as a user would.
-    void Click(const std::wstring& name, bool checked) {
-        if (auto* box = FForm.Find<TCheckBox>(name))
-            box->SetChecked(checked);
-        else
-            Get<TRadioButton>(name).SetChecked(checked);
-    }
-
-    /// What a control shows: "on" or "off", a text, a position, an item index, a colour (0xBBGGRR).
+    /// What a control shows: "on" or "off", a text, a position, an item index, a colour (0xBBGGRR), the initials
+    /// of the checked rows of a list.
     std::wstring State(const std::wstring& name);
-    /// Brings a control into a state, as State words it, as a user would; a button is pressed.
+    /// Brings a control into a state, as State words it, as a user would; a button is pressed, and a row of a
+    /// list turned over.
     void Act(const std::wstring& name, const std::wstring& state);
+
+    /// Act without recording.
+    void Preset(const std::wstring& name, const std::wstring& state) {
+        const TLoadingScope loading(Context);
+        Act(name, state);
+    }
 
     /// The pending changes, one line each, in order:
     ///   name: HKCU\key[value name] = 1         a DWORD; a text is in quotes, bytes are hexadecimal; no backslash ends the key

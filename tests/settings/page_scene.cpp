@@ -212,8 +212,7 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
     {L"do", Do},
     {L"preset",
      [](TScene& s, TLine rest, const TLines&) {
-         const TLoadingScope loading(s.FBench.Context);
-         for (const TLine& control : TakeControls(rest)) s.FBench.Act(control, rest);
+         for (const TLine& control : TakeControls(rest)) s.FBench.Preset(control, rest);
      }},
     {L"leave", [](TScene& s, TLine rest, const TLines&) { s.FBench.Get<TEdit>(rest).SetFocused(false); }},
     {L"apply", [](TScene& s, TLine,

@@ -130,8 +130,34 @@ class TScript {
                 for (const auto& [name, place] : places) changes.push_back(Written(name, place, values[0]));
                 if (restarts) changes.emplace_back(L"restart");
                 ExpectWritten(control, part, changes, level);
+                for (const bool populated : {false, true})
+                    EXPECT_EQ(LeftAfter(control, part, level, 1, populated),
+                              LeftAfter(control, part, level, 3, populated));
             }
         }
+    }
+
+    /// What is stored after so many clicks on a box, which shows the state then, and Apply.
+    std::vector<std::wstring> LeftAfter(const TLine& control, const TLine& state, const TLine& level,
+                                        int clicks, bool populated) {
+        const TLine opposite = state == L"on" ? L"off" : L"on";
+        TScene scene(*FPage, FCovered, level);
+        TPageBench& bench = scene.Bench();
+        if (bench.Get<TControl>(control).Kind() != TComponentKind::CheckBox) return {};
+        if (populated) {
+            TScene other(*FPage, FCovered, level);
+            for (const TLine& each : {state, opposite, state}) other.Bench().Act(control, each);
+            other.IgnoreRestart();
+            for (const TRegRecor& record : other.Bench().Context.Changes.Pending()) {
+                bench.Fake.Registry.Put({record.RootKey, record.Key, record.ValueName}, String(L"found"));
+                bench.Fake.Registry.Put({record.RootKey, record.Key, L"beside"}, Number(1));
+                bench.Fake.Registry.Put({record.RootKey, record.Key + L"\\below", L"beside"}, Number(1));
+            }
+        }
+        bench.Preset(control, opposite);
+        for (; clicks > 0; --clicks) bench.Act(control, clicks % 2 == 0 ? opposite : state);
+        bench.Context.Changes.WriteAll();
+        return bench.Fake.Registry.Lines();
     }
 
     void Presses(TLine rest) {
@@ -192,13 +218,14 @@ class TScript {
             const bool isBox = IsBox(bench.Get<TControl>(control));
             if (before && !isBox) break;
             if (isBox && !before) BringElsewhere(bench, control, L"on");
-            if (before) bench.Preset(control, true);
+            if (before) bench.Preset(control, L"on");
             const TLine kept = bench.State(control);
             if (!found.empty() && !scene.Run(found, {})) scene.Run(L"stored " + found, {});
             bench.Load();
             scene.Expect(control, shows == L"kept" ? kept : shows);
             EXPECT_TRUE(bench.Pending().empty() && bench.Recorded == 0 && !bench.Context.FirefoxChanged)
                 << "loading records nothing";
+            EXPECT_FALSE(bench.Context.Loading);
         }
     }
 

@@ -8,7 +8,8 @@
 // A setting, on fresh pages, with the parts in any number and order:
 //   setting CONTROL | PLACE | VALUE, VALUE <-> STATE | VALUE -> STATE | VALUE <- STATE | …
 //       -> any of the values shows as the state, a check box or radio button from both states: on, off, an item, a position, a text,
-//       a color, or `kept`; <- the state writes the value; <-> both, with the first value for writing
+//       a color, or `kept`; <- the state writes the value; <-> both, with the first value for writing.
+//       However often a box is clicked, Apply leaves what one click into the state that it shows leaves.
 //     PLACE    HKLM\key[value name], or HKCU, HKU, HKCR
 //              parameter 0x26, 0x25(#, 0)      the code that reads, and the call that writes with # for the value
 //              pref "name"                     a preference of Firefox
