@@ -88,8 +88,13 @@ class TScript {
 
     void Shows(TLine rest) {
         TLine state = Take(rest, L" | ");
-        const TLine found = Take(rest, L" | ");
-        for (const TLine& control : TakeControls(state)) ExpectShown(control, state, found, rest);
+        TLines found = Parts(rest);
+        TLine level;
+        if (found.back().size() == 1) {
+            level = found.back();
+            found.pop_back();
+        }
+        for (const TLine& control : TakeControls(state)) ExpectShown(control, state, found, level);
     }
 
     void Writes(TLine rest) {
@@ -124,7 +129,7 @@ class TScript {
                 if (part.empty()) throw std::invalid_argument("no case");
                 if (isBoth || !isWritten)
                     for (const TLine& each : values)
-                        ExpectShown(control, part, Stored(places[0].second, each), level);
+                        ExpectShown(control, part, {Stored(places[0].second, each)}, level);
                 if (!isWritten) continue;
                 TLines changes;
                 for (const auto& [name, place] : places) changes.push_back(Written(name, place, values[0]));
@@ -209,8 +214,8 @@ class TScript {
         }
     }
 
-    void ExpectShown(const TLine& control, const TLine& shows, const TLine& found, const TLine& level) {
-        SCOPED_TRACE(ToUtf8(found + L' ' + level));
+    void ExpectShown(const TLine& control, const TLine& shows, const TLines& found, const TLine& level) {
+        SCOPED_TRACE(ToUtf8(found[0] + L' ' + level));
         FCovered.Shown.insert(control);
         for (const bool before : {false, true}) {
             TScene scene(*FPage, FCovered, level);
@@ -220,7 +225,8 @@ class TScript {
             if (isBox && !before) BringElsewhere(bench, control, L"on");
             if (before) bench.Preset(control, L"on");
             const TLine kept = bench.State(control);
-            if (!found.empty() && !scene.Run(found, {})) scene.Run(L"stored " + found, {});
+            for (const TLine& each : found)
+                if (!each.empty() && !scene.Run(each, {})) scene.Run(L"stored " + each, {});
             bench.Load();
             scene.Expect(control, shows == L"kept" ? kept : shows);
             EXPECT_TRUE(bench.Pending().empty() && bench.Recorded == 0 && !bench.Context.FirefoxChanged)

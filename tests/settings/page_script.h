@@ -18,8 +18,8 @@
 //     level 5  the Windows level of the parts that follow; 7 when nothing is said
 //     restart  Windows must restart for any of it
 //     as NAME  the name of the change, when it is not the control's;   and *1: PLACE  a further place of the same values
-//   shows CONTROL STATE | VERB | LEVEL         what a loaded page shows that found this: PLACE = VALUE, a service, Firefox; STATE may
-//                                              be whatever `expect` knows
+//   shows CONTROL, … STATE | VERB | … | 5      what a loaded page shows on the level that found this: PLACE = VALUE, a parameter, a
+//                                              service, Firefox; STATE may be whatever `expect` knows
 //   writes CONTROL STATE | CHANGE | … | restart    does that on a page that was not loaded; * stands for the control's name. The
 //                                              parts may also be verbs, such as `stored PLACE = VALUE` or `level 5`
 //   presses BUTTON | STATE CONTROL, … | STATE CONTROL, … | level 5    brings them into these states and leaves all others alone
