@@ -18,7 +18,7 @@ class TPageBench {
     TForm FForm;
     TSysControl FChanges;
     TFirefoxPrefs FFirefox{Fake.System, L"C:\\Mozilla\\"};
-    std::unique_ptr<TPage> FPage;
+    std::vector<std::unique_ptr<TPage>> FPages;
 
   public:
     TPageContext Context{.System = Fake.System, .Form = FForm, .Changes = FChanges, .Firefox = FFirefox};
@@ -26,11 +26,16 @@ class TPageBench {
 
     explicit TPageBench(const TPageDefinition& definition) : FForm(L"Form", L"TForm"), FChanges(Fake.System) {
         FForm.Build(FForm, Notebook(L"Notebook", {}));
-        FPage = std::make_unique<TPage>(definition, Context, *FForm.Find(L"Notebook"),
-                                        [this](TComponent&) { ++Recorded; });
+        Add(definition);
     }
 
-    void Load() { FPage->Load(); }
+    /// Puts a further page on the form.
+    void Add(const TPageDefinition& definition) {
+        FPages.push_back(std::make_unique<TPage>(definition, Context, *FForm.Find(L"Notebook"),
+                                                 [this](TComponent&) { ++Recorded; }));
+    }
+    /// Runs the loaders of the first page.
+    void Load() { FPages.front()->Load(); }
     /// Whether Apply will ask for a restart.
     [[nodiscard]] bool NeedsRestart() const {
         return std::ranges::any_of(FChanges.Pending(), &TRegRecor::RestartNeeded);

@@ -3,6 +3,7 @@
 #include <functional>
 #include <sstream>
 
+#include "app/page_table.h"
 #include "platform/text.h"
 #include "platform/unicode.h"
 
@@ -186,6 +187,11 @@ void TScene::Service(TScene& scene, TLine rest, const TLines& /*below*/) {
 }
 
 const std::map<TLine, TScene::TStep> TScene::kSteps{
+    {L"with",
+     [](TScene& s, TLine rest, const TLines&) {
+         for (const TPageDefinition* page : PageDefinitions())
+             if (page->Tag == std::stoi(rest)) s.FBench.Add(*page);
+     }},
     {L"level", [](TScene& s, TLine rest, const TLines&) { s.FBench.Context.WindowsLevel = std::stoi(rest); }},
     {L"stored",
      [](TScene& s, TLine rest, const TLines&) {

@@ -27,6 +27,7 @@
 //   names CONTROL | 4, 5 CAPTION | 6 CAPTION   its captions, by level
 //
 // Anything else is a line of a scene, which has a page of its own and ends at a blank line. What it finds:
+//   with 4                                another page, by its tag, on the same form
 //   level 5
 //   stored PLACE = VALUE
 //   denied HKU\key                        the user has no rights to the key and what is below it
