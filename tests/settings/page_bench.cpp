@@ -44,7 +44,7 @@ std::wstring Line(const TRegRecor& record) {
                           : record.RootKey == TRootKey::CurrentUser ? L"HKCU"
                           : record.RootKey == TRootKey::Users       ? L"HKU"
                                                                     : L"HKCR";
-    const std::wstring key = root + record.Key;
+    const std::wstring key = root + record.Key.substr(0, record.Key.find_last_not_of(L'\\') + 1);
     const std::wstring place = key + L'[' + record.ValueName + L']';
     switch (record.Action) {
         case TRegAction::DeleteKey:
@@ -57,12 +57,16 @@ std::wstring Line(const TRegRecor& record) {
     return place + L" = " + Words(record);
 }
 
-std::string Narrow(const std::wstring& text) { return testing::PrintToString(text); }
-
 }  // namespace
 
 std::wstring TPageBench::State(const std::wstring& name) {
-    const TControl& control = Get<TControl>(name);
+    TControl& control = Get<TControl>(name);
+    if (const auto* list = dynamic_cast<const TListView*>(&control)) {
+        std::wstring initials;
+        for (const auto& row : list->Rows())
+            if (row.Checked) initials += row.Cells[0][0];
+        return initials.empty() ? L"none" : initials;
+    }
     const TControlState state = StateOf(control);
     if (const auto* checked = std::get_if<bool>(&state)) return *checked ? L"on" : L"off";
     if (const auto* item = std::get_if<TItemState>(&state)) return std::to_wstring(item->Index);
@@ -79,6 +83,11 @@ void TPageBench::Act(const std::wstring& name, const std::wstring& state) {
         edit->SetFocused(true);
         return edit->SetText(state);
     }
+    if (auto* list = dynamic_cast<TListView*>(&control)) {
+        for (std::size_t i = 0; i < list->Rows().size(); ++i)
+            if (list->Rows()[i].Cells[0].starts_with(state)) list->SetRowChecked(i, !list->Rows()[i].Checked);
+        return;
+    }
     const bool isBox = std::holds_alternative<bool>(StateOf(control));
     SetState(control, StateFromNumber(control, isBox ? state == L"on" : std::stoi(state)));
 }
@@ -87,36 +96,4 @@ std::vector<std::wstring> TPageBench::Pending() const {
     std::vector<std::wstring> lines;
     for (const TRegRecor& record : FChanges.Pending()) lines.push_back(record.Name + L": " + Line(record));
     return lines;
-}
-
-void ExpectShown(const TPageDefinition& page, std::span<const TShownCase> cases) {
-    for (const TShownCase& c : cases) {
-        for (const bool before : {false, true}) {
-            TPageBench bench(page);
-            bench.Context.WindowsLevel = c.Level;
-            const bool isBox = bench.Get<TControl>(c.Control).Kind() == TComponentKind::CheckBox;
-            if (before && !isBox) break;
-            if (isBox) bench.Preset(c.Control, before);
-            const std::wstring kept = bench.State(c.Control);
-            if (c.Stored) bench.Store(c.Value, *c.Stored);
-            bench.Load();
-            EXPECT_EQ(bench.State(c.Control), c.Shows == L"kept" ? kept : c.Shows)
-                << Narrow(c.Control) << " on level " << c.Level << ", "
-                << (c.Stored ? testing::PrintToString(c.Stored->Value.index()) : "missing");
-            EXPECT_TRUE(bench.Pending().empty()) << "loading records nothing";
-            EXPECT_FALSE(bench.Context.Loading);
-        }
-    }
-}
-
-void ExpectRecorded(const TPageDefinition& page, std::span<const TRecordedCase> cases) {
-    for (const TRecordedCase& c : cases) {
-        TPageBench bench(page);
-        if (bench.Get<TControl>(c.Control).Kind() == TComponentKind::CheckBox)
-            bench.Preset(c.Control, c.State == L"off");
-        bench.Act(c.Control, c.State);
-        EXPECT_EQ(bench.Pending(), c.Pending) << Narrow(c.Control) << ' ' << Narrow(c.State);
-        EXPECT_EQ(bench.NeedsRestart(), c.Restart) << Narrow(c.Control);
-        EXPECT_GE(bench.Recorded, 1) << "Apply is to be enabled";
-    }
 }

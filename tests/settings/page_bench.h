@@ -19,7 +19,7 @@ class TPageBench {
     TForm FForm;
     TSysControl FChanges;
     TFirefoxPrefs FFirefox{Fake.System, L"C:\\Mozilla\\"};
-    std::unique_ptr<TPage> FPage;
+    std::vector<std::unique_ptr<TPage>> FPages;
 
   public:
     TPageContext Context{.System = Fake.System, .Form = FForm, .Changes = FChanges, .Firefox = FFirefox};
@@ -27,11 +27,16 @@ class TPageBench {
 
     explicit TPageBench(const TPageDefinition& definition) : FForm(L"Form", L"TForm"), FChanges(Fake.System) {
         FForm.Build(FForm, Notebook(L"Notebook", {}));
-        FPage = std::make_unique<TPage>(definition, Context, *FForm.Find(L"Notebook"),
-                                        [this](TComponent&) { ++Recorded; });
+        Add(definition);
     }
 
-    void Load() { FPage->Load(); }
+    /// Puts a further page on the form.
+    void Add(const TPageDefinition& definition) {
+        FPages.push_back(std::make_unique<TPage>(definition, Context, *FForm.Find(L"Notebook"),
+                                                 [this](TComponent&) { ++Recorded; }));
+    }
+    /// Runs the loaders of the first page.
+    void Load() { FPages.front()->Load(); }
     /// Whether Apply will ask for a restart.
     [[nodiscard]] bool NeedsRestart() const {
         return std::ranges::any_of(FChanges.Pending(), &TRegRecor::RestartNeeded);
@@ -42,10 +47,6 @@ class TPageBench {
             if (each.Service == service) return each.On ? 1 : 2;
         return 0;
     }
-    void Store(const TPlace& place, const TRegistryData& data) {
-        Fake.Registry.Put({place.Root, place.Key, place.ValueName}, data);
-    }
-    void Store(const TPlace& place, std::int32_t number) { Store(place, {TRegDataType::Dword, number}); }
 
     template <typename T>
     T& Get(const std::wstring& name) {
@@ -53,53 +54,27 @@ class TPageBench {
         if (control == nullptr) throw std::logic_error("no such control of that type");
         return *control;
     }
-    /// Whether a check box or radio button is checked.
-    bool Checked(const std::wstring& name) { return std::get<bool>(StateOf(Get<TControl>(name))); }
-    /// Sets a check box or radio button without recording.
-    void Preset(const std::wstring& name, bool checked) {
-        const TLoadingScope loading(Context);
-        Click(name, checked);
-    }
-    /// Sets a check box or radio button as a user would.
-    void Click(const std::wstring& name, bool checked) { SetState(Get<TControl>(name), checked); }
-
-    /// What a control shows: "on" or "off", a text, a position, an item index, a colour (0xBBGGRR).
+    /// What a control shows: "on" or "off", a text, a position, an item index, a colour (0xBBGGRR), the initials
+    /// of the checked rows of a list.
     std::wstring State(const std::wstring& name);
-    /// Brings a control into a state, as State words it, as a user would; a button is pressed.
+    /// Brings a control into a state, as State words it, as a user would; a button is pressed, and a row of a
+    /// list turned over.
     void Act(const std::wstring& name, const std::wstring& state);
 
+    /// Act without recording.
+    void Preset(const std::wstring& name, const std::wstring& state) {
+        const TLoadingScope loading(Context);
+        Act(name, state);
+    }
+
     /// The pending changes, one line each, in order:
-    ///   name: HKCU\key[value name] = 1         a DWORD; a text is in quotes, bytes are hexadecimal
+    ///   name: HKCU\key[value name] = 1         a DWORD; a text is in quotes, bytes are hexadecimal; no backslash ends the key
     ///   name: delete HKCU\key[value name]
     ///   name: delete HKCU\key
     ///   name: parameter 0x1009(0, 1)           a number or bytes as the second argument
     std::vector<std::wstring> Pending() const;
 };
 
-/// A stored value and what a control then shows.
-struct TShownCase {
-    const wchar_t* Control;
-    TPlace Value;
-    std::optional<TRegistryData> Stored;  ///< none = missing
-    std::wstring Shows;                   ///< as TPageBench::State words it; "kept" = as before
-    int Level = 7;
-};
-
-/// What a user does to a control of a fresh page and what that records.
-struct TRecordedCase {
-    const wchar_t* Control;
-    std::wstring State;
-    std::vector<std::wstring> Pending;
-    bool Restart = false;
-};
-
 inline TRegistryData Number(std::int32_t number) { return {TRegDataType::Dword, number}; }
 inline TRegistryData String(const wchar_t* text) { return {TRegDataType::String, std::wstring(text)}; }
 inline TRegistryData Bytes(TBytes bytes) { return {TRegDataType::Binary, std::move(bytes)}; }
-
-/// Loads the page for each case, from both states of a check box, and checks that loading records nothing.
-void ExpectShown(const TPageDefinition& page, std::span<const TShownCase> cases);
-
-/// Does what each case says on a page of its own that was not loaded. A check box that is in the state already is
-/// brought into the other one beforehand.
-void ExpectRecorded(const TPageDefinition& page, std::span<const TRecordedCase> cases);
