@@ -9,16 +9,19 @@ set -euo pipefail
 
 RequirePackages "${BuildPackages[@]}" libgtest-dev libgmock-dev
 BuildPreset bench --target prefs_bench
-"$Root/build/bench/tests/prefs_bench"
+Say "Preference files, natively"
+"$Root/build/bench/tools/prefs_bench"
 
 "$Root/scripts/build.sh"
 RequirePackages "${WinePackages[@]}"
-BuildPreset win64 --target startup_bench resize_bench
+BuildPreset win64 --target prefs_bench startup_bench resize_bench
 
 Work=$(mktemp -d "${TMPDIR:-/tmp}/quilltune-bench.XXXXXX")
 StartXvfb
 trap 'EndPrefix; kill "$XvfbId"; rm -rf "$Work"' EXIT
 MakePrefix "$Work/prefix"
 Program="$(WindowsPath "$Root/dist/win64")\\Quilltune.exe"
+Say "Preference files, under Wine"
+wine "$Root/build/win64/tools/prefs_bench.exe" "$(WindowsPath "$Work")"
 wine "$Root/build/win64/tools/startup_bench.exe" "$Program" "${1:-15}"
 wine "$Root/build/win64/tools/resize_bench.exe" "$Program" 96
