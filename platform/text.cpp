@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <limits>
 
 #include "platform/unicode.h"
@@ -70,6 +71,19 @@ char32_t TakeUtf8(TByteSpan& rest) {
     return code;
 }
 
+/// In a word of eight bytes the bits that ASCII lacks.
+constexpr std::uint64_t kBeyondAscii = 0x8080808080808080;
+
+/// How many bytes at the beginning are ASCII; the last few of them may be left out.
+std::size_t AsciiLength(TByteSpan bytes) {
+    std::size_t length = 0;
+    for (std::uint64_t word = 0; length + sizeof word <= bytes.size(); length += sizeof word) {
+        std::memcpy(&word, bytes.data() + length, sizeof word);
+        if ((word & kBeyondAscii) != 0) break;
+    }
+    return length;
+}
+
 std::wstring FromUtf8(TByteSpan bytes) {
     std::wstring text;
     text.reserve(bytes.size());
@@ -81,10 +95,11 @@ std::wstring FromUtf8(TByteSpan bytes) {
 }
 
 bool IsUtf8(TByteSpan bytes) {
-    while (!bytes.empty()) {
+    for (;;) {
+        bytes = bytes.subspan(AsciiLength(bytes));
+        if (bytes.empty()) return true;
         if (TakeUtf8(bytes) == kMalformed) return false;
     }
-    return true;
 }
 
 /// `highByte` is the place of the high byte in a unit, 0 or 1.
@@ -112,15 +127,18 @@ bool StartsWith(TByteSpan bytes, std::initializer_list<std::uint8_t> mark) {
     return bytes.size() >= mark.size() && std::equal(mark.begin(), mark.end(), bytes.begin());
 }
 
+constexpr std::size_t kUtf8MarkLength = 3;
+bool HasUtf8Mark(TByteSpan bytes) { return StartsWith(bytes, {0xEF, 0xBB, 0xBF}); }
+
 /// The text after a byte-order mark; nothing when there is none.
 std::optional<std::wstring> DecodeMarked(TByteSpan bytes) {
-    if (StartsWith(bytes, {0xEF, 0xBB, 0xBF})) return FromUtf8(bytes.subspan(3));
+    if (HasUtf8Mark(bytes)) return FromUtf8(bytes.subspan(kUtf8MarkLength));
     if (StartsWith(bytes, {0xFF, 0xFE})) return FromUtf16(bytes.subspan(2), 1);
     if (StartsWith(bytes, {0xFE, 0xFF})) return FromUtf16(bytes.subspan(2), 0);
     return std::nullopt;
 }
 
-/// Capitals and how far their small letters are from them.
+/// Capitals beyond ASCII and how far their small letters are from them.
 struct TCapitals {
     char32_t First;
     char32_t Last;
@@ -129,8 +147,7 @@ struct TCapitals {
 };
 
 constexpr auto kCapitals = std::to_array<TCapitals>({
-    // Basic Latin, and Latin-1 without the multiplication sign.
-    {0x0041, 0x005A, 1, 32},
+    // Latin-1 without the multiplication sign.
     {0x00C0, 0x00D6, 1, 32},
     {0x00D8, 0x00DE, 1, 32},
     // Latin Extended-A. The small letter of Y with diaeresis is in Latin-1.
@@ -161,6 +178,7 @@ constexpr auto kCapitals = std::to_array<TCapitals>({
 /// The small letter of a capital; any other character stays as it is.
 char32_t Fold(wchar_t character) {
     const auto code = static_cast<char32_t>(character);
+    if (code < 0x80) return code >= U'A' && code <= U'Z' ? code + 32 : code;
     if (code > kCapitals.back().Last) return code;
     for (const TCapitals& capitals : kCapitals) {
         if (code < capitals.First) break;
@@ -168,6 +186,26 @@ char32_t Fold(wchar_t character) {
             return static_cast<char32_t>(static_cast<int>(code) + capitals.Distance);
     }
     return code;
+}
+
+/// Takes the first eight bytes off the text; zeros stand for those that it lacks.
+std::uint64_t TakeWord(std::string_view& text) {
+    std::uint64_t word = 0;
+    if (text.size() >= sizeof word) {
+        std::memcpy(&word, text.data(), sizeof word);
+        text.remove_prefix(sizeof word);
+    } else {
+        std::memcpy(&word, text.data(), text.size());
+        text = {};
+    }
+    return word;
+}
+
+/// Of a character in UTF-8 the small letter of an ASCII capital; all bytes beyond ASCII are alike. Capitals have as many
+/// bytes as their small letters, so that texts that are the same stay the same.
+char FoldByte(char byte) {
+    if (static_cast<unsigned char>(byte) >= 0x80) return '\x7F';
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + 32) : byte;
 }
 
 }  // namespace
@@ -181,6 +219,16 @@ TDecodedText DecodeUtf8OrAnsi(std::span<const std::uint8_t> bytes, const TWindow
     if (auto text = DecodeMarked(bytes)) return {.Text = *std::move(text)};
     if (IsUtf8(bytes)) return {.Text = FromUtf8(bytes)};
     return {.Text = windows.FromAnsi(bytes), .Encoding = TTextEncoding::Ansi};
+}
+
+std::optional<std::string_view> Utf8Text(std::span<const std::uint8_t> bytes) {
+    if (HasUtf8Mark(bytes)) bytes = bytes.subspan(kUtf8MarkLength);
+    if (!IsUtf8(bytes)) return std::nullopt;
+    return std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+}
+
+std::wstring FromUtf8(std::string_view bytes) {
+    return FromUtf8(TByteSpan(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()));
 }
 
 std::vector<std::uint8_t> EncodeText(std::wstring_view text, TTextEncoding encoding,
@@ -206,7 +254,18 @@ std::wstring_view Trim(std::wstring_view text) {
     return text;
 }
 
+std::string_view Trim(std::string_view text) {
+    const auto isBlank = [](char c) { return static_cast<unsigned char>(c) <= ' '; };
+    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+    return text;
+}
+
 bool SameText(std::wstring_view a, std::wstring_view b) { return std::ranges::equal(a, b, {}, Fold, Fold); }
+
+bool SameText(std::string_view a, std::string_view b) {
+    return std::ranges::equal(a, b, {}, FoldByte, FoldByte) && SameText(FromUtf8(a), FromUtf8(b));
+}
 
 std::size_t FindText(std::wstring_view text, std::wstring_view part) {
     const auto same = [](wchar_t a, wchar_t b) { return Fold(a) == Fold(b); };
@@ -249,4 +308,16 @@ std::size_t TTextHash::operator()(std::wstring_view text) const {
     std::size_t hash = 2166136261U;  // FNV-1a, a character at a time
     for (const wchar_t c : text) hash = (hash ^ Fold(c)) * 16777619U;
     return hash;
+}
+
+std::size_t TTextHash::operator()(std::string_view text) const {
+    constexpr std::uint64_t kSmallLetters = 0x2020202020202020;  // sets the bit that an ASCII capital lacks
+    std::uint64_t hash = text.size();
+    while (!text.empty()) {
+        const std::uint64_t word = TakeWord(text);
+        if ((word & kBeyondAscii) != 0) return 0;
+        hash = (hash ^ (word | kSmallLetters)) * 0x9E3779B97F4A7C15;
+        hash ^= hash >> 32;
+    }
+    return static_cast<std::size_t>(hash);
 }

@@ -23,6 +23,13 @@ struct TDecodedText {
 /// mark, of whatever kind, that is UTF-8.
 [[nodiscard]] TDecodedText DecodeUtf8OrAnsi(std::span<const std::uint8_t> bytes, const TWindowsInfo& windows);
 
+/// The text of a file that is well-formed UTF-8, where it stands behind the byte-order mark that it may have; nothing for
+/// any other file.
+[[nodiscard]] std::optional<std::string_view> Utf8Text(std::span<const std::uint8_t> bytes);
+
+/// The other way round from ToUtf8. Malformed sequences become U+FFFD.
+[[nodiscard]] std::wstring FromUtf8(std::string_view bytes);
+
 /// The bytes of a text, without byte-order mark.
 [[nodiscard]] std::vector<std::uint8_t> EncodeText(std::wstring_view text, TTextEncoding encoding,
                                                    const TWindowsInfo& windows);
@@ -42,12 +49,15 @@ class TLineReader {
 
 /// Without the characters up to U+0020 at both ends.
 [[nodiscard]] std::wstring_view Trim(std::wstring_view text);
+[[nodiscard]] std::string_view Trim(std::string_view text);
 
 /// Whether two texts differ in nothing but the case of their letters. Letters are those of the Unicode blocks
 /// Basic Latin, Latin-1, Latin Extended-A, Greek (the modern alphabet) and Cyrillic; a letter without a single
 /// counterpart of its own there (the German sharp s, the dotted capital I) is equal to itself alone. The final
 /// sigma is a sigma.
 [[nodiscard]] bool SameText(std::wstring_view a, std::wstring_view b);
+/// The same for texts in UTF-8.
+[[nodiscard]] bool SameText(std::string_view a, std::string_view b);
 
 /// Where `part` first occurs in the text without regard to case, as SameText understands it; npos when it does not.
 [[nodiscard]] std::size_t FindText(std::wstring_view text, std::wstring_view part);
@@ -63,6 +73,8 @@ class TLineReader {
 struct TTextHash {
     using is_transparent = void;
     [[nodiscard]] std::size_t operator()(std::wstring_view text) const;
+    /// For texts in UTF-8. Those beyond ASCII have the same hash, so that keys should be ASCII as a rule.
+    [[nodiscard]] std::size_t operator()(std::string_view text) const;
 };
 struct TTextEqual {
     using is_transparent = void;

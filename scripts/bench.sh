@@ -16,7 +16,7 @@ Measure() {
 
 RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" libgtest-dev libgmock-dev
 "$Root/scripts/build.sh"
-BuildPreset win64 --target startup_bench page_bench resize_bench apply_bench
+BuildPreset win64 --target startup_bench page_bench resize_bench apply_bench prefs_bench
 NativeBenches=(prefs_bench)
 LanguagePackages=(libsimpleini-dev libinih-dev)
 if dpkg -s "${LanguagePackages[@]}" >/dev/null 2>&1; then NativeBenches+=(language_bench); fi
@@ -40,7 +40,9 @@ Measure page_bench "$Program" 3
 Heading "Apply"
 Measure apply_bench 15
 Heading "Preference files, natively"
-"$Root/build/bench/tests/prefs_bench"
+"$Root/build/bench/tools/prefs_bench"
+Heading "Preference files, under Wine"
+Measure prefs_bench "$(WindowsPath "$Work")"
 Heading "Language files, natively"
 if [[ " ${NativeBenches[*]} " == *" language_bench "* ]]; then
     "$Root/build/bench/tests/language_bench"

@@ -1,7 +1,6 @@
-// What the programs that measure share: a clock, medians, and a program that runs while it is measured.
+// What the programs that measure windows share: a program that runs while it is measured.
 #pragma once
 
-#include <algorithm>
 #include <utility>
 
 #include "tools/automation.h"
@@ -9,26 +8,7 @@
 #include <commctrl.h>
 #include <psapi.h>
 
-class TStopwatch {
-  public:
-    TStopwatch() { QueryPerformanceCounter(&FStart); }
-    [[nodiscard]] double Milliseconds() const {
-        LARGE_INTEGER now;
-        LARGE_INTEGER frequency;
-        QueryPerformanceCounter(&now);
-        QueryPerformanceFrequency(&frequency);
-        return 1000.0 * static_cast<double>(now.QuadPart - FStart.QuadPart) /
-               static_cast<double>(frequency.QuadPart);
-    }
-
-  private:
-    LARGE_INTEGER FStart{};
-};
-
-inline double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
+#include "tools/measure.h"
 
 /// How long a step takes until the window, of any process, is painted; `redraw` are flags of RedrawWindow.
 inline double Timed(

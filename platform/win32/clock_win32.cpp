@@ -7,6 +7,10 @@ namespace {
 /// Longer than any locale writes a date or a time.
 constexpr int kLongestText = 256;
 
+/// Milliseconds from one look at the message queue to the next: no user notices them, and looking costs a hundred times
+/// as much as asking for the time.
+constexpr DWORD kRoundInterval = 10;
+
 }  // namespace
 
 TTimeOfDay TWin32Clock::TimeOfDay() const {
@@ -29,13 +33,15 @@ std::wstring TWin32Clock::DateTimeText() const {
 void TWin32Clock::Sleep(std::uint32_t milliseconds) { ::Sleep(milliseconds); }
 
 void TWin32Clock::ProcessMessages() {
+    if (GetTickCount() - FLastRound < kRoundInterval) return;
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
             PostQuitMessage(static_cast<int>(message.wParam));
-            return;
+            break;
         }
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }
+    FLastRound = GetTickCount();
 }

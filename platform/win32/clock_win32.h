@@ -8,6 +8,10 @@ class TWin32Clock : public TClock {
     [[nodiscard]] TTimeOfDay TimeOfDay() const override;
     [[nodiscard]] std::wstring DateTimeText() const override;
     void Sleep(std::uint32_t milliseconds) override;
-    /// Stops at the message that ends the program, and leaves it to the main loop.
+    /// Does nothing right after it has looked for messages. Stops at the message that ends the program, and leaves it to the
+    /// main loop.
     void ProcessMessages() override;
+
+  private:
+    std::uint32_t FLastRound = 0;  ///< when it ended, as GetTickCount counts
 };

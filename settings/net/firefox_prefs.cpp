@@ -7,6 +7,7 @@
 #include "platform/ext_ini_file.h"
 #include "platform/unicode.h"
 #include "settings/net/prefs_entry.h"
+#include "settings/net/prefs_lexer.h"
 #include "settings/net/prefs_text.h"
 
 namespace {
@@ -15,7 +16,7 @@ constexpr const wchar_t* kUninstallKey = L"\\SOFTWARE\\Microsoft\\Windows\\Curre
 constexpr const wchar_t* kProduct = L"Mozilla Firefox";
 constexpr const wchar_t* kPrefsFile = L"\\prefs.js";
 constexpr const wchar_t* kUserFile = L"\\user.js";
-constexpr const wchar_t* kLineEnd = L"\r\n";
+constexpr const char* kLineEnd = "\r\n";
 
 std::int32_t ReadInteger(const TExtIniFile& file, const std::wstring& section, const wchar_t* key) {
     return ParseInteger(file.ReadString(section, key, L"")).value_or(0);
@@ -27,13 +28,18 @@ class EUnreadable : public std::runtime_error {
     explicit EUnreadable(const std::wstring& path) : std::runtime_error("cannot read " + ToUtf8(path)) {}
 };
 
+std::shared_ptr<const std::vector<std::uint8_t>> Share(std::vector<std::uint8_t> bytes) {
+    return std::make_shared<const std::vector<std::uint8_t>>(std::move(bytes));
+}
+
 /// The text with the same lines, each of them ended by CR LF.
-std::wstring WithLineEnds(std::wstring_view text) {
-    std::wstring lines;
-    TLineReader reader(text);
-    for (std::wstring_view line; reader.Next(line);) {
-        lines += line;
+std::string WithLineEnds(std::string_view text) {
+    std::string lines;
+    while (!text.empty()) {
+        const std::string_view line = text.substr(0, LineLength(text));
+        lines += line.substr(0, line.find_first_of(kLineEnd));
         lines += kLineEnd;
+        text.remove_prefix(line.size());
     }
     return lines;
 }
@@ -50,10 +56,10 @@ bool TFirefoxPrefs::IsFirefoxInstalled() const {
     });
 }
 
-std::optional<TFirefoxPrefs::TBytes> TFirefoxPrefs::ReadBytes(const std::wstring& path) const {
+TFirefoxPrefs::TSharedBytes TFirefoxPrefs::ReadBytes(const std::wstring& path) const {
     auto bytes = FSystem.Files.Read(path);
     if (!bytes && FSystem.Files.Exists(path)) throw EUnreadable(path);
-    return bytes;
+    return bytes ? Share(*std::move(bytes)) : nullptr;
 }
 
 std::wstring TFirefoxPrefs::FindProfileFolder() const {
@@ -69,20 +75,36 @@ std::wstring TFirefoxPrefs::FindProfileFolder() const {
     return !path.empty() && ReadInteger(profiles, section, L"IsRelative") == 1 ? FFirefoxFolder + path : path;
 }
 
+TFirefoxPrefs::TSource TFirefoxPrefs::Decode(TSharedBytes file) const {
+    TSource source{.File = std::move(file)};
+    if (!source.File) return source;
+    if (const auto text = Utf8Text(*source.File)) {
+        source.Text = *text;
+        return source;
+    }
+    const auto [text, encoding] = DecodeUtf8OrAnsi(*source.File, FSystem.Windows);
+    source.Converted = std::make_shared<const std::string>(ToUtf8(text));
+    source.Text = *source.Converted;
+    source.Encoding = encoding;
+    return source;
+}
+
+TFirefoxPrefs::TBytes TFirefoxPrefs::Encode(const std::string& text, TTextEncoding encoding) const {
+    if (encoding == TTextEncoding::Utf8) return {text.begin(), text.end()};
+    return EncodeText(FromUtf8(text), encoding, FSystem.Windows);
+}
+
 TFirefoxPrefs::TContent TFirefoxPrefs::ReadProfile(const std::wstring& profileFolder) const {
     const std::wstring userFile = profileFolder + kUserFile;
     TContent content{.State = TState::Loaded, .UserFile = ReadBytes(userFile)};
-    const bool exists = content.UserFile.has_value();
-    const TBytes bytes =
-        exists ? *content.UserFile : ReadBytes(profileFolder + kPrefsFile).value_or(TBytes());
-    const auto [text, encoding] = DecodeUtf8OrAnsi(bytes, FSystem.Windows);
-    if (!exists) {
+    TSource& source = content.Source;
+    source = Decode(content.UserFile ? content.UserFile : ReadBytes(profileFolder + kPrefsFile));
+    if (!content.UserFile) {
         // Without the copy the next load begins from prefs.js again, which is no loss.
-        TBytes copy = EncodeText(WithLineEnds(text), encoding, FSystem.Windows);
-        if (FSystem.Files.Replace(userFile, copy)) content.UserFile = std::move(copy);
+        TBytes copy = Encode(WithLineEnds(source.Text), source.Encoding);
+        if (FSystem.Files.Replace(userFile, copy)) content.UserFile = Share(std::move(copy));
     }
-    content.Entries = SplitPrefs(text, [this] { FSystem.Clock.ProcessMessages(); });
-    content.Encoding = encoding;
+    content.Entries = SplitPrefs(source.Text, [this] { FSystem.Clock.ProcessMessages(); });
     return content;
 }
 
@@ -105,33 +127,55 @@ void TFirefoxPrefs::LoadFirefoxPrefs() {
     } while (saves != FSaves);
 }
 
+std::vector<std::wstring> TFirefoxPrefs::FirefoxPrefLines() const {
+    std::vector<std::wstring> lines;
+    for (std::size_t i = 0; i < FContent.Entries.Count(); ++i)
+        if (!FContent.Entries[i].empty()) lines.push_back(FromUtf8(FContent.Entries[i]));
+    return lines;
+}
+
 std::wstring TFirefoxPrefs::GetFirefoxPref(std::wstring_view quotedName) const {
-    for (std::size_t i = FContent.Entries.size(); i-- > 0;) {
-        if (auto value = PrefValue(FContent.Entries[i], quotedName)) return *std::move(value);
-    }
+    const std::string name = ToUtf8(quotedName);
+    for (const std::size_t place : FContent.Entries.Quoting(name))
+        if (const auto value = PrefValue(FContent.Entries[place], name)) return FromUtf8(*value);
     return kNoSuchPref;
+}
+
+bool TFirefoxPrefs::Change(const std::string& quotedName, const std::string& value) {
+    bool isNamed = false;
+    for (const std::size_t place : FContent.Entries.Quoting(quotedName)) {
+        auto changed = WithPref(FContent.Entries[place], quotedName, value);
+        if (!changed) continue;
+        FContent.Entries.Replace(place, *std::move(changed));
+        isNamed = true;
+    }
+    return isNamed;
 }
 
 void TFirefoxPrefs::SetFirefoxPref(std::wstring_view quotedName, std::wstring_view value,
                                    std::wstring_view setting) {
-    const bool appended = !ChangePref(FContent.Entries, quotedName, value);
-    FEdits.push_back({std::wstring(quotedName), std::wstring(value), appended, std::wstring(setting)});
-    if (!appended) return;
-    FSystem.Shell.DebugOutput(L"not has");
-    FSystem.Shell.DebugOutput(FContent.Entries.emplace_back(MakePref(quotedName, value)));
+    TEdit edit{.QuotedName = ToUtf8(quotedName), .Value = ToUtf8(value), .Setting = std::wstring(setting)};
+    edit.Appended = !Change(edit.QuotedName, edit.Value);
+    if (edit.Appended) {
+        std::string entry = MakePref(edit.QuotedName, edit.Value);
+        FSystem.Shell.DebugOutput(L"not has");
+        FSystem.Shell.DebugOutput(FromUtf8(entry));
+        FContent.Entries.Append(std::move(entry));
+    }
+    FEdits.push_back(std::move(edit));
 }
 
 bool TFirefoxPrefs::HasEdit(std::wstring_view quotedName) const {
-    return std::ranges::any_of(FEdits,
-                               [&](const TEdit& edit) { return SameText(edit.QuotedName, quotedName); });
+    const std::string name = ToUtf8(quotedName);
+    return std::ranges::any_of(FEdits, [&](const TEdit& edit) { return SameText(edit.QuotedName, name); });
 }
 
 namespace {
 
 /// The last statement counts.
-TPreferenceContent LastValue(const std::vector<std::wstring>& entries, std::wstring_view quotedName) {
-    for (std::size_t i = entries.size(); i-- > 0;)
-        if (auto value = WholePrefValue(entries[i], quotedName)) return value;
+TPreferenceContent LastValue(const TPrefEntries& entries, const std::string& quotedName) {
+    for (const std::size_t place : entries.Quoting(quotedName))
+        if (const auto value = WholePrefValue(entries[place], quotedName)) return FromUtf8(*value);
     return std::nullopt;
 }
 
@@ -141,40 +185,41 @@ std::vector<TFirefoxPrefs::TEdited> TFirefoxPrefs::Edited() const {
     std::vector<TEdited> edited;
     if (FContent.State == TState::Nothing) return edited;
     for (const TEdit& edit : FEdits) {
+        const std::wstring name = FromUtf8(edit.QuotedName);
         const auto isSame = [&](const TEdited& each) {
-            return each.Setting == edit.Setting && SameText(each.QuotedName, edit.QuotedName);
+            return each.Setting == edit.Setting && SameText(each.QuotedName, name);
         };
         std::erase_if(edited, isSame);
-        edited.push_back({edit.Setting, edit.QuotedName,
-                          edit.Value.empty() ? std::nullopt : TPreferenceContent(edit.Value)});
+        edited.push_back({edit.Setting, name,
+                          edit.Value.empty() ? std::nullopt : TPreferenceContent(FromUtf8(edit.Value))});
     }
     // Removing what no statement names leaves a statement without a value.
     for (TEdited& each : edited)
-        if (!each.After) each.After = LastValue(FContent.Entries, each.QuotedName);
+        if (!each.After) each.After = LastValue(FContent.Entries, ToUtf8(each.QuotedName));
     return edited;
 }
 
 TPreferenceContent TFirefoxPrefs::Saved(std::wstring_view quotedName) const {
     if (FContent.State == TState::Nothing) return std::nullopt;
-    for (const wchar_t* file : {kUserFile, kPrefsFile})
-        if (const auto bytes = FSystem.Files.Read(FFirefoxProfileFolder + file))
-            return LastValue(SplitPrefs(DecodeUtf8OrAnsi(*bytes, FSystem.Windows).Text, [] {}), quotedName);
+    for (const wchar_t* file : {kUserFile, kPrefsFile}) {
+        auto bytes = FSystem.Files.Read(FFirefoxProfileFolder + file);
+        if (!bytes) continue;
+        const TSource source = Decode(Share(*std::move(bytes)));
+        return LastValue(SplitPrefs(source.Text, [] {}), ToUtf8(quotedName));
+    }
     return std::nullopt;
 }
 
 void TFirefoxPrefs::FollowUserFile(const std::wstring& path) {
-    auto bytes = ReadBytes(path);
-    if (!bytes || bytes == FContent.UserFile) return;
-    auto [text, encoding] = DecodeUtf8OrAnsi(*bytes, FSystem.Windows);
-    FContent = {.State = TState::Loaded,
-                .UserFile = std::move(bytes),
-                .Entries = SplitPrefs(text, [] {}),
-                .Encoding = encoding};
+    const TSharedBytes bytes = ReadBytes(path);
+    if (!bytes || (FContent.UserFile && *bytes == *FContent.UserFile)) return;
+    FContent = {.State = TState::Loaded, .UserFile = bytes, .Source = Decode(bytes)};
+    FContent.Entries = SplitPrefs(FContent.Source.Text, [] {});
     for (const TEdit& edit : FEdits) {
         // What was to be removed may be gone already.
         const bool mayAppend = edit.Appended || !edit.Value.empty();
-        if (!ChangePref(FContent.Entries, edit.QuotedName, edit.Value) && mayAppend)
-            FContent.Entries.push_back(MakePref(edit.QuotedName, edit.Value));
+        if (!Change(edit.QuotedName, edit.Value) && mayAppend)
+            FContent.Entries.Append(MakePref(edit.QuotedName, edit.Value));
     }
 }
 
@@ -184,9 +229,9 @@ bool TFirefoxPrefs::SaveFirefoxPrefs() {
     if (!loaded) throw std::runtime_error("cannot save preferences that could not be read");
     const std::wstring path = FFirefoxProfileFolder + kUserFile;
     FollowUserFile(path);
-    TBytes bytes = EncodeText(JoinPrefs(FContent.Entries), FContent.Encoding, FSystem.Windows);
+    TBytes bytes = Encode(JoinPrefs(FContent.Entries), FContent.Source.Encoding);
     if (!FSystem.Files.Replace(path, bytes)) throw std::runtime_error("cannot write " + ToUtf8(path));
-    FContent.UserFile = std::move(bytes);
+    FContent.UserFile = Share(std::move(bytes));
     FEdits.clear();
     ++FSaves;
     return true;

@@ -1,8 +1,11 @@
 // The preferences of the user's Firefox profile: read from its prefs.js and user.js, edited, written back as user.js.
 #pragma once
 
+#include <memory>
+
 #include "engine/change_set.h"
 #include "platform/text.h"
+#include "settings/net/prefs_entries.h"
 
 /// Names of prefs have their quotes, and values are what is written between the comma and the closing parenthesis; see
 /// settings/net/prefs_entry.h. Nothing is converted or checked.
@@ -20,7 +23,7 @@ class TFirefoxPrefs : public TPreferenceStore {
     [[nodiscard]] const std::wstring& FirefoxProfileFolder() const { return FFirefoxProfileFolder; }
     /// The statements with their comments, as settings/net/prefs_text.h has them; of two that name the same pref the later
     /// one counts.
-    [[nodiscard]] const std::vector<std::wstring>& FirefoxPrefLines() const { return FContent.Entries; }
+    [[nodiscard]] std::vector<std::wstring> FirefoxPrefLines() const;
 
     [[nodiscard]] bool IsFirefoxInstalled() const;
 
@@ -55,26 +58,40 @@ class TFirefoxPrefs : public TPreferenceStore {
 
   private:
     using TBytes = std::vector<std::uint8_t>;
+    using TSharedBytes = std::shared_ptr<const TBytes>;
 
     enum class TState : std::uint8_t { Nothing, Unreadable, Loaded };
 
+    /// A file and its text in UTF-8, which is part of the file or was converted from it.
+    struct TSource {
+        TSharedBytes File{};
+        std::shared_ptr<const std::string> Converted{};
+        std::string_view Text{};
+        TTextEncoding Encoding = TTextEncoding::Utf8;  ///< of the file
+    };
+
     struct TContent {
         TState State = TState::Nothing;
-        std::optional<TBytes> UserFile{};  ///< user.js as it was read or written; nothing when there is none
-        std::vector<std::wstring> Entries{};
-        TTextEncoding Encoding = TTextEncoding::Utf8;
+        TSharedBytes UserFile{};  ///< user.js as it was read or written; null when there is none
+        TSource Source{};
+        TPrefEntries Entries{};  ///< those of Source, and what was set since
     };
 
     struct TEdit {
-        std::wstring QuotedName;
-        std::wstring Value;
-        bool Appended;  ///< no statement named it
-        std::wstring Setting;
+        std::string QuotedName;
+        std::string Value;
+        bool Appended = false;  ///< no statement named it
+        std::wstring Setting{};
     };
 
-    [[nodiscard]] std::optional<TBytes> ReadBytes(const std::wstring& path) const;
+    /// Null when there is no such file.
+    [[nodiscard]] TSharedBytes ReadBytes(const std::wstring& path) const;
     [[nodiscard]] std::wstring FindProfileFolder() const;
+    [[nodiscard]] TSource Decode(TSharedBytes file) const;
+    [[nodiscard]] TBytes Encode(const std::string& text, TTextEncoding encoding) const;
     [[nodiscard]] TContent ReadProfile(const std::wstring& profileFolder) const;
+    /// Changes the entries that name the pref; false when there is none.
+    bool Change(const std::string& quotedName, const std::string& value);
     /// Reads user.js again should it have changed.
     void FollowUserFile(const std::wstring& path);
 

@@ -2,53 +2,61 @@
 
 #include <algorithm>
 #include <iterator>
-#include <string>
 
 namespace {
 
-constexpr std::wstring_view kLineEnd = L"\r\n";
+constexpr std::string_view kLineEnd = "\r\n";
 
-bool IsLineEnd(wchar_t c) { return c == L'\r' || c == L'\n'; }
+/// Whether an odd number of backslashes stands before that place.
+bool IsEscaped(std::string_view text, std::size_t place) {
+    std::size_t begin = place;
+    while (begin > 0 && text[begin - 1] == '\\') --begin;
+    return (place - begin) % 2 != 0;
+}
 
 }  // namespace
 
-std::size_t LineLength(std::wstring_view text) {
-    const auto end = static_cast<std::size_t>(std::ranges::find_if(text, IsLineEnd) - text.begin());
+std::size_t FindLineEnd(std::string_view text) {
+    return static_cast<std::size_t>(std::ranges::find_if(text, IsLineEnd) - text.begin());
+}
+
+bool HasLineEnd(std::string_view text) {
+    return text.find('\n') != std::string_view::npos || text.find('\r') != std::string_view::npos;
+}
+
+std::size_t LineLength(std::string_view text) {
+    const std::size_t end = FindLineEnd(text);
     if (end == text.size()) return end;
     return end + (text.substr(end).starts_with(kLineEnd) ? 2 : 1);
 }
 
 std::size_t TPrefsLexer::CommentLength() const {
-    if (FRest.starts_with(L"//") || FRest.starts_with(L'#')) return LineLength(FRest);
-    if (!FRest.starts_with(L"/*")) return 0;
-    const std::size_t end = FRest.find(L"*/", 2);
-    return end == std::wstring_view::npos ? FRest.size() : end + 2;
+    if (FRest.starts_with("//") || FRest.starts_with('#')) return LineLength(FRest);
+    if (!FRest.starts_with("/*")) return 0;
+    const std::size_t end = FRest.find("*/", 2);
+    return end == std::string_view::npos ? FRest.size() : end + 2;
 }
 
 std::size_t TPrefsLexer::QuotationLength() const {
-    const wchar_t quote = FRest.front();
-    if (quote != L'"' && (quote != L'\'' || (FBefore != L'(' && FBefore != L','))) return 0;
-    std::size_t firstLine = 0;  // how much of it is on the first line, if there are more
-    for (std::size_t i = 1; i < FRest.size(); ++i) {
-        if (FRest[i] == quote) {
-            const std::size_t next = FRest.find_first_not_of(L" \t\r\n", i + 1);
-            const bool looksClosed =
-                next != std::wstring_view::npos && (FRest[next] == L')' || FRest[next] == L',');
-            return firstLine == 0 || looksClosed ? i + 1 : firstLine;
-        }
-        if (FRest[i] == L'\\' && i + 1 < FRest.size()) ++i;
-        if (firstLine == 0 && IsLineEnd(FRest[i])) firstLine = i;
-    }
-    return firstLine == 0 ? FRest.size() : firstLine;
+    const char quote = FRest.front();
+    if (quote != '"' && (quote != '\'' || (FBefore != '(' && FBefore != ','))) return 0;
+    std::size_t end = FRest.find(quote, 1);
+    while (end != std::string_view::npos && IsEscaped(FRest, end)) end = FRest.find(quote, end + 1);
+    if (end == std::string_view::npos) return FindLineEnd(FRest);
+    if (!HasLineEnd(FRest.substr(0, end))) return end + 1;
+    const std::size_t next = FRest.find_first_not_of(" \t\r\n", end + 1);
+    const bool looksClosed = next != std::string_view::npos && (FRest[next] == ')' || FRest[next] == ',');
+    return looksClosed ? end + 1 : FindLineEnd(FRest);
 }
 
 std::size_t TPrefsLexer::CodeLength() {
-    const auto endsCode = [](wchar_t c) { return c == L'"' || c == L'\'' || c == L'/' || c == L'#'; };
-    const auto* const end = std::find_if(FRest.begin() + 1, FRest.end(), endsCode);
-    const auto last =
-        std::find_if(std::reverse_iterator(end), FRest.rend(), [](wchar_t c) { return c > L' '; });
-    if (last != FRest.rend()) FBefore = *last;
-    return static_cast<std::size_t>(end - FRest.begin());
+    const auto endsCode = [](char c) { return c == '"' || c == '\'' || c == '/' || c == '#'; };
+    const auto length =
+        static_cast<std::size_t>(std::find_if(FRest.begin() + 1, FRest.end(), endsCode) - FRest.begin());
+    const std::string_view code = FRest.substr(0, length);
+    const auto last = std::find_if_not(code.rbegin(), code.rend(), IsBlank);
+    if (last != code.rend()) FBefore = *last;
+    return length;
 }
 
 bool TPrefsLexer::Next() {
@@ -69,8 +77,8 @@ bool TPrefsLexer::Next() {
     return true;
 }
 
-std::wstring WithBlankedComments(std::wstring_view text) {
-    std::wstring blanked;
+std::string WithBlankedComments(std::string_view text) {
+    std::string blanked;
     blanked.reserve(text.size());
     for (TPrefsLexer lexer(text); lexer.Next();) {
         const std::size_t begin = blanked.size();
@@ -78,7 +86,7 @@ std::wstring WithBlankedComments(std::wstring_view text) {
         if (lexer.Part() != TPrefsPart::Comment) continue;
         std::replace_if(
             blanked.begin() + static_cast<std::ptrdiff_t>(begin), blanked.end(),
-            [](wchar_t c) { return !IsLineEnd(c); }, L' ');
+            [](char c) { return !IsLineEnd(c); }, ' ');
     }
     return blanked;
 }

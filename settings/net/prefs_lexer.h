@@ -1,8 +1,19 @@
-// What the characters of Firefox's preference files are: code, quotations, comments.
+// What the characters of Firefox's preference files are: code, quotations, comments. The files are in UTF-8, and so are
+// they here: all that matters about them is ASCII, and a large file is not copied.
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
+
+[[nodiscard]] constexpr bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
+/// White space is every character up to U+0020.
+[[nodiscard]] constexpr bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }
+
+/// Where the text first has a line end; its own end when it has none.
+[[nodiscard]] std::size_t FindLineEnd(std::string_view text);
+/// Finds out in a fraction of the time that a text has no line end.
+[[nodiscard]] bool HasLineEnd(std::string_view text);
 
 enum class TPrefsPart : std::uint8_t { Code, Quotation, Comment };
 
@@ -15,27 +26,27 @@ enum class TPrefsPart : std::uint8_t { Code, Quotation, Comment };
 ///   the file inside out.
 class TPrefsLexer {
   public:
-    explicit TPrefsLexer(std::wstring_view text) : FRest(text) {}
+    explicit TPrefsLexer(std::string_view text) : FRest(text) {}
 
     /// Takes the next stretch off the text; false at its end.
     [[nodiscard]] bool Next();
 
     [[nodiscard]] TPrefsPart Part() const { return FPart; }
-    [[nodiscard]] std::wstring_view Text() const { return FText; }
+    [[nodiscard]] std::string_view Text() const { return FText; }
 
   private:
     [[nodiscard]] std::size_t CommentLength() const;
     [[nodiscard]] std::size_t QuotationLength() const;
     [[nodiscard]] std::size_t CodeLength();
 
-    std::wstring_view FRest;
-    std::wstring_view FText;
+    std::string_view FRest;
+    std::string_view FText;
     TPrefsPart FPart = TPrefsPart::Code;
-    wchar_t FBefore = 0;  ///< the last character of code that is no white space
+    char FBefore = 0;  ///< the last character of code that is no white space
 };
 
 /// How long the text is up to the end of its first line, line end included; all of it when there is none.
-[[nodiscard]] std::size_t LineLength(std::wstring_view text);
+[[nodiscard]] std::size_t LineLength(std::string_view text);
 
 /// The text with blanks in place of comments, character for character; line ends remain.
-[[nodiscard]] std::wstring WithBlankedComments(std::wstring_view text);
+[[nodiscard]] std::string WithBlankedComments(std::string_view text);

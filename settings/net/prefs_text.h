@@ -5,21 +5,18 @@
 #pragma once
 
 #include <functional>
-#include <string>
-#include <string_view>
-#include <vector>
 
-/// Whether a quotation that begins in the piece of text does not end in it: whether the quotes that follow no backslash
-/// are odd in number. The first character of the piece does not count, whatever it is.
-[[nodiscard]] bool HasOpenQuote(std::wstring_view text);
+#include "settings/net/prefs_entries.h"
 
 /// The entries of a file in their order, each up to its semicolon. For this, a comment is white space. What precedes the
 /// first "user_pref(", if there is one, and what follows the last semicolon is dropped but for its comments; those at the
-/// end of the file become an entry without a statement. A semicolon in a quotation ends no entry, unless the quotation
-/// never ends; behind a quotation that ends with a semicolon the next statement belongs to the same entry.
-/// `onStatement` is called for each statement.
-[[nodiscard]] std::vector<std::wstring> SplitPrefs(std::wstring_view text,
-                                                   const std::function<void()>& onStatement);
+/// end of the file become an entry without a statement.
+///
+/// A statement's first piece, up to the first semicolon, ends it, unless the quotes that follow no backslash are odd in
+/// number: then the statement ends with the next piece that has an odd number of them as well. The first character of a
+/// piece does not count, so that behind a quotation that ends with a semicolon the next statement belongs to the same
+/// entry. `onStatement` is called for each statement.
+[[nodiscard]] TPrefEntries SplitPrefs(std::string_view text, const std::function<void()>& onStatement);
 
 /// The text of a file with these entries: each ends with CR LF, unless it ends with the line end of a comment.
-[[nodiscard]] std::wstring JoinPrefs(const std::vector<std::wstring>& entries);
+[[nodiscard]] std::string JoinPrefs(const TPrefEntries& entries);

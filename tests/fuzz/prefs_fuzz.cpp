@@ -2,6 +2,7 @@
 // and a change changes the statements that name the pref and no others.
 #include <set>
 
+#include "platform/unicode.h"
 #include "settings/net/firefox_prefs.h"
 #include "settings/net/prefs_lexer.h"
 #include "tests/fakes/fake_system.h"
@@ -71,13 +72,20 @@ bool Mentions(const std::wstring& line, const std::wstring& name) {
     return false;
 }
 
+/// Without the white space, of which comments leave more or less.
+std::wstring Dense(std::wstring text) {
+    std::erase_if(text, [](wchar_t c) { return c <= L' '; });
+    return text;
+}
+
 void RequireReading(const TFirefoxPrefs& prefs, const std::wstring& name) {
     const std::wstring value = prefs.GetFirefoxPref(name);
     if (value == TFirefoxPrefs::kNoSuchPref) return;
     Require(std::ranges::any_of(prefs.FirefoxPrefLines(),
                                 [&](const std::wstring& line) {
-                                    const std::wstring code = WithBlankedComments(line);
-                                    return Mentions(code, name) && code.find(value) != std::wstring::npos;
+                                    const std::wstring code = FromUtf8(WithBlankedComments(ToUtf8(line)));
+                                    return Mentions(code, name) &&
+                                           Dense(code).find(Dense(value)) != std::wstring::npos;
                                 }),
             "a value stands in an entry with the name");
 }
@@ -86,7 +94,7 @@ void RequireChange(TFirefoxPrefs& prefs, const std::wstring& name, const std::ws
     const TLines before = prefs.FirefoxPrefLines();
     const bool named = prefs.GetFirefoxPref(name) != TFirefoxPrefs::kNoSuchPref;
     prefs.SetFirefoxPref(name, value);
-    const TLines& after = prefs.FirefoxPrefLines();
+    const TLines after = prefs.FirefoxPrefLines();
     if (!named) {
         Require(after.back() == kStatement + name + L", " + value + L");", "a new pref has a new statement");
     } else if (value.empty()) {
@@ -100,14 +108,14 @@ void RequireChange(TFirefoxPrefs& prefs, const std::wstring& name, const std::ws
 }
 
 /// All that is no comment and no white space, and the comments without their line ends.
-std::pair<std::wstring, TLines> Parts(const std::wstring& text) {
-    std::pair<std::wstring, TLines> parts;
+std::pair<std::string, std::vector<std::string>> Parts(const std::string& text) {
+    std::pair<std::string, std::vector<std::string>> parts;
     for (TPrefsLexer lexer(text); lexer.Next();) {
         if (lexer.Part() == TPrefsPart::Comment)
             parts.second.emplace_back(Trim(lexer.Text()));
         else
             std::ranges::copy_if(lexer.Text(), std::back_inserter(parts.first),
-                                 [](wchar_t c) { return c > L' '; });
+                                 [](char c) { return !IsBlank(c); });
     }
     return parts;
 }
@@ -147,11 +155,10 @@ std::string SavedAgain(TFakeSystem& fake, TFirefoxPrefs& prefs) {
 
 void RequireHandWrittenIsKept(TFakeSystem& fake, TFirefoxPrefs& prefs, const std::string& text) {
     fake.Files.PutText(kUserFile, text);
-    const auto parts = Parts({text.begin(), text.end()});
+    const auto parts = Parts(text);
     if (parts.second.empty()) return;
     const std::string saved = SavedAgain(fake, prefs);
-    Require(Parts({saved.begin(), saved.end()}) == parts,
-            "what is in force stays so, and what is not stays a comment");
+    Require(Parts(saved) == parts, "what is in force stays so, and what is not stays a comment");
     Require(SavedAgain(fake, prefs) == saved, "saving twice changes nothing more");
     for (const wchar_t* name : {L"\"a\"", L"\"d\"", L"\"g\""}) {
         const std::wstring value = prefs.GetFirefoxPref(L"\"b\"");
@@ -165,8 +172,7 @@ void RequireHandWrittenIsKept(TFakeSystem& fake, TFirefoxPrefs& prefs, const std
     Require(prefs.SaveFirefoxPrefs(), "it can be saved again");
     const std::string changed = fake.Files.Text(kUserFile);
     const std::string again = SavedAgain(fake, prefs);
-    Require(Parts({again.begin(), again.end()}) == Parts({changed.begin(), changed.end()}),
-            "what was changed is read as it was written");
+    Require(Parts(again) == Parts(changed), "what was changed is read as it was written");
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ class TFirefoxPrefsTest : public testing::Test {
     TFirefoxPrefsTest() {
         Fake.Files.PutText(kProfiles, "[Profile0]\nIsRelative=1\nPath=Profiles/a.default\n");
     }
-    const TLines& Load(std::string_view userFile) {
+    TLines Load(std::string_view userFile) {
         Fake.Files.PutText(kUserFile, userFile);
         Prefs.LoadFirefoxPrefs();
         return Prefs.FirefoxPrefLines();
@@ -90,13 +90,14 @@ TEST_F(TFirefoxPrefsTest, TheFirstUserFileIsACopy) {
 }
 
 TEST_F(TFirefoxPrefsTest, TheLastStatementCountsAndAllAreChanged) {
-    const auto& lines = Load(
+    Load(
         "user_pref(\"a\", \"x, y\");// off\nuser_pref(\"A\", 2 ) ; user_pref(\"b\", 3);\nuser_pref(\"c\", "
         "\"a\");");
     EXPECT_EQ(Prefs.GetFirefoxPref(L"\"a\""), L"2");
     Prefs.SetFirefoxPref(L"\"a\"", L"true");
-    EXPECT_THAT(lines, ElementsAre(L"user_pref(\"a\", true);// off\n", L"user_pref(\"A\", true) ;",
-                                   L" user_pref(\"b\", 3);", L"user_pref(\"c\", \"a\");"));
+    EXPECT_THAT(Prefs.FirefoxPrefLines(),
+                ElementsAre(L"user_pref(\"a\", true);// off\n", L"user_pref(\"A\", true) ;",
+                            L" user_pref(\"b\", 3);", L"user_pref(\"c\", \"a\");"));
     EXPECT_TRUE(Prefs.HasEdit(L"\"A\"") && !Prefs.HasEdit(L"\"b\""));
     Prefs.SetFirefoxPref(L"\"a\"", L"");
     EXPECT_EQ(Saved(), "// off\n user_pref(\"b\", 3);\r\nuser_pref(\"c\", \"a\");\r\n");
@@ -106,6 +107,7 @@ TEST_F(TFirefoxPrefsTest, TheLastStatementCountsAndAllAreChanged) {
     Load("");
     Prefs.SetFirefoxPref(L"\"d.E\"", L"\"x\"");
     Prefs.SetFirefoxPref(L"\"gone\"", L"");
+    const TLines lines = Prefs.FirefoxPrefLines();
     EXPECT_THAT(lines, ElementsAre(L"user_pref(\"d.E\", \"x\");", L"user_pref(\"gone\", );"));
     EXPECT_THAT(Fake.Shell.DebugTexts(), ElementsAre(L"not has", lines[0], L"not has", lines[1]));
     EXPECT_EQ(Prefs.GetFirefoxPref(L"\"gone\""), L"");
