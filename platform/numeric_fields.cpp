@@ -17,7 +17,7 @@ constexpr const wchar_t* kSecurity = L"Checkbox_Security_Center_ActiveClick";
 constexpr const wchar_t* kNetwork = L"Checkbox_Net_Neighbor_Common_TaskClick";
 constexpr const wchar_t* kInternetExplorer = L"Checkbox_IE_Common_Media_OpenClick";
 constexpr const wchar_t* kFirefox = L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashingClick";
-constexpr const wchar_t* kCommonSettings = L"CB_CommonSettings_Others_Font_SmoothTypeChange";
+constexpr const wchar_t* kSmoothTypeChange = L"CB_CommonSettings_Others_Font_SmoothTypeChange";
 
 // The spellings of the names differ from field to field (Updown, UpDown, UpDownCur).
 constexpr TNumericField kFields[] = {
@@ -139,7 +139,7 @@ constexpr TNumericField kFields[] = {
      .Paired = L"UpDownCur_CommonSettings_Function_CursorWidth_Width",
      .Min = 1,
      .Max = 10,
-     .PageHandler = kCommonSettings},
+     .PageHandler = kSmoothTypeChange},
 };
 
 /// One field of a form at work.

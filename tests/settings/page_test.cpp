@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr const wchar_t* kKey = L"\\Software\\Test\\";
-constexpr TPlace kPlace{kCurrentUser, kKey, L"Value"};
+constexpr const wchar_t* kPageKey = L"\\Software\\Test\\";
+constexpr TPlace kPlace{kCurrentUser, kPageKey, L"Value"};
 
 TControlDesign Design() {
     return NotebookPage(
