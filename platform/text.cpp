@@ -11,7 +11,6 @@ namespace {
 
 using TByteSpan = std::span<const std::uint8_t>;
 
-constexpr char32_t kReplacement = 0xFFFD;
 constexpr char32_t kMalformed = 0xFFFFFFFF;  ///< stands for bytes that are no character
 
 void Append(std::wstring& text, char32_t code) {

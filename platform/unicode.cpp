@@ -2,8 +2,6 @@
 
 namespace {
 
-constexpr char32_t kReplacement = 0xFFFD;
-
 bool IsHighSurrogate(char32_t code) { return code >= 0xD800 && code <= 0xDBFF; }
 bool IsLowSurrogate(char32_t code) { return code >= 0xDC00 && code <= 0xDFFF; }
 

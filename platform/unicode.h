@@ -5,5 +5,8 @@
 #include <string>
 #include <string_view>
 
+/// Stands for what is no character.
+inline constexpr char32_t kReplacement = 0xFFFD;
+
 [[nodiscard]] std::string ToUtf8(std::wstring_view text);
 [[nodiscard]] std::u16string ToUtf16(std::wstring_view text);

@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
 # Builds both programs on Debian 12, installing what the machine lacks. Leaves dist/win32 and dist/win64; each runs as it
 # stands when copied elsewhere.
+#   scripts/build.sh [win32|win64]...
 set -euo pipefail
 . "$(dirname "$0")/lib.sh"
 
 RequirePackages "${BuildPackages[@]}"
 
-for Target in win32 win64; do
+[ $# -gt 0 ] || set -- win32 win64
+for Target in "$@"; do
     BuildPreset "$Target" --target Quilltune
     Folder="$Root/dist/$Target"
     rm -rf "$Folder"

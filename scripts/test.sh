@@ -20,18 +20,31 @@ Pass() { Passed=$((Passed + $1)); }
 Fail() { Failed=$((Failed + $1)); }
 Skip() { Skipped=$((Skipped + $1)); }
 
-# A check is one command; what it says is shown only when it fails.
-Check() {
-    local name=$1
+# Runs a command, for ten minutes at most, and leaves what it says in the file "$1.log" of the work folder and its exit
+# status in "$1.status".
+Record() {
+    local name=$1 status=0
     shift
-    if "$@" >"$Work/check.log" 2>&1; then
+    timeout --kill-after=10 600 "$@" >"$Work/$name.log" 2>&1 </dev/null || status=$?
+    echo "$status" >"$Work/$name.status"
+}
+
+# Counts a check, which is one command that Record has run; what it says is shown only when it has failed.
+CountCheck() {
+    local name=$1
+    if [ "$(cat "$Work/$name.status" 2>/dev/null || true)" = 0 ]; then
         Pass 1
         echo "ok: $name"
     else
         Fail 1
         echo "FAILED: $name"
-        sed 's/^/    /' "$Work/check.log"
+        sed 's/^/    /' "$Work/$name.log" || true
     fi
+}
+
+Check() {
+    Record "$@"
+    CountCheck "$1"
 }
 
 # Builds something, with its output to be seen. Whatever could not be built fails again where it is missed.
@@ -70,12 +83,6 @@ CountTests() {
     done < <(grep -A 1 -E ': Skipped$' "$log" | grep -vE ': Skipped$|^--$' || true)
 }
 
-NativeTests() {
-    local name=$1 status=0
-    "$Root/build/native/tests/$name" >"$Work/native_$name.log" 2>&1 </dev/null || status=$?
-    CountTests "$name (native, sanitizers)" "$Work/native_$name.log" "$status"
-}
-
 # Runs the test programs $3... under Wine with the program $2 of dist; $1 is empty or runs a command in the root with
 # 32-bit Wine. Their logs come into the folder "$Work/$2".
 WineTests() {
@@ -104,15 +111,17 @@ else
     RootJob=
 fi
 
-Build "64-bit tests" BuildPreset win64 --target contract_tests peer_tests program_tests
-Build "32-bit tests" BuildPreset win32 --target contract_tests
-Build "programs" "$Root/scripts/build.sh"
+# Tests of windows wait most of the time: they run beside what keeps the processors busy, and what they need is built first.
 mkdir "$Work/dist" "$Work/win64" "$Work/win32"
-cp -r "$Root"/dist/* "$Work/dist/" || true
-
-# Tests of windows wait most of the time: they run beside what keeps the processors busy.
+Build "64-bit program" "$Root/scripts/build.sh" win64
+Build "64-bit tests" BuildPreset win64 --target contract_tests peer_tests program_tests
+cp -r "$Root/dist/win64" "$Work/dist/" || true
 WineTests "" win64 "$Root"/build/win64/tests/{contract_tests,peer_tests,program_tests}.exe &
 Win64Job=$!
+
+Build "32-bit program" "$Root/scripts/build.sh" win32
+Build "32-bit tests" BuildPreset win32 --target contract_tests
+cp -r "$Root/dist/win32" "$Work/dist/" || true
 # The 32-bit program on a 64-bit system: the 64-bit program_tests drives it, and sees the 64-bit view of the registry.
 InWineRoot() { AsRoot "$Root/scripts/in_wine_root.sh" "$(cat "$Work/wine_root")" "$Work" "$@"; }
 Win32Job=
@@ -122,6 +131,16 @@ if [ -n "$RootJob" ] && wait "$RootJob" && InWineRoot true 2>>"$RootLog"; then
 fi
 
 Build "unit tests" BuildPreset native
+
+# One processor at most is enough for these, all the others have clang-tidy.
+FuzzTargets=(language_file prefs profiles)
+NativeTests() {
+    local name
+    for name in unit_tests contract_tests; do Record "$name" "$Root/build/native/tests/$name"; done
+    for name in "${FuzzTargets[@]}"; do Record "fuzzing of $name" "$Root/scripts/fuzz.sh" 10 "$name"; done
+}
+NativeTests &
+NativeJob=$!
 
 Checks="$Root/tests/checks"
 Check "formatting" "$Checks/format.sh"
@@ -133,11 +152,11 @@ for Target in win32 win64; do
     Check "file of the $Target program" "$Checks/program_file.sh" "$Root/dist/$Target/Quilltune.exe"
 done
 
-NativeTests unit_tests
-NativeTests contract_tests
-for Target in language_file prefs profiles; do
-    Check "fuzzing of $Target" "$Root/scripts/fuzz.sh" 10 "$Target"
+wait "$NativeJob"
+for Name in unit_tests contract_tests; do
+    CountTests "$Name (native, sanitizers)" "$Work/$Name.log" "$(cat "$Work/$Name.status" 2>/dev/null || true)"
 done
+for Target in "${FuzzTargets[@]}"; do CountCheck "fuzzing of $Target"; done
 
 wait "$Win64Job"
 CountWineTests win64 contract_tests peer_tests program_tests

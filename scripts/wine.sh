@@ -24,12 +24,12 @@ MakePrefix() {
     export WINEPREFIX=$1 WINEARCH=win64
     timeout 300 wine wineboot --init >/dev/null 2>&1 || Die "Wine cannot make a prefix"
     # A crash writes its backtrace to the log, instead of a window that waits for a click.
-    wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1
-    wineserver -w
+    timeout 60 wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1
+    timeout 60 wineserver -w
 }
 
 # Ends every program of the chosen prefix.
-EndPrefix() { wineserver -k 2>/dev/null || true; wineserver -w 2>/dev/null || true; }
+EndPrefix() { timeout 60 wineserver -k 2>/dev/null || true; timeout 60 wineserver -w 2>/dev/null || true; }
 
 # The Windows spelling of the absolute path $1.
 WindowsPath() { local path="Z:$1"; printf '%s\n' "${path//\//\\}"; }

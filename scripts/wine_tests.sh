@@ -15,6 +15,9 @@ export HOME=$Work
 StartXvfb
 trap 'EndPrefix; kill "$XvfbId"' EXIT
 MakePrefix "$Work/prefix"
+# There is no window manager here, and Wine would wait for one whenever a window closes.
+timeout 60 wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+timeout 60 wineserver -w
 
 for Test in "$@"; do
     Name=$(basename "$Test" .exe)

@@ -75,7 +75,7 @@ TEST_F(TLanguageTest, LoadsTheChosenLanguageElseEnglishElseKeepsWhatItHas) {
 }
 
 /// A control's peer that fails as soon as it has to show anything.
-class TBrokenPeer : public TPeer {
+class TFailingPeer : public TPeer {
   public:
     void Update(TControlAspect) override { throw std::runtime_error("broken"); }
 };
@@ -131,7 +131,7 @@ TEST_F(TTranslateTest, TranslatesListsAndKeepsTheSelection) {
 }
 
 TEST_F(TTranslateTest, FailureEndsTheWalkSilently) {
-    Form.Find(L"Label2")->SetPeer(std::make_unique<TBrokenPeer>());
+    Form.Find(L"Label2")->SetPeer(std::make_unique<TFailingPeer>());
     Translate("Label1.Caption=LABEL\nLabel2.Caption=LABEL\nButton1.Caption=BUTTON\n");
     EXPECT_EQ(Form.Find(L"Label1")->Caption(), L"LABEL");
     EXPECT_EQ(Form.Find(L"Button1")->Caption(), L"button");

@@ -6,8 +6,6 @@
 
 namespace {
 
-TWindowPeer* PeerOf(const TControl& control) { return dynamic_cast<TWindowPeer*>(control.Peer()); }
-
 /// The radio buttons of one parent, of which one can be checked, whatever stands between them.
 std::vector<TRadioButton*> GroupOf(const TControl& button) {
     std::vector<TRadioButton*> group;

@@ -10,8 +10,6 @@ namespace {
 constexpr int kBarMargin = 3;
 constexpr DWORD kContainerStyle = WS_CHILD | DS_CONTROL;
 
-TWindowPeer* PeerOf(const TControl& control) { return dynamic_cast<TWindowPeer*>(control.Peer()); }
-
 std::vector<TControl*> VisibleChildren(const TControl& container) {
     std::vector<TControl*> visible = container.Children();
     std::erase_if(visible, [](const TControl* child) { return !child->Visible(); });

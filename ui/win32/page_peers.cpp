@@ -8,8 +8,6 @@ namespace {
 
 constexpr int kSheetMargin = 11;
 
-TWindowPeer* PeerOf(const TControl& control) { return dynamic_cast<TWindowPeer*>(control.Peer()); }
-
 }  // namespace
 
 TNotebookPeer::TNotebookPeer(TFormWindow& form, TNotebook& notebook, HWND parent)

@@ -78,3 +78,8 @@ class TWindowPeer : public TPeer {
     WNDPROC FBaseProc = nullptr;  ///< of the window's class, once it is subclassed
     TRect FPlace;
 };
+
+/// The window that shows `control`; nullptr while it has none.
+[[nodiscard]] inline TWindowPeer* PeerOf(const TControl& control) {
+    return dynamic_cast<TWindowPeer*>(control.Peer());
+}

@@ -8,16 +8,16 @@
 
 namespace {
 
-using TLines = std::vector<std::string>;
+using TPrefLines = std::vector<std::string>;
 
-TLines Lines(const TPrefEntries& entries) {
-    TLines lines;
+TPrefLines Lines(const TPrefEntries& entries) {
+    TPrefLines lines;
     for (std::size_t i = 0; i < entries.Count(); ++i) lines.emplace_back(entries[i]);
     return lines;
 }
 
 TEST(TPrefsText, SplitsAtSemicolonsOutsideQuotations) {
-    const std::pair<const char*, TLines> cases[] = {
+    const std::pair<const char*, TPrefLines> cases[] = {
         {"", {}},
         {"no statement", {}},
         {"Header;\r\nuser_pref(\"a\", 1);\n", {"user_pref(\"a\", 1);"}},
@@ -49,7 +49,7 @@ TEST(TPrefsText, SplitsAtSemicolonsOutsideQuotations) {
 /// A file, its entries, and how it is written: as it was when nothing is said.
 struct TCommented {
     const char* File;
-    TLines Entries;
+    TPrefLines Entries;
     const char* Written = nullptr;
 };
 
