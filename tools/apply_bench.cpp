@@ -14,7 +14,7 @@
 #include "platform/win32/win32_system.h"
 #include "tools/bench.h"
 #include "ui/win32/dialogs_win32.h"
-#include "ui/win32/handle.h"
+#include "base/win32/handle.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
+#include "base/win32/late_bound.h"
 #include "ui/win32/form_window.h"
-#include "ui/win32/late_bound.h"
 
 namespace {
 
