@@ -14,7 +14,7 @@ void AppendUnit(TBytes& bytes, std::uint32_t unit) {
 TBytes BytesOf(const std::wstring& text) {
     TBytes bytes;
     for (const wchar_t c : text) {
-        const auto code = static_cast<std::uint32_t>(c);
+        const auto code = static_cast<char32_t>(c);
         if (code > 0xFFFF) AppendUnit(bytes, 0xD800 + ((code - 0x10000) >> 10));
         AppendUnit(bytes, code > 0xFFFF ? 0xDC00 + ((code - 0x10000) & 0x3FF) : code);
     }

@@ -247,8 +247,8 @@ std::vector<const TSetting*> TCatalogue::Search(std::wstring_view text) const {
     for (const TSetting* setting : FSettings)
         if (const auto rank = RankOf(*setting, words)) ranked.emplace_back(*rank, setting);
     std::ranges::stable_sort(ranked, {}, &std::pair<int, const TSetting*>::first);
-    std::vector<const TSetting*> found;
-    for (const auto& [rank, setting] : ranked) found.push_back(setting);
+    std::vector<const TSetting*> found(ranked.size());
+    std::ranges::transform(ranked, found.begin(), &std::pair<int, const TSetting*>::second);
     return found;
 }
 

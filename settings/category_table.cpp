@@ -5,35 +5,35 @@
 namespace {
 
 constexpr TCategoryItemRow kCommonSettings[] = {
-    {L"General Setting", 19, L"general", TCaption::GeneralSettings},
+    {L"General Setting", L"general", 19, TCaption::GeneralSettings},
 };
 constexpr TCategoryItemRow kDisplay[] = {
-    {L"File Types", 2, L"file_types", TCaption::MenuFile},
-    {L"Folder Types", 3, L"folder_types", TCaption::MenuFolder},
-    {L"Startup Menu", 5, L"start_menu", TCaption::MenuStartMenu},
-    {L"Task Bar", 6, L"task_bar", TCaption::MenuTaskbar},
+    {L"File Types", L"file_types", 2, TCaption::MenuFile},
+    {L"Folder Types", L"folder_types", 3, TCaption::MenuFolder},
+    {L"Startup Menu", L"start_menu", 5, TCaption::MenuStartMenu},
+    {L"Task Bar", L"task_bar", 6, TCaption::MenuTaskbar},
 };
 constexpr TCategoryItemRow kUse[] = {
-    {L"Internet Explorer", 8, L"internet", TCaption::BrowserIE},
-    {L"Mozilla Firefox", 9, L"browser", TCaption::BrowserFF, kSinceXp},
+    {L"Internet Explorer", L"internet", 8, TCaption::BrowserIE},
+    {L"Mozilla Firefox", L"browser", 9, TCaption::BrowserFF, kSinceXp},
 };
 constexpr TCategoryItemRow kCommunication[] = {
-    {L"Infomation", 17, L"information", TCaption::SystemInfomation},
-    {L"Input Options", 4, L"input", TCaption::SystemInput},
-    {L"Network", 7, L"network", TCaption::SystemNetwork},
-    {L"Driver", 14, L"driver", TCaption::SystemDriver},
-    {L"Memory and Cache", 15, L"memory", TCaption::SystemMandC},
-    {L"Opera", 10, L"web_other", std::nullopt},
-    {L"E-mail and contacts", 11, L"mail", std::nullopt},
+    {L"Infomation", L"information", 17, TCaption::SystemInfomation},
+    {L"Input Options", L"input", 4, TCaption::SystemInput},
+    {L"Network", L"network", 7, TCaption::SystemNetwork},
+    {L"Driver", L"driver", 14, TCaption::SystemDriver},
+    {L"Memory and Cache", L"memory", 15, TCaption::SystemMandC},
+    {L"Opera", L"web_other", 10, std::nullopt},
+    {L"E-mail and contacts", L"mail", 11, std::nullopt},
 };
 constexpr TCategoryItemRow kManage[] = {
-    {L"User Logon", 13, L"user_logon", TCaption::SecurityUserLogon},
-    {L"Security Center", 18, L"security_center", TCaption::SecurityCenter},
-    {L"Privacy", 12, L"privacy", TCaption::SecurityPrivacy},
+    {L"User Logon", L"user_logon", 13, TCaption::SecurityUserLogon},
+    {L"Security Center", L"security_center", 18, TCaption::SecurityCenter},
+    {L"Privacy", L"privacy", 12, TCaption::SecurityPrivacy},
 };
 constexpr TCategoryItemRow kOthers[] = {
-    {L"Animations and Effects", 1, L"effects", TCaption::OthersAnimations},
-    {L"Start and Maintenance", 16, L"maintenance", TCaption::OthersStartAndM},
+    {L"Animations and Effects", L"effects", 1, TCaption::OthersAnimations},
+    {L"Start and Maintenance", L"maintenance", 16, TCaption::OthersStartAndM},
 };
 
 constexpr TCategoryGroupRow kGroups[] = {

@@ -9,8 +9,8 @@
 
 struct TCategoryItemRow {
     const wchar_t* Caption;        ///< in the design; the window shows the text below
-    int Tag;                       ///< number of the notebook page
     const wchar_t* Picture;        ///< base name of the icon
+    int Tag;                       ///< number of the notebook page
     std::optional<TCaption> Text;  ///< absent for a hidden item, which keeps its caption
     TLevels Levels = kEveryLevel;  ///< elsewhere it is hidden, too
 };

@@ -109,7 +109,7 @@ TControlState TPageModel::StateOfSetting(TControl& control) {
         const auto color = Probe(static_cast<TButton&>(control)).AskedColor;
         return color ? TControlState(TColorState{*color}) : TControlState();
     }
-    const TControlState state = StateOf(control);
+    TControlState state = StateOf(control);
     if (control.Kind() != TComponentKind::Edit || UpDownOf(control) == nullptr) return state;
     const auto number = ParseInteger(std::get<std::wstring>(state));
     return number ? TNumberState{*number} : state;

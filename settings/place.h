@@ -42,6 +42,8 @@ enum class TCoding : std::uint8_t {
 
 enum class TPlaceKind : std::uint8_t { Registry, Parameter, Service, Preference };
 
+// Its first members are in the order in which rows say them.
+// NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)
 struct TPlace {
     TRootKey Root = TRootKey::CurrentUser;
     const wchar_t* Key = L"";  ///< begins with a backslash

@@ -10,11 +10,11 @@
 #include <fstream>
 
 #include "base/decimal.h"
+#include "base/win32/handle.h"
 #include "engine/sys_control.h"
 #include "platform/win32/win32_system.h"
 #include "tools/bench.h"
 #include "ui/win32/dialogs_win32.h"
-#include "base/win32/handle.h"
 
 namespace {
 

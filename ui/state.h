@@ -4,8 +4,8 @@
 #include <variant>
 #include <vector>
 
-#include "ui/component.h"
 #include "ui/color.h"
+#include "ui/component.h"
 
 /// The chosen item of a drop-down list; -1 when none is.
 struct TItemState {
