@@ -16,7 +16,6 @@ constexpr const wchar_t* kUninstallKey = L"\\SOFTWARE\\Microsoft\\Windows\\Curre
 constexpr const wchar_t* kProduct = L"Mozilla Firefox";
 constexpr const wchar_t* kPrefsFile = L"\\prefs.js";
 constexpr const wchar_t* kUserFile = L"\\user.js";
-constexpr const char* kLineEnd = "\r\n";
 
 std::int32_t ReadInteger(const TExtIniFile& file, const std::wstring& section, const wchar_t* key) {
     return ParseInteger(file.ReadString(section, key, L"")).value_or(0);
@@ -37,8 +36,8 @@ std::string WithLineEnds(std::string_view text) {
     std::string lines;
     while (!text.empty()) {
         const std::string_view line = text.substr(0, LineLength(text));
-        lines += line.substr(0, line.find_first_of(kLineEnd));
-        lines += kLineEnd;
+        lines += line.substr(0, line.find_first_of(kPrefsLineEnd));
+        lines += kPrefsLineEnd;
         text.remove_prefix(line.size());
     }
     return lines;

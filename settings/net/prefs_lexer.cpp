@@ -5,7 +5,6 @@
 
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
 
 /// Whether an odd number of backslashes stands before that place.
 bool IsEscaped(std::string_view text, std::size_t place) {
@@ -27,7 +26,7 @@ bool HasLineEnd(std::string_view text) {
 std::size_t LineLength(std::string_view text) {
     const std::size_t end = FindLineEnd(text);
     if (end == text.size()) return end;
-    return end + (text.substr(end).starts_with(kLineEnd) ? 2 : 1);
+    return end + (text.substr(end).starts_with(kPrefsLineEnd) ? 2 : 1);
 }
 
 std::size_t TPrefsLexer::CommentLength() const {

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+inline constexpr std::string_view kPrefsLineEnd = "\r\n";
 [[nodiscard]] constexpr bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
 /// White space is every character up to U+0020.
 [[nodiscard]] constexpr bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }

@@ -10,7 +10,6 @@ namespace {
 
 constexpr char kBlank = ' ';
 
-constexpr std::string_view kLineEnd = "\r\n";
 
 /// White space with at least one comment, up to the last comment or line end in it.
 struct TRemark {
@@ -75,7 +74,7 @@ class TCode {
         if (!std::exchange(FHasComment, false)) return;
         const std::string_view space = FText.substr(FCommentEnd, end - FCommentEnd);
         // npos is -1.
-        FRemarks.push_back({FCodeEnd, FCommentEnd + (space.find_last_of(kLineEnd) + 1)});
+        FRemarks.push_back({FCodeEnd, FCommentEnd + (space.find_last_of(kPrefsLineEnd) + 1)});
     }
 
     [[nodiscard]] bool HasEscapedBackslash() const {
@@ -308,7 +307,7 @@ std::string JoinPrefs(const TPrefEntries& entries) {
     for (std::size_t i = 0; i < entries.Count(); ++i) {
         const std::string_view entry = entries[i];
         text += entry;
-        if (!entry.empty() && !IsLineEnd(entry.back())) text += kLineEnd;
+        if (!entry.empty() && !IsLineEnd(entry.back())) text += kPrefsLineEnd;
     }
     return text;
 }
