@@ -9,12 +9,12 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "app/win32/dialogs_win32.h"
 #include "base/decimal.h"
 #include "base/win32/handle.h"
 #include "engine/sys_control.h"
 #include "platform/win32/win32_system.h"
 #include "tools/bench.h"
-#include "ui/win32/dialogs_win32.h"
 
 namespace {
 
