@@ -7,12 +7,6 @@
 
 namespace {
 
-std::wstring_view TrimmedKey(std::wstring_view key) {
-    const std::size_t first = key.find_first_not_of(L'\\');
-    if (first == std::wstring_view::npos) return {};
-    return key.substr(first, key.find_last_not_of(L'\\') - first + 1);
-}
-
 /// Whether the key is the other one or lies below it.
 bool IsWithin(const TRegistryTarget& target, const TRegistryTarget& above) {
     if (target.Root != above.Root || target.Key.size() < above.Key.size()) return false;

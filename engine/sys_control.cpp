@@ -12,16 +12,10 @@ namespace {
 
 TRegistryPlace PlaceOf(const TRegRecor& record) { return {record.RootKey, record.Key, record.ValueName}; }
 
-std::wstring_view TrimBackslashes(std::wstring_view key) {
-    const std::size_t first = key.find_first_not_of(L'\\');
-    if (first == std::wstring_view::npos) return {};
-    return key.substr(first, key.find_last_not_of(L'\\') - first + 1);
-}
-
 /// Whether a pending change decides what a read of the record's place will find.
 bool Concerns(const TRegRecor& change, const TRegRecor& record) {
     return !change.IsSystemParameter && change.RootKey == record.RootKey &&
-           SameText(TrimBackslashes(change.Key), TrimBackslashes(record.Key)) &&
+           SameText(TrimmedKey(change.Key), TrimmedKey(record.Key)) &&
            (change.Action == TRegAction::DeleteKey || SameText(change.ValueName, record.ValueName));
 }
 

@@ -31,6 +31,12 @@ TBytes BytesOf(std::int32_t number) {
 
 }  // namespace
 
+std::wstring_view TrimmedKey(std::wstring_view key) {
+    const std::size_t first = key.find_first_not_of(L'\\');
+    if (first == std::wstring_view::npos) return {};
+    return key.substr(first, key.find_last_not_of(L'\\') - first + 1);
+}
+
 std::optional<TRawValue> RawValueOf(const TRegistryData& data) {
     const std::uint32_t type = kTypes[static_cast<std::size_t>(data.Type)];
     const auto* text = std::get_if<std::wstring>(&data.Value);

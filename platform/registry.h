@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -35,6 +36,9 @@ struct TRegistryPlace {
     std::wstring Key;
     std::wstring ValueName;
 };
+
+/// The key without the backslashes at its ends, as Windows wants it.
+[[nodiscard]] std::wstring_view TrimmedKey(std::wstring_view key);
 
 /// A stored value with its type. For type Unknown the value is absent.
 struct TRegistryData {

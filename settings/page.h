@@ -42,8 +42,7 @@ struct TTwin {
 
 /// A page as data.
 struct TPageDefinition {
-    int Tag;                       ///< the number of its notebook page; 0 for what is in no notebook
-    const wchar_t* SharedHandler;  ///< the name of the page's change handler, which other units know it by
+    int Tag;  ///< the number of its notebook page; 0 for what is in no notebook
     TControlDesign (*Design)();
     std::span<const TLoader> Loaders;  ///< in the order in which they run
     std::span<const TPreset> Presets;

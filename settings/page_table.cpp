@@ -23,7 +23,6 @@
 #include "ui/controls.h"
 
 std::span<const TPageDefinition* const> PageDefinitions() {
-    // In this order their windows are created; the first one is shown first.
     static const std::array kPages{
         &GeneralPage(),   &DisplayPage(), &FileTypesPage(), &FolderPage(),           &InputPage(),
         &StartMenuPage(), &TaskbarPage(), &NetworkPage(),   &InternetExplorerPage(), &FirefoxPage(),

@@ -20,5 +20,6 @@ struct TPageLists {
 /// Chooses the first item of every drop-down list below the container, without firing.
 void ChooseFirstItems(TControl& container);
 
-/// The pages that have settings, in any order. A number without a definition is an empty page.
+/// The pages that have settings, in the order in which their windows are created; the first one is shown first. A number
+/// without a definition is an empty page.
 [[nodiscard]] std::span<const TPageDefinition* const> PageDefinitions();

@@ -6,7 +6,6 @@
 
 inline constexpr const wchar_t* kColors = L"\\Control Panel\\Colors\\";
 inline constexpr const wchar_t* kDesktop = L"\\Control Panel\\Desktop\\";
-inline constexpr const wchar_t* kWindowMetrics = L"\\Control Panel\\Desktop\\WindowMetrics\\";
 inline constexpr const wchar_t* kKeyboard = L"\\Control Panel\\Keyboard\\";
 /// In HKEY_USERS: the keyboard of the logon screen.
 inline constexpr const wchar_t* kLogonKeyboard = L"\\.DEFAULT\\Control Panel\\Keyboard\\";

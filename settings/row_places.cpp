@@ -15,10 +15,8 @@ TTarget TargetOf(const TPlace& place) {
         case TPlaceKind::Registry:
             break;
     }
-    std::wstring key = place.Key;
-    key.erase(0, key.find_first_not_of(L'\\'));
-    key.erase(key.find_last_not_of(L'\\') + 1);
-    return TRegistryTarget{.Root = place.Root, .Key = key, .ValueName = place.ValueName};
+    return TRegistryTarget{
+        .Root = place.Root, .Key = std::wstring(TrimmedKey(place.Key)), .ValueName = place.ValueName};
 }
 
 std::vector<TTarget> TargetsOf(const TRow& row) {

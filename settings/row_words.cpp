@@ -250,7 +250,9 @@ TRowWords Entry(const TSwitchRow& row) {
                   (row.Items.empty() ? L"number" : L"item of the value");
     if (row.OtherItem >= 0) shows += L", else item " + DecimalText(row.OtherItem);
     if (row.Value.Kind != TPlaceKind::Parameter)
-        shows += TText(L"; missing: ") + (row.Missing == kKeep ? L"unchanged" : L"on");
+        shows += TText(L"; missing: ") + (row.Missing == kKeep    ? L"unchanged"
+                                          : row.Missing == kClear ? L"off"
+                                                                  : L"on");
     return {Words(row.Value), shows, L"on: " + amount + L"; off: " + Words(row.Value, row.OffRecords)};
 }
 

@@ -71,7 +71,8 @@ struct TBoxRecord {
     TDatum Clear;
 };
 
-/// A second change of the same click, recorded under the first one's name with `Suffix` behind it.
+/// A second change of the same click, recorded under the first one's name with `Suffix` behind it. No two
+/// changes of a row have the same suffix.
 struct TBoxFurther {
     const wchar_t* Suffix;
     TPlace Value;
@@ -100,8 +101,8 @@ struct TCheckBoxRow {
     const wchar_t* Toggles = nullptr;
     std::optional<TDigits> Refreshes = std::nullopt;  ///< brought up to date by a click, too
     std::optional<TPlace> LoadedFrom = std::nullopt;  ///< what shows, where it is not `Value`
-    /// A policy that takes away what the box stands for while it is 1: the box is clear then, and checking it turns the
-    /// policy off.
+    /// A policy that takes away what the box stands for while it is 1: the box is clear then, and a click turns
+    /// the policy off or on as well, under the suffix 1.
     std::optional<TPlace> Policy = std::nullopt;
     TLevels Levels = kEveryLevel;  ///< elsewhere another row of the control holds
 };
@@ -182,8 +183,8 @@ struct TChoiceFurther {
 struct TChoiceRow {
     const wchar_t* Control;
     TPlace Value;
-    std::span<const TDatum>
-        Items;         ///< what each item records, and which value chooses it; of nothing any does
+    /// What each item records, which is also the value that chooses it. Any value chooses an item that records nothing.
+    std::span<const TDatum> Items;
     int Missing = -1;  ///< the item that a missing value chooses; -1 leaves the choice alone
     std::optional<TChoiceFurther> Further = std::nullopt;
     const wchar_t* ChangeName = nullptr;  ///< null = the control's name
@@ -238,7 +239,8 @@ struct TTextRow {
 struct TSwitchRow {
     const wchar_t* On;             ///< a check box, or the radio button that stands for on
     const wchar_t* Off = nullptr;  ///< the one that stands for off
-    /// An up-down or track bar, whose position is the value; or a list, or a pair of radio buttons, with `Items`.
+    /// An up-down or track bar, whose position is the value and whose bounds stand in the design; or a list, or a pair of
+    /// radio buttons, with `Items`. It records the same change as the switch, and while that is off what stands for off.
     TControlNames Amount;
     TPlace Value;
     TMatch OffWhen;

@@ -28,13 +28,6 @@ HKEY RootOf(TRootKey root) {
     return nullptr;
 }
 
-/// Windows knows no backslash at either end.
-std::wstring Trimmed(const std::wstring& key) {
-    const std::size_t first = key.find_first_not_of(L'\\');
-    if (first == std::wstring::npos) return {};
-    return key.substr(first, key.find_last_not_of(L'\\') - first + 1);
-}
-
 /// For full access in the view, or another one; an invalid handle when the key cannot be opened.
 TKeyHandle Open(HKEY parent, const std::wstring& key, REGSAM view, REGSAM access = KEY_ALL_ACCESS) {
     HKEY handle = nullptr;
@@ -43,7 +36,7 @@ TKeyHandle Open(HKEY parent, const std::wstring& key, REGSAM view, REGSAM access
 }
 
 TKeyHandle Open(TRootKey root, const std::wstring& key, REGSAM view, REGSAM access = KEY_ALL_ACCESS) {
-    return Open(RootOf(root), Trimmed(key), view, access);
+    return Open(RootOf(root), std::wstring(TrimmedKey(key)), view, access);
 }
 
 /// The key's own names, taken down before anything changes them.
@@ -169,8 +162,9 @@ TReadStatus TWin32Registry::ReadRaw(const TRegistryPlace& place, TRawValue& valu
 
 TWriteStatus TWin32Registry::Write(const TRegistryPlace& place, const TRegistryData& data) {
     HKEY handle = nullptr;
-    if (RegCreateKeyExW(RootOf(place.Root), Trimmed(place.Key).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
-                        KEY_ALL_ACCESS | FNativeView, nullptr, &handle, nullptr) != ERROR_SUCCESS)
+    if (RegCreateKeyExW(RootOf(place.Root), std::wstring(TrimmedKey(place.Key)).c_str(), 0, nullptr,
+                        REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS | FNativeView, nullptr, &handle,
+                        nullptr) != ERROR_SUCCESS)
         return TWriteStatus::KeyUnavailable;
     const TKeyHandle key(handle);
     return SetValue(key.Get(), place.ValueName, data) ? TWriteStatus::Done : TWriteStatus::Refused;
@@ -185,7 +179,7 @@ TWriteStatus TWin32Registry::DeleteValue(const TRegistryPlace& place) {
 }
 
 TWriteStatus TWin32Registry::DeleteKey(TRootKey root, const std::wstring& key) {
-    const std::wstring path = Trimmed(key);
+    const std::wstring path(TrimmedKey(key));
     if (path.empty()) return TWriteStatus::Refused;  // a whole root
     return DeleteTree(RootOf(root), path, FNativeView);
 }

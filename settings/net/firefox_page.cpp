@@ -264,7 +264,6 @@ bool Prepare(TPageContext& context) {
 }
 
 constexpr TPageDefinition kPage{.Tag = 9,
-                                .SharedHandler = L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashingClick",
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,

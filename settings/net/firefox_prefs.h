@@ -18,7 +18,6 @@ class TFirefoxPrefs : public TPreferenceStore {
     /// the store.
     TFirefoxPrefs(TSystem& system, std::wstring firefoxFolder);
 
-    [[nodiscard]] const std::wstring& FirefoxFolder() const { return FFirefoxFolder; }
     /// The folder of the profile that was looked up, without trailing delimiter; empty when there is none.
     [[nodiscard]] const std::wstring& FirefoxProfileFolder() const { return FFirefoxProfileFolder; }
     /// The statements with their comments, as settings/net/prefs_text.h has them; of two that name the same pref the later

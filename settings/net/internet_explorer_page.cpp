@@ -250,12 +250,8 @@ constexpr TOffer kOffers[] = {
     {L"GroupBox_IE_Common_Popup", kSinceXp},
 };
 
-constexpr TPageDefinition kPage{.Tag = 8,
-                                .SharedHandler = L"Checkbox_IE_Common_Media_OpenClick",
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Offers = kOffers};
+constexpr TPageDefinition kPage{
+    .Tag = 8, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers};
 
 }  // namespace
 

@@ -77,11 +77,7 @@ constexpr TRow kMessengerRows[] = {
 
 constexpr TLoader kLoaders[] = {kOutlookExpressRows, kOutlookRows, kMessengerRows};
 
-constexpr TPageDefinition kPage{.Tag = 11,
-                                .SharedHandler = L"Checkbox_Mail_OutlookExpress_MessengerClick",
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = {}};
+constexpr TPageDefinition kPage{.Tag = 11, .Design = Design, .Loaders = kLoaders, .Presets = {}};
 
 }  // namespace
 

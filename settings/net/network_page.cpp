@@ -169,7 +169,6 @@ bool Prepare(TPageContext& context) {
 }
 
 constexpr TPageDefinition kPage{.Tag = 7,
-                                .SharedHandler = L"Checkbox_Net_Neighbor_Common_TaskClick",
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,

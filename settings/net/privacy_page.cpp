@@ -78,12 +78,8 @@ constexpr TPreset kPresets[] = {
     {L"Button_Privacy_IE_Default", kInternetExplorerDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 12,
-                                .SharedHandler = L"Checkbox_CleanTraces_ClearHistoryList_ClearLogoffClick",
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .ShowsPending = true};
+constexpr TPageDefinition kPage{
+    .Tag = 12, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .ShowsPending = true};
 
 }  // namespace
 

@@ -66,7 +66,6 @@ bool Prepare(TPageContext& context) {
 }
 
 constexpr TPageDefinition kPage{.Tag = 18,
-                                .SharedHandler = L"Checkbox_Security_Center_ActiveClick",
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = {},

@@ -160,12 +160,8 @@ constexpr TRow kMessageRows[] = {
 
 constexpr TLoader kLoaders[] = {kCommonRows, kAutoLoginRows, kMessageRows};
 
-constexpr TPageDefinition kPage{.Tag = 13,
-                                .SharedHandler = L"Checkbox_UserLogin_Common_Set_UserNameClick",
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = {},
-                                .ShowsPending = true};
+constexpr TPageDefinition kPage{
+    .Tag = 13, .Design = Design, .Loaders = kLoaders, .Presets = {}, .ShowsPending = true};
 
 }  // namespace
 

@@ -170,7 +170,6 @@ constexpr TLevelCaption kLevelCaptions[] = {
 };
 
 constexpr TPageDefinition kDialog{.Tag = 0,
-                                  .SharedHandler = L"ListView_Folder_DriversChange",
                                   .Design = Design,
                                   .Loaders = kLoaders,
                                   .Presets = {},

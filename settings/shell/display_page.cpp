@@ -206,12 +206,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_Display_MenuAppearance_HighestPerformance", kMenuHighestPerformance},
 };
 
-constexpr TPageDefinition kPage{
-    .Tag = 1,
-    .SharedHandler = L"CheckBox_Display_Effect_DisplayAndEffectSettings_BackgroundClick",
-    .Design = Design,
-    .Loaders = kLoaders,
-    .Presets = kPresets};
+constexpr TPageDefinition kPage{.Tag = 1, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
 
 }  // namespace
 

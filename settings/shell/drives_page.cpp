@@ -87,11 +87,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_Drives_DiskSpace_SpaceWarn_Default", kSpaceWarnDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 14,
-                                .SharedHandler = L"Checkbox_Drives_Common_EnableClick",
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets};
+constexpr TPageDefinition kPage{.Tag = 14, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
 
 }  // namespace
 

@@ -168,7 +168,6 @@ constexpr TLevelCaption kLevelCaptions[] = {
 };
 
 constexpr TPageDefinition kPage{.Tag = 3,
-                                .SharedHandler = L"Checkbox_Folder_View_Windows_TreeClick",
                                 .Design = FolderDesign,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,

@@ -182,7 +182,6 @@ bool Prepare(TPageContext& context) {
 }
 
 constexpr TPageDefinition kPage{.Tag = 19,
-                                .SharedHandler = L"CB_CommonSettings_Others_Font_SmoothTypeChange",
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = {},

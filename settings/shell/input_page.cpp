@@ -151,12 +151,8 @@ constexpr TOffer kOffers[] = {
     {L"GroupBox_Use_MouseFunction_Trails", kSinceXp},
 };
 
-constexpr TPageDefinition kPage{.Tag = 4,
-                                .SharedHandler = L"Checkbox_Use_MouseFunction_ChangeKey_ChangeClick",
-                                .Design = InputDesign,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Offers = kOffers};
+constexpr TPageDefinition kPage{
+    .Tag = 4, .Design = InputDesign, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers};
 
 }  // namespace
 

@@ -314,7 +314,6 @@ constexpr TLevelCaption kLevelCaptions[] = {
 };
 
 constexpr TPageDefinition kPage{.Tag = 5,
-                                .SharedHandler = L"Checkbox_Use_StartMenu_Common_User_ShowUserNameClick",
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,

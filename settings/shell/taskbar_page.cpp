@@ -188,12 +188,8 @@ constexpr TOffer kOffers[] = {
     {L"Checkbox_Taskbar_Notification_Icons_ActionCenter", kSinceWindows7},
 };
 
-constexpr TPageDefinition kPage{.Tag = 6,
-                                .SharedHandler = L"Checkbox_Taskbar_ButtonFlashes_ActiveClick",
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Offers = kOffers};
+constexpr TPageDefinition kPage{
+    .Tag = 6, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers};
 
 }  // namespace
 

@@ -1,4 +1,6 @@
 // The numeric fields of all pages: their bounds, and what is special about some of them.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "app/main_window.h"
@@ -43,15 +45,15 @@ TEST(TNumberBounds, AreThoseOfTheFields) {
         if (component->Kind() != TComponentKind::UpDown) continue;
         const auto& arrows = static_cast<const TUpDown&>(*component);
         const TEdit& edit = *arrows.Associate();
-        for (const auto& number : kNumbers) {
-            if (edit.Name() != number.Edit) continue;
-            ++found;
-            EXPECT_EQ(
-                (std::tuple(arrows.Min(), arrows.Max(), edit.FiltersKeys, edit.IsPositive, edit.IsSender)),
-                (std::tuple(number.Min, number.Max, number.FiltersKeys, number.IsPositive, number.IsSender)))
-                << testing::PrintToString(edit.Name());
-            EXPECT_TRUE(edit.OnExit) << testing::PrintToString(edit.Name());
-        }
+        const auto* number =
+            std::ranges::find_if(kNumbers, [&](const auto& row) { return edit.Name() == row.Edit; });
+        ASSERT_NE(number, std::end(kNumbers)) << "add the bounds of " << testing::PrintToString(edit.Name());
+        ++found;
+        EXPECT_EQ(
+            (std::tuple(arrows.Min(), arrows.Max(), edit.FiltersKeys, edit.IsPositive, edit.IsSender)),
+            (std::tuple(number->Min, number->Max, number->FiltersKeys, number->IsPositive, number->IsSender)))
+            << testing::PrintToString(edit.Name());
+        EXPECT_TRUE(edit.OnExit) << testing::PrintToString(edit.Name());
     }
     EXPECT_EQ(found, std::size(kNumbers));
 }

@@ -67,9 +67,11 @@ class TScript {
             const TLine& name = control->Name();
             const bool isEdit = control->Kind() == TComponentKind::Edit && !parts.contains(name);
             if (IsSetting(*control) || isEdit)
-                EXPECT_TRUE(FCovered.Shown.contains(name)) << "nothing shows " << ToUtf8(name);
+                EXPECT_TRUE(FCovered.Shown.contains(name))
+                    << "no line says what is stored when it shows what: " << ToUtf8(name);
             if (IsSetting(*control) || isEdit || control->Kind() == TComponentKind::Button)
-                EXPECT_TRUE(FCovered.ActedOn.contains(name)) << "nobody uses " << ToUtf8(name);
+                EXPECT_TRUE(FCovered.ActedOn.contains(name))
+                    << "no line says what its use writes: " << ToUtf8(name);
         }
     }
 

@@ -17,7 +17,9 @@
 //     <IS 1>   1 <-> on | 0, 2 <-> off; likewise <IS 0>, <NOT 0>, <NOT 1>
 //     level 5  the Windows level of the parts that follow; 7 when nothing is said
 //     restart  Windows must restart for any of it
-//     as NAME  the name of the change, when it is not the control's;   and *1: PLACE  a further place of the same values
+//     as NAME  the name of the change, when it is not the control's;   and *1: PLACE  a further place of the same values. Where
+//              a state writes other values to a second place, or needs a switch to be on, say VALUE -> STATE here and what it
+//              writes in lines of their own: writes UpDown_X 3 | preset Checkbox_X on | Checkbox_X: PLACE = 3
 //   shows CONTROL, … STATE | VERB | … | 5      what a loaded page shows on the level that found this: PLACE = VALUE, a parameter, a
 //                                              service, Firefox; STATE may be whatever `expect` knows
 //   writes CONTROL STATE | CHANGE | … | restart    does that on a page that was not loaded; * stands for the control's name. The
