@@ -5,7 +5,6 @@
 
 namespace {
 
-
 /// Whether an odd number of backslashes stands before that place.
 bool IsEscaped(std::string_view text, std::size_t place) {
     std::size_t begin = place;

@@ -10,7 +10,6 @@ namespace {
 
 constexpr char kBlank = ' ';
 
-
 /// White space with at least one comment, up to the last comment or line end in it.
 struct TRemark {
     std::size_t Begin;
