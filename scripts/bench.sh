@@ -45,7 +45,7 @@ Heading "Preference files, under Wine"
 Measure prefs_bench "$(WindowsPath "$Work")"
 Heading "Language files, natively"
 if [[ " ${NativeBenches[*]} " == *" language_bench "* ]]; then
-    "$Root/build/bench/tests/language_bench"
+    "$Root/build/bench/tools/language_bench"
 else
     echo "skipped: it needs ${LanguagePackages[*]}"
 fi
