@@ -20,19 +20,6 @@ bool IsSameValue(const TRegistryTarget& a, const TRegistryTarget& b) {
            SameText(a.ValueName, b.ValueName);
 }
 
-/// What a change does by itself, whatever is there.
-struct TRegistryEffect {
-    TRegAction Action = TRegAction::Write;
-    std::optional<TRawValue> Value;  ///< nothing = the key is created and nothing is written
-};
-struct TStep {
-    std::wstring Setting;
-    TTarget Target;
-    /// What comes to be there; nothing = the change is not made.
-    std::variant<std::monostate, TRegistryEffect, TSpiData, TServiceStatus, TPreferenceContent> Effect;
-    bool Restart = false;
-};
-
 void Affect(const TRegistryTarget& by, const TRegistryEffect& effect, const TRegistryTarget& target,
             TRegistryContent& content) {
     switch (effect.Action) {
@@ -50,7 +37,7 @@ void Affect(const TRegistryTarget& by, const TRegistryEffect& effect, const TReg
 }
 
 /// What the step makes of the content of another step's target, or of its own.
-void Affect(const TStep& step, const TTarget& target, TContent& content) {
+void Affect(const TOperation& step, const TTarget& target, TContent& content) {
     if (step.Target.index() != target.index()) return;
     if (const auto* effect = std::get_if<TRegistryEffect>(&step.Effect)) {
         Affect(std::get<TRegistryTarget>(step.Target), *effect, std::get<TRegistryTarget>(target),
@@ -70,7 +57,7 @@ void Affect(const TStep& step, const TTarget& target, TContent& content) {
     }
 }
 
-TStep ParameterStep(const TRegRecor& record) {
+TOperation ParameterStep(const TRegRecor& record) {
     TParameterTarget target{.Set = record.SpiAction, .Get = record.SpiGet, .InParam = record.SpiInParam};
     TSpiData data = record.SpiData;
     if (const auto* block = std::get_if<TBytes>(&data))
@@ -80,9 +67,9 @@ TStep ParameterStep(const TRegRecor& record) {
     return {record.Setting, target, data, record.RestartNeeded};
 }
 
-TStep RegistryStep(const TRegRecor& record) {
+TOperation RegistryStep(const TRegRecor& record) {
     const bool isKey = record.Action == TRegAction::DeleteKey;
-    TStep step{.Setting = record.Setting,
+    TOperation step{.Setting = record.Setting,
                .Target = TRegistryTarget{record.RootKey, std::wstring(TrimmedKey(record.Key)),
                                          isKey ? std::wstring() : record.ValueName, isKey},
                .Effect = {},
@@ -94,8 +81,8 @@ TStep RegistryStep(const TRegRecor& record) {
     return step;
 }
 
-std::vector<TStep> StepsOf(const TSysControl& changes, const TPreferenceStore* preferences) {
-    std::vector<TStep> steps;
+TChangeSet OperationsOf(const TSysControl& changes, const TPreferenceStore* preferences) {
+    TChangeSet steps;
     bool refused = false;
     for (const TRegRecor& record : changes.Pending()) {
         steps.push_back(record.IsSystemParameter ? ParameterStep(record) : RegistryStep(record));
@@ -158,13 +145,13 @@ TContent ContentOf(TSystem& system, const TTarget& target, const TPreferenceStor
 
 std::vector<TChange> PendingChanges(TSystem& system, const TSysControl& changes,
                                     const TPreferenceStore* preferences) {
-    const std::vector<TStep> steps = StepsOf(changes, preferences);
+    const TChangeSet steps = OperationsOf(changes, preferences);
     std::vector<TChange> list;
-    for (const TStep& own : steps) {
+    for (const TOperation& own : steps) {
         TContent content = ContentOf(system, own.Target, preferences);
         TChange change{own.Setting, own.Target, content, {}, own.Restart};
         TContent made;
-        for (const TStep& step : steps) {
+        for (const TOperation& step : steps) {
             Affect(step, own.Target, content);
             if (&step == &own) made = content;
         }

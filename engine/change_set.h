@@ -55,7 +55,35 @@ using TPreferenceContent = std::optional<std::wstring>;  ///< nothing when no st
 
 using TContent = std::variant<TRegistryContent, TParameterContent, TServiceContent, TPreferenceContent>;
 
-/// One of the changes of a set.
+// What an operation does to its target, whatever is there.
+
+struct TRegistryEffect {
+    TRegAction Action = TRegAction::Write;
+    std::optional<TRawValue> Value{};  ///< nothing of a write = the key is created and nothing is written
+
+    bool operator==(const TRegistryEffect&) const = default;
+};
+
+/// What comes to be there; nothing = the operation is not carried out.
+using TEffect =
+    std::variant<std::monostate, TRegistryEffect, TSpiData, TServiceStatus, TPreferenceContent>;
+
+/// One of the steps of a change set. The effect is of the target's kind.
+struct TOperation {
+    std::wstring Setting;  ///< the name of the control that stands for it; empty when there is none
+    TTarget Target;
+    TEffect Effect;
+    bool Restart = false;  ///< Windows must restart before it takes effect
+    /// Of a way back: what the changes that it takes back left there.
+    std::optional<TContent> Left{};
+
+    bool operator==(const TOperation&) const = default;
+};
+
+/// Operations in the order in which they are carried out.
+using TChangeSet = std::vector<TOperation>;
+
+/// What one operation of a set comes to.
 struct TChange {
     std::wstring Setting;  ///< the name of the control that stands for it
     TTarget Target;
