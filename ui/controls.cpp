@@ -142,7 +142,11 @@ void TListView::SetColumn(std::size_t index, const std::wstring& caption) {
 
 void TListView::SetRows(std::vector<TRow> rows) {
     FRows = std::move(rows);
+    const bool wereSelected = !FSelected.empty();
+    FSelected.clear();
+    FFocusedRow = -1;
     UpdatePeer(TControlAspect::Items);
+    if (wereSelected) Fire(OnSelect);
 }
 
 void TListView::SetRowChecked(std::size_t index, bool checked) {
@@ -150,4 +154,24 @@ void TListView::SetRowChecked(std::size_t index, bool checked) {
     FRows[index].Checked = checked;
     UpdatePeer(TControlAspect::State);
     Fire(OnChange);
+}
+
+void TListView::SetSelected(const std::vector<std::size_t>& rows) {
+    SetSelected(rows, rows.empty() ? FFocusedRow : static_cast<int>(rows.front()));
+}
+
+void TListView::SetSelected(const std::vector<std::size_t>& rows, int focusedRow) {
+    FFocusedRow = focusedRow < static_cast<int>(FRows.size()) ? focusedRow : -1;
+    std::set<std::size_t> selected(rows.begin(), rows.end());
+    selected.erase(selected.lower_bound(FRows.size()), selected.end());
+    if (selected == FSelected) return;
+    FSelected = std::move(selected);
+    UpdatePeer(TControlAspect::State);
+    Fire(OnSelect);
+}
+
+void TListView::Open(std::size_t row) {
+    if (row >= FRows.size()) return;
+    FFocusedRow = static_cast<int>(row);
+    Fire(OnOpen);
 }

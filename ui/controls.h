@@ -4,6 +4,8 @@
 // Setting a state that it already has fires nothing.
 #pragma once
 
+#include <set>
+
 #include "ui/color.h"
 #include "ui/component.h"
 
@@ -213,7 +215,7 @@ class TImage : public TControl {
     int FFrame = 0;
 };
 
-/// A list with columns and a check box before each row.
+/// A list with columns. Its rows have check boxes; or it is a table, whose rows can be selected, opened and deleted.
 class TListView : public TControl {
   public:
     struct TRow {
@@ -221,20 +223,43 @@ class TListView : public TControl {
         bool Checked = false;
     };
 
-    TListView(std::wstring name, std::vector<std::wstring> columns)
-        : TControl(TComponentKind::ListView, std::move(name)), FColumns(std::move(columns)) {}
+    TListView(std::wstring name, std::vector<std::wstring> columns, bool isTable)
+        : TControl(TComponentKind::ListView, std::move(name)),
+          FColumns(std::move(columns)),
+          FIsTable(isTable) {}
 
+    [[nodiscard]] bool IsTable() const { return FIsTable; }
     [[nodiscard]] const std::vector<std::wstring>& Columns() const { return FColumns; }
     void SetColumn(std::size_t index, const std::wstring& caption);
     [[nodiscard]] const std::vector<TRow>& Rows() const { return FRows; }
+    /// The new rows are not selected, nor is any of them focused.
     void SetRows(std::vector<TRow> rows);
     void SetRowChecked(std::size_t index, bool checked);
 
+    // Of a table.
+    /// The selected rows from the top.
+    [[nodiscard]] std::vector<std::size_t> Selected() const { return {FSelected.begin(), FSelected.end()}; }
+    /// The first of them is focused; numbers that are no row's are left out.
+    void SetSelected(const std::vector<std::size_t>& rows);
+    void SetSelected(const std::vector<std::size_t>& rows, int focusedRow);
+    /// The row that the keyboard is at, -1 when there is none.
+    [[nodiscard]] int FocusedRow() const { return FFocusedRow; }
+    /// What a double click on the row, or Enter, does.
+    void Open(std::size_t row);
+    /// What the Delete key does.
+    void Delete() { Fire(OnDelete); }
+
     TNotifyEvent OnChange;  ///< a row was checked or cleared
+    TNotifyEvent OnSelect;  ///< other rows than before are selected
+    TNotifyEvent OnOpen;    ///< the focused row is to be opened
+    TNotifyEvent OnDelete;  ///< the selected rows are to be deleted
 
   private:
     std::vector<std::wstring> FColumns;
+    bool FIsTable;
     std::vector<TRow> FRows;
+    std::set<std::size_t> FSelected;
+    int FFocusedRow = -1;
 };
 
 /// Repeats an event while it is enabled. It has no place in the window, only a peer that ticks.

@@ -61,6 +61,11 @@ TControlDesign&& TControlDesign::Width(int characters) && {
     return std::move(*this);
 }
 
+TControlDesign&& TControlDesign::Sharing(int share) && {
+    Share = share;
+    return std::move(*this);
+}
+
 TDesigns Collect(TControlDesign* const* designs, std::size_t count) {
     TDesigns collected;
     collected.reserve(count);
@@ -144,6 +149,12 @@ TControlDesign Image(const wchar_t* name, const wchar_t* picture, int width, int
 TControlDesign ListView(const wchar_t* name, std::initializer_list<const wchar_t*> columns) {
     TControlDesign design = Control(TComponentKind::ListView, name);
     design.Items.assign(columns.begin(), columns.end());
+    return design;
+}
+
+TControlDesign Table(const wchar_t* name, std::initializer_list<const wchar_t*> columns) {
+    TControlDesign design = ListView(name, columns);
+    design.IsTable = true;
     return design;
 }
 

@@ -32,6 +32,8 @@ struct TControlDesign {
     bool FiltersKeys = false;
     bool IsPositive = false;
     bool IsSender = false;
+    bool IsTable = false;
+    int Share = 1;
     int Min = 0;
     int Max = 100;
     int Position = 0;           ///< position, item index, interval, tag, colour or frames, as the kind has it
@@ -58,6 +60,8 @@ struct TControlDesign {
     TControlDesign&& Positive() &&;
     TControlDesign&& Sender() &&;
     TControlDesign&& Width(int characters) &&;
+    /// Of what takes the height that others leave: how much of it, beside the shares of its neighbours.
+    TControlDesign&& Sharing(int share) &&;
 };
 
 /// What the functions below are made of: a container or arrangement with its content.
@@ -85,6 +89,11 @@ TControlDesign Row(TContent&&... content) {
 template <typename... TContent>
 TControlDesign Buttons(TContent&&... content) {
     return Arrangement(TLayoutKind::Buttons, Designs(content...));
+}
+/// A row at the left end of the line, buttons at its right end.
+template <typename TLeft, typename TRight>
+TControlDesign Ends(TLeft&& left, TRight&& right) {
+    return Arrangement(TLayoutKind::Ends, Designs(left, right));
 }
 template <typename... TContent>
 TControlDesign Fields(TContent&&... rows) {
@@ -143,7 +152,10 @@ TControlDesign ColorSwatch(const wchar_t* name, TColor color = 0);
 TControlDesign Image(const wchar_t* name, const wchar_t* picture, int frames = 1);
 /// An image that is no icon, of that many dots at 96 per inch.
 TControlDesign Image(const wchar_t* name, const wchar_t* picture, int width, int height);
+/// A list with a check box before each row.
 TControlDesign ListView(const wchar_t* name, std::initializer_list<const wchar_t*> columns);
+/// A list without check boxes, whose rows can be selected.
+TControlDesign Table(const wchar_t* name, std::initializer_list<const wchar_t*> columns);
 TControlDesign Timer(const wchar_t* name, int milliseconds);
 
 // The main window's navigation.

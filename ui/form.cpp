@@ -45,7 +45,7 @@ std::unique_ptr<TControl> Make(const TControlDesign& design) {
             return std::make_unique<TImage>(design.Name, design.Picture, design.Position, design.PictureWidth,
                                             design.PictureHeight);
         case TComponentKind::ListView:
-            return std::make_unique<TListView>(design.Name, design.Items);
+            return std::make_unique<TListView>(design.Name, design.Items, design.IsTable);
         case TComponentKind::CategoryBar:
             return std::make_unique<TCategoryBar>(design.Name);
         case TComponentKind::CategoryGroup:
@@ -127,6 +127,7 @@ void TForm::Populate(TControl& container, const std::vector<TControlDesign>& des
     for (const TControlDesign& design : designs) {
         TLayoutBox inner;
         inner.Kind = design.Layout;
+        inner.Share = design.Share;
         if (design.Kind)
             inner.Control = &Create(container, design);
         else

@@ -55,6 +55,7 @@ class TForm : public TControl {
     /// room for the frame on a screen of 800 by 600.
     int ClientWidth = 740;
     int ClientHeight = 504;
+    bool CanMaximise = false;  ///< of a dialog; the main window always can
 
     TNotifyEvent OnShow;  ///< runs once, just before the window becomes visible
 

@@ -1,6 +1,7 @@
 #include "ui/layout.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "ui/containers.h"
@@ -25,6 +26,7 @@ constexpr int kTrackBarHeight = 30;
 constexpr int kEditWidth = 120;
 constexpr int kSwatchWidth = 40;
 constexpr int kListHeight = 140;
+constexpr int kTableHeight = 80;
 constexpr int kCategoryBarFrame = 60;   // what a category item needs beside its text: picture, margins
 constexpr int kCategoryBarWidth = 240;  // the most it takes
 constexpr int kUnlimited = 1 << 20;
@@ -72,6 +74,19 @@ bool IsKind(const TLayoutBox& box, TComponentKind kind) {
 
 }  // namespace
 
+std::vector<int> FairShares(std::vector<int> wanted, int total) {
+    std::vector<std::size_t> order(wanted.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::sort(order.begin(), order.end(), [&](auto a, auto b) { return wanted[a] < wanted[b]; });
+    auto others = static_cast<int>(order.size());
+    for (const std::size_t i : order) {
+        wanted[i] = std::min(wanted[i], std::max(0, total) / others--);
+        total -= wanted[i];
+    }
+    if (!wanted.empty()) wanted.back() += std::max(0, total);
+    return wanted;
+}
+
 TSize TLayout::ContentSize(const TControl& container, int width) const {
     return Measure(FForm.Layout(container), width);
 }
@@ -87,7 +102,7 @@ int TLayout::GapBefore(const TLayoutBox& box, std::size_t index) const {
     const TLayoutBox& before = box.Boxes[index - 1];
     if (IsKind(here, TComponentKind::UpDown)) return 0;  // it clings to its edit
     const bool grouped = IsKind(here, TComponentKind::GroupBox) || IsKind(before, TComponentKind::GroupBox) ||
-                         here.Kind == TLayoutKind::Buttons;
+                         here.Kind == TLayoutKind::Buttons || here.Kind == TLayoutKind::Ends;
     return FMetrics.Scale(grouped && box.Kind == TLayoutKind::Column ? kGroupGap : kGap);
 }
 
@@ -99,6 +114,8 @@ TSize TLayout::Measure(const TLayoutBox& box, int width) const {
         case TLayoutKind::Row:
         case TLayoutKind::Buttons:
             return MeasureRow(box, width, {});
+        case TLayoutKind::Ends:
+            return MeasureEnds(box, width);
         case TLayoutKind::Fields:
             return MeasureFields(box, width);
         case TLayoutKind::Indent: {
@@ -145,6 +162,12 @@ TSize TLayout::MeasureRow(const TLayoutBox& box, int width, const TFieldWidths& 
         size.Height = std::max(size.Height, part.Height);
     }
     return size;
+}
+
+/// One line, or when that is too narrow for both ends, two.
+TSize TLayout::MeasureEnds(const TLayoutBox& box, int width) const {
+    const TSize line = MeasureRow(box, kUnlimited, {});
+    return line.Width <= width ? line : MeasureColumn(box, width);
 }
 
 int TLayout::TFieldWidths::WidthOf(const TLayoutBox& part, std::size_t index, int width) const {
@@ -223,7 +246,8 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
             return {scale(image.Width()), scale(image.Height())};
         }
         case TComponentKind::ListView:
-            return {width, scale(kListHeight)};
+            return {width,
+                    scale(static_cast<const TListView&>(control).IsTable() ? kTableHeight : kListHeight)};
         case TComponentKind::GroupBox: {
             const int padding = scale(kGroupPadding);
             const TSize content = ContentSize(control, width - 2 * padding);
@@ -261,6 +285,10 @@ void TLayout::Put(const TLayoutBox& box, const TRect& area, const TPlace& place)
             PutRow(box, {left, area.Top, width, area.Height}, {}, place);
             return;
         }
+        case TLayoutKind::Ends:
+            if (MeasureRow(box, kUnlimited, {}).Width > area.Width) return PutColumn(box, area, place);
+            for (const TLayoutBox& end : box.Boxes) Put(end, area, place);  // each keeps to its own
+            return;
         case TLayoutKind::Indent: {
             const int indent = FMetrics.Scale(kIndent);
             PutColumn(box, {area.Left + indent, area.Top, area.Width - indent, area.Height}, place);
@@ -298,15 +326,35 @@ void TLayout::PutControl(TControl& control, const TRect& area, const TPlace& pla
 void TLayout::PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& place) const {
     const TFieldWidths widths =
         box.Kind == TLayoutKind::Fields ? FieldWidths(box, area.Width) : TFieldWidths{};
-    int spare = std::max(0, area.Height - MeasureColumn(box, area.Width).Height);
-    int top = area.Top;
+    std::vector<int> heights(box.Boxes.size());
+    int spare = area.Height;
+    // What takes the height that the others leave shares it, but each takes what it needs.
+    int shares = 0;
+    int needed = 0;
     bool any = false;
     for (std::size_t i = 0; i < box.Boxes.size(); ++i) {
         const TLayoutBox& inner = box.Boxes[i];
         if (IsAbsent(inner)) continue;
+        heights[i] = Measure(inner, area.Width).Height;
+        spare -= heights[i] + (std::exchange(any, true) ? GapBefore(box, i) : 0);
+        if (!Stretches(inner)) continue;
+        shares += inner.Share;
+        needed += heights[i];
+    }
+    int shared = needed + std::max(0, spare);
+    int top = area.Top;
+    any = false;
+    for (std::size_t i = 0; i < box.Boxes.size(); ++i) {
+        const TLayoutBox& inner = box.Boxes[i];
+        if (IsAbsent(inner)) continue;
         if (std::exchange(any, true)) top += GapBefore(box, i);
-        int height = Measure(inner, area.Width).Height;
-        if (Stretches(inner)) height += std::exchange(spare, 0);
+        int height = heights[i];
+        if (Stretches(inner)) {
+            needed -= height;
+            height = std::clamp(shared * inner.Share / shares, height, shared - needed);
+            shared -= height;
+            shares -= inner.Share;
+        }
         const TRect part{area.Left, top, area.Width, height};
         if (box.Kind == TLayoutKind::Fields)
             PutRow(inner, part, widths, place);

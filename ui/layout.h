@@ -18,6 +18,10 @@ struct TRect {
     bool operator==(const TRect&) const = default;
 };
 
+/// What each of those who want these widths gets of a total: what it wants, or where that is too much, none more than a
+/// fair share. The last one gets what is left over.
+[[nodiscard]] std::vector<int> FairShares(std::vector<int> wanted, int total);
+
 /// What a layout has to know of the screen. All results are in pixels.
 class TLayoutMetrics {
   public:
@@ -61,6 +65,7 @@ class TLayout {
     [[nodiscard]] TSize MeasureControl(const TControl& control, int width) const;
     [[nodiscard]] TSize MeasureColumn(const TLayoutBox& box, int width) const;
     [[nodiscard]] TSize MeasureRow(const TLayoutBox& box, int width, const TFieldWidths& widths) const;
+    [[nodiscard]] TSize MeasureEnds(const TLayoutBox& box, int width) const;
     [[nodiscard]] TSize MeasureFields(const TLayoutBox& box, int width) const;
     [[nodiscard]] TFieldWidths FieldWidths(const TLayoutBox& fields, int width) const;
     void Put(const TLayoutBox& box, const TRect& area, const TPlace& place) const;

@@ -10,6 +10,7 @@ enum class TLayoutKind {
     Column,   ///< one below the other, as wide as the container
     Row,      ///< side by side, in one line
     Buttons,  ///< side by side, at the right end of the line
+    Ends,     ///< a row at the left end of the line and buttons at its right end
     Fields,   ///< rows whose first controls share one width, so that the second ones line up
     Indent,   ///< a column set in below the control it depends on
     Center,   ///< a column in the middle of the container
@@ -19,5 +20,6 @@ enum class TLayoutKind {
 struct TLayoutBox {
     TLayoutKind Kind = TLayoutKind::Column;
     TControl* Control = nullptr;  ///< for kind Control
+    int Share = 1;                ///< of the height, among the boxes of a column that take what others leave
     std::vector<TLayoutBox> Boxes;
 };

@@ -20,9 +20,10 @@ TControlState StateOf(const TControl& control) {
         case TComponentKind::ColorSwatch:
             return TColorState{static_cast<const TColorSwatch&>(control).Color()};
         case TComponentKind::ListView: {
+            const auto& list = static_cast<const TListView&>(control);
+            if (list.IsTable()) return {};
             TChecksState checks;
-            for (const TListView::TRow& row : static_cast<const TListView&>(control).Rows())
-                checks.push_back(row.Checked);
+            for (const TListView::TRow& row : list.Rows()) checks.push_back(row.Checked);
             return checks;
         }
         default:

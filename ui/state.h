@@ -27,7 +27,7 @@ struct TColorState {
 /// Which rows of a list view are checked, one mark a row.
 using TChecksState = std::vector<bool>;
 
-/// Nothing of a control that has no state (a button, a label); whether a check box or radio button is checked; an item; a
+/// Nothing of a control that has no state (a button, a label, a table); whether a check box or radio button is checked; an item; a
 /// number; the text of an edit; a colour; the checked rows of a list view.
 using TControlState =
     std::variant<std::monostate, bool, TItemState, TNumberState, std::wstring, TColorState, TChecksState>;

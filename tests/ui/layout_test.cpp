@@ -127,4 +127,43 @@ TEST(TLayoutTest, GivesTheSpareRoomToTheNotebookAndCoversItWithThePanel) {
     EXPECT_EQ(laidOut[L"Panel"], book);
 }
 
+TEST(TLayoutTest, TablesShareTheHeightAndNeitherFallsShort) {
+    for (const int height : {100, 250, 400, 1000}) {
+        const TLaidOut laidOut({Column(Label(L"Label", L"Above"), Table(L"Two", {L"A"})).Sharing(2),
+                                Table(L"Three", {L"A"}).Sharing(3), Buttons(Button(L"Close", L"Close"))},
+                               {0, 0, 500, height});
+        laidOut.ExpectNoOverlap();
+        const double ratio = double(laidOut[L"Two"].Height) / laidOut[L"Three"].Height;
+        EXPECT_NEAR(ratio, height < 250 ? 1 : 2.0 / 3, 0.1) << height;
+        if (height >= 250) EXPECT_EQ(TLaidOut::Bottom(laidOut[L"Close"]), height);
+    }
+}
+
+TEST(TLayoutTest, ButtonsAtBothEndsLeaveTheRightOnesWhereTheyAreAlone) {
+    const auto right = [] { return Buttons(Button(L"Ok", L"OK"), Button(L"Apply", L"&Apply")); };
+    for (const wchar_t* caption : {L"3 changes", L"A caption that needs much more room"}) {
+        for (const int width : {250, 600}) {
+            const TRect area{9, 9, width, 100};
+            const TLaidOut alone({right()}, area);
+            const TLaidOut both({Ends(Row(Button(L"Changes", caption), Button(L"History", L"Hi")), right())},
+                                area);
+            both.ExpectNoOverlap();
+            EXPECT_EQ(both[L"Changes"].Left, area.Left);
+            EXPECT_EQ(both[L"Apply"].Left, alone[L"Apply"].Left);
+            EXPECT_EQ(both[L"Ok"].Left, alone[L"Ok"].Left);
+            EXPECT_EQ(both[L"Ok"].Top == alone[L"Ok"].Top, width == 600);
+        }
+    }
+}
+
+TEST(TLayoutTest, SharesAreFairAndUseTheTotalUp) {
+    using TWidths = std::vector<int>;
+    for (const auto& [wanted, total, shares] : {std::tuple(TWidths{50, 20, 30}, 200, TWidths{50, 20, 130}),
+                                                {{500, 20, 300}, 220, {100, 20, 100}},
+                                                {{500, 20, 90}, 220, {110, 20, 90}},
+                                                {{7, 7}, 0, {0, 0}},
+                                                {{}, 9, {}}})
+        EXPECT_EQ(FairShares(wanted, total), shares);
+}
+
 }  // namespace

@@ -309,8 +309,8 @@ void TFormWindow::Destroyed() {
 TFormWindow::TWindow::TWindow(TFormWindow& formWindow, TForm& form)
     : TContainerPeer(formWindow, form, kFormMargin), FFormWindow(formWindow) {
     const HWND owner = formWindow.FOwner;
-    const DWORD frame =
-        owner == nullptr ? WS_OVERLAPPEDWINDOW : WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME;
+    DWORD frame = owner == nullptr ? WS_OVERLAPPEDWINDOW : WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME;
+    if (form.CanMaximise) frame |= WS_MAXIMIZEBOX;
     CreateContainer(owner, form.ClassName().c_str(), frame, 0);
 }
 

@@ -9,16 +9,13 @@ namespace {
 /// At each side of a column's caption, at 96 dots per inch.
 constexpr int kCaptionPadding = 8;
 
-/// The list's caption or cell as its messages want it. They read it only, though their type does not say so.
-LPWSTR Text(const std::wstring& text) { return const_cast<LPWSTR>(text.c_str()); }
-
 bool IsChecked(UINT state) { return (state & LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(2); }
 
 }  // namespace
 
-TListViewPeer::TListViewPeer(TFormWindow& form, TListView& list, HWND parent) : TWindowPeer(form, list) {
+void TListViewPeer::CreateList(HWND parent, DWORD style) {
     Create(parent, WC_LISTVIEWW,
-           WS_TABSTOP | WS_GROUP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER,
+           WS_TABSTOP | WS_GROUP | LVS_REPORT | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER | style,
            WS_EX_CLIENTEDGE);
 }
 
@@ -31,29 +28,48 @@ void TListViewPeer::Update(TControlAspect aspect) {
     FitColumns();
 }
 
-void TListViewPeer::ShowItems() {
-    // Before the rows come: check boxes that come later are empty, and are reported as the user's doing.
-    constexpr DWORD kExtendedStyle = LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT;
-    Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtendedStyle, kExtendedStyle);
-    ShowColumns();
-    InsertRows();
+void TListViewPeer::Place(const TRect& place) {
+    TWindowPeer::Place(place);
     FitColumns();
 }
 
+int TListViewPeer::WidthOf(const std::wstring& text) const {
+    const auto width = static_cast<int>(Send(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text.c_str())));
+    return width + 2 * FForm.Screen().Scale(kCaptionPadding);
+}
+
+int TListViewPeer::Width() const {
+    RECT area{};
+    GetClientRect(Handle(), &area);
+    return static_cast<int>(area.right);
+}
+
 void TListViewPeer::ShowColumns() {
-    const auto& columns = static_cast<const TListView&>(Control()).Columns();
+    const auto& columns = List().Columns();
     LVCOLUMNW column{};
     column.mask = LVCF_TEXT | LVCF_SUBITEM;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         column.iSubItem = static_cast<int>(i);
-        column.pszText = Text(columns[i]);
+        column.pszText = MessageText(columns[i]);
         if (!Send(LVM_SETCOLUMNW, i, reinterpret_cast<LPARAM>(&column)))
             Send(LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
     }
 }
 
-void TListViewPeer::InsertRows() {
-    const auto& rows = static_cast<const TListView&>(Control()).Rows();
+TCheckListPeer::TCheckListPeer(TFormWindow& form, TListView& list, HWND parent) : TListViewPeer(form, list) {
+    CreateList(parent, LVS_SINGLESEL);
+}
+
+void TCheckListPeer::ShowItems() {
+    // Before the rows come: check boxes that come later are empty, and are reported as the user's doing.
+    SetExtendedStyle(LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
+    ShowColumns();
+    InsertRows();
+    FitColumns();
+}
+
+void TCheckListPeer::InsertRows() {
+    const auto& rows = List().Rows();
     FShowing = true;
     Send(WM_SETREDRAW, FALSE);
     Send(LVM_DELETEALLITEMS);
@@ -64,7 +80,7 @@ void TListViewPeer::InsertRows() {
         for (std::size_t cell = 0; cell < cells.size(); ++cell) {
             item.mask = LVIF_TEXT;
             item.iSubItem = static_cast<int>(cell);
-            item.pszText = Text(cells[cell]);
+            item.pszText = MessageText(cells[cell]);
             Send(cell == 0 ? LVM_INSERTITEMW : LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
         }
     }
@@ -72,8 +88,8 @@ void TListViewPeer::InsertRows() {
     FShowing = false;
 }
 
-void TListViewPeer::ShowState() {
-    const auto& rows = static_cast<const TListView&>(Control()).Rows();
+void TCheckListPeer::ShowState() {
+    const auto& rows = List().Rows();
     FShowing = true;
     LVITEMW item{};
     item.stateMask = LVIS_STATEIMAGEMASK;
@@ -84,35 +100,24 @@ void TListViewPeer::ShowState() {
     FShowing = false;
 }
 
-void TListViewPeer::FitColumns() {
-    const auto& columns = static_cast<const TListView&>(Control()).Columns();
-    const int padding = FForm.Screen().Scale(kCaptionPadding);
-    RECT area{};
-    GetClientRect(Handle(), &area);
-    int spare = static_cast<int>(area.right);
+void TCheckListPeer::FitColumns() {
+    const auto& columns = List().Columns();
+    int spare = Width();
     for (std::size_t i = 0; i < columns.size(); ++i) {
         Send(LVM_SETCOLUMNWIDTH, i, LVSCW_AUTOSIZE);
         const auto cells = static_cast<int>(Send(LVM_GETCOLUMNWIDTH, i));
-        const auto caption =
-            static_cast<int>(Send(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(columns[i].c_str())));
-        int width = std::max(cells, caption + 2 * padding);
+        int width = std::max(cells, WidthOf(columns[i]));
         if (i + 1 == columns.size()) width = std::max(width, spare);
         spare -= width;
         Send(LVM_SETCOLUMNWIDTH, i, width);
     }
 }
 
-void TListViewPeer::Place(const TRect& place) {
-    TWindowPeer::Place(place);
-    FitColumns();
-}
-
-LRESULT TListViewPeer::OnNotify(NMHDR& header) {
+LRESULT TCheckListPeer::OnNotify(NMHDR& header) {
     if (header.code != LVN_ITEMCHANGED || FShowing) return 0;
     const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
     constexpr UINT kCheckMark = LVIS_STATEIMAGEMASK;
     if ((change.uChanged & LVIF_STATE) != 0 && ((change.uOldState ^ change.uNewState) & kCheckMark) != 0)
-        static_cast<TListView&>(Control()).SetRowChecked(static_cast<std::size_t>(change.iItem),
-                                                         IsChecked(change.uNewState));
+        List().SetRowChecked(static_cast<std::size_t>(change.iItem), IsChecked(change.uNewState));
     return 0;
 }

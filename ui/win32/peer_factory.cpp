@@ -9,6 +9,7 @@
 #include "ui/win32/list_view_peer.h"
 #include "ui/win32/page_peers.h"
 #include "ui/win32/range_peers.h"
+#include "ui/win32/table_peer.h"
 
 namespace {
 
@@ -60,7 +61,9 @@ std::unique_ptr<TPeer> MakePeer(TFormWindow& form, TControl& control, HWND paren
         case TComponentKind::Image:
             return Make<TImagePeer, TImage>(form, control, parent);
         case TComponentKind::ListView:
-            return Make<TListViewPeer, TListView>(form, control, parent);
+            return static_cast<TListView&>(control).IsTable()
+                       ? Make<TTablePeer, TListView>(form, control, parent)
+                       : Make<TCheckListPeer, TListView>(form, control, parent);
         case TComponentKind::CategoryBar:
             return Make<TCategoryBarPeer, TCategoryBar>(form, control, parent);
         case TComponentKind::CategoryGroup:

@@ -1,0 +1,161 @@
+#include "ui/win32/table_peer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ui/win32/form_window.h"
+
+namespace {
+
+constexpr WPARAM kSelectAll = 1;  // Ctrl+A as a character
+
+bool IsEnter(const MSG* message) {
+    return message != nullptr && message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
+}
+
+}  // namespace
+
+TTablePeer::TTablePeer(TFormWindow& form, TListView& list, HWND parent) : TListViewPeer(form, list) {
+    CreateList(parent, LVS_OWNERDATA);
+    Subclass();
+}
+
+void TTablePeer::ShowItems() {
+    SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP | LVS_EX_INFOTIP);
+    ShowColumns();
+    FShowing = true;
+    Send(WM_SETREDRAW, FALSE);
+    Send(LVM_SETITEMCOUNT, 0);  // Windows would keep the selection and the scrolling of the former rows
+    Send(LVM_SETITEMCOUNT, List().Rows().size());
+    Send(WM_SETREDRAW, TRUE);
+    InvalidateRect(Handle(), nullptr, TRUE);
+    FShowing = false;
+    FitColumns();
+}
+
+void TTablePeer::ShowState() {
+    const std::vector<std::size_t> rows = List().Selected();
+    if (rows == SelectedRows()) return;
+    FShowing = true;
+    LVITEMW item{};
+    item.stateMask = LVIS_SELECTED;
+    Send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
+    item.state = LVIS_SELECTED;
+    for (const std::size_t row : rows) Send(LVM_SETITEMSTATE, row, reinterpret_cast<LPARAM>(&item));
+    if (!rows.empty()) {
+        item.state = item.stateMask = LVIS_FOCUSED;
+        Send(LVM_SETITEMSTATE, rows.front(), reinterpret_cast<LPARAM>(&item));
+        Send(LVM_ENSUREVISIBLE, rows.front());
+    }
+    FShowing = false;
+}
+
+void TTablePeer::FitColumns() {
+    if (FHasOwnWidths) return;
+    const auto& columns = List().Columns();
+    std::vector<int> widths;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        // The longest text is nearly always the widest one, too.
+        const std::wstring* longest = nullptr;
+        for (const TListView::TRow& row : List().Rows()) {
+            if (i < row.Cells.size() && (longest == nullptr || row.Cells[i].size() > longest->size()))
+                longest = &row.Cells[i];
+        }
+        widths.push_back(std::max(WidthOf(columns[i]), longest == nullptr ? 0 : WidthOf(*longest)));
+    }
+    widths = FairShares(widths, Width());
+    for (std::size_t i = 0; i < widths.size(); ++i) Send(LVM_SETCOLUMNWIDTH, i, MAKELPARAM(widths[i], 0));
+}
+
+std::vector<std::size_t> TTablePeer::SelectedRows() const {
+    std::vector<std::size_t> rows;
+    for (LRESULT row = -1; (row = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED)) >= 0;)
+        rows.push_back(static_cast<std::size_t>(row));
+    return rows;
+}
+
+int TTablePeer::FocusedRow() const {
+    return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
+}
+
+int TTablePeer::FindRow(const NMLVFINDITEMW& search) const {
+    if ((search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0) return -1;
+    const auto& rows = List().Rows();
+    const int length = lstrlenW(search.lvfi.psz);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const std::size_t row = (static_cast<std::size_t>(std::max(0, search.iStart)) + i) % rows.size();
+        if (rows[row].Cells.empty() || rows[row].Cells[0].size() < static_cast<std::size_t>(length)) continue;
+        if (CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, rows[row].Cells[0].c_str(), length,
+                           search.lvfi.psz, length) == CSTR_EQUAL)
+            return static_cast<int>(row);
+    }
+    return -1;
+}
+
+LRESULT TTablePeer::OnNotify(NMHDR& header) {
+    switch (header.code) {
+        case LVN_GETDISPINFOW: {
+            auto& item = reinterpret_cast<NMLVDISPINFOW&>(header).item;
+            const auto& rows = List().Rows();
+            const auto row = static_cast<std::size_t>(item.iItem);
+            const auto cell = static_cast<std::size_t>(item.iSubItem);
+            static const std::wstring kNone;
+            if ((item.mask & LVIF_TEXT) != 0)
+                item.pszText = MessageText(
+                    row < rows.size() && cell < rows[row].Cells.size() ? rows[row].Cells[cell] : kNone);
+            return 0;
+        }
+        case LVN_ODFINDITEMW:
+            return FindRow(reinterpret_cast<const NMLVFINDITEMW&>(header));
+        case LVN_ITEMCHANGED:
+        case LVN_ODSTATECHANGED:
+            if (!FShowing) FHasChanged = true;
+            return 0;
+        case NM_DBLCLK:
+            FOpened = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem;
+            return 0;
+        default:
+            return 0;
+    }
+}
+
+LRESULT TTablePeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    ++FDepth;
+    const LRESULT result = OnKey(message, wParam) ? 0 : TWindowPeer::OnMessage(message, wParam, lParam);
+    if (--FDepth == 0) FireEvents();
+    if (message == WM_GETDLGCODE && IsEnter(reinterpret_cast<const MSG*>(lParam)) && TakesEnter())
+        return result | DLGC_WANTMESSAGE;
+    if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lParam)->code == HDN_ENDTRACKW)
+        FHasOwnWidths = true;
+    return result;
+}
+
+bool TTablePeer::OnKey(UINT message, WPARAM key) {
+    if (message == WM_KEYDOWN && key == VK_RETURN && TakesEnter()) {
+        FOpened = FocusedRow();
+        return true;
+    }
+    if (message == WM_KEYDOWN && key == VK_DELETE) {
+        FDeletes = true;
+        return true;
+    }
+    if (message != WM_CHAR) return false;
+    if (key == kSelectAll) {
+        LVITEMW item{};
+        item.state = item.stateMask = LVIS_SELECTED;
+        Send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
+    }
+    return key < VK_SPACE;  // the list would look for a row that begins with it
+}
+
+bool TTablePeer::TakesEnter() const { return List().OnOpen && FocusedRow() >= 0; }
+
+/// They may have the window closed, or another one shown.
+void TTablePeer::FireEvents() {
+    TListView& list = List();
+    const int opened = std::exchange(FOpened, -1);
+    const bool deletes = std::exchange(FDeletes, false);
+    if (std::exchange(FHasChanged, false)) list.SetSelected(SelectedRows(), FocusedRow());
+    if (opened >= 0) list.Open(static_cast<std::size_t>(opened));
+    if (deletes) list.Delete();
+}
