@@ -3,7 +3,7 @@
 #include "base/decimal.h"
 
 void TTimingLog::Add(const wchar_t* label) {
-    const TTimeOfDay time = FClock.TimeOfDay();
+    const TLocalTime time = FClock.LocalTime();
     FLines.push_back(label + DecimalText(time.Hour, 2) + L':' + DecimalText(time.Minute, 2) + L':' +
                      DecimalText(time.Second, 2) + L' ' + DecimalText(time.Millisecond, 3));
 }

@@ -4,8 +4,11 @@
 #include <cstdint>
 #include <string>
 
-/// Local wall-clock time of day.
-struct TTimeOfDay {
+/// Local wall-clock date and time.
+struct TLocalTime {
+    int Year = 0;
+    int Month = 0;  ///< from 1
+    int Day = 0;    ///< from 1
     int Hour = 0;
     int Minute = 0;
     int Second = 0;
@@ -16,7 +19,7 @@ class TClock {
   public:
     virtual ~TClock() = default;
 
-    [[nodiscard]] virtual TTimeOfDay TimeOfDay() const = 0;
+    [[nodiscard]] virtual TLocalTime LocalTime() const = 0;
 
     /// The current local date and time as the user's locale writes them.
     [[nodiscard]] virtual std::wstring DateTimeText() const = 0;

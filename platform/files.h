@@ -33,6 +33,17 @@ class TFiles {
     /// the file; a name that was left behind is taken over the next time.
     [[nodiscard]] virtual bool Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) = 0;
 
+    /// Creates a file with these bytes where nothing is: it is there whole, and on the disk, or not at all.
+    [[nodiscard]] virtual bool CreateNew(const std::wstring& path,
+                                         const std::vector<std::uint8_t>& bytes) = 0;
+
+    /// Deletes a file; a read-only one and a folder are not deleted. False also when there is none.
+    [[nodiscard]] virtual bool Delete(const std::wstring& path) = 0;
+
+    /// Creates the folder (no trailing delimiter) and those above it, as far as they are missing. True when it is there
+    /// afterwards.
+    [[nodiscard]] virtual bool CreateFolder(const std::wstring& path) = 0;
+
     /// Names (without folder) of the files in `folder` (no trailing delimiter) that match `pattern`, such as
     /// "*.lng", whatever their attributes, in the order of the file system. Folders are not listed.
     [[nodiscard]] virtual std::vector<std::wstring> List(const std::wstring& folder,

@@ -1,5 +1,7 @@
 #include "platform/registry.h"
 
+#include <algorithm>
+
 namespace {
 
 // The REG_… types, as documented, by TRegDataType.
@@ -27,6 +29,28 @@ TBytes BytesOf(std::int32_t number) {
     AppendUnit(bytes, static_cast<std::uint32_t>(number));
     AppendUnit(bytes, static_cast<std::uint32_t>(number) >> 16);
     return bytes;
+}
+
+/// Anybody may have stored text without its NUL, or half a character at its end.
+std::wstring TextOf(const TBytes& bytes) {
+    std::wstring text;
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        const auto unit = static_cast<wchar_t>(bytes[i] | bytes[i + 1] << 8);
+        if (unit == 0) break;
+        const bool endsPair = sizeof(wchar_t) > 2 && (unit & 0xFC00) == 0xDC00 && !text.empty() &&
+                              (text.back() & ~0x3FF) == 0xD800;
+        if (endsPair)
+            text.back() = static_cast<wchar_t>(0x10000 + ((text.back() & 0x3FF) << 10) + (unit & 0x3FF));
+        else
+            text += unit;
+    }
+    return text;
+}
+
+std::int32_t NumberOf(const TBytes& bytes) {
+    std::uint32_t number = 0;
+    for (std::size_t i = 0; i < sizeof number; ++i) number |= std::uint32_t{bytes[i]} << 8 * i;
+    return static_cast<std::int32_t>(number);
 }
 
 }  // namespace
@@ -57,4 +81,22 @@ std::optional<TRawValue> RawValueOf(const TRegistryData& data) {
             break;
     }
     return std::nullopt;
+}
+
+TRegistryData DataOf(TRawValue value) {
+    const auto type =
+        static_cast<TRegDataType>(std::ranges::find(kTypes, value.Type) - std::ranges::begin(kTypes));
+    switch (type) {
+        case TRegDataType::String:
+        case TRegDataType::ExpandString:
+            return {type, TextOf(value.Bytes)};
+        case TRegDataType::Dword:
+            if (value.Bytes.size() == sizeof(std::int32_t)) return {type, NumberOf(value.Bytes)};
+            break;
+        case TRegDataType::Binary:
+            return {type, std::move(value.Bytes)};
+        default:
+            break;
+    }
+    return {};
 }

@@ -13,7 +13,9 @@ enum class TRootKey : std::uint32_t {
     ClassesRoot = 0x80000000,
     CurrentUser = 0x80000001,
     LocalMachine = 0x80000002,
-    Users = 0x80000003,  ///< below it `.DEFAULT`, the user of the logon screen
+    Users = 0x80000003,          ///< below it `.DEFAULT`, the user of the logon screen
+    CurrentConfig = 0x80000005,  ///< the hardware profile in use
+    DynData = 0x80000006,        ///< of Windows 9x; later ones refuse whatever is tried there
 };
 
 /// Type of a stored value, in the program's own numbering (not the REG_… codes).
@@ -59,6 +61,9 @@ struct TRawValue {
 /// What Write stores of the data, which must fit its type. Of type Unknown nothing is stored.
 [[nodiscard]] std::optional<TRawValue> RawValueOf(const TRegistryData& data);
 
+/// What Read makes of a stored value. Text ends at its first NUL, half a character at its end does not count.
+[[nodiscard]] TRegistryData DataOf(TRawValue value);
+
 /// Which registry a 32-bit process on 64-bit Windows sees; everywhere else the two are the same.
 enum class TRegistryView {
     Native,   ///< the 64-bit view (KEY_WOW64_64KEY), the one that Windows itself uses
@@ -97,6 +102,9 @@ class TRegistry {
     /// The alternative held by `data.Value` must fit `data.Type`; if it does not, the answer is Refused.
     [[nodiscard]] virtual TWriteStatus Write(const TRegistryPlace& place, const TRegistryData& data) = 0;
 
+    /// Opens or creates the key and writes a value of any REG_… type, known to Windows or not, to the byte.
+    [[nodiscard]] virtual TWriteStatus WriteRaw(const TRegistryPlace& place, const TRawValue& value) = 0;
+
     /// Deletes the value. A missing key answers KeyUnavailable, a missing value Done.
     [[nodiscard]] virtual TWriteStatus DeleteValue(const TRegistryPlace& place) = 0;
 
@@ -105,4 +113,9 @@ class TRegistry {
 
     /// The names of the key's subkeys in the registry's order; empty when the key cannot be opened.
     [[nodiscard]] virtual std::vector<std::wstring> SubKeys(TRootKey root, const std::wstring& key) const = 0;
+
+    /// The names of the key's values in the registry's order, an empty one for a default value that is set, also where
+    /// the user may only read; empty when the key cannot be opened.
+    [[nodiscard]] virtual std::vector<std::wstring> ValueNames(TRootKey root,
+                                                               const std::wstring& key) const = 0;
 };

@@ -44,6 +44,12 @@ class TReadOnlyFiles : public TFiles {
                                const std::vector<std::uint8_t>& /*bytes*/) override {
         return false;
     }
+    [[nodiscard]] bool CreateNew(const std::wstring& /*path*/,
+                                 const std::vector<std::uint8_t>& /*bytes*/) override {
+        return false;
+    }
+    [[nodiscard]] bool Delete(const std::wstring& /*path*/) override { return false; }
+    [[nodiscard]] bool CreateFolder(const std::wstring& /*path*/) override { return false; }
     [[nodiscard]] std::vector<std::wstring> List(const std::wstring& folder,
                                                  const std::wstring& pattern) const override {
         return FFiles.List(folder, pattern);
@@ -63,7 +69,7 @@ class TStillClock : public TClock {
   public:
     explicit TStillClock(TClock& clock) : FClock(clock) {}
 
-    [[nodiscard]] TTimeOfDay TimeOfDay() const override { return FClock.TimeOfDay(); }
+    [[nodiscard]] TLocalTime LocalTime() const override { return FClock.LocalTime(); }
     [[nodiscard]] std::wstring DateTimeText() const override { return FClock.DateTimeText(); }
     void Sleep(std::uint32_t milliseconds) override { FClock.Sleep(milliseconds); }
     void ProcessMessages() override {}

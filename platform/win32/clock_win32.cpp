@@ -13,11 +13,16 @@ constexpr DWORD kRoundInterval = 10;
 
 }  // namespace
 
-TTimeOfDay TWin32Clock::TimeOfDay() const {
+TLocalTime TWin32Clock::LocalTime() const {
     SYSTEMTIME now;
     GetLocalTime(&now);
-    return {
-        .Hour = now.wHour, .Minute = now.wMinute, .Second = now.wSecond, .Millisecond = now.wMilliseconds};
+    return {.Year = now.wYear,
+            .Month = now.wMonth,
+            .Day = now.wDay,
+            .Hour = now.wHour,
+            .Minute = now.wMinute,
+            .Second = now.wSecond,
+            .Millisecond = now.wMilliseconds};
 }
 
 std::wstring TWin32Clock::DateTimeText() const {

@@ -5,7 +5,7 @@
 
 class TWin32Clock : public TClock {
   public:
-    [[nodiscard]] TTimeOfDay TimeOfDay() const override;
+    [[nodiscard]] TLocalTime LocalTime() const override;
     [[nodiscard]] std::wstring DateTimeText() const override;
     void Sleep(std::uint32_t milliseconds) override;
     /// Does nothing right after it has looked for messages. Stops at the message that ends the program, and leaves it to the

@@ -49,6 +49,7 @@ class TNewContent {
         return FExists && WriteWhole(file.Get(), bytes);
     }
 
+    /// Where nothing is.
     [[nodiscard]] bool MoveToTarget() {
         FExists = !MoveFileExW(FPath.c_str(), FTarget.c_str(), MOVEFILE_WRITE_THROUGH);
         return !FExists;
@@ -182,6 +183,23 @@ bool TWin32Files::Replace(const std::wstring& path, const std::vector<std::uint8
     // Another file in its place would be one without the other names and, under Wine, with other rights.
     const bool canBeAnother = CanMoveAway(target) && Rights(target) == Rights(content.Path());
     return (canBeAnother && content.ReplaceTarget()) || WriteInPlace(target, bytes);
+}
+
+bool TWin32Files::CreateNew(const std::wstring& path, const std::vector<std::uint8_t>& bytes) {
+    if (GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES) return false;
+    TNewContent content(path);
+    return content.Fill(bytes, FILE_ATTRIBUTE_NORMAL) && content.MoveToTarget();
+}
+
+bool TWin32Files::Delete(const std::wstring& path) { return DeleteFileW(path.c_str()); }
+
+bool TWin32Files::CreateFolder(const std::wstring& path) {
+    for (std::size_t end = 0; end != std::wstring::npos;) {
+        end = path.find(L'\\', end + 1);
+        CreateDirectoryW(path.substr(0, end).c_str(), nullptr);  // fails where it is there already
+    }
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && IsFolder(attributes);
 }
 
 std::vector<std::wstring> TWin32Files::List(const std::wstring& folder, const std::wstring& pattern) const {

@@ -13,6 +13,9 @@ class TWin32Files : public TFiles {
                                                                     std::size_t count) const override;
     [[nodiscard]] bool Append(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override;
     [[nodiscard]] bool Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override;
+    [[nodiscard]] bool CreateNew(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override;
+    [[nodiscard]] bool Delete(const std::wstring& path) override;
+    [[nodiscard]] bool CreateFolder(const std::wstring& path) override;
     [[nodiscard]] std::vector<std::wstring> List(const std::wstring& folder,
                                                  const std::wstring& pattern) const override;
     [[nodiscard]] std::wstring ProfileString(const std::wstring& path, const std::wstring& section,

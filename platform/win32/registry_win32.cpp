@@ -1,7 +1,6 @@
 #include "platform/win32/registry_win32.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 #include "base/win32/handle.h"
@@ -11,8 +10,9 @@ namespace {
 
 /// A value larger than that is none of ours and is shown as one of unknown type.
 constexpr DWORD kLargestValue = 16 * 1024 * 1024;
-/// The longest name of a key, in characters.
+/// The longest names of a key and of a value, in characters.
 constexpr DWORD kLongestKeyName = 255;
+constexpr DWORD kLongestValueName = 16383;
 
 HKEY RootOf(TRootKey root) {
     switch (root) {
@@ -24,6 +24,10 @@ HKEY RootOf(TRootKey root) {
             return HKEY_LOCAL_MACHINE;
         case TRootKey::Users:
             return HKEY_USERS;
+        case TRootKey::CurrentConfig:
+            return HKEY_CURRENT_CONFIG;
+        case TRootKey::DynData:
+            return HKEY_DYN_DATA;
     }
     return nullptr;
 }
@@ -48,6 +52,19 @@ std::vector<std::wstring> SubKeysOf(HKEY key) {
         if (RegEnumKeyExW(key, index, name, &length, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS)
             break;
         names.emplace_back(name, length);
+    }
+    return names;
+}
+
+std::vector<std::wstring> ValueNamesOf(HKEY key) {
+    std::vector<std::wstring> names;
+    std::wstring name(kLongestValueName + 1, L'\0');
+    for (DWORD index = 0;; ++index) {
+        DWORD length = kLongestValueName + 1;
+        if (RegEnumValueW(key, index, name.data(), &length, nullptr, nullptr, nullptr, nullptr) !=
+            ERROR_SUCCESS)
+            break;
+        names.emplace_back(name, 0, length);
     }
     return names;
 }
@@ -79,40 +96,22 @@ bool QueryValue(HKEY key, const std::wstring& name, DWORD largest, DWORD& type, 
     return false;
 }
 
-/// Anybody may have stored text without its NUL, or half a character at its end.
-std::wstring TextOf(const TBytes& bytes) {
-    std::wstring text(bytes.size() / sizeof(wchar_t), L'\0');
-    std::memcpy(text.data(), bytes.data(), text.size() * sizeof(wchar_t));
-    text.resize(std::min(text.find(L'\0'), text.size()));
-    return text;
+/// Opens or creates the key and hands it to `write`, which is false when the registry refuses.
+TWriteStatus WriteInto(const TRegistryPlace& place, REGSAM view, const auto& write) {
+    HKEY handle = nullptr;
+    if (RegCreateKeyExW(RootOf(place.Root), std::wstring(TrimmedKey(place.Key)).c_str(), 0, nullptr,
+                        REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS | view, nullptr, &handle,
+                        nullptr) != ERROR_SUCCESS)
+        return TWriteStatus::KeyUnavailable;
+    const TKeyHandle key(handle);
+    return write(key.Get()) ? TWriteStatus::Done : TWriteStatus::Refused;
 }
 
-TRegistryData Decode(DWORD type, TBytes bytes) {
-    switch (type) {
-        case REG_SZ:
-            return {TRegDataType::String, TextOf(bytes)};
-        case REG_EXPAND_SZ:
-            return {TRegDataType::ExpandString, TextOf(bytes)};
-        case REG_BINARY:
-            return {TRegDataType::Binary, std::move(bytes)};
-        case REG_DWORD:
-            if (std::int32_t number = 0; bytes.size() == sizeof(number)) {
-                std::memcpy(&number, bytes.data(), sizeof(number));
-                return {TRegDataType::Dword, number};
-            }
-            break;
-        default:
-            break;
-    }
-    return {};
-}
-
-/// False when Windows refuses, and when the value is not of the type.
-bool SetValue(HKEY key, const std::wstring& name, const TRegistryData& data) {
-    if (data.Type == TRegDataType::Unknown) return true;
-    const auto value = RawValueOf(data);
-    return value && RegSetValueExW(key, name.c_str(), 0, value->Type, value->Bytes.data(),
-                                   static_cast<DWORD>(value->Bytes.size())) == ERROR_SUCCESS;
+bool SetValue(HKEY key, const std::wstring& name, TRawValue value) {
+    const auto size = static_cast<DWORD>(value.Bytes.size());
+    // Windows takes a NUL in that stands behind a text.
+    value.Bytes.insert(value.Bytes.end(), sizeof(wchar_t), 0xFF);
+    return RegSetValueExW(key, name.c_str(), 0, value.Type, value.Bytes.data(), size) == ERROR_SUCCESS;
 }
 
 /// Windows deletes a key only when it has no subkeys.
@@ -145,7 +144,7 @@ TReadStatus TWin32Registry::Read(const TRegistryPlace& place, TRegistryData& dat
     DWORD type = REG_NONE;
     TBytes bytes;
     if (!QueryValue(key.Get(), place.ValueName, kLargestValue, type, bytes)) return TReadStatus::ValueMissing;
-    data = Decode(type, std::move(bytes));
+    data = DataOf({type, std::move(bytes)});
     return TReadStatus::Found;
 }
 
@@ -161,13 +160,15 @@ TReadStatus TWin32Registry::ReadRaw(const TRegistryPlace& place, TRawValue& valu
 }
 
 TWriteStatus TWin32Registry::Write(const TRegistryPlace& place, const TRegistryData& data) {
-    HKEY handle = nullptr;
-    if (RegCreateKeyExW(RootOf(place.Root), std::wstring(TrimmedKey(place.Key)).c_str(), 0, nullptr,
-                        REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS | FNativeView, nullptr, &handle,
-                        nullptr) != ERROR_SUCCESS)
-        return TWriteStatus::KeyUnavailable;
-    const TKeyHandle key(handle);
-    return SetValue(key.Get(), place.ValueName, data) ? TWriteStatus::Done : TWriteStatus::Refused;
+    return WriteInto(place, FNativeView, [&](HKEY key) {
+        if (data.Type == TRegDataType::Unknown) return true;
+        auto value = RawValueOf(data);
+        return value && SetValue(key, place.ValueName, *std::move(value));
+    });
+}
+
+TWriteStatus TWin32Registry::WriteRaw(const TRegistryPlace& place, const TRawValue& value) {
+    return WriteInto(place, FNativeView, [&](HKEY key) { return SetValue(key, place.ValueName, value); });
 }
 
 TWriteStatus TWin32Registry::DeleteValue(const TRegistryPlace& place) {
@@ -187,4 +188,9 @@ TWriteStatus TWin32Registry::DeleteKey(TRootKey root, const std::wstring& key) {
 std::vector<std::wstring> TWin32Registry::SubKeys(TRootKey root, const std::wstring& key) const {
     const TKeyHandle opened = Open(root, key, FNativeView);
     return opened.IsValid() ? SubKeysOf(opened.Get()) : std::vector<std::wstring>();
+}
+
+std::vector<std::wstring> TWin32Registry::ValueNames(TRootKey root, const std::wstring& key) const {
+    const TKeyHandle opened = Open(root, key, FNativeView, KEY_READ);
+    return opened.IsValid() ? ValueNamesOf(opened.Get()) : std::vector<std::wstring>();
 }

@@ -12,9 +12,11 @@ class TWin32Registry : public TRegistry {
     [[nodiscard]] TReadStatus Read(const TRegistryPlace& place, TRegistryData& data) const override;
     [[nodiscard]] TReadStatus ReadRaw(const TRegistryPlace& place, TRawValue& value) const override;
     [[nodiscard]] TWriteStatus Write(const TRegistryPlace& place, const TRegistryData& data) override;
+    [[nodiscard]] TWriteStatus WriteRaw(const TRegistryPlace& place, const TRawValue& value) override;
     [[nodiscard]] TWriteStatus DeleteValue(const TRegistryPlace& place) override;
     [[nodiscard]] TWriteStatus DeleteKey(TRootKey root, const std::wstring& key) override;
     [[nodiscard]] std::vector<std::wstring> SubKeys(TRootKey root, const std::wstring& key) const override;
+    [[nodiscard]] std::vector<std::wstring> ValueNames(TRootKey root, const std::wstring& key) const override;
 
   private:
     std::uint32_t

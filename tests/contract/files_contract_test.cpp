@@ -29,6 +29,28 @@ TEST_F(TFilesContract, ReplaceCreatesAndOverwritesWhole) {
     EXPECT_THAT(Files().List(Folder(), L"*"), ElementsAre(L"File \u03C0.dat"));
 }
 
+TEST_F(TFilesContract, ANewFileTakesTheNameOfNothingElse) {
+    EXPECT_FALSE(Files().CreateNew(Path(L"sub\\deeper\\a.reg"), {1}));
+    for (const wchar_t* folder : {L"sub\\deeper", L"sub\\deeper", L"SUB", L"sub\\other"})
+        EXPECT_TRUE(Files().CreateFolder(Path(folder))) << folder;
+    for (const TBytes& bytes : {TBytes{1, 2}, TBytes{}, TBytes{3}}) {
+        const bool isNew = Files().CreateNew(Path(L"sub\\deeper\\a.reg"), bytes);
+        EXPECT_EQ(isNew, bytes.size() == 2);
+        EXPECT_FALSE(Files().CreateNew(Path(L"sub\\deeper"), bytes));
+        EXPECT_EQ(Files().Read(Path(L"sub\\deeper\\A.reg")), (TBytes{1, 2}));
+    }
+    EXPECT_FALSE(Files().CreateFolder(Path(L"sub\\deeper\\a.reg")));
+    EXPECT_FALSE(Files().CreateFolder(Path(L"sub\\deeper\\a.reg\\below")));
+    EXPECT_THAT(Files().List(Path(L"sub"), L"*"), IsEmpty());
+    EXPECT_THAT(Files().List(Path(L"sub\\deeper"), L"*"), ElementsAre(L"a.reg"));
+
+    EXPECT_TRUE(Files().Delete(Path(L"sub\\deeper\\A.REG")));
+    for (const std::wstring& path : {Path(L"sub\\deeper\\a.reg"), Path(L"sub"), std::wstring()}) {
+        EXPECT_FALSE(Files().Delete(path)) << path;
+        EXPECT_EQ(Files().CreateFolder(path), !path.empty()) << path;
+    }
+}
+
 TEST_F(TFilesContract, AppendContinuesWhatCanBeReadInParts) {
     EXPECT_EQ(Files().Size(Path(L"log")), std::nullopt);
     for (const char* part : {"", "one ", "two"})
@@ -55,6 +77,7 @@ TEST_F(TFilesContract, WhatCannotBeDoneLeavesNothingBehind) {
     Put(L"sub\\fixed.txt", "x");
     MakeReadOnly(Path(L"sub\\fixed.txt"));
     EXPECT_FALSE(Files().Replace(Path(L"sub\\fixed.txt"), {1}));
+    EXPECT_FALSE(Files().Delete(Path(L"sub\\fixed.txt")));
     EXPECT_EQ(Files().Read(Path(L"sub\\fixed.txt")), TBytes{'x'});
     for (const std::wstring& path : {Path(L"missing"), Path(L"none\\file"), Path(L"sub"), std::wstring()}) {
         EXPECT_FALSE(Files().Exists(path)) << path;

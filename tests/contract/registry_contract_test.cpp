@@ -4,6 +4,7 @@
 
 namespace {
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
@@ -63,6 +64,62 @@ TEST_F(TRegistryContract, EveryTypeRoundTrips) {
     }
     Put(L"", L"v", {TRegDataType::String, std::wstring(L"front\0back", 10)});
     EXPECT_EQ(Get(Place(L"", L"v")), Text(L"front")) << "text ends at its first NUL";
+}
+
+TEST_F(TRegistryContract, AnyBytesOfAnyTypeAreStored) {
+    using enum TRegDataType;
+    const struct {
+        const char* What;
+        TRawValue Raw;
+        TRegistryData Read;
+    } cases[] = {
+        {"text without NUL", {1, {'a', 0, 'b', 0}}, {String, L"ab"}},
+        {"text with half a character", {1, {'a', 0, 'b', 0, 'c'}}, {String, L"ab"}},
+        {"text with half a NUL", {1, {'a', 0, 'b', 0, 0}}, {String, L"ab"}},
+        {"text of one byte", {1, {'a'}}, {String, L""}},
+        {"text of no bytes", {1, {}}, {String, L""}},
+        {"text that goes on after NUL", {2, {'a', 0, 0, 0, 'b', 0}}, {ExpandString, L"a"}},
+        {"a surrogate pair", {1, {0x3D, 0xD8, 0, 0xDE, 0, 0}}, {String, L"\U0001F600"}},
+        {"surrogates in the wrong order", {1, {0, 0xDE, 0x3D, 0xD8}}, {String, L"\xDE00\xD83D"}},
+        {"short number", {4, {1, 0}}, {}},
+        {"long number", {4, {1, 0, 0, 0, 0, 0, 0, 0}}, {}},
+        {"number without bytes", {4, {}}, {}},
+        {"big-endian number", {5, {0, 0, 0, 1}}, {}},
+        {"number of 64 bits", {11, {1, 0, 0, 0, 0, 0, 0, 0}}, {}},
+        {"several texts", {7, {'a', 0, 0, 0, 0, 0}}, {}},
+        {"several texts without NUL", {7, {'a', 0}}, {}},
+        {"no type", {0, {'a', 0}}, {}},
+        {"no type and no bytes", {}, {}},
+        {"a type of somebody's own", {0x12345, {1, 2, 3}}, {}},
+        {"huge text", {1, TBytes(2'000'002, 'x')}, {String, std::wstring(1'000'001, L'\x7878')}},
+        {"huge bytes", {3, TBytes(3'000'000, 7)}, {Binary, TBytes(3'000'000, 7)}},
+    };
+    const TRegistryPlace place = Place(L"\\New\\Key", L"v");
+    for (const auto& each : cases) {
+        ASSERT_EQ(Registry().WriteRaw(place, each.Raw), TWriteStatus::Done) << each.What;
+        TRegistryData data{Binary, 1};
+        ASSERT_EQ(Registry().Read(place, data), TReadStatus::Found) << each.What;
+        EXPECT_TRUE(data == each.Read) << each.What;
+        TRawValue raw{7, {1}};
+        ASSERT_EQ(Registry().ReadRaw(place, raw), TReadStatus::Found) << each.What;
+        EXPECT_TRUE(raw == each.Raw) << each.What;
+        EXPECT_EQ(Registry().Check(place, TRegistryView::Native), TReadStatus::Found);
+    }
+}
+
+TEST_F(TRegistryContract, ValuesAreListedAsTheyAreSpelt) {
+    const auto names = [&](const wchar_t* key) {
+        return Registry().ValueNames(kUserKey.Root, kUserKey.Path + std::wstring(key));
+    };
+    const std::wstring longest(16'383, L'x');
+    Put(L"\\Key\\Sub", L"below", Number(1));
+    EXPECT_THAT(names(L"\\Key"), IsEmpty());
+    for (const wchar_t* name : {L"", L"b", L"Name \u03C0", longest.c_str()}) Put(L"\\Key", name, Number(1));
+    EXPECT_THAT(names(L"\\KEY\\"), UnorderedElementsAre(L"", L"b", L"Name \u03C0", longest));
+    EXPECT_EQ(Registry().DeleteValue(Place(L"\\Key", L"")), TWriteStatus::Done);
+    EXPECT_THAT(names(L"\\Key"), UnorderedElementsAre(L"b", L"Name \u03C0", longest));
+    EXPECT_THAT(names(L"\\None"), IsEmpty());
+    EXPECT_THAT(Keys(), ElementsAre(L"Key")) << "listing creates nothing";
 }
 
 TEST_F(TRegistryContract, WhatIsMissingIsToldApartAndLeavesTheOutput) {

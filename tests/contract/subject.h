@@ -6,7 +6,7 @@
 #include "platform/system.h"
 
 /// A key for the tests alone. It does not exist when a test begins, below any of the roots: HKEY_CLASSES_ROOT
-/// itself, and the key "Software" of the user's, the computer's and the default user's.
+/// itself, and the key "Software" of the others.
 struct TContractKey {
     TRootKey Root;
     const wchar_t* Path;
@@ -16,6 +16,7 @@ inline constexpr TContractKey kContractKeys[] = {
     {TRootKey::LocalMachine, L"\\Software\\Vandrel-Contract-Test"},
     {TRootKey::ClassesRoot, L"\\Vandrel-Contract-Test"},
     {TRootKey::Users, L"\\.DEFAULT\\Software\\Vandrel-Contract-Test"},
+    {TRootKey::CurrentConfig, L"\\Software\\Vandrel-Contract-Test"},
 };
 inline constexpr TContractKey kUserKey = kContractKeys[0];
 

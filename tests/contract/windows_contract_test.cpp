@@ -69,7 +69,8 @@ TEST_F(TWindowsContract, NamesTheApplicationDataFolders) {
 TEST_F(TWindowsContract, TimePassesInSleepAndIsWrittenWithTheDate) {
     constexpr int kDay = 24 * 60 * 60 * 1000;
     const auto now = [&] {
-        const TTimeOfDay time = System().Clock.TimeOfDay();
+        const TLocalTime time = System().Clock.LocalTime();
+        EXPECT_TRUE(time.Year > 2009 && time.Month > 0 && time.Month < 13 && time.Day > 0 && time.Day < 32);
         EXPECT_TRUE(time.Hour < 24 && time.Minute < 60 && time.Second < 60 && time.Millisecond < 1000);
         return ((time.Hour * 60 + time.Minute) * 60 + time.Second) * 1000 + time.Millisecond;
     };

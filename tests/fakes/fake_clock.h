@@ -11,8 +11,14 @@ class TFakeClock : public TClock {
     std::function<void()> OnProcessMessages = [] {};  ///< the messages that ProcessMessages handles
     std::function<void()> OnDateTimeText = [] {};
 
-    [[nodiscard]] TTimeOfDay TimeOfDay() const override {
-        return {.Second = static_cast<int>(FNow / 1000), .Millisecond = static_cast<int>(FNow % 1000)};
+    [[nodiscard]] TLocalTime LocalTime() const override {
+        return {.Year = 2010,
+                .Month = 2,
+                .Day = 1,
+                .Hour = 3,
+                .Minute = 4,
+                .Second = static_cast<int>(FNow / 1000),
+                .Millisecond = static_cast<int>(FNow % 1000)};
     }
     [[nodiscard]] std::wstring DateTimeText() const override {
         OnDateTimeText();

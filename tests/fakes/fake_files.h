@@ -31,7 +31,7 @@ class TFakeFiles : public TFiles {
 
     /// Paths given to Replace, with or without success.
     [[nodiscard]] const std::vector<std::wstring>& Replaced() const { return FReplaced; }
-    /// The n-th Replace or Append from now fails; 1 is the next one.
+    /// The n-th Replace, Append or CreateNew from now fails; 1 is the next one.
     void FailReplace(int n) { FReplacesToFailure = n; }
     /// The file is there but cannot be read.
     void Lock(const std::wstring& path) { FLocked.push_back(path); }
@@ -66,6 +66,20 @@ class TFakeFiles : public TFiles {
     [[nodiscard]] bool Replace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override {
         FReplaced.push_back(path);
         return Write(path, bytes);
+    }
+    [[nodiscard]] bool CreateNew(const std::wstring& path, const std::vector<std::uint8_t>& bytes) override {
+        return !Exists(path) && Write(path, bytes);
+    }
+    [[nodiscard]] bool Delete(const std::wstring& path) override {
+        if (!Exists(path) || IsAmong(FLocked, path) || IsAmong(FReadOnly, path)) return false;
+        Remove(path);
+        return true;
+    }
+    [[nodiscard]] bool CreateFolder(const std::wstring& path) override {
+        for (std::wstring above = path; above.find(L'\\') != std::wstring::npos; above = FolderOf(above))
+            if (Exists(above)) return false;
+        if (!path.empty()) PutFolder(path);
+        return !path.empty();
     }
     [[nodiscard]] std::vector<std::wstring> List(const std::wstring& folder,
                                                  const std::wstring& pattern) const override {

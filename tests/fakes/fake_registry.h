@@ -28,7 +28,7 @@ class TFakeRegistry : public TRegistry {
   public:
     TFakeRegistry() {
         using enum TRootKey;
-        for (const TRootKey root : {ClassesRoot, CurrentUser, LocalMachine, Users})
+        for (const TRootKey root : {ClassesRoot, CurrentUser, LocalMachine, Users, CurrentConfig})
             FKeys.push_back({Path(root, {}), {}});
     }
 
@@ -36,8 +36,7 @@ class TFakeRegistry : public TRegistry {
     void Put(const TRegistryPlace& place, const TRegistryData& data) {
         Put(place, data, RawValueOf(data).value_or(TRawValue{}));
     }
-    /// Puts a value of a type there that the program does not know.
-    void PutRaw(const TRegistryPlace& place, const TRawValue& raw) { Put(place, {}, raw); }
+    void PutRaw(const TRegistryPlace& place, const TRawValue& raw) { Put(place, DataOf(raw), raw); }
     void PutKey(TRootKey root, std::wstring_view key) { Create(Path(root, key)); }
     /// The stored value, whatever the faults; null when there is none.
     [[nodiscard]] const TRegistryData* Find(const TRegistryPlace& place) const {
@@ -59,7 +58,7 @@ class TFakeRegistry : public TRegistry {
     }
     [[nodiscard]] bool HasKey(TRootKey root, std::wstring_view key) const { return FindKey(Path(root, key)); }
 
-    /// The key and everything below it cannot be opened. An empty key is the whole root.
+    /// The key and everything below it can be opened for reading only. An empty key is the whole root.
     void DenyAccess(TRootKey root, std::wstring_view key) { FDenied.push_back(Path(root, key)); }
     /// The n-th change from now that reaches its key is refused; 1 is the next one.
     void FailChange(int n) { FChangesToFailure = n; }
@@ -86,16 +85,11 @@ class TFakeRegistry : public TRegistry {
         return TReadStatus::Found;
     }
     [[nodiscard]] TWriteStatus Write(const TRegistryPlace& place, const TRegistryData& data) override {
-        if (IsDenied(Path(place.Root, place.Key))) return TWriteStatus::KeyUnavailable;
-        PutKey(place.Root, place.Key);
-        if (TakeFault() || (data.Type != TRegDataType::Unknown && !RawValueOf(data)))
-            return TWriteStatus::Refused;
-        TRegistryData stored = data;
-        // Text ends at its first NUL.
-        if (auto* text = std::get_if<std::wstring>(&stored.Value))
-            text->resize(std::min(text->find(L'\0'), text->size()));
-        if (const auto raw = RawValueOf(data)) Put(place, stored, *raw);
-        return TWriteStatus::Done;
+        const auto raw = RawValueOf(data);
+        return Write(place, raw, raw || data.Type == TRegDataType::Unknown);
+    }
+    [[nodiscard]] TWriteStatus WriteRaw(const TRegistryPlace& place, const TRawValue& value) override {
+        return Write(place, value, true);
     }
     [[nodiscard]] TWriteStatus DeleteValue(const TRegistryPlace& place) override {
         const std::wstring path = Path(place.Root, place.Key);
@@ -122,8 +116,23 @@ class TFakeRegistry : public TRegistry {
                     names.push_back(each.Path.substr(path.size()));
         return names;
     }
+    [[nodiscard]] std::vector<std::wstring> ValueNames(TRootKey root,
+                                                       const std::wstring& key) const override {
+        std::vector<std::wstring> names;
+        if (const TKey* found = FindKey(Path(root, key)))
+            for (const TValue& value : found->Values) names.push_back(value.Name);
+        return names;
+    }
 
   private:
+    TWriteStatus Write(const TRegistryPlace& place, const std::optional<TRawValue>& raw, bool fits) {
+        if (place.Root == TRootKey::DynData || IsDenied(Path(place.Root, place.Key)))
+            return TWriteStatus::KeyUnavailable;
+        PutKey(place.Root, place.Key);
+        if (TakeFault() || !fits) return TWriteStatus::Refused;
+        if (raw) PutRaw(place, *raw);
+        return TWriteStatus::Done;
+    }
     void Put(const TRegistryPlace& place, const TRegistryData& data, const TRawValue& raw) {
         TKey& key = Create(Path(place.Root, place.Key));
         auto value = FindValue(key, place.ValueName);
