@@ -25,6 +25,11 @@ class TDialogs {
     [[nodiscard]] virtual std::optional<std::wstring> OpenFile(const TForm& asker,
                                                                const std::wstring& filter) = 0;
 
+    /// The system's dialog that asks where to save a file, `suggestedName` entered at first; it asks before an existing
+    /// one is chosen. A name without extension gets that of the filter's first pattern. Nothing when cancelled.
+    [[nodiscard]] virtual std::optional<std::wstring> SaveFile(const TForm& asker, const std::wstring& filter,
+                                                               const std::wstring& suggestedName) = 0;
+
     /// The system's colour dialog, `initial` chosen at first. Nothing when cancelled.
     [[nodiscard]] virtual std::optional<TColor> PickColor(const TForm& asker, TColor initial) = 0;
 };

@@ -4,7 +4,7 @@
 
 #include "platform/system.h"
 
-/// Answers a chooser with what it holds, and every question with No.
+/// Answers a chooser with what it holds, and every question with No. Nothing is to be saved.
 class TScratchDialogs : public TDialogs {
   public:
     std::optional<TColor> Color;       ///< the answer of the colour dialog; nothing = cancelled
@@ -17,6 +17,10 @@ class TScratchDialogs : public TDialogs {
                            TMessageIcon icon) override;
     [[nodiscard]] std::optional<std::wstring> OpenFile(const TForm& asker,
                                                        const std::wstring& filter) override;
+    [[nodiscard]] std::optional<std::wstring> SaveFile(const TForm& /*asker*/, const std::wstring& /*filter*/,
+                                                       const std::wstring& /*suggestedName*/) override {
+        return std::nullopt;
+    }
     [[nodiscard]] std::optional<TColor> PickColor(const TForm& asker, TColor initial) override;
 };
 

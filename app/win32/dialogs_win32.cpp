@@ -36,6 +36,38 @@ class TTurn {
     HWND FOwner = nullptr;
 };
 
+/// That of the first pattern of a filter, without its dot; empty when the pattern names none.
+std::wstring FirstExtension(const std::wstring& filter) {
+    const std::size_t begin = filter.find(L"|*.");
+    if (begin == std::wstring::npos) return {};
+    const std::wstring pattern = filter.substr(begin + 3);
+    const std::wstring extension = pattern.substr(0, pattern.find_first_of(L";|"));
+    return extension.find_first_of(L"*?") == std::wstring::npos ? extension : std::wstring();
+}
+
+/// Shows one of the two dialogs for a file; `extension` completes a name without one.
+std::optional<std::wstring> AskFile(const TTurn& turn, const std::wstring& filter,
+                                    const std::wstring& suggestedName, const std::wstring& extension,
+                                    DWORD flags, BOOL(WINAPI* show)(OPENFILENAMEW*)) {
+    if (turn.Owner() == nullptr) return std::nullopt;
+    // Windows wants NUL between the fields, and two at the end.
+    std::wstring fields = filter + L'|';
+    std::ranges::replace(fields, L'|', L'\0');
+    std::wstring path = suggestedName.substr(0, kLongestPath - 1);
+    path.resize(kLongestPath);
+    OPENFILENAMEW dialog{};
+    dialog.lStructSize = sizeof(dialog);
+    dialog.hwndOwner = turn.Owner();
+    dialog.lpstrFilter = fields.c_str();
+    dialog.lpstrDefExt = extension.empty() ? nullptr : extension.c_str();
+    dialog.lpstrFile = path.data();
+    dialog.nMaxFile = kLongestPath;
+    dialog.Flags = OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_NOCHANGEDIR | flags;
+    LoadForCommonDialogs();
+    if (!show(&dialog)) return std::nullopt;
+    return std::wstring(path.c_str());
+}
+
 }  // namespace
 
 TWin32Dialogs::TWin32Dialogs() {
@@ -55,22 +87,13 @@ TMessageAnswer TWin32Dialogs::Message(const TForm& asker, const std::wstring& te
 }
 
 std::optional<std::wstring> TWin32Dialogs::OpenFile(const TForm& asker, const std::wstring& filter) {
-    const TTurn turn(FAskers, asker);
-    if (turn.Owner() == nullptr) return std::nullopt;
-    // Windows wants NUL between the fields, and two at the end.
-    std::wstring fields = filter + L'|';
-    std::ranges::replace(fields, L'|', L'\0');
-    std::wstring path(kLongestPath, L'\0');
-    OPENFILENAMEW dialog{};
-    dialog.lStructSize = sizeof(dialog);
-    dialog.hwndOwner = turn.Owner();
-    dialog.lpstrFilter = fields.c_str();
-    dialog.lpstrFile = path.data();
-    dialog.nMaxFile = kLongestPath;
-    dialog.Flags = OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST | OFN_NOCHANGEDIR;
-    LoadForCommonDialogs();
-    if (!GetOpenFileNameW(&dialog)) return std::nullopt;
-    return std::wstring(path.c_str());
+    return AskFile(TTurn(FAskers, asker), filter, {}, {}, OFN_FILEMUSTEXIST, GetOpenFileNameW);
+}
+
+std::optional<std::wstring> TWin32Dialogs::SaveFile(const TForm& asker, const std::wstring& filter,
+                                                    const std::wstring& suggestedName) {
+    return AskFile(TTurn(FAskers, asker), filter, suggestedName, FirstExtension(filter), OFN_OVERWRITEPROMPT,
+                   GetSaveFileNameW);
 }
 
 std::optional<TColor> TWin32Dialogs::PickColor(const TForm& asker, TColor initial) {

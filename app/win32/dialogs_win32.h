@@ -16,6 +16,8 @@ class TWin32Dialogs : public TDialogs {
                            TMessageIcon icon) override;
     [[nodiscard]] std::optional<std::wstring> OpenFile(const TForm& asker,
                                                        const std::wstring& filter) override;
+    [[nodiscard]] std::optional<std::wstring> SaveFile(const TForm& asker, const std::wstring& filter,
+                                                       const std::wstring& suggestedName) override;
     [[nodiscard]] std::optional<TColor> PickColor(const TForm& asker, TColor initial) override;
 
   private:

@@ -29,6 +29,7 @@ class TFakeDialogs : public TDialogs {
     /// The name of the form that asked, for every dialog of whatever kind.
     [[nodiscard]] const std::vector<std::wstring>& Askers() const { return FAskers; }
     [[nodiscard]] const std::vector<std::wstring>& Filters() const { return FFilters; }
+    [[nodiscard]] const std::vector<std::wstring>& SuggestedNames() const { return FSuggestedNames; }
     [[nodiscard]] const std::vector<TColor>& InitialColors() const { return FInitialColors; }
 
     TMessageAnswer Message(const TForm& asker, const std::wstring& text, TMessageButtons buttons,
@@ -42,6 +43,11 @@ class TFakeDialogs : public TDialogs {
         FAskers.push_back(asker.Name());
         FFilters.push_back(filter);
         return Take(FFiles, {});
+    }
+    [[nodiscard]] std::optional<std::wstring> SaveFile(const TForm& asker, const std::wstring& filter,
+                                                       const std::wstring& suggestedName) override {
+        FSuggestedNames.push_back(suggestedName);
+        return OpenFile(asker, filter);
     }
     [[nodiscard]] std::optional<TColor> PickColor(const TForm& asker, TColor initial) override {
         FAskers.push_back(asker.Name());
@@ -64,5 +70,6 @@ class TFakeDialogs : public TDialogs {
     std::vector<TQuestion> FQuestions;
     std::vector<std::wstring> FAskers;
     std::vector<std::wstring> FFilters;
+    std::vector<std::wstring> FSuggestedNames;
     std::vector<TColor> FInitialColors;
 };

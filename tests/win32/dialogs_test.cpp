@@ -1,4 +1,7 @@
 // Message boxes and common dialogs over a form, while another window is the active one.
+#include <filesystem>
+#include <fstream>
+
 #include "app/win32/dialogs_win32.h"
 #include "tests/win32/peer_bench.h"
 
@@ -52,6 +55,7 @@ class TDialogsWin32 : public TPeerBench {
                TMessageAnswer::Yes;
     }
     bool AskFile() { return Dialogs.OpenFile(Form, L"All|*.*").has_value(); }
+    bool AskSave() { return Dialogs.SaveFile(Form, L"Texts|*.txt", L"name").has_value(); }
     bool AskColor() { return Dialogs.PickColor(Form, 0).has_value(); }
 
     TForm Other{L"Other", L"TPeerBenchOther"};
@@ -60,7 +64,7 @@ class TDialogsWin32 : public TPeerBench {
 
 TEST_F(TDialogsWin32, BelongToTheFormThatAsks) {
     const std::function<bool()> questions[] = {[&] { return AskMessage(); }, [&] { return AskFile(); },
-                                               [&] { return AskColor(); }};
+                                               [&] { return AskSave(); }, [&] { return AskColor(); }};
     int shown = 0;
     for (const auto& question : questions) {
         SetActiveWindow(HandleOf(Other));
@@ -68,7 +72,7 @@ TEST_F(TDialogsWin32, BelongToTheFormThatAsks) {
             EXPECT_EQ(GetWindow(dialog, GW_OWNER), HandleOf(Form));
             EXPECT_FALSE(IsWindowEnabled(HandleOf(Form)));
             EXPECT_TRUE(IsWindowEnabled(HandleOf(Other)));
-            EXPECT_FALSE(AskMessage() || AskFile() || AskColor());
+            EXPECT_FALSE(AskMessage() || AskFile() || AskSave() || AskColor());
             EXPECT_EQ(ShownDialogs(), std::vector{dialog}) << "one at a time";
             if (++shown > 1) return;
             wchar_t title[20]{};
@@ -78,7 +82,28 @@ TEST_F(TDialogsWin32, BelongToTheFormThatAsks) {
         }));
         EXPECT_TRUE(IsWindowEnabled(HandleOf(Form)));
     }
-    EXPECT_EQ(shown, 3);
+    EXPECT_EQ(shown, 4);
+}
+
+TEST_F(TDialogsWin32, ANameToSaveIsCompletedAndMayBeReplacedOnRequest) {
+    const auto folder = std::filesystem::temp_directory_path() / "save-test";
+    std::filesystem::create_directory(folder);
+    const auto save = [&](const wchar_t* name, const wchar_t* filter) {
+        std::optional<std::wstring> path;
+        Ask(
+            [&] {
+                path = Dialogs.SaveFile(Form, filter, (folder / name).wstring());
+                return true;
+            },
+            [](HWND dialog) { SendMessageW(dialog, WM_COMMAND, IDOK, 0); });
+        return path;
+    };
+    EXPECT_EQ(save(L"name", L"Texts|*.txt;*.log|All|*.*"), (folder / L"name.txt").wstring());
+    EXPECT_EQ(save(L"name.ini", L"Texts|*.txt"), (folder / L"name.ini").wstring());
+    EXPECT_EQ(save(L"name", L"All|*.*"), (folder / L"name").wstring());
+    std::ofstream(folder / L"name.txt") << "x";
+    EXPECT_EQ(save(L"name", L"Texts|*.txt"), std::nullopt) << "the question was answered with No";
+    std::filesystem::remove_all(folder);
 }
 
 TEST_F(TDialogsWin32, AClosedFormAsksNothing) {
@@ -86,7 +111,7 @@ TEST_F(TDialogsWin32, AClosedFormAsksNothing) {
         Ask([&] { return AskMessage(); }, [&](HWND) { SendMessageW(HandleOf(Form), WM_CLOSE, 0, 0); }));
     MSG message;
     EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
-    EXPECT_FALSE(AskMessage() || AskFile() || AskColor());
+    EXPECT_FALSE(AskMessage() || AskFile() || AskSave() || AskColor());
 }
 
 }  // namespace
