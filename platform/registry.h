@@ -14,6 +14,8 @@ enum class TRootKey : std::uint32_t {
     CurrentUser = 0x80000001,
     LocalMachine = 0x80000002,
     Users = 0x80000003,  ///< below it `.DEFAULT`, the user of the logon screen
+    CurrentConfig = 0x80000005,
+    DynData = 0x80000006,
 };
 
 /// Type of a stored value, in the program's own numbering (not the REG_… codes).

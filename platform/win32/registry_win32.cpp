@@ -24,6 +24,10 @@ HKEY RootOf(TRootKey root) {
             return HKEY_LOCAL_MACHINE;
         case TRootKey::Users:
             return HKEY_USERS;
+        case TRootKey::CurrentConfig:
+            return HKEY_CURRENT_CONFIG;
+        case TRootKey::DynData:
+            return HKEY_DYN_DATA;
     }
     return nullptr;
 }
