@@ -5,6 +5,7 @@
 #include <span>
 
 #include "engine/change_set.h"
+#include "platform/windows_info.h"
 
 /// Why a file is refused.
 enum class TRegFileFault : std::uint8_t {
@@ -27,11 +28,15 @@ struct TRegFileError {
 
 /// All operations of the file in its order, or why it is refused as a whole.
 ///
-/// Read are version 5 and version 4 ("REGEDIT4"), in UTF-16 with a byte-order mark (either order), in UTF-8 and else in
-/// the 8-bit code page of Windows.
+/// Read are version 5 and version 4 ("REGEDIT4"), in UTF-16 or UTF-8 with a byte-order mark, and without one in the 8-bit
+/// code page of Windows, as registry editors take them. What they accept comes to what they make of it: a section creates
+/// its key, the values of a deleted key are nothing, text in bytes gets its end, and in a file of 8 bits its bytes are
+/// text of 8 bits. What they pass over in silence though it was meant to be a change, is refused.
 [[nodiscard]] std::variant<TChangeSet, TRegFileError> ReadRegFile(std::span<const std::uint8_t> bytes,
                                                                   const TWindowsInfo& windows);
 
-/// A file of version 5 in UTF-16 with a byte-order mark. Reading it gives the same set again, without the operations that
-/// are not carried out.
+/// A file of version 5 in UTF-16 with a byte-order mark. Reading it gives the same set again, to the byte, but for this:
+/// - operations that are not carried out are left out, and those that nothing could carry out: of a name with NUL, a start
+///   type or a block that there is none of, an effect or a Left of another kind than the target;
+/// - one that creates a key and writes nothing has the key as its target, and names in a key have one backslash between.
 [[nodiscard]] TBytes WriteRegFile(const TChangeSet& changes);
