@@ -31,6 +31,32 @@ class TOpenService {
     TServiceHandle FService;
 };
 
+bool IsPending(TServiceState state) {
+    using enum TServiceState;
+    return state == StartPending || state == StopPending || state == ContinuePending || state == PausePending;
+}
+
+/// Waits while the service is on its way to another state, but not for ever. Nothing when it cannot be asked.
+std::optional<TServiceState> AwaitRest(TSystem& system, TServiceHandle service) {
+    constexpr std::uint32_t kWait = 500;
+    constexpr int kRounds = 120;
+    std::optional<TServiceState> rest;
+    auto state = TServiceState::Stopped;
+    for (int round = 0; round < kRounds && system.Services.QueryState(service, state); ++round) {
+        rest = state;
+        if (!IsPending(state)) break;
+        system.Clock.Sleep(kWait);
+        system.Clock.ProcessMessages();
+    }
+    return rest;
+}
+
+void EnsureStartType(TServiceManager& services, TServiceHandle service, TServiceStartType wanted) {
+    auto type = TServiceStartType::Manual;
+    if (services.QueryStartType(service, type) && type != wanted)
+        (void)services.ChangeStartType(service, wanted);
+}
+
 }  // namespace
 
 std::optional<TServiceStatus> ReadServiceStatus(TSystem& system, const std::wstring& serviceName) {
@@ -76,6 +102,34 @@ bool StopServiceByName(TSystem& system, const std::wstring& serviceName) try {
         system.Clock.Sleep(kWait);
     }
     return state == TServiceState::Stopped;
+} catch (...) {
+    return false;
+}
+
+bool RestoreService(TSystem& system, const std::wstring& serviceName, const TServiceStatus& wanted) try {
+    constexpr std::uint32_t kStopWait = 1000;  // not every service says at once that it is stopping
+    TServiceManager& services = system.Services;
+    const TOpenService service(services, serviceName, kServiceAllAccess);
+    auto state = AwaitRest(system, service.Handle());
+    if (state && !IsPending(*state) && (*state == TServiceState::Running) != wanted.Runs) {
+        if (!wanted.Runs) {
+            if (services.Control(service.Handle(), TServiceControl::Stop, *state))
+                system.Clock.Sleep(kStopWait);
+        } else if (*state == TServiceState::Paused) {
+            (void)services.Control(service.Handle(), TServiceControl::Continue, *state);
+        } else {
+            // A disabled service cannot be started.
+            auto type = TServiceStartType::Manual;
+            if (services.QueryStartType(service.Handle(), type) && type == TServiceStartType::Disabled)
+                (void)services.ChangeStartType(service.Handle(), type == wanted.StartType
+                                                                     ? TServiceStartType::Manual
+                                                                     : wanted.StartType);
+            (void)services.Start(service.Handle());
+        }
+        state = AwaitRest(system, service.Handle());
+    }
+    EnsureStartType(services, service.Handle(), wanted.StartType);
+    return !(state && IsPending(*state)) && ReadServiceStatus(system, serviceName) == wanted;
 } catch (...) {
     return false;
 }

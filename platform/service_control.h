@@ -32,4 +32,9 @@ bool StartServiceByName(TSystem& system, const std::wstring& serviceName);
 /// stopped, false also when it was stopped already.
 bool StopServiceByName(TSystem& system, const std::wstring& serviceName);
 
+/// Gives the service that start type, of any number, and starts, continues or stops it as far as necessary; what is
+/// right already is left alone. A service that does not come to rest is given up after about a minute; window messages
+/// are handled meanwhile. True when it is at rest and as wanted in the end.
+bool RestoreService(TSystem& system, const std::wstring& serviceName, const TServiceStatus& wanted);
+
 [[nodiscard]] TServiceAnswer QueryServiceRunning(TSystem& system, const std::wstring& serviceName);

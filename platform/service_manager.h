@@ -19,11 +19,11 @@ enum class TServiceState : std::uint32_t {
     Paused = 7,
 };
 
-/// dwStartType of a service, with the documented numbers.
+/// dwStartType of a service, with the documented numbers; drivers have others.
 enum class TServiceStartType : std::uint32_t { Automatic = 2, Manual = 3, Disabled = 4 };
 
 /// dwControl of ControlService, with the documented numbers.
-enum class TServiceControl : std::uint32_t { Stop = 1, Interrogate = 4 };
+enum class TServiceControl : std::uint32_t { Stop = 1, Continue = 3, Interrogate = 4 };
 
 /// Every call may be given TServiceHandle::None and then fails. Nothing throws; outputs are left untouched on
 /// failure.

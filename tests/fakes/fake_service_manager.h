@@ -64,6 +64,8 @@ class TFakeServiceManager : public TServiceManager {
             service->State == TServiceState::Stopped)
             return false;
         if (control == TServiceControl::Stop) Enter(*service, TServiceState::StopPending, service->StopsInto);
+        if (control == TServiceControl::Continue && service->State == TServiceState::Paused)
+            Enter(*service, TServiceState::ContinuePending, TServiceState::Running);
         state = service->State;
         return true;
     }

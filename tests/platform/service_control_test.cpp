@@ -1,5 +1,6 @@
 #include "platform/service_control.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -94,8 +95,67 @@ TEST_F(TServiceControlTest, EveryCallMayFail) {
     }
 }
 
+/// From every state to every other, with nothing done that is not necessary.
+TEST_F(TServiceControlTest, RestoresAnyStartTypeAndState) {
+    const auto changes = [this] {
+        return std::ranges::count_if(std::exchange(Calls, {}), [](const std::string& call) {
+            return call.starts_with("type") || call.starts_with("start") || call.starts_with("control");
+        });
+    };
+    for (unsigned types = 0; types < 25; ++types) {
+        for (const TServiceState state : {Stopped, Running, Paused}) {
+            for (const bool runs : {false, true}) {
+                const TServiceStatus wanted{TServiceStartType{types / 5}, runs};
+                Services.Put(
+                    L"s", {.State = state, .StartType = TServiceStartType{types % 5}, .PendingQueries = 2});
+                EXPECT_TRUE(RestoreService(Fake.System, L"s", wanted));
+                EXPECT_EQ(ReadServiceStatus(Fake.System, L"s"), wanted);
+                const bool isDetour = types == 24 && runs && state == Stopped;  // from disabled to disabled
+                EXPECT_EQ(changes(),
+                          (types / 5 != types % 5) + (runs != (state == Running)) + (isDetour ? 2 : 0))
+                    << types << ' ' << static_cast<int>(state) << runs;
+                EXPECT_TRUE(RestoreService(Fake.System, L"s", wanted));
+                EXPECT_EQ(changes(), 0);
+            }
+        }
+    }
+}
+
+TEST_F(TServiceControlTest, ARestorationEndsWhateverTheServiceDoes) {
+    const TServiceStatus automatic{TServiceStartType::Automatic, true};
+    const TServiceStatus disabled{TServiceStartType::Disabled, false};
+    // On its way already: it is not started or stopped twice.
+    for (const auto& wanted : {automatic, disabled}) {
+        const TServiceState state = wanted.Runs ? StartPending : StopPending;
+        Services.Put(L"s", {.State = state, .Next = wanted.Runs ? Running : Stopped, .QueriesLeft = 3});
+        EXPECT_TRUE(RestoreService(Fake.System, L"s", wanted));
+        EXPECT_THAT(Calls, testing::Not(testing::Contains(testing::AnyOf("start", "control 1"))));
+    }
+    std::uint32_t waited = 0;
+    Fake.Clock.OnSleep = [&](std::uint32_t time) { waited += time; };
+    for (const TServiceState stuck : {StartPending, StopPending, ContinuePending, PausePending})
+        for (const auto& wanted : {automatic, disabled}) {
+            Services.Put(L"s", {.State = stuck});
+            EXPECT_FALSE(RestoreService(Fake.System, L"s", wanted));
+            EXPECT_EQ(Services.Service(L"s").StartType, wanted.StartType);
+            EXPECT_EQ(std::exchange(waited, 0), 60'000u);
+        }
+    for (const auto& service : {TFakeService{.StartsInto = Paused}, {.PendingQueries = 10'000}}) {
+        Services.Put(L"s", service);
+        EXPECT_FALSE(RestoreService(Fake.System, L"s", automatic));
+    }
+    EXPECT_FALSE(RestoreService(Fake.System, L"nobody", disabled));
+    for (const char* failing : {"manager", "open", "type", "start", "query", "config"}) {
+        Services.Failing = failing;
+        Services.Put(L"s", {});
+        EXPECT_FALSE(RestoreService(Fake.System, L"s", automatic)) << failing;
+    }
+}
+
 TEST_F(TServiceControlTest, AFaultWhileWaitingIsAnAnswer) {
     Fake.Clock.OnProcessMessages = [] { throw std::bad_alloc(); };
+    Services.Put(L"s", {.PendingQueries = 1});
+    EXPECT_FALSE(RestoreService(Fake.System, L"s", {TServiceStartType::Automatic, true}));
     EXPECT_FALSE(Start({}));
     EXPECT_FALSE(Stop({.State = Running}));
 }

@@ -88,6 +88,16 @@ TEST_F(TServiceControlWin32, WaitsForASlowServiceWhileMessagesAreHandled) {
     KillTimer(nullptr, timer);
 }
 
+TEST_F(TServiceControlWin32, RestoresWhatItWas) {
+    const TTestService service(300, SERVICE_RUNNING);
+    using enum TServiceStartType;
+    for (const TServiceStatus wanted :
+         {TServiceStatus{Disabled, true}, {Disabled, false}, {Automatic, true}, {Manual, false}}) {
+        EXPECT_TRUE(RestoreService(System(), kName, wanted));
+        EXPECT_EQ(Status(), wanted);
+    }
+}
+
 TEST_F(TServiceControlWin32, OtherStatesAreNoSuccess) {
     for (const DWORD state : {SERVICE_STOPPED, SERVICE_PAUSED}) {
         const TTestService service(0, state);
