@@ -17,3 +17,9 @@ void TControl::SetVisible(bool visible) {
     FVisible = visible;
     UpdatePeer(TControlAspect::Visible);
 }
+
+void TControl::SetMarked(bool marked) {
+    if (marked == FMarked) return;
+    FMarked = marked;
+    UpdatePeer(TControlAspect::Mark);
+}

@@ -62,7 +62,7 @@ class TComponent {
 };
 
 /// What about a control changed, so that its peer updates no more than that.
-enum class TControlAspect { Caption, Enabled, Visible, State, Items, Front, Back };
+enum class TControlAspect { Caption, Enabled, Visible, State, Items, Mark, Front, Back };
 
 /// The native side of a component. It shows the state, and turns a user's action into a state change; it never
 /// knows what the component means.
@@ -87,6 +87,10 @@ class TControl : public TComponent {
     [[nodiscard]] bool Visible() const { return FVisible; }
     void SetVisible(bool visible);
 
+    /// Whether the control stands out, by a dot beside it, as one whose setting is changed but not stored yet.
+    [[nodiscard]] bool Marked() const { return FMarked; }
+    void SetMarked(bool marked);
+
     void BringToFront() { UpdatePeer(TControlAspect::Front); }
     void SendToBack() { UpdatePeer(TControlAspect::Back); }
 
@@ -110,6 +114,7 @@ class TControl : public TComponent {
     std::wstring FCaption;
     bool FEnabled = true;
     bool FVisible = true;
+    bool FMarked = false;
     TControl* FParent = nullptr;
     std::vector<TControl*> FChildren;
     std::unique_ptr<TPeer> FPeer;

@@ -155,3 +155,11 @@ void TForm::Close() {
 void TForm::ShowModal(TForm& dialog) {
     if (Peer() != nullptr) static_cast<TFormPeer*>(Peer())->ShowModal(dialog);
 }
+
+void TForm::Reveal(TControl& control) {
+    for (TControl* around = &control; around != nullptr; around = around->Parent()) {
+        if (around->Kind() == TComponentKind::TabSheet)
+            static_cast<TPageControl*>(around->Parent())->SetActiveSheet(static_cast<TTabSheet&>(*around));
+    }
+    if (Peer() != nullptr) static_cast<TFormPeer*>(Peer())->Reveal(control);
+}

@@ -15,6 +15,8 @@ class TFormPeer : public TPeer {
     virtual void Close() = 0;
     /// See TForm::ShowModal.
     virtual void ShowModal(TForm& dialog) = 0;
+    /// Scrolls the control into sight and gives it the focus.
+    virtual void Reveal(TControl& control) = 0;
 };
 
 class TForm : public TControl {
@@ -51,11 +53,17 @@ class TForm : public TControl {
     /// native window, nor while the form waits for another dialog.
     void ShowModal(TForm& dialog);
 
+    /// Chooses the sheets that the control lies on, scrolls it into sight and gives it the focus; while the form waits
+    /// for a dialog, the control gets it in the end.
+    void Reveal(TControl& control);
+
     /// Size of the client area at 96 dots per inch, of which no user can make it smaller. The main window's leaves
     /// room for the frame on a screen of 800 by 600.
     int ClientWidth = 740;
     int ClientHeight = 504;
     bool CanMaximise = false;  ///< of a dialog; the main window always can
+
+    std::wstring MarkText = L"changed";  ///< what a screen reader says of a marked control
 
     TNotifyEvent OnShow;  ///< runs once, just before the window becomes visible
 

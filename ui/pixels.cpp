@@ -71,6 +71,18 @@ TPixels ScalePixels(const TPixels& source, int width, int height) {
     return scaled;
 }
 
+TPixels DiscPixels(int diameter, TColor color) {
+    constexpr int kFineness = 8;
+    const int size = kFineness * diameter;
+    const TPixel inside = ToChannel(kOpaque, 3) | ToChannel(Channel(color, 0), 2) |
+                          ToChannel(Channel(color, 1), 1) | ToChannel(Channel(color, 2), 0);
+    TPixels fine{size, size, {}};
+    for (int y = 1 - size; y < size; y += 2)
+        for (int x = 1 - size; x < size; x += 2)
+            fine.Pixels.push_back(x * x + y * y < size * size ? inside : 0);
+    return ScalePixels(fine, diameter, diameter);
+}
+
 void BlendPixels(std::span<TPixel> target, std::span<const TPixel> source, unsigned opacity) {
     for (std::size_t i = 0; i < source.size(); ++i) {
         const unsigned behind = kOpaque - Share(Channel(source[i], 3), opacity);

@@ -24,6 +24,9 @@ struct TPixels {
 /// making a picture smaller keeps thin lines. Both sizes are at least one pixel.
 [[nodiscard]] TPixels ScalePixels(const TPixels& source, int width, int height);
 
+/// A disc as wide and high as it may be, with smooth edges.
+[[nodiscard]] TPixels DiscPixels(int diameter, TColor color);
+
 /// Opacity of a picture that is drawn as it is; 0 is invisible.
 inline constexpr unsigned kOpaque = 255;
 

@@ -21,6 +21,7 @@ class TFakeFormPeer : public TFormPeer {
 
     void Close() override {}
     void Update(TControlAspect /*aspect*/) override {}
+    void Reveal(TControl& /*control*/) override {}
     void ShowModal(TForm& dialog) override {
         dialog.Show();
         FUser(dialog);

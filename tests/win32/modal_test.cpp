@@ -112,4 +112,90 @@ TEST_F(TModal, LeavesTheEndOfTheProgramToTheOuterLoop) {
     EXPECT_EQ(message.wParam, 7u);
 }
 
+class TNested : public TModal {
+  protected:
+    TNested() {
+        Inner.ClientWidth = Inner.ClientHeight = 100;
+        Inner.Build(Inner,
+                    Column(Button(L"InnerOk", L"OK"), Button(L"InnerCancel", L"Cancel"), Timer(L"Acts", 10)));
+        Inner.Find<TButton>(L"InnerOk")->Default = true;
+        Inner.Find<TButton>(L"InnerCancel")->Cancel = true;
+        for (const wchar_t* name : {L"InnerOk", L"InnerCancel"})
+            Inner.Find<TButton>(name)->OnClick = [this](TComponent& button) {
+                Note(button);
+                Inner.Close();
+            };
+        Inner.Find(L"Acts")->SetEnabled(true);
+    }
+    /// Opens the dialog and from its check box the inner one; the user acts once there, and `after` it.
+    void OpenBoth(
+        const std::function<void()>& user, const std::function<void()>& after = [] {}) {
+        Inner.Find<TTimer>(L"Acts")->OnTimer = [user](TComponent& timer) {
+            static_cast<TTimer&>(timer).SetEnabled(false);
+            user();
+        };
+        Open([this, after] {
+            SetFocus(BoxWindow());
+            Dialog.ShowModal(Inner);
+            after();
+        });
+    }
+    static bool IsEnding() {
+        MSG message;
+        return PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    }
+
+    TForm Inner{L"Inner", L"TPeerBenchInner"};
+};
+
+TEST_F(TNested, EveryOneWaitsForTheOneOverIt) {
+    OpenBoth(
+        [this] {
+            EXPECT_EQ(GetWindow(HandleOf(Inner), GW_OWNER), HandleOf(Dialog));
+            EXPECT_FALSE(IsWindowEnabled(HandleOf(Form)) || IsWindowEnabled(HandleOf(Dialog)));
+            static_cast<TFormWindow*>(Form.Peer())->ComeForward();
+            EXPECT_EQ(GetForegroundWindow(), HandleOf(Inner));
+            PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 1);
+        },
+        [this] {
+            EXPECT_EQ(HandleOf(Inner), nullptr);
+            EXPECT_EQ(GetFocus(), BoxWindow());
+            EXPECT_TRUE(IsWindowEnabled(HandleOf(Dialog)));
+            EXPECT_FALSE(IsWindowEnabled(HandleOf(Form)));
+            PostMessageW(BoxWindow(), WM_KEYDOWN, VK_ESCAPE, 1);
+        });
+    EXPECT_EQ(Fired, TNames{L"InnerCancel"});
+    EXPECT_TRUE(Dialog.Closed() && IsWindowEnabled(HandleOf(Form)) && !IsEnding());
+    EXPECT_EQ(GetFocus(), Window(L"Opens"));
+}
+
+TEST_F(TNested, TheMiddleOneMayBeClosedFirst) {
+    OpenBoth([this] { Dialog.Close(); });
+    EXPECT_EQ(HandleOf(Inner), nullptr);
+    EXPECT_TRUE(IsWindowEnabled(HandleOf(Form)) && !IsEnding());
+    EXPECT_EQ(GetFocus(), Window(L"Opens"));
+}
+
+TEST_F(TNested, AllEndWithTheProgram) {
+    OpenBoth([] { PostQuitMessage(7); });
+    EXPECT_TRUE(HandleOf(Inner) == nullptr && HandleOf(Dialog) == nullptr && IsWindow(HandleOf(Form)));
+    EXPECT_TRUE(IsEnding());
+}
+
+TEST_F(TNested, AllEndWithTheMainWindow) {
+    OpenBoth([this] { SendMessageW(HandleOf(Form), WM_CLOSE, 0, 0); });
+    EXPECT_TRUE(HandleOf(Inner) == nullptr && HandleOf(Dialog) == nullptr);
+    EXPECT_TRUE(IsEnding());
+}
+
+TEST_F(TNested, WhatIsRevealedUnderADialogHasTheFocusInTheEnd) {
+    OpenBoth([this] {
+        Form.Reveal(*Form.Find(L"Before"));
+        EXPECT_EQ(GetActiveWindow(), HandleOf(Inner));
+        Inner.Close();
+        Dialog.Close();
+    });
+    EXPECT_EQ(GetFocus(), Window(L"Before"));
+}
+
 }  // namespace

@@ -99,6 +99,16 @@ class PaintTest : public TPeerBench {
         EXPECT_EQ(Difference(shown, PixelsOf(window)), 0) << when;
     }
     void ExpectFreshlyDrawn(const char* when) const { ExpectFreshlyDrawn(when, FormWindow()); }
+    /// Gives every control a dot, or takes it away.
+    void Mark(bool marked) {
+        for (const auto& component : Form.Components()) {
+            auto& control = static_cast<TControl&>(*component);
+            control.SetMarked(marked);
+            const auto* peer = PeerOf(control);
+            if (peer == nullptr || control.Kind() != TComponentKind::CheckBox) continue;
+            EXPECT_EQ(GetPropW(peer->Handle(), L"ControlChanged") != nullptr, marked);
+        }
+    }
     void ExpectSizesAreDrawnRight() {
         for (const auto& [width, height] :
              {std::pair(700, 600), {760, 600}, {761, 640}, {460, 380}, {500, 370}, {900, 700}, {600, 400}}) {
@@ -149,8 +159,6 @@ class PaintTest : public TPeerBench {
         MSG quit;
         PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
     }
-
-  private:
     /// In how many dots two pictures differ.
     static std::ptrdiff_t Difference(const std::vector<COLORREF>& left, const std::vector<COLORREF>& right) {
         EXPECT_EQ(left.size(), right.size());
@@ -200,6 +208,24 @@ class TTheme {
 };
 
 TEST_F(PaintTest, EverySizeLooksFreshlyDrawn) { ExpectSizesAreDrawnRight(); }
+
+TEST_F(PaintTest, MarksComeAndGoAndFollowTheirControls) {
+    for (const wchar_t* name : {L"Box", L"Number"}) {
+        TControl& control = *Form.Find(name);
+        const std::vector<COLORREF> plain = PixelsOf(FormWindow());
+        control.SetMarked(true);
+        ExpectFreshlyDrawn("a dot more");
+        const auto dot = Difference(plain, PixelsOf(FormWindow()));
+        EXPECT_TRUE(dot > 8 && dot <= 36) << dot << " pixels of " << testing::PrintToString(name);
+        control.SetMarked(false);
+        HandleMessages();
+        EXPECT_EQ(Difference(plain, PixelsOf(FormWindow())), 0) << testing::PrintToString(name);
+    }
+    Mark(true);
+    ExpectSizesAreDrawnRight();
+    Mark(false);
+    ExpectLikeNew("no marks");
+}
 
 TEST_F(PaintTest, TheThemeCanGoAndComeBack) {
     const TTheme theme;

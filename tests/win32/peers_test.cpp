@@ -333,4 +333,23 @@ TEST_F(WheelTest, ANotchIsAPageAtMostAndItsPartsAddUp) {
     EXPECT_EQ(TurnOver(L"Box", -WHEEL_DELTA), 0);
 }
 
+TEST_F(PeersTest, RevealsAControlWhereverItLies) {
+    Get<TNotebook>(L"Notebook").ShowPage(L"2");
+    Form.Reveal(*Form.Find(L"InB"));
+    EXPECT_TRUE(IsShown(L"InB"));
+    EXPECT_EQ(GetFocus(), Window(L"InB"));
+    Form.Reveal(*Form.Find(L"UpDown"));
+    EXPECT_EQ(GetFocus(), Window(L"InB")) << "the page is not shown";
+    Get<TNotebook>(L"Notebook").ShowPage(L"1");
+    SetWindowPos(Window(L"Notebook"), nullptr, 0, 0, 300, 120, SWP_NOMOVE);  // the page has to be scrolled
+    for (const wchar_t* name : {L"UpDown", L"Box"}) {
+        Form.Reveal(*Form.Find(name));
+        const wchar_t* focused = lstrcmpW(name, L"Box") == 0 ? L"Box" : L"Edit";
+        EXPECT_EQ(GetFocus(), Window(focused));
+        const RECT place = Place(focused);
+        const RECT page = Place(L"1");
+        EXPECT_TRUE(place.top >= page.top && place.bottom <= page.bottom) << testing::PrintToString(name);
+    }
+}
+
 }  // namespace

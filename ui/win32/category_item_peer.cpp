@@ -125,6 +125,22 @@ LRESULT TCategoryItemPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
     return base(message);
 }
 
+void TCategoryItemPeer::Update(TControlAspect aspect) {
+    TWindowPeer::Update(aspect);
+    if (aspect == TControlAspect::Mark)
+        InvalidateRect(Handle(), nullptr, FALSE);  // the dot may shorten the caption
+}
+
+/// At the right end of the item, which draws it itself.
+RECT TCategoryItemPeer::DotPlace() const {
+    if (!IsShown()) return {};
+    const RECT place = PlaceInParent();
+    const int size = FForm.Screen().Scale(kDotSize);
+    const LONG right = place.right - TCategoryMetrics(FForm.Screen()).DotRight;
+    const LONG top = (place.top + place.bottom - size) / 2;
+    return {right - size, top, right, top + size};
+}
+
 void TCategoryItemPeer::OnDraw(const DRAWITEMSTRUCT& drawing) {
     const auto& item = static_cast<const TCategoryItem&>(Control());
     const RECT& area = drawing.rcItem;
@@ -152,6 +168,12 @@ void TCategoryItemPeer::OnDraw(const DRAWITEMSTRUCT& drawing) {
     SetBkMode(target, TRANSPARENT);
     SetTextColor(target, colors.Text);
     RECT text{area.left + metrics.TextLeft, area.top, area.right - metrics.TextRight, area.bottom};
+    if (item.Marked()) {
+        RECT dot = DotPlace();
+        MapWindowPoints(GetParent(Handle()), Handle(), reinterpret_cast<POINT*>(&dot), 2);
+        DrawDot(target, dot, colors.Text);
+        text.right = dot.left - metrics.TextRight;
+    }
     UINT format = DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS;
     if ((drawing.itemState & ODS_NOACCEL) != 0) format |= DT_HIDEPREFIX;
     DrawTextW(target, item.Caption().c_str(), static_cast<int>(item.Caption().size()), &text, format);

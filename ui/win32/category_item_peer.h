@@ -9,6 +9,8 @@ class TCategoryItemPeer : public TWindowPeer {
     TCategoryItemPeer(TFormWindow& form, TCategoryItem& item, HWND parent);
 
     void OnCommand(WORD code) override;
+    void Update(TControlAspect aspect) override;
+    [[nodiscard]] RECT DotPlace() const override;
     void OnDraw(const DRAWITEMSTRUCT& drawing) override;
 
   protected:

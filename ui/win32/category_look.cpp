@@ -76,4 +76,5 @@ TCategoryMetrics::TCategoryMetrics(const TScreen& screen) {
     PictureLeft = screen.Scale(8);
     TextLeft = PictureLeft + PictureSize + screen.Scale(6);
     TextRight = screen.Scale(4);
+    DotRight = screen.Scale(7);
 }

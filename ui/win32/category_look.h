@@ -49,5 +49,6 @@ struct TCategoryMetrics {
     int PictureLeft;
     int TextLeft;
     int TextRight;  ///< between an item's caption and its right edge
+    int DotRight;   ///< between a marked item's dot and its right edge
     int MarkWidth;  ///< the bar at the left edge of the selected item
 };

@@ -78,6 +78,11 @@ LRESULT TContainerPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_MOUSEWHEEL:
             if (ScrollByWheel(GET_WHEEL_DELTA_WPARAM(wParam))) return 0;
             break;  // the container around this one may have something to scroll
+        case WM_ERASEBKGND: {
+            const LRESULT result = DefDlgProcW(window, message, wParam, lParam);
+            FForm.Marks().Draw(window, reinterpret_cast<HDC>(wParam));
+            return result;
+        }
         // Windows tells a form only, common controls want to know.
         case WM_SETTINGCHANGE:
         case WM_SYSCOLORCHANGE:
@@ -189,6 +194,7 @@ bool TContainerPeer::CatchUpNext() {
         FPlaces.pop_front();
         peer->Place(inner);
     } else {
+        FForm.Marks().Follow(Handle());
         return false;
     }
     return true;

@@ -13,10 +13,11 @@ constexpr UINT kLayOutMessage = WM_APP;       // posted to itself: containers wa
 constexpr UINT kRestyleMessage = WM_APP + 1;  // posted to itself: the look of Windows has changed
 constexpr int kFormMargin = 8;
 
-/// A window that takes no input while another one is shown over it.
+/// A window that takes no input while another one is shown over it. `focus` is what then gets the focus.
 class TDisabledWindow {
   public:
-    explicit TDisabledWindow(HWND window) : FWindow(window), FFocus(GetFocus()) {
+    TDisabledWindow(HWND window, HWND& focus) : FWindow(window), FFocus(focus) {
+        FFocus = GetFocus();
         EnableWindow(FWindow, FALSE);
     }
     ~TDisabledWindow() {
@@ -28,7 +29,7 @@ class TDisabledWindow {
 
   private:
     HWND FWindow;
-    HWND FFocus;
+    HWND& FFocus;
 };
 
 /// The part of the screen that the task bar leaves to a window of the owner's screen, or of the main one.
@@ -117,7 +118,7 @@ int TFormWindow::Run() {
         }
         if (const HWND now = GetFocus(); now != focus) {
             focus = now;
-            FollowFocus(now);
+            ScrollTo(now);
         }
     }
     return 0;
@@ -126,7 +127,7 @@ int TFormWindow::Run() {
 void TFormWindow::ShowModal(TForm& dialog) {
     if (!IsWindowEnabled(Handle())) return;
     TFormWindow& window = Attach(dialog, FInstance, FFaultHandler, Handle());
-    const TDisabledWindow disabled(Handle());
+    const TDisabledWindow disabled(Handle(), FNextFocus);
     window.Show(SW_SHOW);
     SetFocus(GetNextDlgTabItem(window.Handle(), nullptr, FALSE));
     // The end of the program is the outer loop's affair.
@@ -134,6 +135,23 @@ void TFormWindow::ShowModal(TForm& dialog) {
         PostQuitMessage(exitCode);
         DestroyWindow(window.Handle());
     }
+}
+
+void TFormWindow::Reveal(TControl& control) {
+    const TControl* target = &control;
+    if (control.Kind() == TComponentKind::UpDown) {
+        if (const TEdit* edit = static_cast<TUpDown&>(control).Associate()) target = edit;
+    }
+    const TWindowPeer* peer = ::PeerOf(*target);
+    if (peer == nullptr || !IsWindowVisible(peer->Handle())) return;
+    const HWND window = peer->Handle();
+    ScrollTo(window);
+    if (!target->Enabled()) return;
+    SendMessageW(window, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    if (IsWindowEnabled(Handle()))
+        SetFocus(window);
+    else
+        FNextFocus = window;
 }
 
 /// Control and Tab choose the next sheet, with Shift the one before, as in the dialogs of Windows.
@@ -165,11 +183,12 @@ bool TFormWindow::PressButton(const MSG& message) const {
     return true;
 }
 
-/// Scrolls the control that has the focus into sight.
-void TFormWindow::FollowFocus(HWND focus) const {
-    const TWindowPeer* peer = PeerOf(focus);
+/// Scrolls a control's window into sight.
+void TFormWindow::ScrollTo(HWND window) const {
+    const TWindowPeer* peer = PeerOf(window);
     if (peer == nullptr) return;
-    if (auto* container = dynamic_cast<TContainerPeer*>(PeerOf(GetParent(focus)))) container->ScrollTo(focus);
+    if (auto* container = dynamic_cast<TContainerPeer*>(PeerOf(GetParent(window))))
+        container->ScrollTo(window);
 }
 
 void TFormWindow::ComeForward() {

@@ -8,6 +8,7 @@
 
 #include "ui/form.h"
 #include "ui/win32/container_peer.h"
+#include "ui/win32/marks.h"
 #include "ui/win32/picture_store.h"
 #include "ui/win32/screen.h"
 
@@ -38,6 +39,7 @@ class TFormWindow : public TFormPeer {
     void Close() override;
     /// Its faults are told to this window's handler.
     void ShowModal(TForm& dialog) override;
+    void Reveal(TControl& control) override;
     void Update(TControlAspect aspect) override;
 
     TMessageHandler OnMessage;
@@ -47,6 +49,7 @@ class TFormWindow : public TFormPeer {
     [[nodiscard]] const TForm& Form() const { return FForm; }
     [[nodiscard]] const TScreen& Screen() const { return *FScreen; }
     [[nodiscard]] TPictureStore& Pictures() { return FPictures; }
+    [[nodiscard]] TMarks& Marks() { return FMarks; }
 
     // For the peers.
     void Register(HWND window, TWindowPeer& peer) { FPeers[window] = &peer; }
@@ -91,7 +94,7 @@ class TFormWindow : public TFormPeer {
     [[nodiscard]] bool CreatesFirstPage() const;
     bool StepSheet(const MSG& message) const;
     bool PressButton(const MSG& message) const;
-    void FollowFocus(HWND focus) const;
+    void ScrollTo(HWND window) const;
     void LayOutChanged();
     /// Follows a change of the look of Windows once the present message is handled.
     void RestyleLater();
@@ -104,12 +107,14 @@ class TFormWindow : public TFormPeer {
     TFaultHandler FFaultHandler;
     std::unique_ptr<TScreen> FScreen = std::make_unique<TScreen>();
     TPictureStore FPictures;
+    TMarks FMarks;
     std::unordered_map<HWND, TWindowPeer*> FPeers;
     std::set<const TControl*> FChanged;  ///< containers to lay out
     std::deque<TControl*>
         FUnfilled;  ///< pages and sheets that may lack content, in the order of its creation
     std::unordered_map<unsigned, TTimer*> FTimers;
-    bool FRestyles = false;  ///< a change of the look waits
+    HWND FNextFocus = nullptr;  ///< gets the focus when the window waits no longer for a dialog
+    bool FRestyles = false;     ///< a change of the look waits
     int FLastCommandId = 100;
     unsigned FLastTimerId = 0;
     TWindow FWindow;

@@ -1,5 +1,8 @@
 #include "ui/win32/window_peer.h"
 
+#include <algorithm>
+
+#include "ui/controls.h"
 #include "ui/win32/automation_name.h"
 #include "ui/win32/form_window.h"
 
@@ -26,6 +29,7 @@ void TWindowPeer::Adopt(HWND handle) {
     Send(WM_SETFONT, reinterpret_cast<WPARAM>(FForm.Screen().Font()));
     ShowItems();
     ShowState();
+    if (FControl.Marked()) ShowMark();
 }
 
 void TWindowPeer::Subclass() {
@@ -72,9 +76,7 @@ void TWindowPeer::Move(const TRect& place, UINT flags) {
 void TWindowPeer::RedrawBelow(const RECT& hole) const {
     const HWND parent = GetParent(FHandle);
     if (!IsWindowVisible(parent)) return;
-    RECT place{};
-    GetWindowRect(FHandle, &place);
-    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+    const RECT place = PlaceInParent();
     const HRGN around = CreateRectRgnIndirect(&place);
     const HRGN inside = CreateRectRgnIndirect(&hole);
     CombineRgn(around, around, inside, RGN_DIFF);
@@ -83,8 +85,49 @@ void TWindowPeer::RedrawBelow(const RECT& hole) const {
     DeleteObject(around);
 }
 
+/// Before the control, or before its label, if that is beside it.
+RECT TWindowPeer::DotPlace() const {
+    if (!IsShown()) return {};
+    const TControl* first = &FControl;
+    if (first->Kind() == TComponentKind::UpDown) {
+        const TEdit* edit = static_cast<const TUpDown&>(FControl).Associate();
+        if (edit != nullptr && PeerOf(*edit) != nullptr) first = edit;
+    }
+    const auto* peer = first == &FControl ? this : PeerOf(*first);
+    RECT place = peer->PlaceInParent();
+    const auto& siblings = first->Parent()->Children();
+    const auto self = std::find(siblings.begin(), siblings.end(), first);
+    if (self != siblings.begin() && (*(self - 1))->Kind() == TComponentKind::Label) {
+        if (const auto* label = PeerOf(**(self - 1)); label != nullptr && label->IsShown()) {
+            const RECT before = label->PlaceInParent();
+            const bool isBeside =
+                before.right <= place.left && before.top < place.bottom && place.top < before.bottom;
+            if (isBeside) place = before;
+        }
+    }
+    const int size = FForm.Screen().Scale(kDotSize);
+    const LONG right = place.left - FForm.Screen().Scale(kDotGap);
+    const LONG top = (place.top + place.bottom - size) / 2;
+    return {right - size, top, right, top + size};
+}
+
+RECT TWindowPeer::PlaceInParent() const {
+    RECT place{};
+    GetWindowRect(FHandle, &place);
+    MapWindowPoints(nullptr, GetParent(FHandle), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+void TWindowPeer::ShowMark() {
+    if (FControl.Marked())
+        FForm.Marks().Add(*this, FForm.Form().MarkText);
+    else
+        FForm.Marks().Remove(*this);
+}
+
 void TWindowPeer::Detach() {
     if (FHandle == nullptr) return;
+    FForm.Marks().Remove(*this);
     RemoveAutomationName(FHandle);
     FForm.Unregister(FHandle);
     FHandle = nullptr;
@@ -125,6 +168,9 @@ void TWindowPeer::Update(TControlAspect aspect) {
         case TControlAspect::Items:
             ShowItems();
             ShowState();
+            break;
+        case TControlAspect::Mark:
+            ShowMark();
             break;
         case TControlAspect::Front:
         case TControlAspect::Back:

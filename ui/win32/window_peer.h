@@ -34,6 +34,9 @@ class TWindowPeer : public TPeer {
     /// Moves the window to its place in the parent; nothing happens when it is there.
     virtual void Place(const TRect& place);
 
+    /// Where in the parent the dot of a marked control is to be; empty while the control is not shown.
+    [[nodiscard]] virtual RECT DotPlace() const;
+
     /// Forgets the window, which is about to be destroyed, and withdraws its automation name.
     void Detach();
 
@@ -57,6 +60,8 @@ class TWindowPeer : public TPeer {
     [[nodiscard]] virtual std::wstring WindowText() const { return FControl.Caption(); }
     [[nodiscard]] virtual bool IsShown() const;
 
+    /// Where the window is in its parent.
+    [[nodiscard]] RECT PlaceInParent() const;
     /// Where the window was placed last.
     [[nodiscard]] const TRect& Placed() const { return FPlace; }
     /// Moves the window; `flags` are those of SetWindowPos that say how it is drawn.
@@ -71,6 +76,7 @@ class TWindowPeer : public TPeer {
     TFormWindow& FForm;
 
   private:
+    void ShowMark();
     static LRESULT CALLBACK SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     TControl& FControl;

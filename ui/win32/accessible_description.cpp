@@ -1,0 +1,51 @@
+#include "ui/win32/accessible_description.h"
+
+#include <oleacc.h>
+
+namespace {
+
+constexpr CLSID kService{// CLSID_AccPropServices
+                         0xB5F8350B,
+                         0x0548,
+                         0x48B1,
+                         {0xA6, 0xEE, 0x88, 0xBD, 0x00, 0xB4, 0xA5, 0xE7}};
+constexpr IID kServiceInterface{// IID_IAccPropServices
+                                0x6E26E776,
+                                0x04F0,
+                                0x495D,
+                                {0x80, 0xE4, 0x33, 0x30, 0x35, 0x2E, 0x31, 0x69}};
+constexpr MSAAPROPID kDescription{// PROPID_ACC_DESCRIPTION
+                                  0x4D48DFE4,
+                                  0xBD3F,
+                                  0x491F,
+                                  {0xA6, 0x48, 0x49, 0x2D, 0x6F, 0x20, 0xC5, 0x88}};
+constexpr auto kClient = static_cast<DWORD>(OBJID_CLIENT);
+
+}  // namespace
+
+TAccessibleDescriptions::~TAccessibleDescriptions() {
+    if (FService != nullptr) FService->Release();
+    if (SUCCEEDED(FInitialised)) CoUninitialize();
+}
+
+IAccPropServices* TAccessibleDescriptions::Service() {
+    if (!FIsAsked) {
+        FIsAsked = true;
+        FInitialised = CoInitialize(nullptr);
+        if (FAILED(CoCreateInstance(kService, nullptr, CLSCTX_INPROC_SERVER, kServiceInterface,
+                                    reinterpret_cast<void**>(&FService))))
+            FService = nullptr;
+    }
+    return FService;
+}
+
+void TAccessibleDescriptions::Set(HWND window, const std::wstring& text) {
+    IAccPropServices* service = Service();
+    if (service == nullptr) return;
+    service->SetHwndPropStr(window, kClient, CHILDID_SELF, kDescription, text.c_str());
+    NotifyWinEvent(EVENT_OBJECT_DESCRIPTIONCHANGE, window, OBJID_CLIENT, CHILDID_SELF);
+}
+
+void TAccessibleDescriptions::Remove(HWND window) {
+    if (FService != nullptr) FService->ClearHwndProps(window, kClient, CHILDID_SELF, &kDescription, 1);
+}
