@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 class TSingleInstance {
   public:
     /// Sent to the running window by a second instance: it restores itself and comes to the front.
@@ -17,8 +19,9 @@ class TSingleInstance {
     /// Whether another instance was there first.
     [[nodiscard]] bool AlreadyRunning() const { return FAlreadyRunning; }
 
-    /// Brings the other instance's window, if there is one, to the front; gives up after a while when it hangs.
-    static void BringOtherForward(const wchar_t* windowClass);
+    /// Brings the other instance's window, if there is one, to the front, and hands it the file that is to be opened unless
+    /// that is empty; gives up after a while when it hangs.
+    static void BringOtherForward(const wchar_t* windowClass, const std::wstring& file);
 
   private:
     HANDLE FMutex;

@@ -36,9 +36,9 @@ std::wstring ProgramFolder() {
     return {folder, length};
 }
 
-TProcess::TProcess() {
+TProcess::TProcess(const std::wstring& arguments) {
     const std::wstring file = ProgramFolder() + L"\\Quilltune.exe";
-    std::wstring commandLine = L"\"" + file + L"\"";
+    std::wstring commandLine = L"\"" + file + L"\" " + arguments;
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};

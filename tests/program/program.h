@@ -45,13 +45,14 @@ class TValueKeeper {
 /// A started process; killed at the latest when it goes.
 class TProcess {
   public:
-    /// Starts the program.
-    TProcess();
+    /// Starts the program with these arguments.
+    explicit TProcess(const std::wstring& arguments = {});
     ~TProcess();
     TProcess(const TProcess&) = delete;
     TProcess& operator=(const TProcess&) = delete;
 
     [[nodiscard]] DWORD Id() const { return FId; }
+    [[nodiscard]] bool IsRunning() const { return WaitForSingleObject(FHandle, 0) != WAIT_OBJECT_0; }
     /// Waits until it ends by itself; throws when it does not.
     DWORD ExitCode() const;
 

@@ -416,7 +416,9 @@ LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lPar
             FFormWindow.LayOutChanged();
             return 0;
         default:
-            if (message >= WM_USER && FFormWindow.OnMessage && FFormWindow.OnMessage(message)) return 0;
+            if ((message >= WM_USER || message == WM_COPYDATA) && FFormWindow.OnMessage &&
+                FFormWindow.OnMessage(message, lParam))
+                return 0;
             break;
     }
     return TContainerPeer::OnMessage(message, wParam, lParam);

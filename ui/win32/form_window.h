@@ -18,8 +18,8 @@ class TFormWindow : public TFormPeer {
   public:
     /// Told of every exception that an event handler lets out; the program then goes on.
     using TFaultHandler = std::function<void(std::exception_ptr fault)>;
-    /// Messages of the program's own (WM_USER and above); true when it was one.
-    using TMessageHandler = std::function<bool(UINT message)>;
+    /// Messages of the program's own (WM_USER and above) and WM_COPYDATA; true when it was one.
+    using TMessageHandler = std::function<bool(UINT message, LPARAM lParam)>;
 
     /// Creates the window, invisible and empty. See Attach.
     TFormWindow(TForm& form, HINSTANCE instance, TFaultHandler faultHandler, HWND owner = nullptr);
