@@ -7,7 +7,7 @@ set -euo pipefail
 
 Seconds=${1:-60}
 Targets=("${@:2}")
-[ ${#Targets[@]} -gt 0 ] || Targets=(language_file prefs profiles)
+[ ${#Targets[@]} -gt 0 ] || Targets=(language_file prefs profiles reg_file)
 
 RequirePackages cmake ninja-build "${ClangPackages[@]}"
 Folder="$Root/build/fuzz"
