@@ -18,6 +18,12 @@ bool IsHeader(std::wstring_view line) {
            std::end(kHeaders);
 }
 
+/// ASCII that is neither letter nor digit, white space as well.
+bool IsPunctuation(wchar_t c) {
+    const auto isIn = [&](wchar_t first, wchar_t last) { return c >= first && c <= last; };
+    return isIn(L'\1', L'\x7F') && !isIn(L'0', L'9') && !isIn(L'A', L'Z') && !isIn(L'a', L'z');
+}
+
 bool HasMark(TBytesOfFile bytes, std::uint8_t first, std::uint8_t second) {
     return bytes.size() >= 2 && bytes[0] == first && bytes[1] == second;
 }
@@ -78,9 +84,9 @@ TRegFileReader::TFault TRegFileReader::ReadLine() {
     if (rest.starts_with(kRegNote)) return ReadNote();
     if (rest.starts_with(L'[')) return ReadKey();
     if (rest.starts_with(L'@') || rest.starts_with(L'"')) return ReadValue();
-    // Files that were put together of several ones have several headers.
+    // Files that were put together of several ones have several headers, and some have lines drawn in them.
     const bool isRemark = rest.starts_with(L';') || rest.starts_with(L'#') || rest.starts_with(L"//") ||
-                          Trim(rest).empty() || IsHeader(rest);
+                          std::ranges::all_of(rest, IsPunctuation) || IsHeader(rest);
     return isRemark ? TFault() : TRegFileFault::BadLine;
 }
 
