@@ -81,6 +81,7 @@ std::variant<TChangeSet, TRegFileError> TRegFileReader::Read() {
 TRegFileReader::TFault TRegFileReader::ReadLine() {
     FText.SkipBlanks();
     const std::wstring_view rest = FText.Rest();
+    if (rest.find(L'\0') != std::wstring_view::npos) return TRegFileFault::Unreadable;
     if (rest.starts_with(kRegNote)) return ReadNote();
     if (rest.starts_with(L'[')) return ReadKey();
     if (rest.starts_with(L'@') || rest.starts_with(L'"')) return ReadValue();
@@ -176,11 +177,5 @@ void TRegFileReader::Add(TRegistryTarget target, TRegistryEffect effect) {
 std::variant<TChangeSet, TRegFileError> ReadRegFile(TBytesOfFile bytes, const TWindowsInfo& windows) {
     const auto text = RegFileTextOf(bytes, windows);
     if (!text) return TRegFileError{1, TRegFileFault::Unreadable};
-    const std::size_t nul = text->find(L'\0');
-    if (nul != std::wstring::npos) {
-        std::size_t line = 0;
-        for (TRegFileText before(std::wstring_view(*text).substr(0, nul + 1)); before.NextLine();) ++line;
-        return TRegFileError{line, TRegFileFault::Unreadable};
-    }
     return TRegFileReader(*text, IsAnsi(bytes) ? &windows : nullptr).Read();
 }

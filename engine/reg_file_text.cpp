@@ -82,8 +82,8 @@ bool TRegFileText::TakeQuoted(std::wstring& text, TPlace place) {
             if (c == L'\\') {
                 if (++i == FRest.size()) return false;
                 c = Unescaped(FRest[i]);
-                if (c == L'\0' && place == TPlace::Value) return false;
             }
+            if (c == L'\0' && place == TPlace::Value) return false;
             text.push_back(c);
         }
         if (place == TPlace::Note) return false;
