@@ -5,11 +5,11 @@
 namespace {
 
 // The REG_… types, as documented.
-constexpr std::uint32_t kString = 1;
-constexpr std::uint32_t kExpandString = 2;
-constexpr std::uint32_t kBinary = 3;
-constexpr std::uint32_t kDword = 4;
-constexpr std::uint32_t kMultiString = 7;
+constexpr std::uint32_t kRegString = 1;
+constexpr std::uint32_t kRegExpandString = 2;
+constexpr std::uint32_t kRegBinary = 3;
+constexpr std::uint32_t kRegDword = 4;
+constexpr std::uint32_t kRegMultiString = 7;
 
 std::optional<TRegFileData> TakeDword(TRegFileText& text) {
     text.SkipBlanks();
@@ -28,7 +28,7 @@ std::optional<TRegFileData> TakeTypedBytes(TRegFileText& text, std::uint32_t typ
 
 /// The text of a value that is one and nothing else.
 std::optional<std::wstring> PlainText(const TRawValue& value) {
-    if (value.Type != kString || value.Bytes.empty() || value.Bytes.size() % 2 != 0) return std::nullopt;
+    if (value.Type != kRegString || value.Bytes.empty() || value.Bytes.size() % 2 != 0) return std::nullopt;
     std::wstring text = FromUtf16Bytes(value.Bytes);
     if (text.find_first_of(std::wstring_view(L"\0\r\n", 3)) != text.size() - 1 || text.back() != L'\0')
         return std::nullopt;
@@ -59,7 +59,7 @@ std::optional<TRegFileData> TakeRegData(TRegFileText& text, TRegFileText::TPlace
         return TRegFileData{*RawValueOf({TRegDataType::String, std::move(string)})};
     }
     if (text.Take(L"dword:")) return TakeDword(text);
-    if (text.Take(L"hex:")) return TakeTypedBytes(text, kBinary, overLines);
+    if (text.Take(L"hex:")) return TakeTypedBytes(text, kRegBinary, overLines);
     if (!text.Take(L"hex(")) return std::nullopt;
     const auto type = text.TakeHex();
     if (!type || !text.Take(L"):")) return std::nullopt;
@@ -67,7 +67,7 @@ std::optional<TRegFileData> TakeRegData(TRegFileText& text, TRegFileText::TPlace
 }
 
 bool IsTextType(std::uint32_t type) {
-    return type == kString || type == kExpandString || type == kMultiString;
+    return type == kRegString || type == kRegExpandString || type == kRegMultiString;
 }
 
 bool LacksEnd(const TRawValue& value) {
@@ -79,13 +79,13 @@ bool LacksEnd(const TRawValue& value) {
 void AppendRegData(std::wstring& line, const TRawValue& value, std::size_t width) {
     const std::size_t begin = line.rfind(L'\n') + 1;
     if (const auto text = PlainText(value)) return AppendQuoted(line, *text);
-    if (value.Type == kDword && value.Bytes.size() == sizeof(std::uint32_t)) {
+    if (value.Type == kRegDword && value.Bytes.size() == sizeof(std::uint32_t)) {
         line += L"dword:";
         for (std::size_t i = value.Bytes.size(); i-- > 0;) AppendHex(line, value.Bytes[i], 2);
         return;
     }
     line += L"hex";
-    if (value.Type != kBinary) {
+    if (value.Type != kRegBinary) {
         line += L'(';
         int digits = 1;
         while (digits < 8 && value.Type >> (4 * digits) != 0) ++digits;

@@ -63,9 +63,8 @@ std::optional<TOperation> TakeOperation(TRegFileText& note, TSomeTarget target) 
             operation.Effect = *std::move(data);
     }
     if (note.TakeWord(L"left")) {
-        TSomeTarget other = target;
-        decltype(TakeData(note, other)) left;
-        if (!note.TakeWord(L"none") && !(left = TakeData(note, other))) return std::nullopt;
+        decltype(TakeData(note, target)) left;
+        if (!note.TakeWord(L"none") && !(left = TakeData(note, target))) return std::nullopt;
         operation.Left = TContent(std::move(left));
     }
     operation.Target = std::move(target);

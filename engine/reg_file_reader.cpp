@@ -18,6 +18,12 @@ bool IsHeader(std::wstring_view line) {
            std::end(kHeaders);
 }
 
+/// ASCII that is neither letter nor digit, white space as well.
+bool IsPunctuation(wchar_t c) {
+    const auto isIn = [&](wchar_t first, wchar_t last) { return c >= first && c <= last; };
+    return isIn(L'\1', L'\x7F') && !isIn(L'0', L'9') && !isIn(L'A', L'Z') && !isIn(L'a', L'z');
+}
+
 bool HasMark(TBytesOfFile bytes, std::uint8_t first, std::uint8_t second) {
     return bytes.size() >= 2 && bytes[0] == first && bytes[1] == second;
 }
@@ -75,12 +81,13 @@ std::variant<TChangeSet, TRegFileError> TRegFileReader::Read() {
 TRegFileReader::TFault TRegFileReader::ReadLine() {
     FText.SkipBlanks();
     const std::wstring_view rest = FText.Rest();
+    if (rest.find(L'\0') != std::wstring_view::npos) return TRegFileFault::Unreadable;
     if (rest.starts_with(kRegNote)) return ReadNote();
     if (rest.starts_with(L'[')) return ReadKey();
     if (rest.starts_with(L'@') || rest.starts_with(L'"')) return ReadValue();
-    // Files that were put together of several ones have several headers.
+    // Files that were put together of several ones have several headers, and some have lines drawn in them.
     const bool isRemark = rest.starts_with(L';') || rest.starts_with(L'#') || rest.starts_with(L"//") ||
-                          Trim(rest).empty() || IsHeader(rest);
+                          std::ranges::all_of(rest, IsPunctuation) || IsHeader(rest);
     return isRemark ? TFault() : TRegFileFault::BadLine;
 }
 
@@ -170,11 +177,5 @@ void TRegFileReader::Add(TRegistryTarget target, TRegistryEffect effect) {
 std::variant<TChangeSet, TRegFileError> ReadRegFile(TBytesOfFile bytes, const TWindowsInfo& windows) {
     const auto text = RegFileTextOf(bytes, windows);
     if (!text) return TRegFileError{1, TRegFileFault::Unreadable};
-    const std::size_t nul = text->find(L'\0');
-    if (nul != std::wstring::npos) {
-        std::size_t line = 0;
-        for (TRegFileText before(std::wstring_view(*text).substr(0, nul + 1)); before.NextLine();) ++line;
-        return TRegFileError{line, TRegFileFault::Unreadable};
-    }
     return TRegFileReader(*text, IsAnsi(bytes) ? &windows : nullptr).Read();
 }

@@ -82,8 +82,8 @@ bool TRegFileText::TakeQuoted(std::wstring& text, TPlace place) {
             if (c == L'\\') {
                 if (++i == FRest.size()) return false;
                 c = Unescaped(FRest[i]);
-                if (c == L'\0' && place == TPlace::Value) return false;
             }
+            if (c == L'\0' && place == TPlace::Value) return false;
             text.push_back(c);
         }
         if (place == TPlace::Note) return false;
@@ -160,17 +160,8 @@ void AppendBytes(std::wstring& line, std::span<const std::uint8_t> bytes) {
 }
 
 TBytes Utf16Bytes(std::wstring_view text) {
-    TBytes bytes;
-    bytes.reserve(2 * text.size());
-    const auto append = [&](std::uint32_t unit) {
-        bytes.push_back(static_cast<std::uint8_t>(unit));
-        bytes.push_back(static_cast<std::uint8_t>(unit >> 8));
-    };
-    for (const wchar_t c : text) {
-        const auto code = static_cast<std::uint32_t>(c);
-        if (code > 0xFFFF) append(0xD800 + ((code - 0x10000) >> 10));
-        append(code > 0xFFFF ? 0xDC00 + ((code - 0x10000) & 0x3FF) : code);
-    }
+    TBytes bytes = RawValueOf({TRegDataType::String, std::wstring(text)})->Bytes;
+    bytes.resize(bytes.size() - 2);  // its NUL
     return bytes;
 }
 
@@ -181,7 +172,7 @@ std::wstring FromUtf16Bytes(std::span<const std::uint8_t> bytes, bool highFirst)
         const std::uint32_t low = bytes[highFirst ? i + 1 : i];
         const std::uint32_t unit = low | static_cast<std::uint32_t>(bytes[highFirst ? i : i + 1]) << 8;
         if constexpr (sizeof(wchar_t) > 2) {
-            const std::uint32_t last = text.empty() ? 0 : static_cast<std::uint32_t>(text.back());
+            const auto last = static_cast<char32_t>(text.empty() ? L'\0' : text.back());
             if (last >= 0xD800 && last <= 0xDBFF && unit >= 0xDC00 && unit <= 0xDFFF) {
                 text.back() = static_cast<wchar_t>(0x10000 + ((last - 0xD800) << 10) + (unit - 0xDC00));
                 continue;
