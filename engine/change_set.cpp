@@ -2,60 +2,10 @@
 
 #include <algorithm>
 
+#include "engine/outcome.h"
 #include "engine/reg_value.h"
-#include "platform/text.h"
 
 namespace {
-
-/// Whether the key is the other one or lies below it.
-bool IsWithin(const TRegistryTarget& target, const TRegistryTarget& above) {
-    if (target.Root != above.Root || target.Key.size() < above.Key.size()) return false;
-    return SameText(target.Key.substr(0, above.Key.size()), above.Key) &&
-           (target.Key.size() == above.Key.size() || above.Key.empty() ||
-            target.Key[above.Key.size()] == L'\\');
-}
-
-bool IsSameValue(const TRegistryTarget& a, const TRegistryTarget& b) {
-    return !a.IsKey && !b.IsKey && IsWithin(a, b) && a.Key.size() == b.Key.size() &&
-           SameText(a.ValueName, b.ValueName);
-}
-
-void Affect(const TRegistryTarget& by, const TRegistryEffect& effect, const TRegistryTarget& target,
-            TRegistryContent& content) {
-    switch (effect.Action) {
-        case TRegAction::DeleteKey:
-            if (IsWithin(target, by)) content = {};
-            return;
-        case TRegAction::DeleteValue:
-            if (IsSameValue(target, by)) content.Value.reset();
-            return;
-        case TRegAction::Write:
-            if (IsWithin(by, target)) content.HasKey = true;
-            if (IsSameValue(target, by) && effect.Value) content.Value = effect.Value;
-            return;
-    }
-}
-
-/// What the step makes of the content of another step's target, or of its own.
-void Affect(const TOperation& step, const TTarget& target, TContent& content) {
-    if (step.Target.index() != target.index()) return;
-    if (const auto* effect = std::get_if<TRegistryEffect>(&step.Effect)) {
-        Affect(std::get<TRegistryTarget>(step.Target), *effect, std::get<TRegistryTarget>(target),
-               std::get<TRegistryContent>(content));
-    } else if (const auto* data = std::get_if<TSpiData>(&step.Effect)) {
-        if (std::get<TParameterTarget>(step.Target).Set == std::get<TParameterTarget>(target).Set)
-            content = TParameterContent(*data);
-    } else if (const auto* status = std::get_if<TServiceStatus>(&step.Effect)) {
-        auto& service = std::get<TServiceContent>(content);
-        if (service &&
-            SameText(std::get<TServiceTarget>(step.Target).Service, std::get<TServiceTarget>(target).Service))
-            service = *status;
-    } else if (const auto* text = std::get_if<TPreferenceContent>(&step.Effect)) {
-        if (SameText(std::get<TPreferenceTarget>(step.Target).QuotedName,
-                     std::get<TPreferenceTarget>(target).QuotedName))
-            content = *text;
-    }
-}
 
 TOperation ParameterStep(const TRegRecor& record) {
     TParameterTarget target{.Set = record.SpiAction, .Get = record.SpiGet, .InParam = record.SpiInParam};
@@ -70,34 +20,15 @@ TOperation ParameterStep(const TRegRecor& record) {
 TOperation RegistryStep(const TRegRecor& record) {
     const bool isKey = record.Action == TRegAction::DeleteKey;
     TOperation step{.Setting = record.Setting,
-               .Target = TRegistryTarget{record.RootKey, std::wstring(TrimmedKey(record.Key)),
-                                         isKey ? std::wstring() : record.ValueName, isKey},
-               .Effect = {},
-               .Restart = record.RestartNeeded};
+                    .Target = TRegistryTarget{record.RootKey, std::wstring(TrimmedKey(record.Key)),
+                                              isKey ? std::wstring() : record.ValueName, isKey},
+                    .Effect = {},
+                    .Restart = record.RestartNeeded};
     if (record.Action != TRegAction::Write)
         step.Effect = TRegistryEffect{record.Action, {}};
     else if (auto value = ConvertTo(record.DataType, record.Value))
         step.Effect = TRegistryEffect{record.Action, RawValueOf({record.DataType, std::move(*value)})};
     return step;
-}
-
-TChangeSet OperationsOf(const TSysControl& changes, const TPreferenceStore* preferences) {
-    TChangeSet steps;
-    bool refused = false;
-    for (const TRegRecor& record : changes.Pending()) {
-        steps.push_back(record.IsSystemParameter ? ParameterStep(record) : RegistryStep(record));
-        refused |= std::holds_alternative<std::monostate>(steps.back().Effect);
-        if (refused) steps.back().Effect = {};
-    }
-    for (const TServiceSwitch& service : changes.Services()) {
-        const TServiceStatus status{service.On ? TServiceStartType::Automatic : TServiceStartType::Disabled,
-                                    service.On};
-        steps.push_back({service.Setting, TServiceTarget{service.Service}, status});
-    }
-    if (preferences == nullptr) return steps;
-    for (const TPreferenceStore::TEdited& edit : preferences->Edited())
-        steps.push_back({edit.Setting, TPreferenceTarget{edit.QuotedName}, edit.After});
-    return steps;
 }
 
 struct TReader {
@@ -143,27 +74,41 @@ TContent ContentOf(TSystem& system, const TTarget& target, const TPreferenceStor
     return std::visit(TReader{system, preferences}, target);
 }
 
-std::vector<TChange> PendingChanges(TSystem& system, const TSysControl& changes,
-                                    const TPreferenceStore* preferences) {
-    const TChangeSet steps = OperationsOf(changes, preferences);
-    std::vector<TChange> list;
-    for (const TOperation& own : steps) {
-        TContent content = ContentOf(system, own.Target, preferences);
-        TChange change{own.Setting, own.Target, content, {}, own.Restart};
-        TContent made;
-        for (const TOperation& step : steps) {
-            Affect(step, own.Target, content);
-            if (&step == &own) made = content;
-        }
-        change.After = std::move(content);
-        change.IsOverwritten = made != change.After;
-        list.push_back(std::move(change));
+TChangeSet OperationsOf(const TSysControl& changes, const TPreferenceStore* preferences) {
+    TChangeSet steps;
+    bool refused = false;
+    for (const TRegRecor& record : changes.Pending()) {
+        steps.push_back(record.IsSystemParameter ? ParameterStep(record) : RegistryStep(record));
+        refused |= std::holds_alternative<std::monostate>(steps.back().Effect);
+        if (refused) steps.back().Effect = {};
     }
-    return list;
+    for (const TServiceSwitch& service : changes.Services()) {
+        const TServiceStatus status{service.On ? TServiceStartType::Automatic : TServiceStartType::Disabled,
+                                    service.On};
+        steps.push_back({service.Setting, TServiceTarget{service.Service}, status});
+    }
+    if (preferences == nullptr) return steps;
+    for (const TPreferenceStore::TEdited& edit : preferences->Edited())
+        steps.push_back({edit.Setting, TPreferenceTarget{edit.QuotedName}, edit.After});
+    return steps;
 }
 
-TWritten CarryOut(TSysControl& changes) {
-    const TWritten written = changes.WriteAll();
-    changes.SwitchServices();
-    return written;
+std::vector<TChange> ChangesOf(TSystem& system, const TChangeSet& operations,
+                               const TPreferenceStore* preferences) {
+    TOutcome outcome;
+    std::vector<TChange> list;
+    list.reserve(operations.size());
+    for (const TOperation& operation : operations) {
+        outcome.Add(operation);
+        TContent before = ContentOf(system, operation.Target, preferences);
+        TContent made = outcome.Of(operation.Target, before);
+        list.push_back(
+            {operation.Setting, operation.Target, std::move(before), std::move(made), operation.Restart});
+    }
+    for (TChange& change : list) {
+        TContent after = outcome.Of(change.Target, change.Before);
+        change.IsOverwritten = change.After != after;
+        change.After = std::move(after);
+    }
+    return list;
 }

@@ -65,8 +65,7 @@ struct TRegistryEffect {
 };
 
 /// What comes to be there; nothing = the operation is not carried out.
-using TEffect =
-    std::variant<std::monostate, TRegistryEffect, TSpiData, TServiceStatus, TPreferenceContent>;
+using TEffect = std::variant<std::monostate, TRegistryEffect, TSpiData, TServiceStatus, TPreferenceContent>;
 
 /// One of the steps of a change set. The effect is of the target's kind.
 struct TOperation {
@@ -108,8 +107,14 @@ class TPreferenceStore {
 
     /// What will be saved, in the order in which it was last changed.
     [[nodiscard]] virtual std::vector<TEdited> Edited() const = 0;
-    /// What the file says now; nothing when it does not name the preference.
+    /// What the file says now; nothing when it does not name the preference. Of the empty name the whole file, a
+    /// character for each byte.
     [[nodiscard]] virtual TPreferenceContent Saved(std::wstring_view quotedName) const = 0;
+    /// Has the file say something else once it is saved; nothing = it does not name the preference.
+    virtual void Change(const std::wstring& quotedName, const TPreferenceContent& content,
+                        const std::wstring& setting) = 0;
+    /// Writes what was changed. Throws when that cannot be done; it then waits for the next call.
+    virtual void Save() = 0;
 };
 
 /// What is there now. Nothing is touched. `preferences` may be null when the target is none of them.
@@ -118,8 +123,14 @@ class TPreferenceStore {
 /// Everything that is pending, in the order in which Apply carries it out: registry and system parameters, services,
 /// preferences. `preferences` is null when none are going to be saved. What the registry would refuse ends the pass of
 /// registry and parameters, and so does not come to be.
-[[nodiscard]] std::vector<TChange> PendingChanges(TSystem& system, const TSysControl& changes,
-                                                  const TPreferenceStore* preferences);
+[[nodiscard]] TChangeSet OperationsOf(const TSysControl& changes, const TPreferenceStore* preferences);
 
-/// Carries out the changes of the registry, of parameters and of services in this order.
-TWritten CarryOut(TSysControl& changes);
+/// What each operation comes to, in their order.
+[[nodiscard]] std::vector<TChange> ChangesOf(TSystem& system, const TChangeSet& operations,
+                                             const TPreferenceStore* preferences);
+
+/// The two together.
+[[nodiscard]] inline std::vector<TChange> PendingChanges(TSystem& system, const TSysControl& changes,
+                                                         const TPreferenceStore* preferences) {
+    return ChangesOf(system, OperationsOf(changes, preferences), preferences);
+}

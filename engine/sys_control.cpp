@@ -55,6 +55,11 @@ void TSysControl::Remove(std::wstring_view name) {
     std::erase_if(FPending, [&](const TRegRecor& entry) { return entry.Name == name; });
 }
 
+void TSysControl::RemoveSetting(std::wstring_view setting) {
+    std::erase_if(FPending, [&](const TRegRecor& entry) { return entry.Setting == setting; });
+    std::erase_if(FServices, [&](const TServiceSwitch& entry) { return entry.Setting == setting; });
+}
+
 void TSysControl::ReadCurrent(TRegRecor& record) const {
     TRegistryData data;
     record.ReadResult = FSystem.Registry.Read(PlaceOf(record), data);

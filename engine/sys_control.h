@@ -41,6 +41,9 @@ class TSysControl {
     /// Takes the changes of that name back.
     void Remove(std::wstring_view name);
 
+    /// Takes back what the control of that name has recorded.
+    void RemoveSetting(std::wstring_view setting);
+
     /// Reads the stored value that `record` addresses into it: ReadResult and, when found, DataType and Value
     /// (Value stays as it was for types other than text, DWORD and binary). Never looks at the pending changes.
     void ReadCurrent(TRegRecor& record) const;

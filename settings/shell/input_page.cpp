@@ -22,14 +22,15 @@ constexpr TRow kSensitivityRows[] = {
                .Value = NumberParameter(0x70, 0x71, TParameterSlot::Data)},  // …MOUSESPEED
     ReadFrom({kCurrentUser, kMouse, L"DoubleClickWidth"},
              Rectangle(L"Updown_Use_MouseSensitivity_DoubleClickError",
-                       NumberParameter(0, 0x1D),    // SPI_SETDOUBLECLKWIDTH
-                       NumberParameter(0, 0x1E))),  // SPI_SETDOUBLECLKHEIGHT
+                       NumberParameter(kSystemMetric + 36, 0x1D),    // SM_CXDOUBLECLK, SPI_SETDOUBLECLKWIDTH
+                       NumberParameter(kSystemMetric + 37, 0x1E))),  // SM_CYDOUBLECLK, SPI_SETDOUBLECLKHEIGHT
     ReadFrom({kCurrentUser, kMouse, L"DoubleClickSpeed"},
              {.Control = L"UpDown_Use_MouseSensitivity_DoubleClickTime",
-              .Value = NumberParameter(0, 0x20)}),  // SPI_SETDOUBLECLICKTIME
+              .Value = NumberParameter(kDoubleClickTime, 0x20)}),  // SPI_SETDOUBLECLICKTIME
     ReadFrom({kCurrentUser, kDesktop, L"DragWidth"},
-             Rectangle(L"UpDown_Use_MouseSensitivity_Drag", NumberParameter(0, 0x4C),  // SPI_SETDRAGWIDTH
-                       NumberParameter(0, 0x4D))),                                     // SPI_SETDRAGHEIGHT
+             Rectangle(L"UpDown_Use_MouseSensitivity_Drag",
+                       NumberParameter(kSystemMetric + 68, 0x4C),    // SM_CXDRAG, SPI_SETDRAGWIDTH
+                       NumberParameter(kSystemMetric + 69, 0x4D))),  // SM_CYDRAG, SPI_SETDRAGHEIGHT
     Rectangle(L"UpDown_Use_MouseSensitivity_Hover_MoveError",
               NumberParameter(0x62, 0x63),   // …MOUSEHOVERWIDTH
               NumberParameter(0x64, 0x65)),  // …MOUSEHOVERHEIGHT
@@ -50,7 +51,7 @@ constexpr const wchar_t* kTrailLength[] = {L"TrackBar_Use_MouseFunction_Trails_L
 // Where no other name is said, the parameters are SPI_GET… and SPI_SET….
 constexpr TRow kFunctionRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Use_MouseFunction_ChangeKey_Change",
-                 .Value = NumberParameter(0, 0x21),  // SPI_SETMOUSEBUTTONSWAP
+                 .Value = NumberParameter(kSystemMetric + 23, 0x21),  // SM_SWAPBUTTON, SPI_SETMOUSEBUTTONSWAP
                  .Shows = {.When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .LoadedFrom = As(TCoding::Number, {kCurrentUser, kMouse, L"SwapMouseButtons"})},

@@ -1,9 +1,13 @@
 #include "engine/change_set.h"
 
+#include <algorithm>
+#include <cctype>
 #include <random>
 
 #include <gtest/gtest.h>
 
+#include "engine/carry_out.h"
+#include "engine/way_back.h"
 #include "tests/fakes/fake_system.h"
 
 namespace {
@@ -102,6 +106,68 @@ TEST(TChangeSet, SaysWhatIsThereAndWhatApplyLeavesThere) {
         EXPECT_FALSE(list.back().IsOverwritten) << "nothing comes later";
     }
     EXPECT_GT(overwritten, 20);
+}
+
+/// Everything that the random changes may touch.
+struct TSnapshot {
+    std::vector<std::wstring> Registry;
+    std::vector<TContent> Others;
+
+    explicit TSnapshot(TFakeSystem& fake) : Registry(fake.Registry.Lines()) {
+        // What is deleted and then written is spelt as in the write.
+        for (std::wstring& line : Registry)
+            for (wchar_t& c : line)
+                if (c < 0x80) c = static_cast<wchar_t>(std::tolower(static_cast<int>(c)));
+        std::ranges::sort(Registry);
+        for (const std::uint32_t set : {0U, 2U, 4U})
+            Others.push_back(ContentOf(fake.System,
+                                       TParameterTarget{.Set = kFirstParameter + set,
+                                                        .Get = kFirstParameter + set + 1,
+                                                        .BlockSize = set == 4 ? 8U : 0U},
+                                       nullptr));
+        Others.push_back(ContentOf(fake.System, TServiceTarget{kService}, nullptr));
+    }
+    bool operator==(const TSnapshot&) const = default;
+};
+
+TEST(TChangeSet, TheWayBackRestoresEverythingWhereverApplyStopped) {
+    int stopped = 0;
+    for (unsigned seed = 0; seed < 300; ++seed) {
+        SCOPED_TRACE(seed);
+        TFakeSystem fake;
+        TSysControl changes(fake.System);
+        TRandomChanges random(seed);
+        random.Populate(fake);
+        for (int count = 1 + random.Pick(8); count > 0; --count) random.Record(changes);
+        // What Windows does not tell cannot be restored.
+        const TSnapshot before(fake);
+        if (std::ranges::count(before.Others, TContent(TParameterContent())) != 0) continue;
+
+        const TChangeSet operations = OperationsOf(changes, nullptr);
+        const TChangeSet back = WayBack(fake.System, operations, nullptr);
+        EXPECT_EQ(TSnapshot(fake), before) << "asking touches nothing";
+        EXPECT_TRUE(ChangesNothing(fake.System, back, nullptr));
+        const bool changesNothing = ChangesNothing(fake.System, operations, nullptr);
+        if (random.Pick(3) == 0) fake.Registry.FailChange(1 + random.Pick(4));
+        CarryOut(changes);
+        stopped += changes.IsEmpty() ? 0 : 1;
+        if (changes.IsEmpty())
+            for (const TOperation& operation : back)
+                EXPECT_EQ(operation.Left, ContentOf(fake.System, operation.Target, nullptr));
+        EXPECT_EQ(TSnapshot(fake) == before, ChangesNothing(fake.System, back, nullptr));
+        if (changesNothing) EXPECT_EQ(TSnapshot(fake), before);
+
+        fake.Registry.FailChange(0);
+        const TChangeSet forward = WayBack(fake.System, back, nullptr);
+        const TSnapshot after(fake);
+        EXPECT_TRUE(CarryOut(fake.System, back, nullptr).Failed.empty());
+        EXPECT_EQ(TSnapshot(fake).Registry, before.Registry);
+        EXPECT_EQ(TSnapshot(fake), before);
+        if (HasFailure()) return;
+        EXPECT_TRUE(CarryOut(fake.System, forward, nullptr).Failed.empty());
+        EXPECT_EQ(TSnapshot(fake), after) << "taking back can be taken back";
+    }
+    EXPECT_GT(stopped, 10);
 }
 
 TEST(TChangeSet, AParameterThatIsNotToldHasNoBefore) {

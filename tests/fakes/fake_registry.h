@@ -51,7 +51,8 @@ class TFakeRegistry : public TRegistry {
         for (const TKey& key : FKeys) {
             lines.push_back(key.Path);
             for (const auto& [name, data, raw] : key.Values)
-                lines.push_back(key.Path + L'[' + name + L"] = " + AsText(data.Value));
+                lines.push_back(key.Path + L'[' + name + L"] = " + AsText(data.Value) + L' ' +
+                                std::to_wstring(raw.Type) + L' ' + AsText(raw.Bytes));
         }
         std::ranges::sort(lines);
         return lines;
@@ -142,6 +143,9 @@ class TFakeRegistry : public TRegistry {
     }
     /// The root and the names from there on, with one backslash before each; surplus ones do not count.
     static std::wstring Path(TRootKey root, std::wstring_view key) {
+        // HKEY_CLASSES_ROOT shows a key of the machine.
+        if (root == TRootKey::ClassesRoot)
+            return Path(TRootKey::LocalMachine, L"Software\\Classes\\" + std::wstring(key));
         std::wstring path = std::to_wstring(static_cast<std::uint32_t>(root)) + L'\\';
         for (const wchar_t c : key)
             if (c != L'\\' || path.back() != L'\\') path += c;

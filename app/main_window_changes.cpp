@@ -1,0 +1,147 @@
+// The main window's part in changes: their list, the history, files of changes.
+#include <algorithm>
+#include <utility>
+
+#include "app/changes_form.h"
+#include "app/history_form.h"
+#include "app/main_window.h"
+#include "app/preview_form.h"
+#include "app/take_all.h"
+#include "base/decimal.h"
+#include "engine/carry_out.h"
+#include "engine/reg_file.h"
+#include "settings/change_words.h"
+#include "settings/scratch_system.h"
+
+namespace {
+
+bool HasPreferences(const TChangeSet& operations) {
+    return std::ranges::any_of(operations, [](const TOperation& operation) {
+        return std::holds_alternative<TPreferenceTarget>(operation.Target);
+    });
+}
+
+}  // namespace
+
+const TSettingNames& TQuilltune_FormMain::Names() {
+    if (!FNames) FNames = std::make_unique<TSettingNames>(FSystem, *FLanguage, FContext.WindowsLevel);
+    return *FNames;
+}
+
+void TQuilltune_FormMain::Button_ChangesClick() {
+    if (!FLanguage) return;
+    TQuilltune_FormChanges dialog(
+        FContext.Captions, *FLanguage, Names(),
+        {.Pending = [this] { return ChangesOf(FSystem, FReview->Operations(), &FFirefox); },
+         .TakeBack =
+             [this](const std::vector<std::wstring>& settings) {
+                 FReview->TakeBack(settings, FVisitedPages);
+                 EnableApply();
+             },
+         .Export = [this](const TForm& asker) { Export(asker); }});
+    ShowModal(dialog);
+    if (!dialog.Chosen().empty()) GoTo(dialog.Chosen());
+}
+
+void TQuilltune_FormMain::GoTo(const std::wstring& setting) {
+    TControl* control = Find(setting);
+    const TControl* page = control;
+    while (page != nullptr && page->Kind() != TComponentKind::NotebookPage) page = page->Parent();
+    if (page == nullptr) return;
+    for (const auto& component : Components()) {
+        if (component->Kind() != TComponentKind::CategoryItem) continue;
+        auto& item = static_cast<TCategoryItem&>(*component);
+        if (DecimalText(item.Tag()) == page->Name()) item.Click();
+    }
+    Reveal(*control);
+}
+
+void TQuilltune_FormMain::Export(const TForm& asker) {
+    const auto path = FSystem.Dialogs.SaveFile(asker, FContext.Captions[TCaption::RegFiles] + L"|*.reg", {});
+    if (!path || FSystem.Files.Replace(*path, WriteRegFile(FReview->Operations()))) return;
+    FSystem.Dialogs.Message(asker, Formatted(FContext.Captions[TCaption::RegFileNotWritten], {*path}),
+                            TMessageButtons::Ok, TMessageIcon::None);
+}
+
+void TQuilltune_FormMain::Button_HistoryClick() {
+    if (!FLanguage) return;
+    TQuilltune_FormHistory dialog(
+        FSystem, FContext.Captions, *FLanguage, Names(),
+        {.Preview = [this](const TChangeSet& wayBack) { return Preview(wayBack); },
+         .Undo = [this](TForm& asker, const TChangeSet& wayBack) { Review(asker, wayBack); },
+         .Import =
+             [this](TForm& asker) {
+                 const auto path =
+                     FSystem.Dialogs.OpenFile(asker, FContext.Captions[TCaption::RegFiles] + L"|*.reg|" +
+                                                         FContext.Captions[TCaption::AllFile] + L"|*.*");
+                 if (path) Import(asker, *path);
+             }});
+    ShowModal(dialog);
+}
+
+void TQuilltune_FormMain::OpenFile(const std::wstring& path) {
+    if (!FLoadingFinished || !FLanguage)
+        FFileToOpen = path;
+    else
+        Import(*this, path);
+}
+
+void TQuilltune_FormMain::Import(TForm& asker, const std::wstring& path) {
+    const auto bytes = FSystem.Files.Read(path);
+    auto content = bytes
+                       ? ReadRegFile(*bytes, FSystem.Windows)
+                       : std::variant<TChangeSet, TRegFileError>(TRegFileError{0, TRegFileFault::Unreadable});
+    if (const auto* error = std::get_if<TRegFileError>(&content)) {
+        const auto reason = static_cast<TCaption>(static_cast<int>(TCaption::RegFileNoHeader) +
+                                                  static_cast<int>(error->Fault));
+        FSystem.Dialogs.Message(
+            asker,
+            Formatted(FContext.Captions[TCaption::RegFileRefused],
+                      {path, DecimalText(static_cast<std::int64_t>(error->Line)), FContext.Captions[reason]}),
+            TMessageButtons::Ok, TMessageIcon::None);
+        return;
+    }
+    auto& operations = std::get<TChangeSet>(content);
+    Names().Attribute(operations);
+    Review(asker, operations);
+}
+
+std::vector<TListView::TRow> TQuilltune_FormMain::Preview(const TChangeSet& operations) const {
+    TScratchSystem scratch(FSystem);
+    TFirefoxPrefs preferences(scratch.System, FirefoxFolder());
+    if (HasPreferences(operations)) preferences.LoadFirefoxPrefs();
+    return PreviewRows(FSystem, operations, &preferences, FContext.Captions);
+}
+
+void TQuilltune_FormMain::Review(TForm& asker, const TChangeSet& operations) {
+    TQuilltune_FormPreview dialog(*FLanguage, Preview(operations));
+    asker.ShowModal(dialog);
+    if (!dialog.Accepted()) return;
+    // What is pending for preferences stays pending: the file is changed by another store.
+    TFirefoxPrefs preferences(FSystem, FirefoxFolder());
+    if (HasPreferences(operations)) preferences.LoadFirefoxPrefs();
+    CarryOutNow(operations, preferences);
+}
+
+void TQuilltune_FormMain::CarryOutNow(const TChangeSet& operations, TFirefoxPrefs& preferences) {
+    TRecordedApply record(FSystem, operations, &preferences);
+    TCarriedOut done;
+    TakeAll({
+        [&] { record.Begin(); },
+        [&] { done = CarryOut(FSystem, operations, &preferences); },
+        [&] { record.Complete(); },
+        [&] {
+            FReview->Reload(FVisitedPages);
+            EnableApply();
+        },
+        [&] {
+            if (done.Written.RestartNeeded) OfferRestart();
+        },
+        [&] { NotifyShell(done.Written.AssociationsChanged); },
+        [&] {
+            if (done.SavedPreferences)
+                FSystem.Dialogs.Message(*this, FContext.Captions[TCaption::RestartFirefox],
+                                        TMessageButtons::Ok, TMessageIcon::None);
+        },
+    });
+}

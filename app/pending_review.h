@@ -1,0 +1,38 @@
+// The settings for which something is pending: their marks, taking them back, and reading the others anew.
+#pragma once
+
+#include <set>
+
+#include "app/twin_controls.h"
+#include "engine/change_set.h"
+
+class TPendingReview {
+  public:
+    /// Everything outlives the object.
+    TPendingReview(TPageContext& context, const std::vector<std::unique_ptr<TPage>>& pages,
+                   TTwinControls& twins)
+        : FContext(context), FPages(pages), FTwins(twins) {}
+
+    [[nodiscard]] TChangeSet Operations() const;
+
+    /// Marks the controls and the category items of their pages, and nothing else.
+    void ShowMarks();
+
+    /// Takes back what is pending for the settings and for those that record together with them. The pages that were loaded
+    /// show what is stored there, as if it had never been changed.
+    void TakeBack(const std::vector<std::wstring>& settings, const std::set<int>& loadedPages);
+
+    /// The pages that were loaded show what is stored wherever nothing is pending.
+    void Reload(const std::set<int>& loadedPages);
+
+  private:
+    /// The controls for which something is pending.
+    [[nodiscard]] std::set<std::wstring> Pending() const;
+    /// With those that record together with them.
+    [[nodiscard]] std::set<std::wstring> Together(std::set<std::wstring> controls) const;
+
+    TPageContext& FContext;
+    const std::vector<std::unique_ptr<TPage>>& FPages;
+    TTwinControls& FTwins;
+    std::set<TControl*> FMarked;
+};

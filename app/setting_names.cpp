@@ -1,0 +1,48 @@
+#include "app/setting_names.h"
+
+#include <algorithm>
+#include <set>
+#include <unordered_map>
+
+#include "engine/outcome.h"
+#include "settings/change_words.h"
+
+TSettingNames::TSettingNames(TSystem& system, const TLanguage& language, int windowsLevel)
+    : FCatalogue(system, &language, windowsLevel) {}
+
+std::wstring TSettingNames::operator[](const std::wstring& setting) const {
+    const TSetting* found = FCatalogue.Find(setting);
+    if (found == nullptr) return setting;
+    const std::wstring where = found->Sheet.empty() ? found->Page : found->Page + L", " + found->Sheet;
+    return found->Caption + L" (" + where + L')';
+}
+
+std::wstring TSettingNames::Of(const TChangeSet& operations) const {
+    std::set<std::wstring> named{std::wstring()};
+    std::wstring names;
+    for (const TOperation& operation : operations) {
+        if (!named.insert(operation.Setting).second) continue;
+        names += (names.empty() ? L"" : L"; ") + (*this)[operation.Setting];
+    }
+    return names;
+}
+
+void TSettingNames::Attribute(TChangeSet& operations) const {
+    // In one language for all places: what the user reads.
+    const TCaptions captions;
+    const auto placeOf = [&](TTarget target) {
+        if (auto* registry = std::get_if<TRegistryTarget>(&target)) target = Unmerged(*registry);
+        return PlaceWords(target, captions);
+    };
+    std::unordered_map<std::wstring, const TSetting*, TTextHash, TTextEqual> settings;
+    for (const TSetting* setting : FCatalogue.Settings())
+        for (const TRow* row : setting->Rows)
+            for (const TTarget& target : TargetsOf(*row)) settings.emplace(placeOf(target), setting);
+    for (TOperation& operation : operations) {
+        if (!operation.Setting.empty()) continue;
+        const auto found = settings.find(placeOf(operation.Target));
+        if (found == settings.end()) continue;
+        operation.Setting = found->second->Id;
+        operation.Restart |= found->second->Restart;
+    }
+}

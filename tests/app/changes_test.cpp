@@ -1,0 +1,264 @@
+// Changes seen before Apply, taken back before it and undone after it, by a user who does anything.
+#include <algorithm>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "app/changes_form.h"
+#include "app/history_form.h"
+#include "app/main_window.h"
+#include "app/preview_form.h"
+#include "engine/reg_file.h"
+#include "settings/row_places.h"
+#include "tests/fakes/fake_system.h"
+#include "ui/state.h"
+
+namespace {
+
+constexpr const wchar_t* kUserFile = L"C:\\Data\\Mozilla\\Firefox\\p\\user.js";
+constexpr const wchar_t* kHistory = L"C:\\Data\\Vandrel\\Orbicare V4\\Quilltune\\History";
+constexpr const wchar_t* kParameterProfile = L"Control Panel\\Desktop";
+
+/// Stands for the native side: each dialog meets the next of its users.
+class TUserPeer : public TFormPeer {
+  public:
+    using TUser = std::function<void(TForm& dialog)>;
+
+    explicit TUserPeer(TUser user) : FUser(std::move(user)) {}
+
+    void Close() override {}
+    void Update(TControlAspect /*aspect*/) override {}
+    void Reveal(TControl& /*control*/) override {}
+    void ShowModal(TForm& dialog) override {
+        dialog.SetPeer(std::make_unique<TUserPeer>(FUser));
+        dialog.Show();
+        FUser(dialog);
+    }
+
+  private:
+    TUser FUser;
+};
+
+void Press(TForm& form, const wchar_t* button) { form.Find<TButton>(button)->Click(); }
+TListView& List(TForm& form, const wchar_t* name) { return *form.Find<TListView>(name); }
+
+class TWorld {
+  public:
+    explicit TWorld(unsigned seed) : FRandom(seed) {
+        Fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Data");
+        constexpr std::pair<unsigned, unsigned> kVersions[] = {{5, 0}, {5, 1}, {5, 2}, {6, 0}, {6, 1}};
+        const auto [major, minor] = kVersions[Pick(5)];
+        Fake.Windows.SetVersion({.PlatformId = 2, .Major = major, .Minor = minor});
+        for (const TPageDefinition* page : PageDefinitions())
+            for (const TLoader& loader : page->Loaders)
+                for (const TRow& row : loader)
+                    for (const TTarget& target : TargetsOf(row)) Populate(target);
+        if (Pick(2) == 0) return;
+        Fake.Registry.PutKey(TRootKey::LocalMachine,
+                             L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Mozilla Firefox");
+        Fake.Files.PutText(L"C:\\Data\\Mozilla\\Firefox\\profiles.ini", "[Profile0]\nIsRelative=1\nPath=p\n");
+        Fake.Files.PutText(kUserFile,
+                           "// mine\nuser_pref(\"browser.urlbar.autoFill\",true);\n"
+                           "user_pref( \"browser.blink_allowed\" , false ) ; // no\r\n");
+    }
+
+    int Pick(int count) { return static_cast<int>(FRandom() % static_cast<unsigned>(count)); }
+
+    void Open() {
+        Window = std::make_unique<TQuilltune_FormMain>(Fake.System);
+        Window->Show();
+        Window->Find<TTimer>(L"Timer_Click")->Tick();
+        Window->Find<TTimer>(L"Timer_Loading")->Tick();
+        for (const auto& component : Window->Components())
+            if (component->Kind() == TComponentKind::CategoryItem)
+                static_cast<TCategoryItem&>(*component).Click();
+    }
+
+    /// What a user may do: anything with any control of any page.
+    void Act(int actions) {
+        std::vector<TControl*> controls;
+        for (const auto& component : Window->Components()) {
+            auto& control = static_cast<TControl&>(*component);
+            const bool isIdle = StateOf(control) == TControlState() && !control.Name().ends_with(L"_Default");
+            if (!isIdle && control.Enabled() && control.Visible()) controls.push_back(&control);
+        }
+        for (; actions > 0; --actions) {
+            TControl& control = *controls[static_cast<std::size_t>(Pick(static_cast<int>(controls.size())))];
+            if (auto* edit = dynamic_cast<TEdit*>(&control)) {
+                edit->SetFocused(true);
+                edit->SetText(std::to_wstring(Pick(300)));
+                edit->SetFocused(false);
+            } else if (auto* button = dynamic_cast<TButton*>(&control)) {
+                button->Click();
+            } else if (auto* radio = dynamic_cast<TRadioButton*>(&control)) {
+                radio->SetChecked(true);
+            } else {
+                SetState(control, StateFromNumber(control, Pick(5) / 2));
+            }
+        }
+    }
+
+    /// The button opens a dialog; the user acts in it, and in those that it opens.
+    void Dialog(const wchar_t* button, const TUserPeer::TUser& user) {
+        Window->SetPeer(std::make_unique<TUserPeer>(user));
+        Press(*Window, button);
+        Window->SetPeer(nullptr);
+    }
+    /// Undoes the newest entry of the history.
+    void Undo() {
+        Dialog(L"Button_History", [](TForm& dialog) {
+            Press(dialog, dialog.ClassName() == L"TQuilltune_FormHistory" ? L"Button_History_Undo"
+                                                                          : L"Button_Preview_Apply");
+        });
+    }
+    std::vector<TListView::TRow> PendingRows() {
+        std::vector<TListView::TRow> rows;
+        if (Window->Find(L"Button_Changes")->Enabled())
+            Dialog(L"Button_Changes",
+                   [&](TForm& dialog) { rows = List(dialog, L"ListView_Changes").Rows(); });
+        return rows;
+    }
+
+    struct TSnapshot {
+        std::vector<std::wstring> Registry;
+        std::vector<TContent> Others;
+        std::string UserFile;
+
+        bool operator==(const TSnapshot&) const = default;
+    };
+    TSnapshot Snapshot() {
+        TSnapshot snapshot{Fake.Registry.Lines(), {}, Fake.Files.Text(kUserFile)};
+        for (const TTarget& target : FOthers)
+            snapshot.Others.push_back(ContentOf(Fake.System, target, nullptr));
+        return snapshot;
+    }
+    /// What the controls of the pages show.
+    std::map<std::wstring, std::tuple<TControlState, bool, bool>> Shown() {
+        std::map<std::wstring, std::tuple<TControlState, bool, bool>> shown;
+        for (const auto& component : Window->Components()) {
+            auto& control = static_cast<TControl&>(*component);
+            if (StateOf(control) != TControlState())
+                shown[control.Name()] = {StateOf(control), control.Enabled(), control.Marked()};
+        }
+        return shown;
+    }
+    std::vector<std::wstring> Entries() { return THistory(Fake.System).Entries(); }
+
+    TFakeSystem Fake;
+    std::unique_ptr<TQuilltune_FormMain> Window;
+
+  private:
+    void Populate(const TTarget& target) {
+        if (const auto* registry = std::get_if<TRegistryTarget>(&target)) {
+            const TRegistryPlace place{registry->Root, registry->Key, registry->ValueName};
+            const TRawValue odd[] = {{7, {'a', 0, 0, 0, 0, 0}},
+                                     {1, {'4', 0, '2'}},
+                                     {11, {1, 2, 3, 4, 5, 6, 7, 8}},
+                                     {0x1234, {}},
+                                     {4, {1, 2}}};
+            switch (Pick(5)) {
+                case 0:
+                    return Fake.Registry.PutRaw(place, odd[Pick(5)]);
+                case 1:
+                case 2:
+                    return Fake.Registry.Put(place, {TRegDataType::Dword, Pick(4)});
+                case 3:
+                    return Fake.Registry.Put({place.Root, place.Key + L"\\below", L"beside"},
+                                             {TRegDataType::String, std::wstring(L"kept")});
+                default:
+                    return;
+            }
+        }
+        if (const auto* parameter = std::get_if<TParameterTarget>(&target)) {
+            TBytes bytes(std::max<std::size_t>(parameter->BlockSize, 4));
+            for (std::uint8_t& byte : bytes) byte = static_cast<std::uint8_t>(Pick(3));
+            Fake.Parameters.Put(parameter->Get, bytes);
+            Fake.Parameters.Pair(
+                parameter->Set, parameter->Get,
+                parameter->InParam ? TFakeParameters::TCarrier::Param : TFakeParameters::TCarrier::Data);
+            FOthers.push_back(target);
+        }
+        if (const auto* service = std::get_if<TServiceTarget>(&target)) {
+            const TServiceState states[] = {TServiceState::Running, TServiceState::Stopped};
+            Fake.Services.Put(service->Service, {.State = states[Pick(2)],
+                                                 .StartType = static_cast<TServiceStartType>(2 + Pick(3))});
+            FOthers.push_back(target);
+        }
+    }
+
+    std::mt19937 FRandom;
+    std::vector<TTarget> FOthers;  ///< what is not the registry
+};
+
+TEST(TChanges, UndoBringsBackWhatWas) {
+    int entries = 0;
+    int stopped = 0;
+    for (unsigned seed = 0; seed < 40; ++seed) {
+        SCOPED_TRACE(seed);
+        TWorld world(seed);
+        world.Open();
+        const auto before = world.Snapshot();
+        world.Act(1 + world.Pick(12));
+        const auto rows = world.PendingRows();
+        EXPECT_EQ(world.Snapshot(), before) << "looking changes nothing";
+        EXPECT_EQ(world.Window->Find(L"Button_Apply")->Enabled(), !rows.empty());
+        const std::wstring count =
+            rows.size() == 1 ? L"1 change\u2026" : std::to_wstring(rows.size()) + L" changes\u2026";
+        if (!rows.empty()) EXPECT_EQ(world.Window->Find(L"Button_Changes")->Caption(), count);
+        if (world.Pick(4) == 0) world.Fake.Registry.FailChange(1 + world.Pick(5));
+        Press(*world.Window, L"Button_Apply");
+        stopped += world.PendingRows().empty() ? 0 : 1;
+        world.Fake.Registry.FailChange(0);
+        const auto after = world.Snapshot();
+        ASSERT_EQ(world.Entries().size(), after == before ? 0U : 1U);
+        if (after == before) continue;
+        ++entries;
+        world.Undo();
+        EXPECT_EQ(world.Snapshot().Registry, before.Registry);
+        EXPECT_EQ(world.Snapshot(), before);
+        if (testing::Test::HasFailure()) return;
+        ASSERT_EQ(world.Entries().size(), 2U) << "an undo can be undone";
+        world.Undo();
+        EXPECT_EQ(world.Snapshot(), after);
+        if (testing::Test::HasFailure()) return;
+    }
+    EXPECT_GT(entries, 20);
+    EXPECT_GT(stopped, 2);
+}
+
+TEST(TChanges, TakingBackLeavesWhatIsStored) {
+    int some = 0;
+    for (unsigned seed = 0; seed < 40; ++seed) {
+        SCOPED_TRACE(seed);
+        TWorld world(seed + 1000);
+        world.Open();
+        const auto stored = world.Shown();
+        world.Act(1 + world.Pick(8));
+        while (world.Window->Find(L"Button_Changes")->Enabled()) {
+            const auto pending = world.PendingRows();
+            const auto chosen = static_cast<std::size_t>(world.Pick(static_cast<int>(pending.size())));
+            world.Dialog(L"Button_Changes", [&](TForm& dialog) {
+                auto& list = List(dialog, L"ListView_Changes");
+                EXPECT_FALSE(dialog.Find(L"Button_Changes_Revert")->Enabled());
+                list.SetSelected({chosen}, static_cast<int>(chosen));
+                Press(dialog, L"Button_Changes_Revert");
+                for (const TListView::TRow& row : list.Rows())
+                    EXPECT_EQ(std::ranges::count(pending, row.Cells, &TListView::TRow::Cells), 1)
+                        << "what stays, stays as it was" << testing::PrintToString(row.Cells);
+            });
+            const auto left = world.PendingRows();
+            ASSERT_LT(left.size(), pending.size());
+            some += left.empty() ? 0 : 1;
+        }
+        EXPECT_FALSE(world.Window->Find(L"Button_Apply")->Enabled());
+        const auto shown = world.Shown();
+        for (const auto& [name, state] : stored) {
+            // Fields that page loads leave alone follow the last click.
+            EXPECT_EQ(shown.at(name), state) << testing::PrintToString(name);
+        }
+        if (testing::Test::HasFailure()) return;
+    }
+    EXPECT_GT(some, 30);
+}
+
+}  // namespace
