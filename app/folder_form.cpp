@@ -1,5 +1,8 @@
 #include "app/folder_form.h"
 
+#include "app/history.h"
+#include "app/take_all.h"
+#include "engine/carry_out.h"
 #include "settings/shell/desktop_icons.h"
 #include "settings/tell_explorer.h"
 #include "ui/containers.h"
@@ -39,10 +42,18 @@ void TQuilltune_FormFolder::FormShow() {
 }
 
 void TQuilltune_FormFolder::Button_OKClick() {
-    CarryOut(FChanges);
-    Close();
-    // The desktop builds its icons anew when associations change.
-    FContext.System.Shell.NotifyChange(kAllEvents, kFlush);
-    FContext.System.Shell.NotifyChange(kAssociationsChanged, kIdList);
-    TellExplorer(FContext.System.Shell);
+    TSystem& system = FContext.System;
+    TRecordedApply record(system, OperationsOf(FChanges, nullptr), nullptr);
+    TakeAll({
+        [&] { record.Begin(); },
+        [&] { CarryOut(FChanges); },
+        [&] { record.Complete(); },
+        [&] {
+            Close();
+            // The desktop builds its icons anew when associations change.
+            system.Shell.NotifyChange(kAllEvents, kFlush);
+            system.Shell.NotifyChange(kAssociationsChanged, kIdList);
+            TellExplorer(system.Shell);
+        },
+    });
 }

@@ -1,15 +1,17 @@
 #include "app/main_window.h"
 
-#include <exception>
-#include <functional>
-#include <initializer_list>
+#include <utility>
 
 #include "app/folder_form.h"
+#include "app/history.h"
+#include "app/take_all.h"
 #include "app/timing_log.h"
 #include "base/decimal.h"
+#include "engine/carry_out.h"
 #include "platform/suite_language.h"
 #include "platform/windows_version.h"
 #include "settings/category_table.h"
+#include "settings/change_words.h"
 #include "settings/tell_explorer.h"
 
 namespace {
@@ -26,22 +28,11 @@ TControlDesign WindowDesign() {
                                     Center(Row(Image(L"ImageNote_Animate", L"loading", kFrameCount),
                                                Label(L"Label_Wait", L"Loading system settings......."))))
                                   .Hidden()),
-                      Buttons(Button(L"Button_OK", L"OK"), Button(L"Button_Cancel", L"Cancel"),
-                              Button(L"Button_Apply", L"&Apply"))),
+                      Ends(Row(Button(L"Button_Changes", L"Changes\u2026").Disabled(),
+                               Button(L"Button_History", L"History\u2026")),
+                           Buttons(Button(L"Button_OK", L"OK"), Button(L"Button_Cancel", L"Cancel"),
+                                   Button(L"Button_Apply", L"&Apply")))),
                Timer(L"Timer_Click", kTimerInterval), Timer(L"Timer_Loading", kTimerInterval));
-}
-
-/// Takes every step, whatever fault the others meet; the first fault is let out at the end.
-void TakeAll(std::initializer_list<std::function<void()>> steps) {
-    std::exception_ptr fault;
-    for (const auto& step : steps) {
-        try {
-            step();
-        } catch (...) {
-            if (!fault) fault = std::current_exception();
-        }
-    }
-    if (fault) std::rethrow_exception(fault);
 }
 
 }  // namespace
@@ -51,12 +42,16 @@ TQuilltune_FormMain::TQuilltune_FormMain(TSystem& system)
       FSystem(system),
       FChanges(system),
       FAppFrame(system),
-      FFirefox(system, FAppFrame.AppDataPath + L"\\Mozilla\\Firefox\\"),
+      FFirefox(system, FirefoxFolder()),
       FContext{.System = system, .Form = *this, .Changes = FChanges, .Firefox = FFirefox} {
     SetCaption(L"Quilltune");
     BuildControls();
     BindEvents();
     FormCreate();
+}
+
+std::wstring TQuilltune_FormMain::FirefoxFolder() const {
+    return FAppFrame.AppDataPath + L"\\Mozilla\\Firefox\\";
 }
 
 void TQuilltune_FormMain::BuildControls() {
@@ -70,6 +65,7 @@ void TQuilltune_FormMain::BuildControls() {
         if (Find(DecimalText(tag)) == nullptr) Build(notebook, NotebookPage(tag));
     }
     FTwins = std::make_unique<TTwinControls>(FContext);
+    FReview = std::make_unique<TPendingReview>(FContext, FPages, *FTwins);
     Find<TButton>(L"Button_OK")->Default = true;
     Find<TButton>(L"Button_Cancel")->Cancel = true;
     // The items of this group bear the plain colour by design; FormCreate gives it to the other groups.
@@ -84,6 +80,8 @@ void TQuilltune_FormMain::BindEvents() {
     Find<TButton>(L"Button_OK")->OnClick = [this](TComponent&) { Button_OKClick(); };
     Find<TButton>(L"Button_Cancel")->OnClick = [this](TComponent&) { Button_CancelClick(); };
     Find<TButton>(L"Button_Apply")->OnClick = [this](TComponent&) { Button_ApplyClick(); };
+    Find<TButton>(L"Button_Changes")->OnClick = [this](TComponent&) { Button_ChangesClick(); };
+    Find<TButton>(L"Button_History")->OnClick = [this](TComponent&) { Button_HistoryClick(); };
     const auto opensFolderForm = [this](const wchar_t* button, const wchar_t* sheet) {
         if (auto* control = Find<TButton>(button))
             control->OnClick = [this, sheet](TComponent&) { ShowFolderForm(sheet); };
@@ -133,6 +131,7 @@ void TQuilltune_FormMain::FormShow() {
         [this] { Find(L"Button_OK")->SetEnabled(false); },
         [this] { Find(L"Button_Cancel")->SetEnabled(false); },
         [this] { Find(L"Button_Apply")->SetEnabled(false); },
+        [this] { Find(L"Button_History")->SetEnabled(false); },
         [this] { FLoadingFinished = false; },
         [this] { Find(L"Panel_Loading")->BringToFront(); },
         [this] { Find(L"Panel_Loading")->SetVisible(true); },
@@ -189,7 +188,11 @@ void TQuilltune_FormMain::BecomeReady() {
         [this] { Find(L"Panel_Loading")->SetVisible(false); },
         [this] { Find(L"Button_OK")->SetEnabled(true); },
         [this] { Find(L"Button_Cancel")->SetEnabled(true); },
+        [this] { Find(L"Button_History")->SetEnabled(true); },
         [this] { EnableApply(); },
+        [this] {
+            if (!FFileToOpen.empty()) OpenFile(std::exchange(FFileToOpen, {}));
+        },
     });
 }
 
@@ -238,6 +241,14 @@ void TQuilltune_FormMain::PageChanged(TComponent& sender) {
 
 void TQuilltune_FormMain::EnableApply() {
     Find(L"Button_Apply")->SetEnabled(!FChanges.IsEmpty() || FContext.FirefoxChanged);
+    const auto count = static_cast<std::int64_t>(FReview->Count());
+    TControl& changes = *Find(L"Button_Changes");
+    changes.SetEnabled(count != 0);
+    changes.SetCaption(count == 0 ? FContext.Captions[TCaption::NoChange]
+                       : count == 1
+                           ? FContext.Captions[TCaption::OneChange]
+                           : Formatted(FContext.Captions[TCaption::ManyChanges], {DecimalText(count)}));
+    FReview->ShowMarks();
 }
 
 void TQuilltune_FormMain::Button_OKClick() {
@@ -248,13 +259,20 @@ void TQuilltune_FormMain::Button_OKClick() {
 void TQuilltune_FormMain::Button_CancelClick() { Close(); }
 
 void TQuilltune_FormMain::Button_ApplyClick() {
-    const TWritten written = CarryOut(FChanges);
-    // Only for what was written: while a service is waited for, the user may have changed more.
-    if (written.RestartNeeded) OfferRestart();
-    NotifyShell(written.AssociationsChanged);
-    ApplyFirefox();
-    FTwins->Written();
-    EnableApply();
+    TRecordedApply record(FSystem, FReview->Operations(), &FFirefox);
+    TakeAll({
+        [&] { record.Begin(); },
+        [&] {
+            const TWritten written = CarryOut(FChanges);
+            // Only for what was written: while a service is waited for, the user may have changed more.
+            if (written.RestartNeeded) OfferRestart();
+            NotifyShell(written.AssociationsChanged);
+            ApplyFirefox();
+            FTwins->Written();
+            EnableApply();
+        },
+        [&] { record.Complete(); },
+    });
 }
 
 void TQuilltune_FormMain::OfferRestart() {

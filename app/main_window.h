@@ -4,6 +4,8 @@
 #include <memory>
 #include <set>
 
+#include "app/pending_review.h"
+#include "app/setting_names.h"
 #include "app/twin_controls.h"
 #include "platform/app_frame.h"
 #include "platform/language.h"
@@ -22,7 +24,12 @@ class TQuilltune_FormMain : public TForm {
 
     [[nodiscard]] const TPageContext& Context() const { return FContext; }
 
+    /// Shows what a file of changes would do and carries it out when the user agrees; while the window is loading, as soon as
+    /// it is ready.
+    void OpenFile(const std::wstring& path);
+
   private:
+    [[nodiscard]] std::wstring FirefoxFolder() const;
     void FormCreate();
     void FormShow();
     void Timer_ClickTimer();
@@ -43,6 +50,8 @@ class TQuilltune_FormMain : public TForm {
     void BecomeReady();
     void LoadPage(int tag);
     void SelectItem(TCategoryItem& item);
+    void Button_ChangesClick();
+    void Button_HistoryClick();
     void OfferRestart();
     void NotifyShell(bool associationsChanged);
     void ApplyFirefox();
@@ -50,6 +59,17 @@ class TQuilltune_FormMain : public TForm {
     void EnableApply();
     /// A control's change was recorded.
     void PageChanged(TComponent& sender);
+    /// Opens the page and the sheet of the control and gives it the focus.
+    void GoTo(const std::wstring& setting);
+    void Export(const TForm& asker);
+    void Import(TForm& asker, const std::wstring& path);
+    /// Shows what the operations would do over the form that asks, and carries them out when the user agrees.
+    void Review(TForm& asker, const TChangeSet& operations);
+    void CarryOutNow(const TChangeSet& operations, TFirefoxPrefs& preferences);
+    [[nodiscard]] std::vector<TListView::TRow> Preview(const TChangeSet& operations) const;
+    /// Made when it is first asked for.
+    [[nodiscard]] const TSettingNames& Names();
+
     /// Opens the desktop-icons dialog with one of its sheets chosen.
     void ShowFolderForm(const wchar_t* sheet);
 
@@ -61,6 +81,9 @@ class TQuilltune_FormMain : public TForm {
     std::unique_ptr<TLanguage> FLanguage;
     std::vector<std::unique_ptr<TPage>> FPages;
     std::unique_ptr<TTwinControls> FTwins;
+    std::unique_ptr<TPendingReview> FReview;
+    std::unique_ptr<TSettingNames> FNames;
+    std::wstring FFileToOpen;     ///< once the window is ready
     std::set<int> FVisitedPages;  ///< tags of the pages whose loaders have run
     TCategoryItem* FSelectedItem = nullptr;
     bool FLoadingFinished = true;

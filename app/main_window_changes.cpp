@@ -32,7 +32,7 @@ void TQuilltune_FormMain::Button_ChangesClick() {
     if (!FLanguage) return;
     TQuilltune_FormChanges dialog(
         FContext.Captions, *FLanguage, Names(),
-        {.Pending = [this] { return ChangesOf(FSystem, FReview->Operations(), &FFirefox); },
+        {.Pending = [this] { return FReview->Changes(); },
          .TakeBack =
              [this](const std::vector<std::wstring>& settings) {
                  FReview->TakeBack(settings, FVisitedPages);

@@ -11,6 +11,31 @@ TChangeSet TPendingReview::Operations() const {
     return OperationsOf(FContext.Changes, FContext.FirefoxChanged ? &FContext.Firefox : nullptr);
 }
 
+bool TPendingReview::IsRepeated(const TChangeSet& operations, std::size_t index) const {
+    const TOperation& operation = operations[index];
+    const auto partners = FTwins.PartnersOf(operation.Setting);
+    const auto stands = [&](const TOperation& earlier) {
+        return earlier.Target == operation.Target && std::ranges::count(partners, earlier.Setting) != 0;
+    };
+    return std::any_of(operations.begin(), operations.begin() + static_cast<std::ptrdiff_t>(index), stands);
+}
+
+std::vector<TChange> TPendingReview::Changes() const {
+    const TChangeSet operations = Operations();
+    const auto changes = ChangesOf(FContext.System, operations, &FContext.Firefox);
+    std::vector<TChange> listed;
+    for (std::size_t i = 0; i < changes.size(); ++i)
+        if (!IsRepeated(operations, i)) listed.push_back(changes[i]);
+    return listed;
+}
+
+std::size_t TPendingReview::Count() const {
+    const TChangeSet operations = Operations();
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < operations.size(); ++i) count += IsRepeated(operations, i) ? 0 : 1;
+    return count;
+}
+
 std::set<std::wstring> TPendingReview::Pending() const {
     std::set<std::wstring> pending;
     for (const TOperation& operation : Operations()) {

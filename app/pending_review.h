@@ -13,7 +13,11 @@ class TPendingReview {
                    TTwinControls& twins)
         : FContext(context), FPages(pages), FTwins(twins) {}
 
+    /// What Apply will carry out.
     [[nodiscard]] TChangeSet Operations() const;
+    /// The same for a reader: what two pages have recorded of one setting is there once.
+    [[nodiscard]] std::vector<TChange> Changes() const;
+    [[nodiscard]] std::size_t Count() const;
 
     /// Marks the controls and the category items of their pages, and nothing else.
     void ShowMarks();
@@ -26,6 +30,8 @@ class TPendingReview {
     void Reload(const std::set<int>& loadedPages);
 
   private:
+    /// Whether an earlier operation stands for this one in a list.
+    [[nodiscard]] bool IsRepeated(const TChangeSet& operations, std::size_t index) const;
     /// The controls for which something is pending.
     [[nodiscard]] std::set<std::wstring> Pending() const;
     /// With those that record together with them.

@@ -73,6 +73,27 @@ void TTwinControls::PageLoaded(int tag) {
     }
 }
 
+void TTwinControls::PagesReloaded() {
+    for (const TPair& pair : FPairs) {
+        const bool areLoaded =
+            FLoadedPages.contains(pair.First.Page->Tag) && FLoadedPages.contains(pair.Second.Page->Tag);
+        if (areLoaded && !IsPending(pair)) Follow(pair.Second, pair.First);
+    }
+}
+
+std::vector<std::wstring> TTwinControls::PartnersOf(const std::wstring& control) const {
+    std::vector<std::wstring> partners;
+    for (const TPair& pair : FPairs) {
+        for (std::size_t i = 0; i < pair.First.Controls.size(); ++i) {
+            const std::wstring& first = pair.First.Controls[i]->Name();
+            const std::wstring& second = pair.Second.Controls[i]->Name();
+            if (first == control) partners.push_back(second);
+            if (second == control) partners.push_back(first);
+        }
+    }
+    return partners;
+}
+
 void TTwinControls::Written() {
     for (TPair& pair : FPairs) pair.Changed = pair.Changed && IsPending(pair);
 }

@@ -19,6 +19,12 @@ class TTwinControls {
     /// it found; that is no change.
     void PageLoaded(int tag);
 
+    /// Pages were read again: of what is not pending both show what the twin's page found, which is loaded after the first one.
+    void PagesReloaded();
+
+    /// The controls of another page that stand for the same setting as the control.
+    [[nodiscard]] std::vector<std::wstring> PartnersOf(const std::wstring& control) const;
+
     /// Forgets the changes that are not pending any more.
     void Written();
 

@@ -12,7 +12,9 @@ TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl&
     : FDefinition(definition), FContext(context), FChanged(std::move(changed)) {
     const TControlDesign design = definition.Design();
     FContext.Form.Build(container, design);
-    Listen(*FContext.Form.Find(design.Name));
+    TControl& root = *container.Children().back();
+    FRoot = &root;
+    Listen(root);
     for (const TLoader& loader : definition.Loaders)
         for (const TRow& row : loader) ListenToRow(row);
     for (const TPreset& preset : definition.Presets) {
@@ -23,12 +25,52 @@ TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl&
 
 void TPage::Load() {
     const TLoadingScope loading(FContext, FDefinition.ShowsPending);
+    if (FBuilt.empty()) TakeDown(*FRoot);
     HideWhatIsNotOffered();
     NameAsThisWindowsDoes();
     if (FDefinition.Prepare != nullptr && !FDefinition.Prepare(FContext)) return;
+    RunLoaders([](const std::wstring&) { return false; });
+}
+
+void TPage::Reload(const TIsPending& isPending) {
+    const TLoadingScope loading(FContext, FDefinition.ShowsPending);
+    std::set<std::wstring> kept;
+    for (const TLoader& loader : FDefinition.Loaders) {
+        for (const TRow& row : loader) {
+            const auto names = ControlsOf(row);
+            if (!std::ranges::any_of(names, isPending)) continue;
+            kept.insert(names.begin(), names.end());
+            kept.merge(TouchedBy(row));
+        }
+    }
+    Reset(kept);
+    if (FDefinition.Prepare == nullptr || FDefinition.Prepare(FContext)) RunLoaders(isPending);
+}
+
+void TPage::Reset() {
+    const TLoadingScope loading(FContext);
+    Reset({});
+}
+
+void TPage::TakeDown(const TControl& container) {
+    for (TControl* control : container.Children()) {
+        FBuilt.push_back({control, StateOf(*control), control->Enabled()});
+        TakeDown(*control);
+    }
+}
+
+void TPage::Reset(const std::set<std::wstring>& kept) {
+    for (const TBuilt& built : FBuilt) {
+        if (kept.contains(built.Control->Name())) continue;
+        SetState(*built.Control, built.State);
+        built.Control->SetEnabled(built.IsEnabled);
+    }
+}
+
+void TPage::RunLoaders(const TIsPending& isPending) {
     for (const TLoader& loader : FDefinition.Loaders)
         for (const TRow& row : loader)
-            if (IsOffered(row)) LoadRow(FContext, row);
+            if (IsOffered(row) && !std::ranges::any_of(ControlsOf(row), isPending)) LoadRow(FContext, row);
 }
 
 void TPage::Changed(TComponent& sender) {

@@ -1,9 +1,12 @@
 // A page of settings: a form of named controls, and a catalogue that says what each control stands for.
 #pragma once
 
+#include <set>
+
 #include "settings/page_context.h"
 #include "settings/rows.h"
 #include "ui/design.h"
+#include "ui/state.h"
 
 /// What a Default or preset button does to one control.
 struct TPresetState {
@@ -64,16 +67,36 @@ class TPage {
     TPage(const TPageDefinition& definition, TPageContext& context, TControl& container,
           TNotifyEvent changed);
 
+    [[nodiscard]] const TPageDefinition& Definition() const { return FDefinition; }
     [[nodiscard]] int Tag() const { return FDefinition.Tag; }
     [[nodiscard]] bool LoadsEveryVisit() const { return FDefinition.LoadsEveryVisit; }
 
+    /// Whether something is pending for the control of that name.
+    using TIsPending = std::function<bool(const std::wstring& control)>;
+
     /// Runs the loaders: shows the live system's state in the controls.
     void Load();
+
+    /// Shows the live system's state in the controls for which nothing is pending, as if they were loaded for the first time.
+    /// Those that something pending has enabled or disabled stay so. Preferences are read again, and what was set is dropped.
+    void Reload(const TIsPending& isPending);
+
+    /// Brings every control into the state that it had when the page was first loaded. Before that nothing happens.
+    void Reset();
 
     /// The shared handler of the page's controls.
     void Changed(TComponent& sender);
 
   private:
+    struct TBuilt {
+        TControl* Control;
+        TControlState State;
+        bool IsEnabled;
+    };
+
+    void TakeDown(const TControl& container);
+    void Reset(const std::set<std::wstring>& kept);
+    void RunLoaders(const TIsPending& isPending);
     void Listen(TControl& container);
     void ListenToRow(const TRow& row);
     void HideWhatIsNotOffered() const;
@@ -84,4 +107,6 @@ class TPage {
     const TPageDefinition& FDefinition;
     TPageContext& FContext;
     TNotifyEvent FChanged;
+    const TControl* FRoot;
+    std::vector<TBuilt> FBuilt;
 };

@@ -38,19 +38,7 @@ TPageModel::TPageModel(const TPageDefinition& definition, TPageContext& context,
 
 void TPageModel::Load() {
     if (FIsLoaded) return;
-    const TLoadingScope loading(FContext);
-    const auto takeDown = [this](auto& self, TControl& container) -> void {
-        for (TControl* control : container.Children()) {
-            FBuilt.push_back({control, StateOf(*control), control->Enabled()});
-            self(self, *control);
-        }
-    };
-    if (FBuilt.empty()) takeDown(takeDown, FRoot);
-    // What loaders leave alone is as it was built.
-    for (const TBuilt& built : FBuilt) {
-        SetState(*built.Control, built.State);
-        built.Control->SetEnabled(built.IsEnabled);
-    }
+    FPage.Reset();  // what loaders leave alone is as it was built
     try {
         FPage.Load();
     } catch (const std::exception&) {

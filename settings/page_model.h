@@ -37,12 +37,6 @@ class TPageModel {
     void Change(TControl& control, const TControlState& state);
 
   private:
-    struct TBuilt {
-        TControl* Control;
-        TControlState State;
-        bool IsEnabled;
-    };
-
     /// What a press asks when nobody answers.
     const TScratchDialogs& Probe(TButton& button);
     void LeaveState(TControl& control, const TControlState& state);
@@ -52,6 +46,5 @@ class TPageModel {
     TScratchSystem& FScratch;
     TPage FPage;
     TControl& FRoot;
-    std::vector<TBuilt> FBuilt;
     bool FIsLoaded = false;
 };

@@ -85,6 +85,26 @@ std::vector<TPlace> PlacesOf(const TRow& row) {
     return std::visit([](const auto& kind) { return Places(kind); }, row);
 }
 
+std::set<std::wstring> TouchedBy(const TRow& row) {
+    std::set<std::wstring> touched;
+    const auto add = [&](const wchar_t* name) {
+        if (name != nullptr) touched.insert(name);
+    };
+    std::visit(
+        [&](const auto& kind) {
+            if constexpr (requires { kind.Enables; }) std::ranges::for_each(kind.Enables, add);
+            if constexpr (requires { kind.EnablesOnClick; }) std::ranges::for_each(kind.EnablesOnClick, add);
+            if constexpr (requires { kind.Toggles; }) add(kind.Toggles);
+            if constexpr (requires { kind.Fields; })
+                for (const TBoxField& field : kind.Fields) add(field.Edit);
+            if constexpr (requires { kind.Button; }) {
+                if constexpr (requires { kind.Edit; }) add(kind.Edit);
+            }
+        },
+        row);
+    return touched;
+}
+
 TLevels LevelsOf(const TRow& row) {
     return std::visit(
         [](const auto& kind) {

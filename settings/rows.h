@@ -9,7 +9,9 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <span>
+#include <string>
 #include <variant>
 #include <vector>
 
@@ -311,6 +313,9 @@ using TLoader = std::span<const TRow>;
 
 /// The controls that record through the row.
 [[nodiscard]] std::vector<std::wstring> ControlsOf(const TRow& row);
+
+/// Other controls that it shows something in, or enables and disables.
+[[nodiscard]] std::set<std::wstring> TouchedBy(const TRow& row);
 
 /// The places that the row writes.
 [[nodiscard]] std::vector<TPlace> PlacesOf(const TRow& row);

@@ -1,6 +1,6 @@
 // Drives the running program from a command line, for scripts:
-//   drive [--dialog] VERB [NAME] [ARGUMENT]
-// With --dialog it is the desktop-icons dialog that is driven, not the main window.
+//   drive [--form CLASS] VERB [NAME] [ARGUMENT]
+// With --form it is the dialog of that window class that is driven, not the main window.
 // Exit status 0, or 1 with the reason on the standard error output.
 #include <cstdio>
 #include <cstring>
@@ -84,23 +84,24 @@ std::wstring Operand(int count, char** arguments, int index) {
 }  // namespace
 
 int main(int count, char** arguments) {
-    const bool dialog = count > 1 && std::strcmp(arguments[1], "--dialog") == 0;
-    if (dialog) {
-        --count;
-        ++arguments;
+    std::wstring form = TMainWindow::kClass;
+    if (count > 2 && std::strcmp(arguments[1], "--form") == 0) {
+        form = Operand(count, arguments, 2);
+        count -= 2;
+        arguments += 2;
     }
     for (const TVerb& verb : kVerbs) {
         if (count != verb.Operands + 2 || std::strcmp(arguments[1], verb.Word) != 0) continue;
         try {
-            verb.Do(TMainWindow::WaitFor(0, dialog ? TMainWindow::kFolderClass : TMainWindow::kClass),
-                    Operand(count, arguments, 2), Operand(count, arguments, 3));
+            verb.Do(TMainWindow::WaitFor(0, form.c_str()), Operand(count, arguments, 2),
+                    Operand(count, arguments, 3));
             return 0;
         } catch (const TAutomationError& error) {
             std::fprintf(stderr, "drive: %s\n", error.what());
             return 1;
         }
     }
-    std::fprintf(stderr, "drive [--dialog] VERB [NAME] [ARGUMENT]\n");
+    std::fprintf(stderr, "drive [--form CLASS] VERB [NAME] [ARGUMENT]\n");
     for (const TVerb& verb : kVerbs) std::fprintf(stderr, "  %-10s  %s\n", verb.Word, verb.Help);
     return 1;
 }

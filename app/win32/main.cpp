@@ -31,6 +31,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR commandLin
     TFormWindow& window = TFormWindow::Attach(
         form, instance, [&faultLog](const std::exception_ptr& fault) { faultLog.Add(fault); });
     TFileRequests requests;
+    requests.OpenFile = [&form](const std::wstring& path) { form.OpenFile(path); };
     window.OnMessage = [&](UINT message, LPARAM lParam) {
         if (message != TSingleInstance::kComeForward)
             return requests.HandleMessage(window.Handle(), message, lParam);

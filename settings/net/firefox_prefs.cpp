@@ -140,7 +140,7 @@ std::wstring TFirefoxPrefs::GetFirefoxPref(std::wstring_view quotedName) const {
     return kNoSuchPref;
 }
 
-bool TFirefoxPrefs::Change(const std::string& quotedName, const std::string& value) {
+bool TFirefoxPrefs::Replace(const std::string& quotedName, const std::string& value) {
     bool isNamed = false;
     for (const std::size_t place : FContent.Entries.Quoting(quotedName)) {
         auto changed = WithPref(FContent.Entries[place], quotedName, value);
@@ -154,7 +154,7 @@ bool TFirefoxPrefs::Change(const std::string& quotedName, const std::string& val
 void TFirefoxPrefs::SetFirefoxPref(std::wstring_view quotedName, std::wstring_view value,
                                    std::wstring_view setting) {
     TEdit edit{.QuotedName = ToUtf8(quotedName), .Value = ToUtf8(value), .Setting = std::wstring(setting)};
-    edit.Appended = !Change(edit.QuotedName, edit.Value);
+    edit.Appended = !Replace(edit.QuotedName, edit.Value);
     if (edit.Appended) {
         std::string entry = MakePref(edit.QuotedName, edit.Value);
         FSystem.Shell.DebugOutput(L"not has");
@@ -203,21 +203,43 @@ TPreferenceContent TFirefoxPrefs::Saved(std::wstring_view quotedName) const {
     for (const wchar_t* file : {kUserFile, kPrefsFile}) {
         auto bytes = FSystem.Files.Read(FFirefoxProfileFolder + file);
         if (!bytes) continue;
+        if (quotedName.empty()) return std::wstring(bytes->begin(), bytes->end());
         const TSource source = Decode(Share(*std::move(bytes)));
         return LastValue(SplitPrefs(source.Text, [] {}), ToUtf8(quotedName));
     }
     return std::nullopt;
 }
 
+void TFirefoxPrefs::Change(const std::wstring& quotedName, const TPreferenceContent& content,
+                           const std::wstring& setting) {
+    if (quotedName.empty()) {
+        FWholeFile = content ? TBytes(content->begin(), content->end()) : TBytes();
+    } else if (content || GetFirefoxPref(quotedName) != kNoSuchPref) {
+        SetFirefoxPref(quotedName, content.value_or(std::wstring()), setting);
+    }
+}
+
+void TFirefoxPrefs::Save() {
+    if (!SaveFirefoxPrefs()) throw std::runtime_error("there is no profile to save preferences to");
+}
+
+void TFirefoxPrefs::Revert(const std::wstring& setting) {
+    if (std::erase_if(FEdits, [&](const TEdit& edit) { return edit.Setting == setting; }) != 0) Rebuild();
+}
+
 void TFirefoxPrefs::FollowUserFile(const std::wstring& path) {
     const TSharedBytes bytes = ReadBytes(path);
     if (!bytes || (FContent.UserFile && *bytes == *FContent.UserFile)) return;
     FContent = {.State = TState::Loaded, .UserFile = bytes, .Source = Decode(bytes)};
+    Rebuild();
+}
+
+void TFirefoxPrefs::Rebuild() {
     FContent.Entries = SplitPrefs(FContent.Source.Text, [] {});
     for (const TEdit& edit : FEdits) {
         // What was to be removed may be gone already.
         const bool mayAppend = edit.Appended || !edit.Value.empty();
-        if (!Change(edit.QuotedName, edit.Value) && mayAppend)
+        if (!Replace(edit.QuotedName, edit.Value) && mayAppend)
             FContent.Entries.Append(MakePref(edit.QuotedName, edit.Value));
     }
 }
@@ -228,10 +250,15 @@ bool TFirefoxPrefs::SaveFirefoxPrefs() {
     if (!loaded) throw std::runtime_error("cannot save preferences that could not be read");
     const std::wstring path = FFirefoxProfileFolder + kUserFile;
     FollowUserFile(path);
-    TBytes bytes = Encode(JoinPrefs(FContent.Entries), FContent.Source.Encoding);
+    TBytes bytes = FWholeFile ? *FWholeFile : Encode(JoinPrefs(FContent.Entries), FContent.Source.Encoding);
     if (!FSystem.Files.Replace(path, bytes)) throw std::runtime_error("cannot write " + ToUtf8(path));
     FContent.UserFile = Share(std::move(bytes));
     FEdits.clear();
+    if (FWholeFile) {
+        FWholeFile.reset();
+        FContent.Source = Decode(FContent.UserFile);
+        Rebuild();
+    }
     ++FSaves;
     return true;
 }

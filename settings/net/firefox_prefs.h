@@ -40,6 +40,9 @@ class TFirefoxPrefs : public TPreferenceStore {
     void SetFirefoxPref(std::wstring_view quotedName, std::wstring_view value,
                         std::wstring_view setting = {});
 
+    /// Takes back what was set for the control since the prefs were last loaded or saved.
+    void Revert(const std::wstring& setting);
+
     /// Whether the pref was set since it was last loaded or saved.
     [[nodiscard]] bool HasEdit(std::wstring_view quotedName) const;
 
@@ -47,6 +50,12 @@ class TFirefoxPrefs : public TPreferenceStore {
     [[nodiscard]] std::vector<TEdited> Edited() const override;
     /// What the profile's user.js says now or, where there is none, its prefs.js, which the next load begins from.
     [[nodiscard]] TPreferenceContent Saved(std::wstring_view quotedName) const override;
+    /// Without a statement that names it nothing is removed, and so nothing changes. The whole file takes the place of
+    /// everything that was set.
+    void Change(const std::wstring& quotedName, const TPreferenceContent& content,
+                const std::wstring& setting) override;
+    /// SaveFirefoxPrefs; throws also when there is nothing to save to.
+    void Save() override;
 
     /// Replaces the profile's user.js by the entries, in the encoding in which they were read. Should the file no longer
     /// be as it was when it was loaded or saved, it is read again, and what was set since then is set in what it says now;
@@ -90,7 +99,9 @@ class TFirefoxPrefs : public TPreferenceStore {
     [[nodiscard]] TBytes Encode(const std::string& text, TTextEncoding encoding) const;
     [[nodiscard]] TContent ReadProfile(const std::wstring& profileFolder) const;
     /// Changes the entries that name the pref; false when there is none.
-    bool Change(const std::string& quotedName, const std::string& value);
+    bool Replace(const std::string& quotedName, const std::string& value);
+    /// Takes the entries from the source again, with what was set since.
+    void Rebuild();
     /// Reads user.js again should it have changed.
     void FollowUserFile(const std::wstring& path);
 
@@ -98,6 +109,7 @@ class TFirefoxPrefs : public TPreferenceStore {
     std::wstring FFirefoxFolder;
     std::wstring FFirefoxProfileFolder;
     TContent FContent;
-    std::vector<TEdit> FEdits;  ///< what was set since FContent was read or written, in order
-    unsigned FSaves = 0;        ///< tells a load that the file changed meanwhile
+    std::vector<TEdit> FEdits;         ///< what was set since FContent was read or written, in order
+    std::optional<TBytes> FWholeFile;  ///< what to save instead
+    unsigned FSaves = 0;               ///< tells a load that the file changed meanwhile
 };

@@ -35,6 +35,7 @@ class TFolderForm : public testing::Test {
   protected:
     TFolderForm() {
         Fake.Windows.SetVersion({.PlatformId = 2, .Major = 6, .Minor = 1});
+        Fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\AppData");
         Fake.Files.PutText(L"C:\\Program Files\\Quilltune\\Toolbox_Language\\English.lng",
                            "[Quilltune_M]\nD_Drivers=Drives!\n"
                            "[Scanner_Quilltune_FormFolder]\nQuilltune_FormFolder.Caption=Title\n");

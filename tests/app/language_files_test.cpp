@@ -8,8 +8,11 @@
 
 #include <gtest/gtest.h>
 
+#include "app/changes_form.h"
 #include "app/folder_form.h"
+#include "app/history_form.h"
 #include "app/main_window.h"
+#include "app/preview_form.h"
 #include "platform/text.h"
 #include "settings/shell/desktop_icons.h"
 #include "tests/fakes/fake_system.h"
@@ -72,6 +75,22 @@ void ExpectKeys(const TExtIniFile& ini, const wchar_t* section, const TTexts& te
         EXPECT_TRUE(texts.contains(key)) << "dead: " << testing::PrintToString(key);
 }
 
+/// The dialogs whose texts are all those of their designs.
+struct TPlainDialogs {
+    TSettingNames Names;
+    TQuilltune_FormChanges Changes;
+    TQuilltune_FormHistory History;
+    TQuilltune_FormPreview Preview;
+
+    TPlainDialogs(TSystem& system, const TQuilltune_FormMain& window, const TLanguage& language)
+        : Names(system, language, 0),
+          Changes(window.Context().Captions, language, Names, {}),
+          History(system, window.Context().Captions, language, Names, {}),
+          Preview(language, {}) {}
+
+    [[nodiscard]] std::vector<TForm*> All() { return {&Changes, &History, &Preview}; }
+};
+
 TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
     TFakeSystem fake;
     const TQuilltune_FormMain window(fake.System);
@@ -79,6 +98,7 @@ TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
     for (const TCaptionKey& key : kCaptionKeys) captions[key.Key] = key.English;
     const TLanguage none(fake.System, L"Scanner");
     const TQuilltune_FormFolder dialog(window.Context(), none);
+    TPlainDialogs dialogs(fake.System, window, none);
     for (const char* language : {"English", "German"}) {
         SCOPED_TRACE(language);
         const bool english = language == std::string("English");
@@ -86,9 +106,13 @@ TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
         ExpectKeys(ini, L"Scanner_Quilltune_FormMain", FormTexts(window), english);
         ExpectKeys(ini, L"Scanner_Quilltune_FormFolder", FolderFormTexts(dialog), english);
         ExpectKeys(ini, L"Quilltune_M", captions, english);
-        EXPECT_EQ(ini.ReadSections(),
-                  (std::vector<std::wstring>{L"Main", L"Scanner_Quilltune_FormMain", L"Quilltune_M",
-                                             L"Scanner_Quilltune_FormFolder"}));
+        std::vector<std::wstring> sections{L"Main", L"Scanner_Quilltune_FormMain", L"Quilltune_M",
+                                           L"Scanner_Quilltune_FormFolder"};
+        for (const TForm* form : dialogs.All()) {
+            sections.push_back(L"Scanner_" + form->Name());
+            ExpectKeys(ini, sections.back().c_str(), FormTexts(*form), english);
+        }
+        EXPECT_EQ(ini.ReadSections(), sections);
     }
 }
 
@@ -144,22 +168,24 @@ TEST(TLanguageFiles, AccessKeysDifferOnEverySheetOfEveryWindows) {
     TQuilltune_FormMain window(fake.System);
     TLanguage loaded(fake.System, L"Scanner");
     TQuilltune_FormFolder dialog(window.Context(), loaded);
+    TPlainDialogs dialogs(fake.System, window, loaded);
+    std::vector<TForm*> forms = dialogs.All();
+    forms.insert(forms.end(), {&window, &dialog});
     for (const char* language : {"English", "German"}) {
         const TExtIniFile ini = LoadDelivered(language);
         for (const int level : {4, 5, 6, 7}) {
             SCOPED_TRACE(testing::Message() << language << " on level " << level);
-            TLevelForms forms{level, ini};
-            for (TForm* form : {static_cast<TForm*>(&window), static_cast<TForm*>(&dialog)}) {
+            TLevelForms ofLevel{level, ini};
+            for (TForm* form : forms) {
                 for (const auto& component : form->Components()) {
                     auto& control = static_cast<TControl&>(*component);
                     control.SetCaption(ini.ReadString(L"Scanner_" + form->Name(),
                                                       control.Name() + L".Caption", control.Caption()));
                 }
             }
-            for (const TPageDefinition* page : PageDefinitions()) forms.Apply(window, *page);
-            forms.Apply(dialog, DesktopIcons());
-            ExpectAccessKeysDiffer(window, forms, {});
-            ExpectAccessKeysDiffer(dialog, forms, {});
+            for (const TPageDefinition* page : PageDefinitions()) ofLevel.Apply(window, *page);
+            ofLevel.Apply(dialog, DesktopIcons());
+            for (const TForm* form : forms) ExpectAccessKeysDiffer(*form, ofLevel, {});
         }
     }
 }

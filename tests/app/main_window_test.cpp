@@ -245,7 +245,7 @@ TEST_F(TMainWindow, SavesFirefoxPreferencesOnlyWhenTheyWereLoadedAndChanged) {
     EXPECT_TRUE(Fake.Files.Replaced().empty()) << "no page said that something changed";
 
     Marks().FirefoxChanged = true;
-    Fake.Files.FailReplace(1);
+    Fake.Files.FailReplace(2);  // the history comes first
     EXPECT_THROW(Apply(), std::runtime_error);
     EXPECT_TRUE(Enabled(L"Button_Apply"));
     Apply();

@@ -1,6 +1,7 @@
 // The catalogue against the pages: what it says beforehand is what a click records and what Apply leaves.
 #include "settings/catalogue.h"
 
+#include "engine/carry_out.h"
 #include "settings/page_table.h"
 #include "tests/settings/page_bench.h"
 
