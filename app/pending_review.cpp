@@ -32,7 +32,7 @@ std::vector<TChange> TPendingReview::Changes() const {
 std::size_t TPendingReview::Count() const {
     const TChangeSet operations = Operations();
     std::size_t count = 0;
-    for (std::size_t i = 0; i < operations.size(); ++i) count += IsRepeated(operations, i) ? 0 : 1;
+    for (std::size_t i = 0; i < operations.size(); ++i) count += IsRepeated(operations, i) ? 0U : 1U;
     return count;
 }
 
