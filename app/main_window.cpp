@@ -121,6 +121,7 @@ void TQuilltune_FormMain::FormShow() {
                 std::make_unique<TLanguage>(FSystem, L"Scanner", FAppFrame.AppPath + L"Toolbox_Language");
             FLanguage->LoadLanguage(GetSuiteLanguage(FSystem));
             FContext.Captions.Load(*FLanguage);
+            MarkText = FContext.Captions[TCaption::Changed];
             FLanguage->Translate(*this);
         },
         [&] { ReinitialiseLists(log); },

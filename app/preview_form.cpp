@@ -1,17 +1,58 @@
 #include "app/preview_form.h"
 
 #include <algorithm>
-#include <set>
+#include <unordered_set>
 
+#include "engine/registry_tree.h"
 #include "platform/language.h"
+#include "platform/text.h"
 #include "settings/change_words.h"
 #include "ui/design.h"
 
+namespace {
+
+using TPlaces = std::unordered_set<std::wstring, TTextHash, TTextEqual>;
+
+/// With what is deleted together with keys. A way back that does not know of it expects that it is not there.
+TChangeSet WithWhatGoesWithKeys(TSystem& system, const TChangeSet& operations, const TCaptions& captions) {
+    TPlaces known;
+    for (const TOperation& operation : operations) known.insert(PlaceWords(operation.Target, captions));
+    TChangeSet all;
+    for (const TOperation& operation : operations) {
+        const auto* effect = std::get_if<TRegistryEffect>(&operation.Effect);
+        if (effect != nullptr && effect->Action == TRegAction::DeleteKey) {
+            const auto& key = std::get<TRegistryTarget>(operation.Target);
+            for (const TOperation& below : TreeOf(system, key.Root, key.Key)) {
+                const auto& target = std::get<TRegistryTarget>(below.Target);
+                if (!known.insert(PlaceWords(target, captions)).second) continue;
+                all.push_back(
+                    {operation.Setting, target,
+                     TRegistryEffect{target.IsKey ? TRegAction::DeleteKey : TRegAction::DeleteValue}});
+                if (operation.Left) all.back().Left = TRegistryContent();
+            }
+        }
+        all.push_back(operation);
+    }
+    return all;
+}
+
+bool IsChangedSince(const TOperation& operation, const TContent& now) {
+    if (!operation.Left) return false;
+    const auto* left = std::get_if<TRegistryContent>(&*operation.Left);
+    // Of a value it does not matter whether there is a key for what is not there.
+    return left != nullptr && !std::get<TRegistryTarget>(operation.Target).IsKey
+               ? left->Value != std::get<TRegistryContent>(now).Value
+               : *operation.Left != now;
+}
+
+}  // namespace
+
 std::vector<TListView::TRow> PreviewRows(TSystem& system, const TChangeSet& operations,
                                          const TPreferenceStore* preferences, const TCaptions& captions) {
-    const auto changes = ChangesOf(system, operations, preferences);
+    const TChangeSet all = WithWhatGoesWithKeys(system, operations, captions);
+    const auto changes = ChangesOf(system, all, preferences);
     std::vector<TListView::TRow> rows;
-    std::set<std::wstring> shown;
+    TPlaces shown;
     for (std::size_t i = changes.size(); i-- > 0;) {
         const TChange& change = changes[i];
         const auto* preference = std::get_if<TPreferenceTarget>(&change.Target);
@@ -20,8 +61,7 @@ std::vector<TListView::TRow> PreviewRows(TSystem& system, const TChangeSet& oper
         std::wstring place = PlaceWords(change.Target, captions);
         if (!shown.insert(place).second) continue;
         std::wstring now = ContentWords(change.Target, change.Before, captions);
-        if (operations[i].Left && *operations[i].Left != change.Before)
-            now = Formatted(captions[TCaption::ChangedSince], {now});
+        if (IsChangedSince(all[i], change.Before)) now = Formatted(captions[TCaption::ChangedSince], {now});
         rows.push_back(
             {{std::move(place), std::move(now), ContentWords(change.Target, change.After, captions)}});
     }

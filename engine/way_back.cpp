@@ -88,6 +88,8 @@ class TWayBack {
             const auto value = std::get<TRegistryContent>(Content(target)).Value;
             Restore(target, TRegistryEffect{value ? TRegAction::Write : TRegAction::DeleteValue, value});
         } else if (effect.Action == TRegAction::Write) {
+            // The value goes with its key; a reader of the set looks for it by itself.
+            if (effect.Value) Restore(target, TRegistryEffect{TRegAction::DeleteValue});
             Restore(FirstMissing(std::move(key)), TRegistryEffect{TRegAction::DeleteKey});
         }
     }

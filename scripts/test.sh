@@ -20,12 +20,12 @@ Pass() { Passed=$((Passed + $1)); }
 Fail() { Failed=$((Failed + $1)); }
 Skip() { Skipped=$((Skipped + $1)); }
 
-# Runs a command, for ten minutes at most, and leaves what it says in the file "$1.log" of the work folder and its exit
+# Runs a command, for twenty minutes at most, and leaves what it says in the file "$1.log" of the work folder and its exit
 # status in "$1.status".
 Record() {
     local name=$1 status=0
     shift
-    timeout --kill-after=10 600 "$@" >"$Work/$name.log" 2>&1 </dev/null || status=$?
+    timeout --kill-after=10 1200 "$@" >"$Work/$name.log" 2>&1 </dev/null || status=$?
     echo "$status" >"$Work/$name.status"
 }
 
@@ -111,6 +111,11 @@ else
     RootJob=
 fi
 
+# clang-tidy needs nothing that is built here, and half of all the time: it has what the builds and the tests leave over.
+Checks="$Root/tests/checks"
+Record "clang-tidy" nice -n 19 "$Checks/tidy.sh" &
+TidyJob=$!
+
 # Tests of windows wait most of the time: they run beside what keeps the processors busy, and what they need is built first.
 mkdir "$Work/dist" "$Work/win64" "$Work/win32"
 Build "64-bit program" "$Root/scripts/build.sh" win64
@@ -132,7 +137,6 @@ fi
 
 Build "unit tests" BuildPreset native
 
-# One processor at most is enough for these, all the others have clang-tidy.
 FuzzTargets=(language_file prefs profiles)
 NativeTests() {
     local name
@@ -142,15 +146,16 @@ NativeTests() {
 NativeTests &
 NativeJob=$!
 
-Checks="$Root/tests/checks"
 Check "formatting" "$Checks/format.sh"
-Check "clang-tidy" "$Checks/tidy.sh"
 Check "include directions" "$Checks/includes.sh"
 Check "reference of the settings" "$Checks/settings_reference.sh"
 for Target in win32 win64; do
     Check "imports of the $Target program" "$Checks/imports.sh" "$Root/dist/$Target/Quilltune.exe"
     Check "file of the $Target program" "$Checks/program_file.sh" "$Root/dist/$Target/Quilltune.exe"
 done
+
+wait "$TidyJob"
+CountCheck "clang-tidy"
 
 wait "$NativeJob"
 for Name in unit_tests contract_tests; do

@@ -3,6 +3,7 @@
 #include <bit>
 
 #include "base/decimal.h"
+#include "platform/system_parameters.h"
 #include "platform/text.h"
 #include "settings/coding.h"
 
@@ -33,7 +34,7 @@ TText InRegistry(const TPlace& place) {
 
 TText InParameter(const TParameter& parameter) {
     TText words = L"system parameter, ";
-    if (parameter.Get != 0) words += L"read " + Hex(parameter.Get) + L", ";
+    if (parameter.Get != 0 && parameter.Get < kSystemMetric) words += L"read " + Hex(parameter.Get) + L", ";
     words += L"set " + Hex(parameter.Set);
     if (parameter.BlockSize != 0)
         return words + L" (the number at byte " + DecimalText(parameter.Offset) + L" of " +

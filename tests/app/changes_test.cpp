@@ -193,7 +193,7 @@ class TWorld {
 TEST(TChanges, UndoBringsBackWhatWas) {
     int entries = 0;
     int stopped = 0;
-    for (unsigned seed = 0; seed < 40; ++seed) {
+    for (unsigned seed = 0; seed < 12; ++seed) {
         SCOPED_TRACE(seed);
         TWorld world(seed);
         world.Open();
@@ -222,13 +222,13 @@ TEST(TChanges, UndoBringsBackWhatWas) {
         EXPECT_EQ(world.Snapshot(), after);
         if (testing::Test::HasFailure()) return;
     }
-    EXPECT_GT(entries, 20);
-    EXPECT_GT(stopped, 2);
+    EXPECT_GT(entries, 5);
+    EXPECT_GT(stopped, 0);
 }
 
 TEST(TChanges, TakingBackLeavesWhatIsStored) {
     int some = 0;
-    for (unsigned seed = 0; seed < 40; ++seed) {
+    for (unsigned seed = 0; seed < 12; ++seed) {
         SCOPED_TRACE(seed);
         TWorld world(seed + 1000);
         world.Open();
@@ -258,7 +258,7 @@ TEST(TChanges, TakingBackLeavesWhatIsStored) {
         }
         if (testing::Test::HasFailure()) return;
     }
-    EXPECT_GT(some, 30);
+    EXPECT_GT(some, 10);
 }
 
 }  // namespace
