@@ -92,6 +92,8 @@ class TWorld {
                 button->Click();
             } else if (auto* radio = dynamic_cast<TRadioButton*>(&control)) {
                 radio->SetChecked(true);
+            } else if (auto* list = dynamic_cast<TComboBox*>(&control)) {
+                list->SetItemIndex(Pick(static_cast<int>(list->Items().size())));
             } else {
                 SetState(control, StateFromNumber(control, Pick(5) / 2));
             }
@@ -201,7 +203,8 @@ TEST(TChanges, UndoBringsBackWhatWas) {
         world.Act(1 + world.Pick(12));
         const auto rows = world.PendingRows();
         EXPECT_EQ(world.Snapshot(), before) << "looking changes nothing";
-        EXPECT_EQ(world.Window->Find(L"Button_Apply")->Enabled(), !rows.empty());
+        EXPECT_EQ(world.Window->Find(L"Button_Apply")->Enabled(),
+                  !rows.empty() || world.Window->Context().FirefoxChanged);
         const std::wstring count =
             rows.size() == 1 ? L"1 change\u2026" : std::to_wstring(rows.size()) + L" changes\u2026";
         if (!rows.empty()) EXPECT_EQ(world.Window->Find(L"Button_Changes")->Caption(), count);
