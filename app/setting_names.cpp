@@ -37,7 +37,8 @@ void TSettingNames::Attribute(TChangeSet& operations) const {
     std::unordered_map<std::wstring, const TSetting*, TTextHash, TTextEqual> settings;
     for (const TSetting* setting : FCatalogue.Settings())
         for (const TRow* row : setting->Rows)
-            for (const TTarget& target : TargetsOf(*row)) settings.emplace(placeOf(target), setting);
+            // Of two pages that show a setting the later one is its own.
+            for (const TTarget& target : TargetsOf(*row)) settings.insert_or_assign(placeOf(target), setting);
     for (TOperation& operation : operations) {
         if (!operation.Setting.empty()) continue;
         const auto found = settings.find(placeOf(operation.Target));

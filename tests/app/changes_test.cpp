@@ -17,7 +17,6 @@ namespace {
 
 constexpr const wchar_t* kUserFile = L"C:\\Data\\Mozilla\\Firefox\\p\\user.js";
 constexpr const wchar_t* kHistory = L"C:\\Data\\Vandrel\\Orbicare V4\\Quilltune\\History";
-constexpr const wchar_t* kParameterProfile = L"Control Panel\\Desktop";
 
 /// Stands for the native side: each dialog meets the next of its users.
 class TUserPeer : public TFormPeer {
@@ -262,6 +261,101 @@ TEST(TChanges, TakingBackLeavesWhatIsStored) {
         if (testing::Test::HasFailure()) return;
     }
     EXPECT_GT(some, 10);
+}
+
+constexpr const wchar_t* kSavesAccess = L"Checkbox_Drives_Common_NTFS_SaveLastVisitData";
+const TRegistryPlace kSavesAccessValue{TRootKey::LocalMachine,
+                                       L"System\\CurrentControlSet\\Control\\FileSystem",
+                                       L"NtfsDisableLastAccessUpdate"};
+
+class TFileOfChanges : public testing::Test {
+  protected:
+    TFileOfChanges() {
+        World.Fake.Registry.Put(kSavesAccessValue, {TRegDataType::Dword, 1});
+        World.Open();
+    }
+    void Import(const TUserPeer::TUser& user) {
+        World.Window->SetPeer(std::make_unique<TUserPeer>(user));
+        World.Window->OpenFile(L"C:\\a.reg");
+        World.Window->SetPeer(nullptr);
+    }
+    std::optional<std::int32_t> LastAccess() {
+        const auto* data = World.Fake.Registry.Find(kSavesAccessValue);
+        return data == nullptr ? std::nullopt : std::optional(std::get<std::int32_t>(data->Value));
+    }
+    bool Shows() { return World.Window->Find<TCheckBox>(kSavesAccess)->Checked(); }
+
+    TWorld World{7};
+};
+
+TEST_F(TFileOfChanges, IsWrittenFromWhatIsPendingAndTakenOverAfterAPreview) {
+    World.Window->Find<TCheckBox>(kSavesAccess)->SetChecked(!Shows());
+    World.Fake.Dialogs.AnswerFile(L"C:\\a.reg");
+    World.Fake.Files.PutFolder(L"C:");
+    World.Dialog(L"Button_Changes", [](TForm& dialog) { Press(dialog, L"Button_Changes_Export"); });
+    const bool wanted = Shows();
+    World.Dialog(L"Button_Changes", [](TForm& dialog) {
+        List(dialog, L"ListView_Changes").SetSelected({0}, 0);
+        List(dialog, L"ListView_Changes").Delete();
+    });
+    EXPECT_NE(Shows(), wanted);
+    for (const bool agrees : {false, true}) {
+        Import([&](TForm& dialog) {
+            ASSERT_EQ(dialog.ClassName(), L"TQuilltune_FormPreview");
+            const auto cells = List(dialog, L"ListView_Preview").Rows().at(0).Cells;
+            EXPECT_TRUE(cells[0].ends_with(L"NtfsDisableLastAccessUpdate") && cells[1] != cells[2]);
+            Press(dialog, agrees ? L"Button_Preview_Apply" : L"Button_Preview_Cancel");
+        });
+        EXPECT_EQ(Shows(), agrees == wanted) << "the page follows";
+        EXPECT_EQ(World.Entries().size(), agrees ? 1U : 0U);
+    }
+    EXPECT_EQ(World.Fake.Dialogs.Questions().size(), 0U) << "this setting needs no restart";
+}
+
+TEST_F(TFileOfChanges, OfSomebodyElseIsKnownByItsPlaces) {
+    World.Fake.Files.PutText(L"C:\\a.reg",
+                             "REGEDIT4\n[HKLM\\System\\CurrentControlSet\\Control\\FileSystem]\n"
+                             "\"NtfsDisableLastAccessUpdate\"=dword:0\n[HKEY_USERS\\S-1\\K]\n@=\"v\"\n");
+    Import([](TForm& dialog) { Press(dialog, L"Button_Preview_Apply"); });
+    EXPECT_EQ(LastAccess(), 0);
+    EXPECT_TRUE(Shows());
+    World.Dialog(L"Button_History", [](TForm& dialog) {
+        EXPECT_EQ(List(dialog, L"ListView_History").Rows().at(0).Cells.at(1),
+                  L"Record the date of the last access to files and folders (Driver, General)");
+    });
+    World.Undo();
+    EXPECT_EQ(LastAccess(), 1);
+    EXPECT_FALSE(World.Fake.Registry.HasKey(TRootKey::Users, L"S-1"));
+}
+
+TEST_F(TFileOfChanges, WithAnErrorIsRefusedAsAWhole) {
+    World.Fake.Files.PutText(L"C:\\a.reg", "REGEDIT4\n[HKCU\\K]\n\"v\"=dword:1\n\"w\"=dword:z\n");
+    Import([](TForm&) { FAIL(); });
+    ASSERT_EQ(World.Fake.Dialogs.Questions().size(), 1U);
+    EXPECT_NE(World.Fake.Dialogs.Questions()[0].Text.find(L"Line 4: "), std::wstring::npos);
+    EXPECT_FALSE(World.Fake.Registry.HasKey(TRootKey::CurrentUser, L"K"));
+}
+
+TEST_F(TFileOfChanges, OfTheHistoryIsKeptForAHundredAppliesAndNothingElseIsTouched) {
+    for (int i = 0; i < 105; ++i)
+        World.Fake.Files.PutText(
+            kHistory + (L"\\2001-01-01 00.00." + std::to_wstring(100 + i).substr(1)) + L".reg",
+            "no such file");
+    for (const wchar_t* other : {L"\\mine.reg", L"\\2000-01-01 00.00.00 1.reg", L"\\2000-01-01.txt"})
+        World.Fake.Files.PutText(std::wstring(kHistory) + other, "kept");
+    World.Window->Find<TCheckBox>(kSavesAccess)->SetChecked(!Shows());
+    Press(*World.Window, L"Button_Apply");
+    const auto entries = World.Entries();
+    EXPECT_EQ(entries.size(), 100U);
+    EXPECT_EQ(entries.front(), L"2010-02-01 03.04.00");
+    EXPECT_EQ(World.Fake.Files.List(kHistory, L"*").size(), 103U);
+    World.Dialog(L"Button_History", [](TForm& dialog) {
+        EXPECT_TRUE(dialog.Find(L"Button_History_Undo")->Enabled());
+        auto& list = List(dialog, L"ListView_History");
+        EXPECT_EQ(list.Rows()[1].Cells[1], L"(cannot be read)");
+        list.SetSelected({1}, 1);
+        EXPECT_FALSE(dialog.Find(L"Button_History_Undo")->Enabled());
+    });
 }
 
 }  // namespace
