@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "base/decimal.h"
 #include "engine/reg_file.h"
@@ -18,7 +19,7 @@ constexpr const wchar_t* kExtension = L".reg";
 /// Below it Windows keeps the parameters that SystemParametersInfoW sets.
 constexpr const wchar_t* kParameterProfile = L"Control Panel";
 /// A larger file of preferences is restored statement by statement only.
-constexpr std::size_t kLargestPreferenceFile = 1024 * 1024;
+constexpr std::size_t kLargestPreferenceFile = std::size_t{1024} * 1024;
 
 constexpr std::wstring_view kStamp = L"dddd-dd-dd dd.dd.dd";
 
@@ -82,7 +83,7 @@ std::wstring THistory::Add(const TChangeSet& wayBack) {
         throw std::runtime_error("cannot create the folder of the history");
     const TBytes bytes = WriteRegFile(wayBack);
     for (int number = 1; number < kMostTries; ++number) {
-        const std::wstring entry = number == 1 ? stamp : stamp + L' ' + DecimalText(number);
+        std::wstring entry = number == 1 ? stamp : stamp + L' ' + DecimalText(number);
         if (FSystem.Files.Exists(PathOf(entry))) continue;
         if (!FSystem.Files.CreateNew(PathOf(entry), bytes)) break;
         const auto entries = Entries();
@@ -99,9 +100,8 @@ void THistory::Replace(const std::wstring& entry, const TChangeSet& wayBack) {
 
 void THistory::Remove(const std::wstring& entry) { (void)FSystem.Files.Delete(PathOf(entry)); }
 
-TRecordedApply::TRecordedApply(TSystem& system, const TChangeSet& operations,
-                               const TPreferenceStore* preferences)
-    : FSystem(system), FPreferences(preferences), FHistory(system), FOperations(operations) {}
+TRecordedApply::TRecordedApply(TSystem& system, TChangeSet operations, const TPreferenceStore* preferences)
+    : FSystem(system), FPreferences(preferences), FHistory(system), FOperations(std::move(operations)) {}
 
 void TRecordedApply::Begin() {
     const auto sets = [this](auto isKind) {

@@ -36,7 +36,7 @@ class THistory {
 class TRecordedApply {
   public:
     /// `preferences` is null when none will be saved. Everything outlives the object.
-    TRecordedApply(TSystem& system, const TChangeSet& operations, const TPreferenceStore* preferences);
+    TRecordedApply(TSystem& system, TChangeSet operations, const TPreferenceStore* preferences);
 
     /// Before the first write: saves the way back. Throws like THistory::Add; the Apply goes on all the same.
     void Begin();

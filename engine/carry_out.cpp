@@ -17,8 +17,7 @@ TContent OutcomeOf(const TOperation& operation, const TContent& content) {
 
 bool IsAssociation(const TRegistryTarget& target) {
     constexpr std::wstring_view kClasses = L"Software\\Classes\\";
-    return target.Root == TRootKey::ClassesRoot ||
-           SameText(std::wstring_view(target.Key).substr(0, kClasses.size()), kClasses);
+    return target.Root == TRootKey::ClassesRoot || SameText(target.Key.substr(0, kClasses.size()), kClasses);
 }
 
 bool IsWholeFile(const TTarget& target) {

@@ -134,7 +134,7 @@ std::wstring Formatted(std::wstring text, std::initializer_list<std::wstring> va
 
 std::wstring PlaceWords(const TTarget& target, const TCaptions& captions) {
     if (const auto* registry = std::get_if<TRegistryTarget>(&target)) {
-        const std::wstring key = NameOf(registry->Root) + (L'\\' + registry->Key);
+        std::wstring key = NameOf(registry->Root) + (L'\\' + registry->Key);
         if (registry->IsKey) return key;
         return key + L'\\' +
                (registry->ValueName.empty() ? captions[TCaption::DefaultValue] : registry->ValueName);
