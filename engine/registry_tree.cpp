@@ -12,8 +12,10 @@ void AddTree(const TRegistry& registry, TRootKey root, const std::wstring& key, 
             tree.push_back(
                 {{}, TRegistryTarget{root, key, name}, TRegistryEffect{TRegAction::Write, std::move(value)}});
     }
-    for (const std::wstring& name : registry.SubKeys(root, key))
-        AddTree(registry, root, key + L'\\' + name, tree);
+    for (const std::wstring& name : registry.SubKeys(root, key)) {
+        std::wstring below = key + L'\\';
+        AddTree(registry, root, below += name, tree);
+    }
 }
 
 /// The places of a tree, by their names.
