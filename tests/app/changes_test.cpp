@@ -261,4 +261,25 @@ TEST(TChanges, TakingBackLeavesWhatIsStored) {
     EXPECT_GT(some, 30);
 }
 
+TEST(TChanges, AnUndoIsCarriedOutWholeWhateverIsDoneMeanwhile) {
+    TWorld world(0);
+    world.Fake.Services.Put(L"service", {.PendingQueries = 1});
+    const TRegistryTarget value{TRootKey::CurrentUser, L"Software\\K", L"v"};
+    (void)THistory(world.Fake.System)
+        .Add({{{}, TServiceTarget{L"service"}, TServiceStatus{TServiceStartType::Manual, true}},
+              {{}, value, TRegistryEffect{TRegAction::Write, TRawValue{1, {'a', 0, 0, 0}}}}});
+    world.Open();
+    int previews = 0;
+    world.Dialog(L"Button_History", [&](TForm& dialog) {
+        if (dialog.ClassName() == L"TQuilltune_FormPreview")
+            return Press(dialog, previews++ == 0 ? L"Button_Preview_Apply" : L"Button_Preview_Cancel");
+        world.Fake.Clock.OnProcessMessages = [&] {
+            if (previews == 1) Press(dialog, L"Button_History_Undo");
+        };
+        Press(dialog, L"Button_History_Undo");
+    });
+    EXPECT_EQ(previews, 2);
+    EXPECT_NE(world.Fake.Registry.Find({value.Root, value.Key, value.ValueName}), nullptr);
+}
+
 }  // namespace
