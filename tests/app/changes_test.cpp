@@ -282,4 +282,17 @@ TEST(TChanges, AnUndoIsCarriedOutWholeWhateverIsDoneMeanwhile) {
     EXPECT_NE(world.Fake.Registry.Find({value.Root, value.Key, value.ValueName}), nullptr);
 }
 
+TEST(TChanges, TheLatestApplyStaysInTheHistoryWhateverTheClockSays) {
+    TFakeSystem fake;
+    fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Data");
+    for (int i = 10; i < 110; ++i)
+        fake.Files.PutText(kHistory + (L"\\2099-01-01 00.00.00 " + std::to_wstring(i)) + L".reg", "");
+    THistory history(fake.System);
+    const std::wstring entry = history.Add({});
+    const auto entries = history.Entries();
+    EXPECT_EQ(entries.size(), 100u);
+    EXPECT_EQ(entries.back(), entry);
+    EXPECT_EQ(entries[98], L"2099-01-01 00.00.00 11") << "the oldest of the others has gone";
+}
+
 }  // namespace
