@@ -3,12 +3,32 @@
 #include <algorithm>
 #include <set>
 
+#include "engine/registry_tree.h"
 #include "platform/language.h"
 #include "settings/change_words.h"
 #include "ui/design.h"
 
-std::vector<TListView::TRow> PreviewRows(TSystem& system, const TChangeSet& operations,
+namespace {
+
+/// The operations, and behind each that deletes a key what is in that now, with no effect of its own.
+TChangeSet WithWhatIsDeleted(TSystem& system, const TChangeSet& operations) {
+    TChangeSet steps;
+    for (const TOperation& operation : operations) {
+        steps.push_back(operation);
+        const auto* effect = std::get_if<TRegistryEffect>(&operation.Effect);
+        if (effect == nullptr || effect->Action != TRegAction::DeleteKey) continue;
+        const auto& target = std::get<TRegistryTarget>(operation.Target);
+        for (TOperation& each : TreeOf(system, target.Root, target.Key))
+            if (each.Target != operation.Target) steps.push_back({{}, std::move(each.Target), {}});
+    }
+    return steps;
+}
+
+}  // namespace
+
+std::vector<TListView::TRow> PreviewRows(TSystem& system, const TChangeSet& changeSet,
                                          const TPreferenceStore* preferences, const TCaptions& captions) {
+    const TChangeSet operations = WithWhatIsDeleted(system, changeSet);
     const auto changes = ChangesOf(system, operations, preferences);
     std::vector<TListView::TRow> rows;
     std::set<std::wstring> shown;

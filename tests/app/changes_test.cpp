@@ -295,4 +295,30 @@ TEST(TChanges, TheLatestApplyStaysInTheHistoryWhateverTheClockSays) {
     EXPECT_EQ(entries[98], L"2099-01-01 00.00.00 11") << "the oldest of the others has gone";
 }
 
+TEST(TChanges, APreviewShowsWhatGoesWithADeletedKey) {
+    using TCells = std::vector<std::wstring>;
+    TFakeSystem fake;
+    for (const wchar_t* key : {L"K", L"K\\Below"})
+        for (const wchar_t* name : {L"", L"a", L"b"})
+            fake.Registry.Put({TRootKey::CurrentUser, key, name}, {TRegDataType::String, std::wstring(L"x")});
+    const TRegistryEffect write{TRegAction::Write, TRawValue{1, {'x', 0, 0, 0}}};
+    const TRegistryTarget key{.Root = TRootKey::CurrentUser, .Key = L"K", .IsKey = true};
+    TChangeSet operations{{{}, key, TRegistryEffect{TRegAction::DeleteKey}}};
+    for (const wchar_t* name : {L"a", L"c"})
+        operations.push_back({{}, TRegistryTarget{key.Root, key.Key, name}, write});
+    std::vector<TCells> rows;
+    for (const auto& row : PreviewRows(fake.System, operations, nullptr, TCaptions()))
+        rows.push_back(row.Cells);
+    const std::wstring path = L"HKEY_CURRENT_USER\\K";
+    EXPECT_EQ(rows, (std::vector<TCells>{{path, L"(key)", L"(key)"},
+                                         {path + L"\\(Default)", L"x", L"(not set)"},
+                                         {path + L"\\b", L"x", L"(not set)"},
+                                         {path + L"\\Below", L"(key)", L"(no key)"},
+                                         {path + L"\\Below\\(Default)", L"x", L"(not set)"},
+                                         {path + L"\\Below\\a", L"x", L"(not set)"},
+                                         {path + L"\\Below\\b", L"x", L"(not set)"},
+                                         {path + L"\\a", L"x", L"x"},
+                                         {path + L"\\c", L"(not set)", L"x"}}));
+}
+
 }  // namespace
