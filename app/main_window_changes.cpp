@@ -30,15 +30,14 @@ const TSettingNames& TQuilltune_FormMain::Names() {
 
 void TQuilltune_FormMain::Button_ChangesClick() {
     if (!FLanguage) return;
-    TQuilltune_FormChanges dialog(
-        FContext.Captions, *FLanguage, Names(),
-        {.Pending = [this] { return FReview->Changes(); },
-         .TakeBack =
-             [this](const std::vector<std::wstring>& settings) {
-                 FReview->TakeBack(settings, FVisitedPages);
-                 EnableApply();
-             },
-         .Export = [this](const TForm& asker) { Export(asker); }});
+    TQuilltune_FormChanges dialog(FContext.Captions, *FLanguage, Names(),
+                                  {.Pending = [this] { return FReview->Changes(); },
+                                   .TakeBack =
+                                       [this](const std::vector<std::wstring>& settings) {
+                                           FReview->TakeBack(settings, FVisitedPages);
+                                           EnableApply();
+                                       },
+                                   .Export = [this](const TForm& asker) { Export(asker); }});
     ShowModal(dialog);
     if (!dialog.Chosen().empty()) GoTo(dialog.Chosen());
 }
