@@ -86,19 +86,18 @@ void TQuilltune_FormMain::OpenFile(const std::wstring& path) {
 }
 
 void TQuilltune_FormMain::Import(TForm& asker, const std::wstring& path) {
+    const auto refuse = [&](const std::wstring& reason) {
+        FSystem.Dialogs.Message(asker, reason, TMessageButtons::Ok, TMessageIcon::None);
+    };
     const auto bytes = FSystem.Files.Read(path);
-    auto content = bytes
-                       ? ReadRegFile(*bytes, FSystem.Windows)
-                       : std::variant<TChangeSet, TRegFileError>(TRegFileError{0, TRegFileFault::Unreadable});
+    if (!bytes) return refuse(Formatted(FContext.Captions[TCaption::RegFileNotRead], {path}));
+    auto content = ReadRegFile(*bytes, FSystem.Windows);
     if (const auto* error = std::get_if<TRegFileError>(&content)) {
         const auto reason = static_cast<TCaption>(static_cast<int>(TCaption::RegFileNoHeader) +
                                                   static_cast<int>(error->Fault));
-        FSystem.Dialogs.Message(
-            asker,
-            Formatted(FContext.Captions[TCaption::RegFileRefused],
-                      {path, DecimalText(static_cast<std::int64_t>(error->Line)), FContext.Captions[reason]}),
-            TMessageButtons::Ok, TMessageIcon::None);
-        return;
+        return refuse(Formatted(
+            FContext.Captions[TCaption::RegFileRefused],
+            {path, DecimalText(static_cast<std::int64_t>(error->Line)), FContext.Captions[reason]}));
     }
     auto& operations = std::get<TChangeSet>(content);
     Names().Attribute(operations);

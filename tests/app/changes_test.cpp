@@ -282,6 +282,20 @@ TEST(TChanges, AnUndoIsCarriedOutWholeWhateverIsDoneMeanwhile) {
     EXPECT_NE(world.Fake.Registry.Find({value.Root, value.Key, value.ValueName}), nullptr);
 }
 
+TEST(TChanges, SaysWhyNothingOfAFileIsTakenOver) {
+    TWorld world(0);
+    world.Open();
+    world.Fake.Files.PutText(L"C:\\broken.reg", "REGEDIT4\n\n[HKCU\\K]\n\"v\"=dword:x\n");
+    for (const auto& [path, text] :
+         {std::pair(L"C:\\none.reg", L"The file C:\\none.reg cannot be read."),
+          std::pair(
+              L"C:\\broken.reg",
+              L"Nothing of the file C:\\broken.reg is taken over. Line 4: the data cannot be understood.")}) {
+        world.Window->OpenFile(path);
+        EXPECT_EQ(world.Fake.Dialogs.Questions().back().Text, text);
+    }
+}
+
 TEST(TChanges, TheLatestApplyStaysInTheHistoryWhateverTheClockSays) {
     TFakeSystem fake;
     fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Data");
