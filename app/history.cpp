@@ -86,8 +86,9 @@ std::wstring THistory::Add(const TChangeSet& wayBack) {
         std::wstring entry = number == 1 ? stamp : stamp + L' ' + DecimalText(number);
         if (FSystem.Files.Exists(PathOf(entry))) continue;
         if (!FSystem.Files.CreateNew(PathOf(entry), bytes)) break;
-        const auto entries = Entries();
-        for (std::size_t i = kMostEntries; i < entries.size(); ++i) Remove(entries[i]);
+        auto others = Entries();
+        std::erase(others, entry);  // it stays, also when the clock was set back
+        for (std::size_t i = kMostEntries - 1; i < others.size(); ++i) Remove(others[i]);
         return entry;
     }
     throw std::runtime_error("cannot write the history");

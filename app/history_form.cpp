@@ -49,8 +49,10 @@ void TQuilltune_FormHistory::ShowEntries() {
     }
     const bool hasEntries = !rows.empty();
     FEntries->SetRows(std::move(rows));
-    if (hasEntries) FEntries->SetSelected({0}, 0);
-    ShowSelected();
+    if (hasEntries)
+        FEntries->SetSelected({0}, 0);
+    else
+        ShowSelected();
 }
 
 const TChangeSet* TQuilltune_FormHistory::Selected() const {
@@ -67,8 +69,9 @@ void TQuilltune_FormHistory::ShowSelected() {
 }
 
 void TQuilltune_FormHistory::Button_History_UndoClick() {
-    const TChangeSet* wayBack = Selected();
-    if (wayBack == nullptr) return;
-    FHost.Undo(*this, *wayBack);
+    const TChangeSet* selected = Selected();
+    if (selected == nullptr) return;
+    const TChangeSet wayBack = *selected;  // while a service is waited for, the list may be made anew
+    FHost.Undo(*this, wayBack);
     ShowEntries();
 }

@@ -253,25 +253,31 @@ void TQuilltune_FormMain::EnableApply() {
 }
 
 void TQuilltune_FormMain::Button_OKClick() {
-    Button_ApplyClick();
-    Close();
+    TakeAll({
+        [this] { Button_ApplyClick(); },
+        [this] {
+            // Preferences that could not be saved would be lost.
+            if (!FContext.FirefoxChanged) Close();
+        },
+    });
 }
 
 void TQuilltune_FormMain::Button_CancelClick() { Close(); }
 
 void TQuilltune_FormMain::Button_ApplyClick() {
     TRecordedApply record(FSystem, FReview->Operations(), &FFirefox);
+    TWritten written;
     TakeAll({
         [&] { record.Begin(); },
+        [&] { written = CarryOut(FChanges); },
         [&] {
-            const TWritten written = CarryOut(FChanges);
             // Only for what was written: while a service is waited for, the user may have changed more.
             if (written.RestartNeeded) OfferRestart();
-            NotifyShell(written.AssociationsChanged);
-            ApplyFirefox();
-            FTwins->Written();
-            EnableApply();
         },
+        [&] { NotifyShell(written.AssociationsChanged); },
+        [&] { ApplyFirefox(); },
+        [&] { FTwins->Written(); },
+        [&] { EnableApply(); },
         [&] { record.Complete(); },
     });
 }

@@ -30,15 +30,14 @@ const TSettingNames& TQuilltune_FormMain::Names() {
 
 void TQuilltune_FormMain::Button_ChangesClick() {
     if (!FLanguage) return;
-    TQuilltune_FormChanges dialog(
-        FContext.Captions, *FLanguage, Names(),
-        {.Pending = [this] { return FReview->Changes(); },
-         .TakeBack =
-             [this](const std::vector<std::wstring>& settings) {
-                 FReview->TakeBack(settings, FVisitedPages);
-                 EnableApply();
-             },
-         .Export = [this](const TForm& asker) { Export(asker); }});
+    TQuilltune_FormChanges dialog(FContext.Captions, *FLanguage, Names(),
+                                  {.Pending = [this] { return FReview->Changes(); },
+                                   .TakeBack =
+                                       [this](const std::vector<std::wstring>& settings) {
+                                           FReview->TakeBack(settings, FVisitedPages);
+                                           EnableApply();
+                                       },
+                                   .Export = [this](const TForm& asker) { Export(asker); }});
     ShowModal(dialog);
     if (!dialog.Chosen().empty()) GoTo(dialog.Chosen());
 }
@@ -87,19 +86,18 @@ void TQuilltune_FormMain::OpenFile(const std::wstring& path) {
 }
 
 void TQuilltune_FormMain::Import(TForm& asker, const std::wstring& path) {
+    const auto refuse = [&](const std::wstring& reason) {
+        FSystem.Dialogs.Message(asker, reason, TMessageButtons::Ok, TMessageIcon::None);
+    };
     const auto bytes = FSystem.Files.Read(path);
-    auto content = bytes
-                       ? ReadRegFile(*bytes, FSystem.Windows)
-                       : std::variant<TChangeSet, TRegFileError>(TRegFileError{0, TRegFileFault::Unreadable});
+    if (!bytes) return refuse(Formatted(FContext.Captions[TCaption::RegFileNotRead], {path}));
+    auto content = ReadRegFile(*bytes, FSystem.Windows);
     if (const auto* error = std::get_if<TRegFileError>(&content)) {
         const auto reason = static_cast<TCaption>(static_cast<int>(TCaption::RegFileNoHeader) +
                                                   static_cast<int>(error->Fault));
-        FSystem.Dialogs.Message(
-            asker,
-            Formatted(FContext.Captions[TCaption::RegFileRefused],
-                      {path, DecimalText(static_cast<std::int64_t>(error->Line)), FContext.Captions[reason]}),
-            TMessageButtons::Ok, TMessageIcon::None);
-        return;
+        return refuse(Formatted(
+            FContext.Captions[TCaption::RegFileRefused],
+            {path, DecimalText(static_cast<std::int64_t>(error->Line)), FContext.Captions[reason]}));
     }
     auto& operations = std::get<TChangeSet>(content);
     Names().Attribute(operations);

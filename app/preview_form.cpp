@@ -13,27 +13,24 @@ namespace {
 
 using TPlaces = std::unordered_set<std::wstring, TTextHash, TTextEqual>;
 
-/// With what is deleted together with keys. A way back that does not know of it expects that it is not there.
-TChangeSet WithWhatGoesWithKeys(TSystem& system, const TChangeSet& operations, const TCaptions& captions) {
+/// The operations, and behind each that deletes a key what else is in that now, with no effect of its own. A way back that
+/// does not know of it has not left it there.
+TChangeSet WithWhatIsDeleted(TSystem& system, const TChangeSet& operations, const TCaptions& captions) {
     TPlaces known;
     for (const TOperation& operation : operations) known.insert(PlaceWords(operation.Target, captions));
-    TChangeSet all;
+    TChangeSet steps;
     for (const TOperation& operation : operations) {
+        steps.push_back(operation);
         const auto* effect = std::get_if<TRegistryEffect>(&operation.Effect);
-        if (effect != nullptr && effect->Action == TRegAction::DeleteKey) {
-            const auto& key = std::get<TRegistryTarget>(operation.Target);
-            for (const TOperation& below : TreeOf(system, key.Root, key.Key)) {
-                const auto& target = std::get<TRegistryTarget>(below.Target);
-                if (!known.insert(PlaceWords(target, captions)).second) continue;
-                all.push_back(
-                    {operation.Setting, target,
-                     TRegistryEffect{target.IsKey ? TRegAction::DeleteKey : TRegAction::DeleteValue}});
-                if (operation.Left) all.back().Left = TRegistryContent();
-            }
+        if (effect == nullptr || effect->Action != TRegAction::DeleteKey) continue;
+        const auto& target = std::get<TRegistryTarget>(operation.Target);
+        for (TOperation& each : TreeOf(system, target.Root, target.Key)) {
+            if (!known.insert(PlaceWords(each.Target, captions)).second) continue;
+            steps.push_back({{}, std::move(each.Target), {}});
+            if (operation.Left) steps.back().Left = TRegistryContent();
         }
-        all.push_back(operation);
     }
-    return all;
+    return steps;
 }
 
 bool IsChangedSince(const TOperation& operation, const TContent& now) {
@@ -47,10 +44,10 @@ bool IsChangedSince(const TOperation& operation, const TContent& now) {
 
 }  // namespace
 
-std::vector<TListView::TRow> PreviewRows(TSystem& system, const TChangeSet& operations,
+std::vector<TListView::TRow> PreviewRows(TSystem& system, const TChangeSet& changeSet,
                                          const TPreferenceStore* preferences, const TCaptions& captions) {
-    const TChangeSet all = WithWhatGoesWithKeys(system, operations, captions);
-    const auto changes = ChangesOf(system, all, preferences);
+    const TChangeSet operations = WithWhatIsDeleted(system, changeSet, captions);
+    const auto changes = ChangesOf(system, operations, preferences);
     std::vector<TListView::TRow> rows;
     TPlaces shown;
     for (std::size_t i = changes.size(); i-- > 0;) {
@@ -61,7 +58,8 @@ std::vector<TListView::TRow> PreviewRows(TSystem& system, const TChangeSet& oper
         std::wstring place = PlaceWords(change.Target, captions);
         if (!shown.insert(place).second) continue;
         std::wstring now = ContentWords(change.Target, change.Before, captions);
-        if (IsChangedSince(all[i], change.Before)) now = Formatted(captions[TCaption::ChangedSince], {now});
+        if (IsChangedSince(operations[i], change.Before))
+            now = Formatted(captions[TCaption::ChangedSince], {now});
         rows.push_back(
             {{std::move(place), std::move(now), ContentWords(change.Target, change.After, captions)}});
     }

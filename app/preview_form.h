@@ -8,9 +8,9 @@
 
 class TLanguage;
 
-/// A change set as a list shows it: place, now, after. Of operations at one place the last one stands for all; what is not as
-/// a way back expects it says so.
-[[nodiscard]] std::vector<TListView::TRow> PreviewRows(TSystem& system, const TChangeSet& operations,
+/// A change set as a list shows it: place, now, after. Of operations at one place the last one stands for all, and a key
+/// that is deleted has everything in it and below it with it; what is not as a way back expects it says so.
+[[nodiscard]] std::vector<TListView::TRow> PreviewRows(TSystem& system, const TChangeSet& changeSet,
                                                        const TPreferenceStore* preferences,
                                                        const TCaptions& captions);
 

@@ -1,7 +1,9 @@
 #include "engine/way_back.h"
 
 #include <algorithm>
+#include <unordered_set>
 
+#include "base/decimal.h"
 #include "engine/outcome.h"
 #include "engine/registry_tree.h"
 
@@ -35,6 +37,8 @@ class TWayBack {
     [[nodiscard]] TChangeSet Take() { return std::move(FBack); }
 
   private:
+    using TNames = std::unordered_set<std::wstring, TTextHash, TTextEqual>;
+
     [[nodiscard]] TContent Content(const TTarget& target) const {
         return ContentOf(FSystem, target, FPreferences);
     }
@@ -66,6 +70,17 @@ class TWayBack {
             std::ranges::find_if(names, [&](const std::wstring& each) { return SameText(each, name); });
         return found == names.end() ? name : *found;
     }
+    /// The same for a value of a key that is there.
+    std::wstring SpeltValue(const TRegistryTarget& target) {
+        const std::wstring root = DecimalText(static_cast<std::int64_t>(target.Root));
+        const auto [known, isNew] = FValueNames.try_emplace(root + L'\\' + target.Key);
+        if (isNew) {
+            for (std::wstring& name : FSystem.Registry.ValueNames(target.Root, target.Key))
+                known->second.insert(std::move(name));
+        }
+        const auto found = known->second.find(target.ValueName);
+        return found == known->second.end() ? target.ValueName : *found;
+    }
     [[nodiscard]] TRegistryTarget SpeltKey(TRegistryTarget key) const {
         const std::size_t end = key.Key.rfind(L'\\');
         if (end == std::wstring::npos) return key;
@@ -84,7 +99,7 @@ class TWayBack {
                 Restore(operation.Target, operation.Effect);
         } else if (HasKey(key)) {
             if (target.IsKey) return;
-            target.ValueName = Spelt(FSystem.Registry.ValueNames(target.Root, target.Key), target.ValueName);
+            target.ValueName = SpeltValue(target);
             const auto value = std::get<TRegistryContent>(Content(target)).Value;
             Restore(target, TRegistryEffect{value ? TRegAction::Write : TRegAction::DeleteValue, value});
         } else if (effect.Action == TRegAction::Write) {
@@ -109,6 +124,8 @@ class TWayBack {
     TSystem& FSystem;
     const TPreferenceStore* FPreferences;
     TOutcome FOutcome;
+    /// Of each key that was asked for: a file may change thousands of its values.
+    std::unordered_map<std::wstring, TNames, TTextHash, TTextEqual> FValueNames;
     const TOperation* FOperation = nullptr;
     bool FIsEither = false;  ///< which place of several it changes is not known
     TChangeSet FBack;

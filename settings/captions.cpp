@@ -81,6 +81,7 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_RegFileBadLine", L"the line cannot be understood."},
     {L"D_RegFileBadNote", L"the comment cannot be understood."},
     {L"D_RegFileUnreadable", L"the file cannot be read."},
+    {L"D_RegFileNotRead", L"The file %1 cannot be read."},
     {L"D_RegFileNotWritten", L"The file %1 cannot be written."},
 }};
 

@@ -90,6 +90,7 @@ enum class TCaption {
     RegFileBadLine,
     RegFileBadNote,
     RegFileUnreadable,
+    RegFileNotRead,
     RegFileNotWritten,
     kCount,
 };

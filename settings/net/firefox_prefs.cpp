@@ -224,7 +224,9 @@ void TFirefoxPrefs::Save() {
 }
 
 void TFirefoxPrefs::Revert(const std::wstring& setting) {
-    if (std::erase_if(FEdits, [&](const TEdit& edit) { return edit.Setting == setting; }) != 0) Rebuild();
+    if (std::erase_if(FEdits, [&](const TEdit& edit) { return edit.Setting == setting; }) == 0) return;
+    if (FContent.UserFile) FContent.Source = Decode(FContent.UserFile);  // it may have been saved since
+    Rebuild();
 }
 
 void TFirefoxPrefs::FollowUserFile(const std::wstring& path) {

@@ -207,7 +207,7 @@ TEST(TChanges, UndoBringsBackWhatWas) {
         const std::wstring count =
             rows.size() == 1 ? L"1 change\u2026" : std::to_wstring(rows.size()) + L" changes\u2026";
         if (!rows.empty()) EXPECT_EQ(world.Window->Find(L"Button_Changes")->Caption(), count);
-        if (world.Pick(4) == 0) world.Fake.Registry.FailChange(1 + world.Pick(5));
+        if (world.Pick(2) == 0) world.Fake.Registry.FailChange(1 + world.Pick(5));
         Press(*world.Window, L"Button_Apply");
         stopped += world.PendingRows().empty() ? 0 : 1;
         world.Fake.Registry.FailChange(0);
@@ -356,6 +356,80 @@ TEST_F(TFileOfChanges, OfTheHistoryIsKeptForAHundredAppliesAndNothingElseIsTouch
         list.SetSelected({1}, 1);
         EXPECT_FALSE(dialog.Find(L"Button_History_Undo")->Enabled());
     });
+}
+
+TEST(TChanges, AnUndoIsCarriedOutWholeWhateverIsDoneMeanwhile) {
+    TWorld world(0);
+    world.Fake.Services.Put(L"service", {.PendingQueries = 1});
+    const TRegistryTarget value{TRootKey::CurrentUser, L"Software\\K", L"v"};
+    (void)THistory(world.Fake.System)
+        .Add({{{}, TServiceTarget{L"service"}, TServiceStatus{TServiceStartType::Manual, true}},
+              {{}, value, TRegistryEffect{TRegAction::Write, TRawValue{1, {'a', 0, 0, 0}}}}});
+    world.Open();
+    int previews = 0;
+    world.Dialog(L"Button_History", [&](TForm& dialog) {
+        if (dialog.ClassName() == L"TQuilltune_FormPreview")
+            return Press(dialog, previews++ == 0 ? L"Button_Preview_Apply" : L"Button_Preview_Cancel");
+        world.Fake.Clock.OnProcessMessages = [&] {
+            if (previews == 1) Press(dialog, L"Button_History_Undo");
+        };
+        Press(dialog, L"Button_History_Undo");
+    });
+    EXPECT_EQ(previews, 2);
+    EXPECT_NE(world.Fake.Registry.Find({value.Root, value.Key, value.ValueName}), nullptr);
+}
+
+TEST(TChanges, SaysWhyNothingOfAFileIsTakenOver) {
+    TWorld world(0);
+    world.Open();
+    world.Fake.Files.PutText(L"C:\\broken.reg", "REGEDIT4\n\n[HKCU\\K]\n\"v\"=dword:x\n");
+    for (const auto& [path, text] :
+         {std::pair(L"C:\\none.reg", L"The file C:\\none.reg cannot be read."),
+          std::pair(
+              L"C:\\broken.reg",
+              L"Nothing of the file C:\\broken.reg is taken over. Line 4: the data cannot be understood.")}) {
+        world.Window->OpenFile(path);
+        EXPECT_EQ(world.Fake.Dialogs.Questions().back().Text, text);
+    }
+}
+
+TEST(TChanges, TheLatestApplyStaysInTheHistoryWhateverTheClockSays) {
+    TFakeSystem fake;
+    fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Data");
+    for (int i = 10; i < 110; ++i)
+        fake.Files.PutText(kHistory + (L"\\2099-01-01 00.00.00 " + std::to_wstring(i)) + L".reg", "");
+    THistory history(fake.System);
+    const std::wstring entry = history.Add({});
+    const auto entries = history.Entries();
+    EXPECT_EQ(entries.size(), 100u);
+    EXPECT_EQ(entries.back(), entry);
+    EXPECT_EQ(entries[98], L"2099-01-01 00.00.00 11") << "the oldest of the others has gone";
+}
+
+TEST(TChanges, APreviewShowsWhatGoesWithADeletedKey) {
+    using TCells = std::vector<std::wstring>;
+    TFakeSystem fake;
+    for (const wchar_t* key : {L"K", L"K\\Below"})
+        for (const wchar_t* name : {L"", L"a", L"b"})
+            fake.Registry.Put({TRootKey::CurrentUser, key, name}, {TRegDataType::String, std::wstring(L"x")});
+    const TRegistryEffect write{TRegAction::Write, TRawValue{1, {'x', 0, 0, 0}}};
+    const TRegistryTarget key{.Root = TRootKey::CurrentUser, .Key = L"K", .IsKey = true};
+    TChangeSet operations{{{}, key, TRegistryEffect{TRegAction::DeleteKey}}};
+    for (const wchar_t* name : {L"a", L"c"})
+        operations.push_back({{}, TRegistryTarget{key.Root, key.Key, name}, write});
+    std::vector<TCells> rows;
+    for (const auto& row : PreviewRows(fake.System, operations, nullptr, TCaptions()))
+        rows.push_back(row.Cells);
+    const std::wstring path = L"HKEY_CURRENT_USER\\K";
+    EXPECT_EQ(rows, (std::vector<TCells>{{path, L"(key)", L"(key)"},
+                                         {path + L"\\(Default)", L"x", L"(not set)"},
+                                         {path + L"\\b", L"x", L"(not set)"},
+                                         {path + L"\\Below", L"(key)", L"(no key)"},
+                                         {path + L"\\Below\\(Default)", L"x", L"(not set)"},
+                                         {path + L"\\Below\\a", L"x", L"(not set)"},
+                                         {path + L"\\Below\\b", L"x", L"(not set)"},
+                                         {path + L"\\a", L"x", L"x"},
+                                         {path + L"\\c", L"(not set)", L"x"}}));
 }
 
 }  // namespace

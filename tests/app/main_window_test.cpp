@@ -139,6 +139,16 @@ TEST_F(TMainWindow, ApplyAndOkWriteAndOkAndCancelClose) {
     EXPECT_TRUE(Fake.Dialogs.Questions().empty());
 }
 
+TEST_F(TMainWindow, AHistoryThatCannotBeWrittenHoldsNothingBack) {
+    Open();
+    Click(kDriverItem);
+    Toggle(kUdma);
+    Fake.Files.FailReplace(1);
+    EXPECT_THROW(Press(L"Button_OK"), std::runtime_error);
+    EXPECT_EQ(Fake.Dialogs.Questions().size(), 1u);
+    EXPECT_TRUE(Window->Closed() && !Enabled(L"Button_Apply"));
+}
+
 TEST_F(TMainWindow, AsksForARestartOnceForEachChangeThatNeedsIt) {
     Open();
     Click(kDriverItem);
@@ -241,13 +251,17 @@ TEST_F(TMainWindow, SavesFirefoxPreferencesOnlyWhenTheyWereLoadedAndChanged) {
 
     Marks().Firefox.LoadFirefoxPrefs();
     Marks().Firefox.SetFirefoxPref(L"\"b\"", L"2");
-    Press(L"Button_OK");
+    Apply();
     EXPECT_TRUE(Fake.Files.Replaced().empty()) << "no page said that something changed";
 
     Marks().FirefoxChanged = true;
+    Click(kDriverItem);
+    Toggle(kLastAccess);
     Fake.Files.FailReplace(2);  // the history comes first
-    EXPECT_THROW(Apply(), std::runtime_error);
-    EXPECT_TRUE(Enabled(L"Button_Apply"));
+    EXPECT_THROW(Press(L"Button_OK"), std::runtime_error);
+    EXPECT_TRUE(Enabled(L"Button_Apply") && !Window->Closed());
+    EXPECT_EQ(Window->Find(L"Button_Changes")->Caption(), L"1 change\u2026") << "the registry is written";
+    EXPECT_FALSE(Window->Find(kLastAccess)->Marked());
     Apply();
     EXPECT_EQ(Fake.Files.Text(userFile), "user_pref(\"b\", 2);\r\n");
     const TQuestion message{L"Quilltune", L"Need to restart Firefox to take effect.", TMessageButtons::Ok,

@@ -170,6 +170,22 @@ TEST(TChangeSet, TheWayBackRestoresEverythingWhereverApplyStopped) {
     EXPECT_GT(stopped, 10);
 }
 
+TEST(TChangeSet, TheWayBackReadsTheNamesOfAKeyOnce) {
+    TFakeSystem fake;
+    TChangeSet operations;
+    for (const wchar_t* key : {L"K", L"k", L"K2", L"K"})
+        for (const wchar_t* name : {L"Spelt", L"spelt", L"new"}) {
+            if (operations.size() % 3 == 0)
+                fake.Registry.Put({TRootKey::CurrentUser, key, name}, {TRegDataType::Dword, 1});
+            operations.push_back({{},
+                                  TRegistryTarget{TRootKey::CurrentUser, key, name},
+                                  TRegistryEffect{.Action = TRegAction::DeleteValue}});
+        }
+    const TChangeSet back = WayBack(fake.System, operations, nullptr);
+    EXPECT_EQ(std::get<TRegistryTarget>(back.at(1).Target).ValueName, L"Spelt");
+    EXPECT_EQ(fake.Registry.Enumerations, 2U);
+}
+
 TEST(TChangeSet, AParameterThatIsNotToldHasNoBefore) {
     TFakeSystem fake;
     TSysControl changes(fake.System);

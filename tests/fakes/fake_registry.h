@@ -26,6 +26,8 @@ class TFakeRegistry : public TRegistry {
     }
 
   public:
+    mutable std::size_t Enumerations = 0;  ///< calls of ValueNames
+
     TFakeRegistry() {
         using enum TRootKey;
         for (const TRootKey root : {ClassesRoot, CurrentUser, LocalMachine, Users, CurrentConfig})
@@ -119,6 +121,7 @@ class TFakeRegistry : public TRegistry {
     }
     [[nodiscard]] std::vector<std::wstring> ValueNames(TRootKey root,
                                                        const std::wstring& key) const override {
+        ++Enumerations;
         std::vector<std::wstring> names;
         if (const TKey* found = FindKey(Path(root, key)))
             for (const TValue& value : found->Values) names.push_back(value.Name);

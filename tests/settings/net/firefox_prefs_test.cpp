@@ -113,6 +113,16 @@ TEST_F(TFirefoxPrefsTest, TheLastStatementCountsAndAllAreChanged) {
     EXPECT_EQ(Prefs.GetFirefoxPref(L"\"gone\""), L"");
 }
 
+TEST_F(TFirefoxPrefsTest, WhatIsTakenBackIsWhatWasSetSinceTheLastSave) {
+    Load("user_pref(\"a\", 1);\n");
+    Prefs.SetFirefoxPref(L"\"a\"", L"2", L"A");
+    const std::string saved = Saved();
+    Prefs.SetFirefoxPref(L"\"b\"", L"1", L"B");
+    Prefs.Revert(L"A");
+    Prefs.Revert(L"B");
+    EXPECT_EQ(Saved(), saved);
+}
+
 TEST_F(TFirefoxPrefsTest, CommentsStayCommentsAndAllElseStaysInForce) {
     Load(
         "// user_pref(\"off\", 1);\nuser_pref(\"a\", 1); // note\n/* b;\n */\nuser_pref(\"b\", "
