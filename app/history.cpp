@@ -85,7 +85,11 @@ std::wstring THistory::Add(const TChangeSet& wayBack) {
     for (int number = 1; number < kMostTries; ++number) {
         std::wstring entry = number == 1 ? stamp : stamp + L' ' + DecimalText(number);
         if (FSystem.Files.Exists(PathOf(entry))) continue;
-        if (!FSystem.Files.CreateNew(PathOf(entry), bytes)) break;
+        if (!FSystem.Files.CreateNew(PathOf(entry), bytes)) {
+            // Another program may have taken the name.
+            if (FSystem.Files.Exists(PathOf(entry))) continue;
+            break;
+        }
         auto others = Entries();
         std::erase(others, entry);  // it stays, also when the clock was set back
         for (std::size_t i = kMostEntries - 1; i < others.size(); ++i) Remove(others[i]);
@@ -118,11 +122,20 @@ void TRecordedApply::Begin() {
     if (!ChangesNothing(FSystem, FOperations, FPreferences)) Save(FBack);
 }
 
-void TRecordedApply::Complete() {
-    if (FFailed) return;
+TChangeSet TRecordedApply::WithBesides() const {
     TChangeSet back = FBack;
     const TChangeSet besides = Besides();
     back.insert(back.end(), besides.begin(), besides.end());
+    return back;
+}
+
+void TRecordedApply::Supplement() {
+    if (!FFailed && !FEntry.empty()) Save(WithBesides());
+}
+
+void TRecordedApply::Complete() {
+    if (FFailed) return;
+    const TChangeSet back = WithBesides();
     if (!ChangesNothing(FSystem, back, FPreferences)) return Save(back);
     if (!FEntry.empty()) FHistory.Remove(FEntry);
     FEntry.clear();

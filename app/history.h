@@ -41,13 +41,17 @@ class TRecordedApply {
     /// Before the first write: saves the way back. Throws like THistory::Add; the Apply goes on all the same.
     void Begin();
 
-    /// After writes: completes the entry by what only became known now, and removes it when there is nothing to restore. May
-    /// be called again after more of them. Throws like THistory::Replace.
+    /// After the registry and parameters are written: adds what restores them to the byte. Throws like Complete.
+    void Supplement();
+
+    /// After all writes: completes the entry by what only became known now, and removes it when there is nothing to restore.
+    /// Throws like THistory::Replace.
     void Complete();
 
   private:
     /// What restores what else came to be: how Windows keeps the parameters, the file of preferences to the byte.
     [[nodiscard]] TChangeSet Besides() const;
+    [[nodiscard]] TChangeSet WithBesides() const;
     void Save(const TChangeSet& back);
 
     TSystem& FSystem;

@@ -1,5 +1,6 @@
 #include "app/history_form.h"
 
+#include "app/take_all.h"
 #include "platform/language.h"
 #include "ui/design.h"
 
@@ -31,8 +32,7 @@ TQuilltune_FormHistory::TQuilltune_FormHistory(TSystem& system, const TCaptions&
     FEntries->OnOpen = [this](TComponent&) { Button_History_UndoClick(); };
     Find<TButton>(L"Button_History_Undo")->OnClick = [this](TComponent&) { Button_History_UndoClick(); };
     Find<TButton>(L"Button_History_Import")->OnClick = [this](TComponent&) {
-        FHost.Import(*this);
-        ShowEntries();
+        TakeAll({[this] { FHost.Import(*this); }, [this] { ShowEntries(); }});
     };
     auto* close = Find<TButton>(L"Button_History_Close");
     close->Cancel = true;
@@ -72,6 +72,5 @@ void TQuilltune_FormHistory::Button_History_UndoClick() {
     const TChangeSet* selected = Selected();
     if (selected == nullptr) return;
     const TChangeSet wayBack = *selected;  // while a service is waited for, the list may be made anew
-    FHost.Undo(*this, wayBack);
-    ShowEntries();
+    TakeAll({[&] { FHost.Undo(*this, wayBack); }, [this] { ShowEntries(); }});
 }

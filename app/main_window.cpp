@@ -3,16 +3,13 @@
 #include <utility>
 
 #include "app/folder_form.h"
-#include "app/history.h"
 #include "app/take_all.h"
 #include "app/timing_log.h"
 #include "base/decimal.h"
-#include "engine/carry_out.h"
 #include "platform/suite_language.h"
 #include "platform/windows_version.h"
 #include "settings/category_table.h"
 #include "settings/change_words.h"
-#include "settings/tell_explorer.h"
 
 namespace {
 
@@ -263,43 +260,3 @@ void TQuilltune_FormMain::Button_OKClick() {
 }
 
 void TQuilltune_FormMain::Button_CancelClick() { Close(); }
-
-void TQuilltune_FormMain::Button_ApplyClick() {
-    TRecordedApply record(FSystem, FReview->Operations(), &FFirefox);
-    TWritten written;
-    TakeAll({
-        [&] { record.Begin(); },
-        [&] { written = CarryOut(FChanges); },
-        [&] {
-            // Only for what was written: while a service is waited for, the user may have changed more.
-            if (written.RestartNeeded) OfferRestart();
-        },
-        [&] { NotifyShell(written.AssociationsChanged); },
-        [&] { ApplyFirefox(); },
-        [&] { FTwins->Written(); },
-        [&] { EnableApply(); },
-        [&] { record.Complete(); },
-    });
-}
-
-void TQuilltune_FormMain::OfferRestart() {
-    const TMessageAnswer answer = FSystem.Dialogs.Message(*this, FContext.Captions[TCaption::RestartWindows],
-                                                          TMessageButtons::YesNo, TMessageIcon::Question);
-    if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartWindows();
-}
-
-void TQuilltune_FormMain::NotifyShell(bool associationsChanged) {
-    FSystem.Shell.NotifyChange(kAllEvents, kFlush);
-    if (associationsChanged) FSystem.Shell.NotifyChange(kAssociationsChanged, kIdList);
-    TellExplorer(FSystem.Shell);
-}
-
-void TQuilltune_FormMain::ApplyFirefox() {
-    if (!FContext.FirefoxChanged) return;
-    const bool saved = FFirefox.SaveFirefoxPrefs();  // a fault leaves the mark for the next Apply
-    FContext.FirefoxChanged = false;
-    if (saved) {
-        FSystem.Dialogs.Message(*this, FContext.Captions[TCaption::RestartFirefox], TMessageButtons::Ok,
-                                TMessageIcon::None);
-    }
-}

@@ -52,9 +52,10 @@ class TQuilltune_FormMain : public TForm {
     void SelectItem(TCategoryItem& item);
     void Button_ChangesClick();
     void Button_HistoryClick();
-    void OfferRestart();
+    void OfferRestart(const TForm& asker);
     void NotifyShell(bool associationsChanged);
     void ApplyFirefox();
+    void TellFirefoxRestart(const TForm& asker);
     /// Apply is enabled exactly while something is pending.
     void EnableApply();
     /// A control's change was recorded.
@@ -65,7 +66,8 @@ class TQuilltune_FormMain : public TForm {
     void Import(TForm& asker, const std::wstring& path);
     /// Shows what the operations would do over the form that asks, and carries them out when the user agrees.
     void Review(TForm& asker, const TChangeSet& operations);
-    void CarryOutNow(const TChangeSet& operations, TFirefoxPrefs& preferences);
+    /// A fault says how many of them failed.
+    void CarryOutNow(const TForm& asker, const TChangeSet& operations, TFirefoxPrefs& preferences);
     [[nodiscard]] std::vector<TListView::TRow> Preview(const TChangeSet& operations) const;
     /// Made when it is first asked for.
     [[nodiscard]] const TSettingNames& Names();

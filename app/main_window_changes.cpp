@@ -1,8 +1,10 @@
-// The main window's part in changes: their list, the history, files of changes.
+// The main window's part in changes: Apply, their list, the history, files of changes.
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 #include "app/changes_form.h"
+#include "app/history.h"
 #include "app/history_form.h"
 #include "app/main_window.h"
 #include "app/preview_form.h"
@@ -10,8 +12,10 @@
 #include "base/decimal.h"
 #include "engine/carry_out.h"
 #include "engine/reg_file.h"
+#include "platform/unicode.h"
 #include "settings/change_words.h"
 #include "settings/scratch_system.h"
+#include "settings/tell_explorer.h"
 
 namespace {
 
@@ -22,6 +26,49 @@ bool HasPreferences(const TChangeSet& operations) {
 }
 
 }  // namespace
+
+void TQuilltune_FormMain::Button_ApplyClick() {
+    TRecordedApply record(FSystem, FReview->Operations(), &FFirefox);
+    TWritten written;
+    TakeAll({
+        [&] { record.Begin(); },
+        [&] { written = CarryOut(FChanges); },
+        [&] { record.Supplement(); },
+        [&] {
+            // Only for what was written: while a service is waited for, the user may have changed more.
+            if (written.RestartNeeded) OfferRestart(*this);
+        },
+        [&] { NotifyShell(written.AssociationsChanged); },
+        [&] { ApplyFirefox(); },
+        [&] { FTwins->Written(); },
+        [&] { EnableApply(); },
+        [&] { record.Complete(); },
+    });
+}
+
+void TQuilltune_FormMain::OfferRestart(const TForm& asker) {
+    const TMessageAnswer answer = FSystem.Dialogs.Message(asker, FContext.Captions[TCaption::RestartWindows],
+                                                          TMessageButtons::YesNo, TMessageIcon::Question);
+    if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartWindows();
+}
+
+void TQuilltune_FormMain::NotifyShell(bool associationsChanged) {
+    FSystem.Shell.NotifyChange(kAllEvents, kFlush);
+    if (associationsChanged) FSystem.Shell.NotifyChange(kAssociationsChanged, kIdList);
+    TellExplorer(FSystem.Shell);
+}
+
+void TQuilltune_FormMain::ApplyFirefox() {
+    if (!FContext.FirefoxChanged) return;
+    const bool saved = FFirefox.SaveFirefoxPrefs();  // a fault leaves the mark for the next Apply
+    FContext.FirefoxChanged = false;
+    if (saved) TellFirefoxRestart(*this);
+}
+
+void TQuilltune_FormMain::TellFirefoxRestart(const TForm& asker) {
+    FSystem.Dialogs.Message(asker, FContext.Captions[TCaption::RestartFirefox], TMessageButtons::Ok,
+                            TMessageIcon::None);
+}
 
 const TSettingNames& TQuilltune_FormMain::Names() {
     if (!FNames) FNames = std::make_unique<TSettingNames>(FSystem, *FLanguage, FContext.WindowsLevel);
@@ -118,10 +165,11 @@ void TQuilltune_FormMain::Review(TForm& asker, const TChangeSet& operations) {
     // What is pending for preferences stays pending: the file is changed by another store.
     TFirefoxPrefs preferences(FSystem, FirefoxFolder());
     if (HasPreferences(operations)) preferences.LoadFirefoxPrefs();
-    CarryOutNow(operations, preferences);
+    CarryOutNow(asker, operations, preferences);
 }
 
-void TQuilltune_FormMain::CarryOutNow(const TChangeSet& operations, TFirefoxPrefs& preferences) {
+void TQuilltune_FormMain::CarryOutNow(const TForm& asker, const TChangeSet& operations,
+                                      TFirefoxPrefs& preferences) {
     TRecordedApply record(FSystem, operations, &preferences);
     TCarriedOut done;
     TakeAll({
@@ -133,13 +181,18 @@ void TQuilltune_FormMain::CarryOutNow(const TChangeSet& operations, TFirefoxPref
             EnableApply();
         },
         [&] {
-            if (done.Written.RestartNeeded) OfferRestart();
+            if (done.Written.RestartNeeded) OfferRestart(asker);
         },
         [&] { NotifyShell(done.Written.AssociationsChanged); },
         [&] {
-            if (done.SavedPreferences)
-                FSystem.Dialogs.Message(*this, FContext.Captions[TCaption::RestartFirefox],
-                                        TMessageButtons::Ok, TMessageIcon::None);
+            if (done.SavedPreferences) TellFirefoxRestart(asker);
+        },
+        [&] {
+            if (done.Failed.empty()) return;
+            const std::wstring place = PlaceWords(done.Failed.front().Target, FContext.Captions);
+            throw std::runtime_error(ToUtf8(DecimalText(static_cast<std::int64_t>(done.Failed.size())) +
+                                            L" operations could not be carried out, the first of them at " +
+                                            place));
         },
     });
 }

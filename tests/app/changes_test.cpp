@@ -328,6 +328,15 @@ TEST_F(TFileOfChanges, OfSomebodyElseIsKnownByItsPlaces) {
     EXPECT_FALSE(World.Fake.Registry.HasKey(TRootKey::Users, L"S-1"));
 }
 
+TEST_F(TFileOfChanges, ThatCannotBeWrittenInPartLeavesAWordInTheFaultLog) {
+    World.Fake.Registry.PutKey(TRootKey::CurrentUser, L"Denied");
+    World.Fake.Registry.DenyAccess(TRootKey::CurrentUser, L"Denied");
+    World.Fake.Files.PutText(L"C:\\a.reg", "REGEDIT4\n[HKCU\\Denied]\n\"v\"=\"1\"\n[HKCU\\K]\n\"v\"=\"1\"\n");
+    EXPECT_THROW(Import([](TForm& dialog) { Press(dialog, L"Button_Preview_Apply"); }), std::runtime_error);
+    EXPECT_TRUE(World.Fake.Registry.HasKey(TRootKey::CurrentUser, L"K"));
+    EXPECT_EQ(World.Entries().size(), 1U);
+}
+
 TEST_F(TFileOfChanges, WithAnErrorIsRefusedAsAWhole) {
     World.Fake.Files.PutText(L"C:\\a.reg", "REGEDIT4\n[HKCU\\K]\n\"v\"=dword:1\n\"w\"=dword:z\n");
     Import([](TForm&) { FAIL(); });
