@@ -65,8 +65,8 @@ class TListItem {
         DWORD process = 0;
         GetWindowThreadProcessId(list, &process);
         FProcess = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, process);
-        FItem = static_cast<LVITEMW*>(VirtualAllocEx(FProcess, nullptr, sizeof(LVITEMW) + sizeof FText,
-                                                     MEM_COMMIT, PAGE_READWRITE));
+        FItem = static_cast<LVITEMW*>(
+            VirtualAllocEx(FProcess, nullptr, sizeof(LVITEMW) + sizeof FText, MEM_COMMIT, PAGE_READWRITE));
         if (FItem == nullptr) throw TAutomationError(L"no memory in the other process");
     }
     ~TListItem() {
@@ -264,8 +264,8 @@ void TMainWindow::ChooseItem(const std::wstring& name, int index) const {
 std::vector<std::vector<std::wstring>> TMainWindow::Rows(const std::wstring& name) const {
     const HWND list = Find(name);
     TListItem item(list);
-    const auto columns = static_cast<int>(
-        Ask(reinterpret_cast<HWND>(Ask(list, LVM_GETHEADER)), HDM_GETITEMCOUNT));
+    const auto columns =
+        static_cast<int>(Ask(reinterpret_cast<HWND>(Ask(list, LVM_GETHEADER)), HDM_GETITEMCOUNT));
     std::vector<std::vector<std::wstring>> rows(static_cast<std::size_t>(Ask(list, LVM_GETITEMCOUNT)));
     for (std::size_t row = 0; row < rows.size(); ++row)
         for (int column = 0; column < columns; ++column)

@@ -5,18 +5,21 @@
 namespace {
 
 const std::pair<const wchar_t*, HKEY> kRoots[] = {{L"HKEY_CURRENT_USER", HKEY_CURRENT_USER},
-                                                      {L"HKEY_LOCAL_MACHINE", HKEY_LOCAL_MACHINE},
-                                                      {L"HKEY_USERS", HKEY_USERS},
-                                                      {L"HKEY_CLASSES_ROOT", HKEY_CLASSES_ROOT}};
+                                                  {L"HKEY_LOCAL_MACHINE", HKEY_LOCAL_MACHINE},
+                                                  {L"HKEY_USERS", HKEY_USERS},
+                                                  {L"HKEY_CLASSES_ROOT", HKEY_CLASSES_ROOT}};
 constexpr const wchar_t* kParts[] = {L"HKEY_CURRENT_USER", L"HKEY_LOCAL_MACHINE\\Software",
                                      L"HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Control",
                                      L"HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Services",
                                      L"HKEY_USERS\\.DEFAULT"};
 constexpr const wchar_t* kUnnamed = L"(Default)";
 
+const std::wstring kClasses = L"HKEY_LOCAL_MACHINE\\Software\\Classes\\";
+
 bool IsForeign(const std::wstring& path) {
     return path == L"HKEY_CURRENT_USER\\Software\\Wine\\Temporary System Parameters" ||
-           path.ends_with(L"\\Wow6432Node");
+           path.ends_with(L"\\Wow6432Node") || path == kClasses + L"CLSID" ||
+           path == kClasses + L"Interface" || path == kClasses + L"TypeLib";
 }
 
 void AddKey(HKEY parent, const std::wstring& key, const std::wstring& path, TSnapshot& snapshot) {
@@ -90,6 +93,7 @@ void Store(const std::wstring& path, const std::optional<TStoredValue>& value) {
 
 void Restore(const TSnapshot& snapshot) {
     for (const std::wstring& place : Differences(snapshot, RegistrySnapshot())) {
+        if (place.find(L"\\CurrentControlSet\\Services\\") != std::wstring::npos) continue;
         const auto found = snapshot.find(place);
         if (found == snapshot.end())
             Store(place, std::nullopt);

@@ -12,7 +12,7 @@ using TSnapshot = std::map<std::wstring, TStoredValue>;
 /// the registry of 32-bit programs.
 [[nodiscard]] TSnapshot RegistrySnapshot();
 
-/// Puts things back as they were at one.
+/// Puts things back as they were at one, but for services: their manager would not know.
 void Restore(const TSnapshot& snapshot);
 
 /// Stores a value at such a place, or deletes it or the key.
