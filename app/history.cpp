@@ -43,6 +43,12 @@ std::wstring StampOf(const TLocalTime& time) {
            DecimalText(time.Second, 2);
 }
 
+TTarget ProfileKey() {
+    return TRegistryTarget{.Root = TRootKey::CurrentUser, .Key = kParameterProfile, .IsKey = true};
+}
+
+TChangeSet ProfileOf(TSystem& system) { return TreeOf(system, TRootKey::CurrentUser, kParameterProfile); }
+
 }  // namespace
 
 THistory::THistory(TSystem& system) : FSystem(system) {
@@ -73,6 +79,11 @@ std::optional<TChangeSet> THistory::Read(const std::wstring& entry) const {
     auto content = ReadRegFile(*bytes, FSystem.Windows);
     auto* changes = std::get_if<TChangeSet>(&content);
     if (changes == nullptr) return std::nullopt;
+    const auto profile = std::ranges::find(*changes, ProfileKey(), &TOperation::Target);
+    if (profile == changes->end()) return std::move(*changes);
+    const TChangeSet back = Restoring({profile, changes->end()}, ProfileOf(FSystem));
+    changes->erase(profile, changes->end());
+    changes->insert(changes->end(), back.begin(), back.end());
     return std::move(*changes);
 }
 
@@ -116,10 +127,17 @@ void TRecordedApply::Begin() {
         sets([](const TTarget& target) { return std::holds_alternative<TParameterTarget>(target); });
     FSetsPreferences =
         sets([](const TTarget& target) { return std::holds_alternative<TPreferenceTarget>(target); });
-    if (FSetsParameters) FProfile = TreeOf(FSystem, TRootKey::CurrentUser, kParameterProfile);
+    if (FSetsParameters) FProfile = ProfileOf(FSystem);
     if (FSetsPreferences && FPreferences != nullptr) FPreferenceFile = FPreferences->Saved({});
     FBack = WayBack(FSystem, FOperations, FPreferences);
-    if (!ChangesNothing(FSystem, FOperations, FPreferences)) Save(FBack);
+    const bool isBlind = sets([](const TTarget& target) {
+        const auto* parameter = std::get_if<TParameterTarget>(&target);
+        return parameter != nullptr && parameter->Get == 0;
+    });
+    if (!isBlind && ChangesNothing(FSystem, FOperations, FPreferences)) return;
+    TChangeSet back = FBack;
+    back.insert(back.end(), FProfile.begin(), FProfile.end());
+    Save(back);
 }
 
 TChangeSet TRecordedApply::WithBesides() const {
@@ -144,8 +162,7 @@ void TRecordedApply::Complete() {
 
 TChangeSet TRecordedApply::Besides() const {
     TChangeSet besides;
-    if (FSetsParameters)
-        besides = Restoring(FProfile, TreeOf(FSystem, TRootKey::CurrentUser, kParameterProfile));
+    if (FSetsParameters) besides = Restoring(FProfile, ProfileOf(FSystem));
     if (!FPreferenceFile || FPreferenceFile->size() > kLargestPreferenceFile) return besides;
     if (auto file = FPreferences->Saved({}); file && file != FPreferenceFile)
         besides.push_back({{}, TPreferenceTarget{}, FPreferenceFile, false, TContent(std::move(file))});

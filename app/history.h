@@ -13,7 +13,8 @@ class THistory {
     /// behind it when there was another one in the same second.
     [[nodiscard]] std::vector<std::wstring> Entries() const;
 
-    /// The way back; nothing when the entry is gone or cannot be understood.
+    /// The way back; nothing when the entry is gone or cannot be understood. An Apply that did not come to its end has left
+    /// the whole profile of parameters in it; of that the answer has what is different now.
     [[nodiscard]] std::optional<TChangeSet> Read(const std::wstring& entry) const;
 
     /// Saves a way back, on the disk when this returns, and removes the oldest entries beyond the hundredth. The answer is the
@@ -38,7 +39,8 @@ class TRecordedApply {
     /// `preferences` is null when none will be saved. Everything outlives the object.
     TRecordedApply(TSystem& system, TChangeSet operations, const TPreferenceStore* preferences);
 
-    /// Before the first write: saves the way back. Throws like THistory::Add; the Apply goes on all the same.
+    /// Before the first write: saves the way back, with all that is kept of parameters, for what Windows will make of that
+    /// is not known yet. Throws like THistory::Add; the Apply goes on all the same.
     void Begin();
 
     /// After the registry and parameters are written: adds what restores them to the byte. Throws like Complete.

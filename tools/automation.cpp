@@ -58,6 +58,48 @@ std::wstring ChosenItem(HWND list) {
     return text;
 }
 
+/// An item of a list view, for messages that name it by its address: it lies in the process of the list.
+class TListItem {
+  public:
+    explicit TListItem(HWND list) : FList(list) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(list, &process);
+        FProcess = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, process);
+        FItem = static_cast<LVITEMW*>(
+            VirtualAllocEx(FProcess, nullptr, sizeof(LVITEMW) + sizeof FText, MEM_COMMIT, PAGE_READWRITE));
+        if (FItem == nullptr) throw TAutomationError(L"no memory in the other process");
+    }
+    ~TListItem() {
+        VirtualFreeEx(FProcess, FItem, 0, MEM_RELEASE);
+        CloseHandle(FProcess);
+    }
+    TListItem(const TListItem&) = delete;
+    TListItem& operator=(const TListItem&) = delete;
+
+    LRESULT Send(UINT message, int row, LVITEMW item) {
+        WriteProcessMemory(FProcess, FItem, &item, sizeof item, nullptr);
+        return Ask(FList, message, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(FItem));
+    }
+    std::wstring Text(int row, int column) {
+        auto* const text = reinterpret_cast<wchar_t*>(FItem + 1);
+        LVITEMW item{};
+        item.iSubItem = column;
+        item.pszText = text;
+        item.cchTextMax = kLongestText;
+        const auto length = static_cast<std::size_t>(Send(LVM_GETITEMTEXTW, row, item));
+        ReadProcessMemory(FProcess, text, FText, sizeof FText, nullptr);
+        return {FText, length};
+    }
+
+  private:
+    static constexpr int kLongestText = 1024;
+
+    HWND FList;
+    HANDLE FProcess = nullptr;
+    LVITEMW* FItem = nullptr;  // of that process; the text follows
+    wchar_t FText[kLongestText]{};
+};
+
 }  // namespace
 
 TAutomationError::TAutomationError(const std::wstring& message) : std::runtime_error(Utf8(message)) {}
@@ -217,6 +259,24 @@ void TMainWindow::ChooseItem(const std::wstring& name, int index) const {
     Ask(list, CB_SETCURSEL, static_cast<WPARAM>(index));
     Deliver(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), CBN_SELCHANGE),
             reinterpret_cast<LPARAM>(list));
+}
+
+std::vector<std::vector<std::wstring>> TMainWindow::Rows(const std::wstring& name) const {
+    const HWND list = Find(name);
+    TListItem item(list);
+    const auto columns =
+        static_cast<int>(Ask(reinterpret_cast<HWND>(Ask(list, LVM_GETHEADER)), HDM_GETITEMCOUNT));
+    std::vector<std::vector<std::wstring>> rows(static_cast<std::size_t>(Ask(list, LVM_GETITEMCOUNT)));
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        for (int column = 0; column < columns; ++column)
+            rows[row].push_back(item.Text(static_cast<int>(row), column));
+    return rows;
+}
+
+void TMainWindow::SelectRow(const std::wstring& name, int row) const {
+    LVITEMW item{};
+    item.state = item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    TListItem(FindUsable(name)).Send(LVM_SETITEMSTATE, row, item);
 }
 
 void TMainWindow::Type(const std::wstring& name, const std::wstring& text) const {

@@ -90,6 +90,10 @@ class TMainWindow {
     void ChooseSheet(const std::wstring& sheet) const;
     /// Chooses an item of a drop-down list.
     void ChooseItem(const std::wstring& name, int index) const;
+    /// What stands in the rows of a list, a text for each column.
+    [[nodiscard]] std::vector<std::vector<std::wstring>> Rows(const std::wstring& name) const;
+    /// Selects a row of a list, gives it the focus and leaves the others as they are.
+    void SelectRow(const std::wstring& name, int row) const;
     /// Types a text key by key into an edit, in place of what stands there.
     void Type(const std::wstring& name, const std::wstring& text) const;
     /// The name of the control that has the focus; empty when none has.

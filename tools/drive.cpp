@@ -48,6 +48,18 @@ constexpr TVerb kVerbs[] = {
      [](const TMainWindow& window, const std::wstring& name, const std::wstring& item) {
          window.ChooseItem(name, static_cast<int>(std::wcstol(item.c_str(), nullptr, 10)));
      }},
+    {"rows", 1, "prints the rows of a list",
+     [](const TMainWindow& window, const std::wstring& name, const std::wstring&) {
+         for (const auto& row : window.Rows(name)) {
+             std::wstring line;
+             for (const std::wstring& cell : row) line += (line.empty() ? L"" : L"\t") + cell;
+             Print(line);
+         }
+     }},
+    {"select", 2, "selects a row of a list by its number from 0",
+     [](const TMainWindow& window, const std::wstring& name, const std::wstring& row) {
+         window.SelectRow(name, static_cast<int>(std::wcstol(row.c_str(), nullptr, 10)));
+     }},
     {"type", 2, "types a text into an edit, in place of what stands there",
      [](const TMainWindow& window, const std::wstring& name, const std::wstring& text) {
          window.Type(name, text);

@@ -8,6 +8,7 @@
 #include "app/history_form.h"
 #include "app/main_window.h"
 #include "app/preview_form.h"
+#include "engine/carry_out.h"
 #include "engine/reg_file.h"
 #include "settings/row_places.h"
 #include "tests/fakes/fake_system.h"
@@ -439,6 +440,26 @@ TEST(TChanges, APreviewShowsWhatGoesWithADeletedKey) {
                                          {path + L"\\Below\\b", L"x", L"(not set)"},
                                          {path + L"\\a", L"x", L"x"},
                                          {path + L"\\c", L"(not set)", L"x"}}));
+}
+
+TEST(TChanges, AnEndBetweenTheWritesLeavesAWayBackOfTheParametersProfile) {
+    TFakeSystem fake;
+    fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Data");
+    const TRegistryPlace odd{TRootKey::CurrentUser, L"Control Panel\\Mouse", L"DoubleClickSpeed"};
+    fake.Registry.PutRaw(odd, {0x1234, {1}});
+    fake.Registry.Put({odd.Root, odd.Key, L"Beside"}, {TRegDataType::Dword, 1});
+    const auto before = fake.Registry.Lines();
+    const TChangeSet operations{{{}, TParameterTarget{.Set = 0x20, .InParam = true}, TSpiData(500U)}};
+    TRecordedApply(fake.System, operations, nullptr).Begin();
+    // What Windows leaves there when the parameter is set.
+    fake.Registry.Put(odd, {TRegDataType::String, std::wstring(L"500")});
+    fake.Registry.Put({odd.Root, L"Control Panel\\New", L"New"}, {TRegDataType::String, std::wstring(L"0")});
+    const THistory history(fake.System);
+    const auto back = history.Read(history.Entries().at(0));
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->size(), 2U) << "what differs";
+    EXPECT_TRUE(CarryOut(fake.System, *back, nullptr).Failed.empty());
+    EXPECT_EQ(fake.Registry.Lines(), before);
 }
 
 }  // namespace
