@@ -253,6 +253,8 @@ TEST(TChanges, TakingBackLeavesWhatIsStored) {
             ASSERT_LT(left.size(), pending.size());
             some += left.empty() ? 0 : 1;
         }
+        // Without a profile there is nothing to save preferences to, and so nothing is listed.
+        if (world.Window->Context().FirefoxChanged) continue;
         EXPECT_FALSE(world.Window->Find(L"Button_Apply")->Enabled());
         const auto shown = world.Shown();
         for (const auto& [name, state] : stored) {
