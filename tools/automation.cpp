@@ -275,8 +275,11 @@ std::vector<std::vector<std::wstring>> TMainWindow::Rows(const std::wstring& nam
 
 void TMainWindow::SelectRow(const std::wstring& name, int row) const {
     LVITEMW item{};
-    item.state = item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    TListItem(FindUsable(name)).Send(LVM_SETITEMSTATE, row, item);
+    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    TListItem remote(FindUsable(name));
+    remote.Send(LVM_SETITEMSTATE, -1, item);
+    item.state = item.stateMask;
+    remote.Send(LVM_SETITEMSTATE, row, item);
 }
 
 void TMainWindow::Type(const std::wstring& name, const std::wstring& text) const {

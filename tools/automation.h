@@ -92,7 +92,7 @@ class TMainWindow {
     void ChooseItem(const std::wstring& name, int index) const;
     /// What stands in the rows of a list, a text for each column.
     [[nodiscard]] std::vector<std::vector<std::wstring>> Rows(const std::wstring& name) const;
-    /// Selects a row of a list, gives it the focus and leaves the others as they are.
+    /// Selects a row of a list and no other, and gives it the focus.
     void SelectRow(const std::wstring& name, int row) const;
     /// Types a text key by key into an edit, in place of what stands there.
     void Type(const std::wstring& name, const std::wstring& text) const;

@@ -254,10 +254,10 @@ class TChanges : public TProgramTest {
         do AnswerAll(main);
         while (WaitUntil([&] { return main.Question().has_value(); }, kQuiet));
     }
-    static void Undo(const TMainWindow& window, int row = 0) {
+    /// Undoes the newest entry.
+    static void Undo(const TMainWindow& window) {
         window.Click(L"Button_History");
         const TMainWindow history = TMainWindow::WaitFor(window.Process(), kHistoryClass);
-        if (row != 0) history.SelectRow(L"ListView_History", row);
         history.Click(L"Button_History_Undo");
         CarryOut(TMainWindow::WaitFor(window.Process(), kPreviewClass), L"Button_Preview_Apply", window);
         history.Click(L"Button_History_Close");
@@ -308,7 +308,7 @@ class TChanges : public TProgramTest {
 };
 
 TEST_F(TChanges, AreListedAppliedAndUndone) {
-    for (int round = 0; round < 3; ++round) {
+    for (int round = 0; round < 2; ++round) {
         Populate();
         const TProgram program;
         const TMainWindow& window = program.Window();
@@ -321,7 +321,9 @@ TEST_F(TChanges, AreListedAppliedAndUndone) {
         CarryOut(window, L"Button_Apply", window);
         const TWorld after = World();
         ExpectListed(rows, before, after);
-        if (Entries().size() != static_cast<std::size_t>(1)) ADD_FAILURE() << Entries().size() << " entries";
+        const bool differs = !Differences(before.Registry, after.Registry).empty() ||
+                             before.UserFile != after.UserFile || before.Services != after.Services;
+        EXPECT_EQ(Entries().size(), differs ? 1u : 0u);
         if (!Entries().empty()) {
             Undo(window);
             ExpectSame(World(), before, "after the undo");
@@ -356,12 +358,9 @@ struct TRegFile {
     std::wstring Path;
 };
 
-/// The program, ready and in front of what it shows of a file.
-TMainWindow Main(DWORD process) { return TMainWindow::WaitFor(process); }
-
 TEST_F(TChanges, AreUndoneAfterAnEndInTheMiddleOfApply) {
     int entries = 0;
-    for (int round = 0; round < 4; ++round) {
+    for (int round = 0; round < 2 || (entries == 0 && round < 8); ++round) {
         Populate();
         const TWorld before = World();
         {
@@ -369,7 +368,7 @@ TEST_F(TChanges, AreUndoneAfterAnEndInTheMiddleOfApply) {
             for (int i = 0; i < 6; ++i) ActOnPage(program.Window(), 30);
             (void)Pending(program.Window());
             PostMessageW(program.Window().Find(L"Button_Apply"), BM_CLICK, 0, 0);
-            if (Pick(4) != 0) (void)WaitUntil([] { return !Entries().empty(); }, 1000);
+            if (Pick(4) != 0) (void)WaitUntil([] { return !Entries().empty(); }, 3000);
             Sleep(static_cast<DWORD>(Pick(30)));
         }
         const TWorld after = World();
@@ -386,7 +385,7 @@ TEST_F(TChanges, AreUndoneAfterAnEndInTheMiddleOfApply) {
         Restore(FBegin);
         if (HasFailure()) return;
     }
-    EXPECT_GT(entries, 0);
+    EXPECT_GT(entries, 0) << "Apply never came so far";
 }
 
 TEST_F(TChanges, FilesAreTakenAfterAPreviewOnly) {
@@ -397,7 +396,7 @@ TEST_F(TChanges, FilesAreTakenAfterAPreviewOnly) {
     const TSnapshot before = RegistrySnapshot();
     const auto imported = [&] { return Differences(before, RegistrySnapshot()); };
     const TProcess program(file.Quoted());
-    const TMainWindow window = Main(program.Id());
+    const TMainWindow window = TMainWindow::WaitFor(program.Id());
     TMainWindow preview = TMainWindow::WaitFor(program.Id(), kPreviewClass);
     const TRows rows = preview.Rows(L"ListView_Preview");
     EXPECT_EQ(rows.size(), 3u) << testing::PrintToString(rows);
@@ -458,7 +457,7 @@ TEST_F(TChanges, EntriesThatAreBrokenStayAlone) {
     EXPECT_FALSE(history.Enabled(L"Button_History_Undo"));
     EXPECT_TRUE(history.Rows(L"ListView_History_Changes").empty());
     history.Press(VK_RETURN, history.Find(L"ListView_History"));
-    history.Press(VK_DOWN, history.Find(L"ListView_History"));
+    history.SelectRow(L"ListView_History", 1);
     EXPECT_TRUE(WaitUntil([&] { return history.Enabled(L"Button_History_Undo"); }));
     EXPECT_EQ(history.Rows(L"ListView_History_Changes").size(), 1u);
     history.Press(VK_DELETE, history.Find(L"ListView_History"));

@@ -14,12 +14,11 @@ constexpr const wchar_t* kParts[] = {L"HKEY_CURRENT_USER", L"HKEY_LOCAL_MACHINE\
                                      L"HKEY_USERS\\.DEFAULT"};
 constexpr const wchar_t* kUnnamed = L"(Default)";
 
-const std::wstring kClasses = L"HKEY_LOCAL_MACHINE\\Software\\Classes\\";
-
 bool IsForeign(const std::wstring& path) {
     return path == L"HKEY_CURRENT_USER\\Software\\Wine\\Temporary System Parameters" ||
-           path.ends_with(L"\\Wow6432Node") || path == kClasses + L"CLSID" ||
-           path == kClasses + L"Interface" || path == kClasses + L"TypeLib";
+           path == L"HKEY_LOCAL_MACHINE\\Software\\Classes\\Interface" ||
+           path == L"HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Control\\ServiceCurrent" ||
+           path.ends_with(L"\\Wow6432Node");
 }
 
 void AddKey(HKEY parent, const std::wstring& key, const std::wstring& path, TSnapshot& snapshot) {

@@ -8,8 +8,8 @@
 /// Values by root, key and name, an unnamed one as "(Default)"; and keys, with a backslash at the end and no bytes.
 using TSnapshot = std::map<std::wstring, TStoredValue>;
 
-/// Settings, services and classes of the machine and of the user. What Wine keeps for the session is not among it, nor is
-/// the registry of 32-bit programs.
+/// Settings, services and classes of the machine and of the user. Not among it are what Wine and the
+/// services' manager keep for the session, interfaces and the registry of 32-bit programs.
 [[nodiscard]] TSnapshot RegistrySnapshot();
 
 /// Puts things back as they were at one, but for services: their manager would not know.
