@@ -81,9 +81,16 @@ std::optional<TChangeSet> THistory::Read(const std::wstring& entry) const {
     if (changes == nullptr) return std::nullopt;
     const auto profile = std::ranges::find(*changes, ProfileKey(), &TOperation::Target);
     if (profile == changes->end()) return std::move(*changes);
-    const TChangeSet back = Restoring({profile, changes->end()}, ProfileOf(FSystem));
-    changes->erase(profile, changes->end());
-    changes->insert(changes->end(), back.begin(), back.end());
+    // Of an Apply that was cut short. Setting the parameters again may change any of it.
+    for (TChangeSet::iterator each = profile; each != changes->end(); ++each)
+        each->Left = TRegistryContent{.HasKey = true, .Value = std::get<TRegistryEffect>(each->Effect).Value};
+    for (TOperation& operation : Restoring({profile, changes->end()}, ProfileOf(FSystem))) {
+        const auto same = std::ranges::find(*changes, operation.Target, &TOperation::Target);
+        if (same == changes->end() || same->Effect != operation.Effect)
+            changes->push_back(std::move(operation));
+        else
+            same->Left = std::move(operation.Left);
+    }
     return std::move(*changes);
 }
 

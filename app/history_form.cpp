@@ -24,6 +24,7 @@ TQuilltune_FormHistory::TQuilltune_FormHistory(TSystem& system, const TCaptions&
                                  Button(L"Button_History_Import", L"&Import\u2026")),
                              Buttons(Button(L"Button_History_Close", L"Close")))));
     FEntries = Find<TListView>(L"ListView_History");
+    FEntries->SelectsOne = true;
     OnShow = [this, &language](TComponent&) {
         language.Translate(*this);
         ShowEntries();

@@ -55,6 +55,9 @@ std::vector<TListView::TRow> PreviewRows(TSystem& system, const TChangeSet& chan
         const auto* preference = std::get_if<TPreferenceTarget>(&change.Target);
         // The whole file repeats its statements.
         if (preference != nullptr && preference->QuotedName.empty()) continue;
+        // What is only put back should the other operations change it.
+        if (change.Setting.empty() && operations[i].Left == change.Before && change.Before == change.After)
+            continue;
         std::wstring place = PlaceWords(change.Target, captions);
         if (!shown.insert(place).second) continue;
         std::wstring now = ContentWords(change.Target, change.Before, captions);

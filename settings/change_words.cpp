@@ -65,6 +65,16 @@ std::wstring TextIn(const TBytes& bytes) {
     return text;
 }
 
+/// What tells apart values that would read alike; nothing for the types that nearly all values have.
+std::wstring TypeMark(std::uint32_t type) {
+    constexpr std::uint32_t kBinary = 3;
+    if (type == kText || type == kDword || type == kBinary) return {};
+    if (type == kExpandText) return L" [REG_EXPAND_SZ]";
+    if (type == kTexts) return L" [REG_MULTI_SZ]";
+    if (type == kQword) return L" [REG_QWORD]";
+    return L" [REG " + DecimalText(static_cast<std::int64_t>(type)) + L']';
+}
+
 std::wstring Words(const TRawValue& value) {
     const bool isNumber = (value.Type == kDword && value.Bytes.size() == 4) ||
                           (value.Type == kQword && value.Bytes.size() == 8);
@@ -85,7 +95,7 @@ std::wstring Cut(std::wstring text) {
 
 std::wstring Words(const TRegistryTarget& target, const TRegistryContent& content,
                    const TCaptions& captions) {
-    if (content.Value) return Words(*content.Value);
+    if (content.Value) return Cut(Words(*content.Value)) + TypeMark(content.Value->Type);
     if (!target.IsKey) return captions[TCaption::ValueMissing];
     return captions[content.HasKey ? TCaption::KeyThere : TCaption::KeyMissing];
 }
@@ -148,7 +158,7 @@ std::wstring PlaceWords(const TTarget& target, const TCaptions& captions) {
 
 std::wstring ContentWords(const TTarget& target, const TContent& content, const TCaptions& captions) {
     if (const auto* registry = std::get_if<TRegistryContent>(&content))
-        return Cut(Words(std::get<TRegistryTarget>(target), *registry, captions));
+        return Words(std::get<TRegistryTarget>(target), *registry, captions);
     if (const auto* parameter = std::get_if<TParameterContent>(&content))
         return Cut(Words(*parameter, captions));
     if (const auto* service = std::get_if<TServiceContent>(&content)) return Words(*service, captions);

@@ -58,15 +58,30 @@ std::wstring ChosenItem(HWND list) {
     return text;
 }
 
+/// LVITEMW as a process of 32 bits has it.
+struct TListItem32 {
+    UINT Mask;
+    int Item;
+    int SubItem;
+    UINT State;
+    UINT StateMask;
+    std::uint32_t Text;
+    int TextMax;
+    std::uint32_t Rest[8];
+};
+
 /// An item of a list view, for messages that name it by its address: it lies in the process of the list.
 class TListItem {
   public:
     explicit TListItem(HWND list) : FList(list) {
         DWORD process = 0;
         GetWindowThreadProcessId(list, &process);
-        FProcess = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, process);
-        FItem = static_cast<LVITEMW*>(
-            VirtualAllocEx(FProcess, nullptr, sizeof(LVITEMW) + sizeof FText, MEM_COMMIT, PAGE_READWRITE));
+        FProcess =
+            OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE | PROCESS_QUERY_INFORMATION,
+                        FALSE, process);
+        IsWow64Process(FProcess, &FIs32Bit);
+        FItem = static_cast<char*>(
+            VirtualAllocEx(FProcess, nullptr, kTextOffset + sizeof FText, MEM_COMMIT, PAGE_READWRITE));
         if (FItem == nullptr) throw TAutomationError(L"no memory in the other process");
     }
     ~TListItem() {
@@ -76,27 +91,34 @@ class TListItem {
     TListItem(const TListItem&) = delete;
     TListItem& operator=(const TListItem&) = delete;
 
-    LRESULT Send(UINT message, int row, LVITEMW item) {
-        WriteProcessMemory(FProcess, FItem, &item, sizeof item, nullptr);
+    LRESULT Send(UINT message, int row, const LVITEMW& item) {
+        const auto text = static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(item.pszText));
+        const TListItem32 narrow{item.mask,      item.iItem, item.iSubItem,   item.state,
+                                 item.stateMask, text,       item.cchTextMax, {}};
+        if (FIs32Bit)
+            WriteProcessMemory(FProcess, FItem, &narrow, sizeof narrow, nullptr);
+        else
+            WriteProcessMemory(FProcess, FItem, &item, sizeof item, nullptr);
         return Ask(FList, message, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(FItem));
     }
     std::wstring Text(int row, int column) {
-        auto* const text = reinterpret_cast<wchar_t*>(FItem + 1);
         LVITEMW item{};
         item.iSubItem = column;
-        item.pszText = text;
+        item.pszText = reinterpret_cast<wchar_t*>(FItem + kTextOffset);
         item.cchTextMax = kLongestText;
         const auto length = static_cast<std::size_t>(Send(LVM_GETITEMTEXTW, row, item));
-        ReadProcessMemory(FProcess, text, FText, sizeof FText, nullptr);
+        ReadProcessMemory(FProcess, FItem + kTextOffset, FText, sizeof FText, nullptr);
         return {FText, length};
     }
 
   private:
     static constexpr int kLongestText = 1024;
+    static constexpr std::size_t kTextOffset = 256;  // behind an item of either kind
 
     HWND FList;
     HANDLE FProcess = nullptr;
-    LVITEMW* FItem = nullptr;  // of that process; the text follows
+    BOOL FIs32Bit = FALSE;
+    char* FItem = nullptr;  // of that process; the text follows
     wchar_t FText[kLongestText]{};
 };
 

@@ -229,6 +229,8 @@ class TListView : public TControl {
           FIsTable(isTable) {}
 
     [[nodiscard]] bool IsTable() const { return FIsTable; }
+
+    bool SelectsOne = false;  ///< of a table: no more than one row can be selected
     [[nodiscard]] const std::vector<std::wstring>& Columns() const { return FColumns; }
     void SetColumn(std::size_t index, const std::wstring& caption);
     [[nodiscard]] const std::vector<TRow>& Rows() const { return FRows; }

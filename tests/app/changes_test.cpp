@@ -459,7 +459,10 @@ TEST(TChanges, AnEndBetweenTheWritesLeavesAWayBackOfTheParametersProfile) {
     const THistory history(fake.System);
     const auto back = history.Read(history.Entries().at(0));
     ASSERT_TRUE(back);
-    EXPECT_EQ(back->size(), 2U) << "what differs";
+    EXPECT_EQ(PreviewRows(fake.System, *back, nullptr, TCaptions()).size(), 3U)
+        << "what differs, and what goes with a key";
+    // Setting a parameter again changes more of it.
+    fake.Registry.Put({odd.Root, odd.Key, L"Beside"}, {TRegDataType::Dword, 2});
     EXPECT_TRUE(CarryOut(fake.System, *back, nullptr).Failed.empty());
     EXPECT_EQ(fake.Registry.Lines(), before);
 }

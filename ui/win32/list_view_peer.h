@@ -17,7 +17,9 @@ class TListViewPeer : public TWindowPeer {
   protected:
     [[nodiscard]] TListView& List() const { return static_cast<TListView&>(Control()); }
     void CreateList(HWND parent, DWORD style);
-    void SetExtendedStyle(DWORD style) const { Send(LVM_SETEXTENDEDLISTVIEWSTYLE, style, style); }
+    void SetExtendedStyle(DWORD style) const {
+        Send(LVM_SETEXTENDEDLISTVIEWSTYLE, style, static_cast<LPARAM>(style));
+    }
     void ShowColumns();
     virtual void FitColumns() = 0;
     /// The width of a text, with the space at its sides that a column has.

@@ -16,7 +16,7 @@ bool IsEnter(const MSG* message) {
 }  // namespace
 
 TTablePeer::TTablePeer(TFormWindow& form, TListView& list, HWND parent) : TListViewPeer(form, list) {
-    CreateList(parent, LVS_OWNERDATA);
+    CreateList(parent, LVS_OWNERDATA | (list.SelectsOne ? LVS_SINGLESEL : 0));
     Subclass();
 }
 
@@ -140,7 +140,7 @@ bool TTablePeer::OnKey(UINT message, WPARAM key) {
         return true;
     }
     if (message != WM_CHAR) return false;
-    if (key == kSelectAll) {
+    if (key == kSelectAll && !List().SelectsOne) {
         LVITEMW item{};
         item.state = item.stateMask = LVIS_SELECTED;
         Send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
