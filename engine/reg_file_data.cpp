@@ -51,8 +51,8 @@ void AppendLinesOfBytes(std::wstring& line, std::size_t begin, const TBytes& byt
 
 }  // namespace
 
-std::optional<TRegFileData> TakeRegData(TRegFileText& text, TRegFileText::TPlace place) {
-    const bool overLines = place == TRegFileText::TPlace::Value;
+std::optional<TRegFileData> TakeRegData(TRegFileText& text, TRegFileText::TQuotes place) {
+    const bool overLines = place == TRegFileText::TQuotes::Value;
     if (text.Rest().starts_with(L'"')) {
         std::wstring string;
         if (!text.TakeQuoted(string, place) || !text.TakeEnd()) return std::nullopt;

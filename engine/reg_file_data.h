@@ -12,7 +12,7 @@ struct TRegFileData {
 [[nodiscard]] bool IsTextType(std::uint32_t type);
 
 /// Takes data and what follows them in their line; nothing when they are broken. Only those of a value go on over lines.
-[[nodiscard]] std::optional<TRegFileData> TakeRegData(TRegFileText& text, TRegFileText::TPlace place);
+[[nodiscard]] std::optional<TRegFileData> TakeRegData(TRegFileText& text, TRegFileText::TQuotes place);
 
 /// Whether registry editors, when they are given the text in bytes, add the NUL that it lacks.
 [[nodiscard]] bool LacksEnd(const TRawValue& value);

@@ -5,7 +5,7 @@
 
 namespace {
 
-using TPlace = TRegFileText::TPlace;
+using TQuotes = TRegFileText::TQuotes;
 
 /// No structure of a parameter is larger.
 constexpr std::size_t kLargestBlock = 512;
@@ -43,7 +43,7 @@ std::optional<TServiceStatus> TakeData(TRegFileText& note, const TServiceTarget&
 
 std::optional<std::wstring> TakeData(TRegFileText& note, const TPreferenceTarget& /*target*/) {
     std::wstring text;
-    if (!note.TakeQuoted(text, TPlace::Note)) return std::nullopt;
+    if (!note.TakeQuoted(text, TQuotes::Note)) return std::nullopt;
     return text;
 }
 
@@ -83,10 +83,10 @@ std::optional<TOperation> TakeOperation(TRegFileText& note) {
     }
     std::wstring name;
     if (note.TakeWord(L"service")) {
-        if (!note.TakeQuoted(name, TPlace::Note)) return std::nullopt;
+        if (!note.TakeQuoted(name, TQuotes::Note)) return std::nullopt;
         return TakeOperation(note, TServiceTarget{std::move(name)});
     }
-    if (!note.TakeWord(L"preference") || !note.TakeQuoted(name, TPlace::Note)) return std::nullopt;
+    if (!note.TakeWord(L"preference") || !note.TakeQuoted(name, TQuotes::Note)) return std::nullopt;
     return TakeOperation(note, TPreferenceTarget{std::move(name)});
 }
 
@@ -95,7 +95,7 @@ bool TakeLeft(TRegFileText& note, std::optional<TRegistryContent>& left) {
     left->HasKey = note.TakeWord(L"key");
     if (!left->HasKey && !note.TakeWord(L"no-key")) return false;
     if (note.Rest().empty()) return true;
-    auto data = TakeRegData(note, TPlace::Note);
+    auto data = TakeRegData(note, TQuotes::Note);
     if (!data) return false;
     left->Value = std::move(data->Value);
     return true;
@@ -169,14 +169,14 @@ void AppendLeft(std::wstring& file, const TOperation& operation) {
 
 bool TakeRegNote(TRegFileText& note, TRegNotes& notes, TChangeSet& operations) {
     if (note.TakeWord(L"setting")) {
-        if (!note.TakeQuoted(notes.Setting, TPlace::Note)) return false;
+        if (!note.TakeQuoted(notes.Setting, TQuotes::Note)) return false;
         notes.Restart = note.TakeWord(L"restart");
     } else if (note.TakeWord(L"left")) {
         if (notes.Left || !TakeLeft(note, notes.Left)) return false;
     } else if (note.TakeWord(L"exact")) {
         notes.IsExact = true;
     } else if (note.TakeWord(L"key")) {
-        if (notes.Key || !note.TakeQuoted(notes.Key.emplace(), TPlace::Note)) return false;
+        if (notes.Key || !note.TakeQuoted(notes.Key.emplace(), TQuotes::Note)) return false;
     } else {
         auto operation = TakeOperation(note);
         if (!operation || notes.IsForNext()) return false;

@@ -8,7 +8,7 @@
 
 namespace {
 
-using TPlace = TRegFileText::TPlace;
+using TQuotes = TRegFileText::TQuotes;
 using TBytesOfFile = std::span<const std::uint8_t>;
 
 constexpr std::wstring_view kHeaders[] = {L"Windows Registry Editor Version 5.00", L"REGEDIT4"};
@@ -121,7 +121,7 @@ TRegFileReader::TFault TRegFileReader::ReadKey() {
 TRegFileReader::TFault TRegFileReader::ReadValue() {
     std::wstring name;
     if (!FSection) return TRegFileFault::NoKey;
-    if (!FText.Take(L"@") && !FText.TakeQuoted(name, TPlace::Value)) return TRegFileFault::BadName;
+    if (!FText.Take(L"@") && !FText.TakeQuoted(name, TQuotes::Value)) return TRegFileFault::BadName;
     FText.SkipBlanks();
     if (!FText.Take(L"=")) return TRegFileFault::BadName;
     FText.SkipBlanks();
@@ -130,7 +130,7 @@ TRegFileReader::TFault TRegFileReader::ReadValue() {
         if (!FText.TakeEnd()) return TRegFileFault::BadData;
         effect.Action = TRegAction::DeleteValue;
     } else {
-        auto data = TakeRegData(FText, TPlace::Value);
+        auto data = TakeRegData(FText, TQuotes::Value);
         if (!data) return TRegFileFault::BadData;
         if (data->IsBytes && !FNotes.IsExact) FinishText(data->Value);
         effect.Value = std::move(data->Value);

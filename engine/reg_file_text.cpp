@@ -69,7 +69,7 @@ bool TRegFileText::TakeWord(std::wstring_view word) {
     return true;
 }
 
-bool TRegFileText::TakeQuoted(std::wstring& text, TPlace place) {
+bool TRegFileText::TakeQuoted(std::wstring& text, TQuotes place) {
     if (!Take(L"\"")) return false;
     text.clear();
     for (;;) {
@@ -83,10 +83,10 @@ bool TRegFileText::TakeQuoted(std::wstring& text, TPlace place) {
                 if (++i == FRest.size()) return false;
                 c = Unescaped(FRest[i]);
             }
-            if (c == L'\0' && place == TPlace::Value) return false;
+            if (c == L'\0' && place == TQuotes::Value) return false;
             text.push_back(c);
         }
-        if (place == TPlace::Note) return false;
+        if (place == TQuotes::Note) return false;
         text += FText.substr(FEnd, FNext - FEnd);
         if (!NextLine()) return false;
     }

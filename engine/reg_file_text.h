@@ -14,7 +14,7 @@ inline constexpr std::wstring_view kRegNote = L";Quilltune ";
 class TRegFileText {
   public:
     /// Where a text in quotes stands, which decides what it may hold.
-    enum class TPlace : std::uint8_t {
+    enum class TQuotes : std::uint8_t {
         Value,  ///< raw line breaks as well, but no NUL
         Note,   ///< "\0" is NUL; it ends in its line
     };
@@ -34,7 +34,7 @@ class TRegFileText {
     /// Takes blanks, the word and the blanks behind it, unless the rest begins with another word.
     [[nodiscard]] bool TakeWord(std::wstring_view word);
     /// Takes a text in quotes without its escapes.
-    [[nodiscard]] bool TakeQuoted(std::wstring& text, TPlace place);
+    [[nodiscard]] bool TakeQuoted(std::wstring& text, TQuotes place);
     /// Takes hexadecimal digits; nothing when there are none or more than 32 bits.
     [[nodiscard]] std::optional<std::uint32_t> TakeHex();
     /// Takes bytes with commas between them. A comma may be followed by a backslash as the last thing of its line; they
