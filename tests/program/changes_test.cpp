@@ -456,11 +456,14 @@ TEST_F(TChanges, EntriesThatAreBrokenStayAlone) {
     EXPECT_EQ(rows[0], (std::vector<std::wstring>{L"2020-01-02 03.04.05", L"(cannot be read)"}));
     EXPECT_FALSE(history.Enabled(L"Button_History_Undo"));
     EXPECT_TRUE(history.Rows(L"ListView_History_Changes").empty());
-    history.Press(VK_RETURN, history.Find(L"ListView_History"));
+    // Sent, so that it is handled before the selection that follows.
+    const HWND list = history.Find(L"ListView_History");
+    SendMessageW(list, WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_EQ(FindWindowW(kPreviewClass, nullptr), nullptr) << "there is nothing to show";
     history.SelectRow(L"ListView_History", 1);
     EXPECT_TRUE(WaitUntil([&] { return history.Enabled(L"Button_History_Undo"); }));
     EXPECT_EQ(history.Rows(L"ListView_History_Changes").size(), 1u);
-    history.Press(VK_DELETE, history.Find(L"ListView_History"));
+    SendMessageW(list, WM_KEYDOWN, VK_DELETE, 0);
     history.Click(L"Button_History_Close");
     EXPECT_TRUE(WaitUntil([&] { return !IsWindow(history.Handle()); }));
     EXPECT_EQ(Entries().size(), 3u) << "nothing else is ever removed";
