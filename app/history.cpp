@@ -108,9 +108,6 @@ std::wstring THistory::Add(const TChangeSet& wayBack) {
             if (FSystem.Files.Exists(PathOf(entry))) continue;
             break;
         }
-        auto others = Entries();
-        std::erase(others, entry);  // it stays, also when the clock was set back
-        for (std::size_t i = kMostEntries - 1; i < others.size(); ++i) Remove(others[i]);
         return entry;
     }
     throw std::runtime_error("cannot write the history");
@@ -119,6 +116,12 @@ std::wstring THistory::Add(const TChangeSet& wayBack) {
 void THistory::Replace(const std::wstring& entry, const TChangeSet& wayBack) {
     if (!FSystem.Files.Replace(PathOf(entry), WriteRegFile(wayBack)))
         throw std::runtime_error("cannot complete the history");
+}
+
+void THistory::RemoveOldest(const std::wstring& latest) {
+    auto others = Entries();
+    std::erase(others, latest);  // it stays, also when the clock was set back
+    for (std::size_t i = kMostEntries - 1; i < others.size(); ++i) Remove(others[i]);
 }
 
 void THistory::Remove(const std::wstring& entry) { (void)FSystem.Files.Delete(PathOf(entry)); }
@@ -137,11 +140,8 @@ void TRecordedApply::Begin() {
     if (FSetsParameters) FProfile = ProfileOf(FSystem);
     if (FSetsPreferences && FPreferences != nullptr) FPreferenceFile = FPreferences->Saved({});
     FBack = WayBack(FSystem, FOperations, FPreferences);
-    const bool isBlind = sets([](const TTarget& target) {
-        const auto* parameter = std::get_if<TParameterTarget>(&target);
-        return parameter != nullptr && parameter->Get == 0;
-    });
-    if (!isBlind && ChangesNothing(FSystem, FOperations, FPreferences)) return;
+    // Setting a parameter to what it is changes what is kept of it all the same.
+    if (!FSetsParameters && ChangesNothing(FSystem, FOperations, FPreferences)) return;
     TChangeSet back = FBack;
     back.insert(back.end(), FProfile.begin(), FProfile.end());
     Save(back);
@@ -161,7 +161,11 @@ void TRecordedApply::Supplement() {
 void TRecordedApply::Complete() {
     if (FFailed) return;
     const TChangeSet back = WithBesides();
-    if (!ChangesNothing(FSystem, back, FPreferences)) return Save(back);
+    if (!ChangesNothing(FSystem, back, FPreferences)) {
+        Save(back);
+        if (!FEntry.empty()) FHistory.RemoveOldest(FEntry);
+        return;
+    }
     if (!FEntry.empty()) FHistory.Remove(FEntry);
     FEntry.clear();
     FSaved.clear();

@@ -17,12 +17,15 @@ class THistory {
     /// the whole profile of parameters in it; of that the answer has what is different now.
     [[nodiscard]] std::optional<TChangeSet> Read(const std::wstring& entry) const;
 
-    /// Saves a way back, on the disk when this returns, and removes the oldest entries beyond the hundredth. The answer is the
-    /// entry's name. Throws std::runtime_error when it cannot be saved.
+    /// Saves a way back, on the disk when this returns. The answer is the entry's name. Throws std::runtime_error when it
+    /// cannot be saved.
     [[nodiscard]] std::wstring Add(const TChangeSet& wayBack);
 
     /// Puts another way back in an entry's place. Throws std::runtime_error when that cannot be done; it is then as it was.
     void Replace(const std::wstring& entry, const TChangeSet& wayBack);
+
+    /// Removes the oldest entries beyond the hundredth, but not the latest.
+    void RemoveOldest(const std::wstring& latest);
 
     void Remove(const std::wstring& entry);
 

@@ -412,10 +412,34 @@ TEST(TChanges, TheLatestApplyStaysInTheHistoryWhateverTheClockSays) {
         fake.Files.PutText(kHistory + (L"\\2099-01-01 00.00.00 " + std::to_wstring(i)) + L".reg", "");
     THistory history(fake.System);
     const std::wstring entry = history.Add({});
+    history.RemoveOldest(entry);
     const auto entries = history.Entries();
     EXPECT_EQ(entries.size(), 100u);
     EXPECT_EQ(entries.back(), entry);
     EXPECT_EQ(entries[98], L"2099-01-01 00.00.00 11") << "the oldest of the others has gone";
+}
+
+TEST(TChanges, AParameterThatIsSetToWhatItIsLeavesAWayBackOfItsProfile) {
+    constexpr std::uint32_t kSetBeep = 2;
+    constexpr std::uint32_t kGetBeep = 1;
+    TFakeSystem fake;
+    fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Data");
+    fake.Parameters.PutNumber(kGetBeep, 1);
+    const TRegistryPlace profile{TRootKey::CurrentUser, L"Control Panel\\Sound", L"Beep"};
+    fake.Registry.Put({profile.Root, profile.Key, L"Beside"}, {TRegDataType::Dword, 1});
+    const auto before = fake.Registry.Lines();
+    TRecordedApply record(
+        fake.System,
+        {{{}, TParameterTarget{.Set = kSetBeep, .Get = kGetBeep, .InParam = true}, TSpiData(1U)}}, nullptr);
+    const THistory history(fake.System);
+    record.Begin();
+    ASSERT_EQ(history.Entries().size(), 1U) << "what Windows will make of it is not known yet";
+    fake.Registry.Put(profile, {TRegDataType::String, std::wstring(L"yes")});
+    const auto back = history.Read(history.Entries()[0]);
+    EXPECT_TRUE(CarryOut(fake.System, *back, nullptr).Failed.empty());
+    EXPECT_EQ(fake.Registry.Lines(), before);
+    record.Complete();
+    EXPECT_TRUE(history.Entries().empty()) << "nothing to restore";
 }
 
 TEST(TChanges, APreviewShowsWhatGoesWithADeletedKey) {
