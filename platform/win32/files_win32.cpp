@@ -9,7 +9,7 @@ namespace {
 /// The largest file that is read; settings and languages are far smaller.
 constexpr LONGLONG kLargestFile = 64 * 1024 * 1024;
 
-/// Those that a new file can be created with; of the others ReplaceFileW takes care.
+/// Those that a new file can be created with.
 constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -50,22 +50,19 @@ class TNewContent {
     }
 
     /// Where nothing is.
-    [[nodiscard]] bool MoveToTarget() {
-        FExists = !MoveFileExW(FPath.c_str(), FTarget.c_str(), MOVEFILE_WRITE_THROUGH);
-        return !FExists;
-    }
+    [[nodiscard]] bool MoveToTarget() { return Move(0); }
 
-    /// The target's attributes, rights and streams remain.
-    [[nodiscard]] bool ReplaceTarget() {
-        FExists = !ReplaceFileW(FTarget.c_str(), FPath.c_str(), nullptr, 0, nullptr, nullptr);
-        // The target is gone then.
-        if (FExists && GetLastError() == ERROR_UNABLE_TO_MOVE_REPLACEMENT) return MoveToTarget();
-        return !FExists;
-    }
+    /// In a single step; ReplaceFileW would leave a moment without a file.
+    [[nodiscard]] bool ReplaceTarget() { return Move(MOVEFILE_REPLACE_EXISTING); }
 
     [[nodiscard]] const std::wstring& Path() const { return FPath; }
 
   private:
+    bool Move(DWORD flags) {
+        FExists = !MoveFileExW(FPath.c_str(), FTarget.c_str(), flags | MOVEFILE_WRITE_THROUGH);
+        return !FExists;
+    }
+
     std::wstring FTarget;
     std::wstring FPath;
     bool FExists = false;
@@ -78,14 +75,18 @@ std::wstring FinalPath(const std::wstring& path) {
     return target.empty() ? path : target;
 }
 
-/// Whether the file may be moved away and no hard link gives it another name. (Wine's ReplaceFileW leaves a file behind
-/// when it finds out too late that it may not.)
+/// Whether the file may be moved away and no hard link gives it another name.
 bool CanMoveAway(const std::wstring& path) {
     const TFileHandle file(
         CreateFileW(path.c_str(), GENERIC_READ | DELETE, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
     BY_HANDLE_FILE_INFORMATION information{};
     return file.IsValid() && GetFileInformationByHandle(file.Get(), &information) &&
            information.nNumberOfLinks == 1;
+}
+
+/// But for what every file that is written gets.
+bool SameAttributes(DWORD one, DWORD other) {
+    return ((one ^ other) & ~DWORD{FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NORMAL}) == 0;
 }
 
 /// Who may do what to the file, as Windows describes it; nothing on disks without rights.
@@ -180,8 +181,9 @@ bool TWin32Files::Replace(const std::wstring& path, const std::vector<std::uint8
     TNewContent content(target);
     if (!content.Fill(bytes, exists ? attributes & kKeptAttributes : FILE_ATTRIBUTE_NORMAL)) return false;
     if (!exists) return content.MoveToTarget();
-    // Another file in its place would be one without the other names and, under Wine, with other rights.
-    const bool canBeAnother = CanMoveAway(target) && Rights(target) == Rights(content.Path());
+    // Another file in its place would be one without the other names, and with what a new file gets for the rest.
+    const bool canBeAnother = SameAttributes(attributes, GetFileAttributesW(content.Path().c_str())) &&
+                              CanMoveAway(target) && Rights(target) == Rights(content.Path());
     return (canBeAnother && content.ReplaceTarget()) || WriteInPlace(target, bytes);
 }
 

@@ -1,6 +1,8 @@
 // What the real file system knows of a file beside its bytes, put there behind the adapter's back.
 #include <windows.h>
 
+#include <atomic>
+
 #include <gmock/gmock.h>
 
 #include "base/win32/handle.h"
@@ -85,6 +87,27 @@ TEST_F(TReplacedFilesWin32, NothingIsLeftBeside) {
     EXPECT_TRUE(Replace("newer"));
     EXPECT_EQ(Text(File), "newer");
     EXPECT_THAT(Names(), ElementsAre(L"user.js"));
+}
+
+TEST_F(TReplacedFilesWin32, AFileIsThereAtEveryMoment) {
+    struct TWatch {
+        std::wstring File;
+        std::atomic<bool> Ends = false;
+        int Missing = 0;
+    } watch{File};
+    const TWaitableHandle thread(CreateThread(
+        nullptr, 0,
+        [](void* parameter) -> DWORD {
+            for (auto& seen = *static_cast<TWatch*>(parameter); !seen.Ends;)
+                if (GetFileAttributesW(seen.File.c_str()) == INVALID_FILE_ATTRIBUTES) ++seen.Missing;
+            return 0;
+        },
+        &watch, 0, nullptr));
+    ASSERT_TRUE(thread.IsValid());
+    for (int i = 0; i < 300; ++i) EXPECT_TRUE(Replace("new"));
+    watch.Ends = true;
+    WaitForSingleObject(thread.Get(), INFINITE);
+    EXPECT_EQ(watch.Missing, 0) << "an end in between would lose the name";
 }
 
 }  // namespace
