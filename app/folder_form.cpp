@@ -51,9 +51,7 @@ void TQuilltune_FormFolder::Button_OKClick() {
         [&] {
             Close();
             // The desktop builds its icons anew when associations change.
-            system.Shell.NotifyChange(kAllEvents, kFlush);
-            system.Shell.NotifyChange(kAssociationsChanged, kIdList);
-            TellExplorer(system.Shell);
+            NotifyShell(system.Shell, true);
         },
     });
 }

@@ -39,16 +39,12 @@ TQuilltune_FormMain::TQuilltune_FormMain(TSystem& system)
       FSystem(system),
       FChanges(system),
       FAppFrame(system),
-      FFirefox(system, FirefoxFolder()),
+      FFirefox(system, FirefoxFolder(FAppFrame)),
       FContext{.System = system, .Form = *this, .Changes = FChanges, .Firefox = FFirefox} {
     SetCaption(L"Quilltune");
     BuildControls();
     BindEvents();
     FormCreate();
-}
-
-std::wstring TQuilltune_FormMain::FirefoxFolder() const {
-    return FAppFrame.AppDataPath + L"\\Mozilla\\Firefox\\";
 }
 
 void TQuilltune_FormMain::BuildControls() {
@@ -114,8 +110,7 @@ void TQuilltune_FormMain::FormShow() {
     TakeAll({
         [&] {
             log.Add(L"Lan:");
-            FLanguage =
-                std::make_unique<TLanguage>(FSystem, L"Scanner", FAppFrame.AppPath + L"Toolbox_Language");
+            FLanguage = OpenLanguages(FSystem, FAppFrame);
             FLanguage->LoadLanguage(GetSuiteLanguage(FSystem));
             FContext.Captions.Load(*FLanguage);
             MarkText = FContext.Captions[TCaption::Changed];

@@ -29,7 +29,6 @@ class TQuilltune_FormMain : public TForm {
     void OpenFile(const std::wstring& path);
 
   private:
-    [[nodiscard]] std::wstring FirefoxFolder() const;
     void FormCreate();
     void FormShow();
     void Timer_ClickTimer();
@@ -53,7 +52,6 @@ class TQuilltune_FormMain : public TForm {
     void Button_ChangesClick();
     void Button_HistoryClick();
     void OfferRestart(const TForm& asker);
-    void NotifyShell(bool associationsChanged);
     void ApplyFirefox();
     void TellFirefoxRestart(const TForm& asker);
     /// Apply is enabled exactly while something is pending.
@@ -67,8 +65,7 @@ class TQuilltune_FormMain : public TForm {
     /// Shows what the operations would do over the form that asks, and carries them out when the user agrees.
     void Review(TForm& asker, const TChangeSet& operations);
     /// A fault says how many of them failed.
-    void CarryOutNow(const TForm& asker, const TChangeSet& operations, TFirefoxPrefs& preferences);
-    [[nodiscard]] std::vector<TListView::TRow> Preview(const TChangeSet& operations) const;
+    void CarryOutNow(const TForm& asker, const TChangeSet& operations);
     /// Made when it is first asked for.
     [[nodiscard]] const TSettingNames& Names();
 

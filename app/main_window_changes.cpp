@@ -3,6 +3,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "app/change_sets.h"
 #include "app/changes_form.h"
 #include "app/history.h"
 #include "app/history_form.h"
@@ -14,18 +15,7 @@
 #include "engine/reg_file.h"
 #include "platform/unicode.h"
 #include "settings/change_words.h"
-#include "settings/scratch_system.h"
 #include "settings/tell_explorer.h"
-
-namespace {
-
-bool HasPreferences(const TChangeSet& operations) {
-    return std::ranges::any_of(operations, [](const TOperation& operation) {
-        return std::holds_alternative<TPreferenceTarget>(operation.Target);
-    });
-}
-
-}  // namespace
 
 void TQuilltune_FormMain::Button_ApplyClick() {
     TRecordedApply record(FSystem, FReview->Operations(), &FFirefox);
@@ -38,7 +28,7 @@ void TQuilltune_FormMain::Button_ApplyClick() {
             // Only for what was written: while a service is waited for, the user may have changed more.
             if (written.RestartNeeded) OfferRestart(*this);
         },
-        [&] { NotifyShell(written.AssociationsChanged); },
+        [&] { NotifyShell(FSystem.Shell, written.AssociationsChanged); },
         [&] { ApplyFirefox(); },
         [&] { FTwins->Written(); },
         [&] { EnableApply(); },
@@ -50,12 +40,6 @@ void TQuilltune_FormMain::OfferRestart(const TForm& asker) {
     const TMessageAnswer answer = FSystem.Dialogs.Message(asker, FContext.Captions[TCaption::RestartWindows],
                                                           TMessageButtons::YesNo, TMessageIcon::Question);
     if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartWindows();
-}
-
-void TQuilltune_FormMain::NotifyShell(bool associationsChanged) {
-    FSystem.Shell.NotifyChange(kAllEvents, kFlush);
-    if (associationsChanged) FSystem.Shell.NotifyChange(kAssociationsChanged, kIdList);
-    TellExplorer(FSystem.Shell);
 }
 
 void TQuilltune_FormMain::ApplyFirefox() {
@@ -113,7 +97,8 @@ void TQuilltune_FormMain::Button_HistoryClick() {
     if (!FLanguage) return;
     TQuilltune_FormHistory dialog(
         FSystem, FContext.Captions, *FLanguage, Names(),
-        {.Preview = [this](const TChangeSet& wayBack) { return Preview(wayBack); },
+        {.Preview =
+             [this](const TChangeSet& wayBack) { return PreviewRows(FSystem, wayBack, FContext.Captions); },
          .Undo = [this](TForm& asker, const TChangeSet& wayBack) { Review(asker, wayBack); },
          .Import =
              [this](TForm& asker) {
@@ -133,49 +118,27 @@ void TQuilltune_FormMain::OpenFile(const std::wstring& path) {
 }
 
 void TQuilltune_FormMain::Import(TForm& asker, const std::wstring& path) {
-    const auto refuse = [&](const std::wstring& reason) {
-        FSystem.Dialogs.Message(asker, reason, TMessageButtons::Ok, TMessageIcon::None);
-    };
-    const auto bytes = FSystem.Files.Read(path);
-    if (!bytes) return refuse(Formatted(FContext.Captions[TCaption::RegFileNotRead], {path}));
-    auto content = ReadRegFile(*bytes, FSystem.Windows);
-    if (const auto* error = std::get_if<TRegFileError>(&content)) {
-        const auto reason = static_cast<TCaption>(static_cast<int>(TCaption::RegFileNoHeader) +
-                                                  static_cast<int>(error->Fault));
-        return refuse(Formatted(
-            FContext.Captions[TCaption::RegFileRefused],
-            {path, DecimalText(static_cast<std::int64_t>(error->Line)), FContext.Captions[reason]}));
+    auto content = ReadChangeFile(FSystem, path, FContext.Captions);
+    if (const auto* reason = std::get_if<std::wstring>(&content)) {
+        FSystem.Dialogs.Message(asker, *reason, TMessageButtons::Ok, TMessageIcon::None);
+        return;
     }
     auto& operations = std::get<TChangeSet>(content);
     Names().Attribute(operations);
     Review(asker, operations);
 }
 
-std::vector<TListView::TRow> TQuilltune_FormMain::Preview(const TChangeSet& operations) const {
-    TScratchSystem scratch(FSystem);
-    TFirefoxPrefs preferences(scratch.System, FirefoxFolder());
-    if (HasPreferences(operations)) preferences.LoadFirefoxPrefs();
-    return PreviewRows(FSystem, operations, &preferences, FContext.Captions);
-}
-
 void TQuilltune_FormMain::Review(TForm& asker, const TChangeSet& operations) {
-    TQuilltune_FormPreview dialog(*FLanguage, Preview(operations));
+    TQuilltune_FormPreview dialog(*FLanguage, PreviewRows(FSystem, operations, FContext.Captions));
     asker.ShowModal(dialog);
-    if (!dialog.Accepted()) return;
-    // What is pending for preferences stays pending: the file is changed by another store.
-    TFirefoxPrefs preferences(FSystem, FirefoxFolder());
-    if (HasPreferences(operations)) preferences.LoadFirefoxPrefs();
-    CarryOutNow(asker, operations, preferences);
+    if (dialog.Accepted()) CarryOutNow(asker, operations);
 }
 
-void TQuilltune_FormMain::CarryOutNow(const TForm& asker, const TChangeSet& operations,
-                                      TFirefoxPrefs& preferences) {
-    TRecordedApply record(FSystem, operations, &preferences);
+void TQuilltune_FormMain::CarryOutNow(const TForm& asker, const TChangeSet& operations) {
     TCarriedOut done;
     TakeAll({
-        [&] { record.Begin(); },
-        [&] { done = CarryOut(FSystem, operations, &preferences); },
-        [&] { record.Complete(); },
+        // What is pending for preferences stays pending: the file is changed by another store.
+        [&] { CarryOutRecorded(FSystem, operations, done); },
         [&] {
             FReview->Reload(FVisitedPages);
             EnableApply();
@@ -183,7 +146,7 @@ void TQuilltune_FormMain::CarryOutNow(const TForm& asker, const TChangeSet& oper
         [&] {
             if (done.Written.RestartNeeded) OfferRestart(asker);
         },
-        [&] { NotifyShell(done.Written.AssociationsChanged); },
+        [&] { NotifyShell(FSystem.Shell, done.Written.AssociationsChanged); },
         [&] {
             if (done.SavedPreferences) TellFirefoxRestart(asker);
         },

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds both programs on Debian 12, installing what the machine lacks. Leaves dist/win32 and dist/win64; each runs as it
+# Builds the window and the command line, for both kinds of Windows, on Debian 12, installing what the machine lacks. Leaves dist/win32 and dist/win64; each runs as it
 # stands when copied elsewhere.
 #   scripts/build.sh [win32|win64]...
 set -euo pipefail
@@ -9,11 +9,11 @@ RequirePackages "${BuildPackages[@]}"
 
 [ $# -gt 0 ] || set -- win32 win64
 for Target in "$@"; do
-    BuildPreset "$Target" --target Quilltune
+    BuildPreset "$Target" --target Quilltune qtune
     Folder="$Root/dist/$Target"
     rm -rf "$Folder"
     mkdir -p "$Folder/Toolbox_Language"
-    cp "$Root/build/$Target/Quilltune.exe" "$Folder/"
+    cp "$Root/build/$Target"/{Quilltune,qtune}.exe "$Folder/"
     cp "$Root"/languages/*.lng "$Folder/Toolbox_Language/"
-    Say "$(cd "$Root" && ls -l "dist/$Target/Quilltune.exe")"
+    Say "$(cd "$Root" && ls -l "dist/$Target"/*.exe)"
 done

@@ -27,6 +27,11 @@ std::wstring Plain(std::wstring caption) {
 
 bool IsSwatch(const TControl& control) { return control.Kind() == TComponentKind::ColorSwatch; }
 
+/// Buttons but those of presets are pressed to find out what they do.
+bool IsPressed(const TSetting& setting, const TControl& control) {
+    return control.Kind() == TComponentKind::Button && setting.Preset == nullptr;
+}
+
 /// The control whose text a user reads beside this one: itself, the label or box before it, or its group.
 const TControl& CaptionedBy(const TControl& control) {
     const auto hasOwn = [](const TControl& c) {
@@ -115,11 +120,11 @@ struct TCatalogue::TModel {
                   .WindowsLevel = windowsLevel} {}
 };
 
-TCatalogue::TCatalogue(TSystem& system, const TLanguage* language, int windowsLevel)
-    : FScratch(system),
+TCatalogue::TCatalogue(TSystem& system, const TLanguage* language, int windowsLevel, TScratchUse use)
+    : FScratch(system, use),
       FLanguage(language),
       FChanges(FScratch.System),
-      FFirefox(FScratch.System, TAppFrame(system).AppDataPath + L"\\Mozilla\\Firefox\\"),
+      FFirefox(FScratch.System, FirefoxFolder(TAppFrame(system))),
       FWindow(std::make_unique<TModel>(L"Quilltune_FormMain", L"TQuilltune_FormMain", FScratch.System,
                                        FChanges, FFirefox, windowsLevel)),
       FDialog(std::make_unique<TModel>(L"Quilltune_FormFolder", L"TQuilltune_FormFolder", FScratch.System,
@@ -256,37 +261,51 @@ TStates TCatalogue::States(const TSetting& setting) {
     TPageModel& page = Loaded(setting);
     TControl& control = ControlOf(setting);
     TStates states = page.StatesOf(control);
-    if (control.Kind() == TComponentKind::Button) Drop(page);  // it was pressed
+    if (IsPressed(setting, control)) Drop(page);
     return states;
 }
 
+TPresent TCatalogue::Availability(const TSetting& setting) {
+    const TPageModel& page = Loaded(setting);
+    const TControl& control = ControlOf(setting);
+    return {.State = {},
+            .IsOffered = TPageModel::IsShown(control) &&
+                         std::ranges::count(setting.Levels, page.Context().WindowsLevel) != 0,
+            .IsEnabled = control.Enabled()};
+}
+
 TPresent TCatalogue::Present(const TSetting& setting) {
+    TPresent present = Availability(setting);
     TPageModel& page = Loaded(setting);
     TControl& control = ControlOf(setting);
-    TPresent present{.State = {}, .IsOffered = TPageModel::IsShown(control), .IsEnabled = control.Enabled()};
-    present.IsOffered &= std::ranges::count(setting.Levels, page.Context().WindowsLevel) != 0;
     for (const TRow* row : setting.Rows) {
         if (!LevelsOf(*row).Include(page.Context().WindowsLevel)) continue;
         for (const TTarget& target : TargetsOf(*row))
             present.Stored.push_back({target, ContentOf(FScratch.System, target, &FFirefox)});
     }
     present.State = page.StateOfSetting(control);
-    if (control.Kind() == TComponentKind::Button) Drop(page);
+    if (IsPressed(setting, control)) Drop(page);
     return present;
 }
 
 std::vector<TChange> TCatalogue::WouldWrite(const TSetting& setting, const TControlState& state) {
     if (!States(setting).Allow(state)) return {};
+    Change(setting, state);
+    auto changes = PendingChanges(FScratch.System, FChanges, ChangedPreferences());
+    Drop(*FOwners.at(&setting));
+    for (const auto& [other, unused] : PresetStates(setting)) FOwners.at(other)->Forget();
+    return changes;
+}
+
+void TCatalogue::Change(const TSetting& setting, const TControlState& state) {
     TPageModel& page = Loaded(setting);
     // A preset may reach controls of other pages.
-    const auto others = PresetStates(setting);
-    for (const auto& [other, unused] : others) Loaded(*other);
+    for (const auto& [other, unused] : PresetStates(setting)) Loaded(*other);
     page.Change(ControlOf(setting), state);
-    auto changes =
-        PendingChanges(FScratch.System, FChanges, page.Context().FirefoxChanged ? &FFirefox : nullptr);
-    Drop(page);
-    for (const auto& [other, unused] : others) FOwners.at(other)->Forget();
-    return changes;
+}
+
+TFirefoxPrefs* TCatalogue::ChangedPreferences() {
+    return FWindow->Context.FirefoxChanged ? &FFirefox : nullptr;
 }
 
 std::vector<std::pair<const TSetting*, TControlState>> TCatalogue::PresetStates(
@@ -302,5 +321,7 @@ std::vector<std::pair<const TSetting*, TControlState>> TCatalogue::PresetStates(
 }
 
 void TCatalogue::Refresh() {
+    FChanges.Clear();
+    FWindow->Context.FirefoxChanged = false;
     for (const auto& [setting, page] : FOwners) page->Forget();
 }

@@ -1,5 +1,6 @@
 // The catalogue of all settings as a model that can be asked, without a window: what there is, what state it is in, what is
-// stored, what each state would write. Asking records nothing and touches nothing.
+// stored, what each state would write. Asking records nothing and touches nothing. Settings can be changed too, as in the
+// window: the changes are pending until they are carried out.
 //
 // It answers from forms without a native side: they are loaded, changed and record like the window's.
 #pragma once
@@ -62,8 +63,10 @@ struct TPresent {
 
 class TCatalogue {
   public:
-    /// `language` is null for English. It and `system` outlive the catalogue.
-    TCatalogue(TSystem& system, const TLanguage* language, int windowsLevel);
+    /// `language` is null for English. It and `system` outlive the catalogue. For use Change a page that is read prepares
+    /// the preferences' file like the window's, and ChangedPreferences can be saved.
+    TCatalogue(TSystem& system, const TLanguage* language, int windowsLevel,
+               TScratchUse use = TScratchUse::Ask);
     ~TCatalogue();
 
     [[nodiscard]] const std::vector<TCataloguedPage>& Pages() const { return FPages; }
@@ -74,6 +77,8 @@ class TCatalogue {
     /// The settings that hold all words of the text in any of their texts, names and places; the best first: words count
     /// most in the caption, then in the explanation, then in page, sheet and group, then elsewhere.
     [[nodiscard]] std::vector<const TSetting*> Search(std::wstring_view text) const;
+
+    // Asking for the states of a button, or for what would be written, takes back what is pending.
 
     /// The states that it can be brought into.
     [[nodiscard]] TStates States(const TSetting& setting);
@@ -86,7 +91,19 @@ class TCatalogue {
     [[nodiscard]] std::vector<std::pair<const TSetting*, TControlState>> PresetStates(
         const TSetting& preset) const;
 
-    /// From now on everything is read anew.
+    /// With what is pending, without its state and what is stored.
+    [[nodiscard]] TPresent Availability(const TSetting& setting);
+    /// Does what a user does who brings the setting into one of its states, though it be in it already, and leaves that
+    /// pending.
+    void Change(const TSetting& setting, const TControlState& state);
+    /// What Apply would carry out.
+    [[nodiscard]] TChangeSet Pending() { return OperationsOf(FChanges, ChangedPreferences()); }
+    /// The pending changes but for preferences.
+    [[nodiscard]] TSysControl& Changes() { return FChanges; }
+    /// The preferences when some are pending; null otherwise.
+    [[nodiscard]] TFirefoxPrefs* ChangedPreferences();
+
+    /// Takes back what is pending. From now on everything is read anew.
     void Refresh();
 
   private:

@@ -136,7 +136,6 @@ void TPageModel::LeaveState(TControl& control, const TControlState& state) {
 
 void TPageModel::Change(TControl& control, const TControlState& state) {
     const TControlState wanted = StateFor(control, state);
-    FIsLoaded = false;
     try {
         if (control.Kind() == TComponentKind::Button) {
             FScratch.Dialogs = {};

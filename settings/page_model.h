@@ -33,7 +33,7 @@ class TPageModel {
     /// The user sees it.
     [[nodiscard]] static bool IsShown(const TControl& control);
     /// Does what a user does who brings the control into the state, though it be in it already. Afterwards the page shows
-    /// what he would see.
+    /// what he would see, until it is loaded anew.
     void Change(TControl& control, const TControlState& state);
 
   private:

@@ -24,6 +24,7 @@ class TScratchDialogs : public TDialogs {
     [[nodiscard]] std::optional<TColor> PickColor(const TForm& asker, TColor initial) override;
 };
 
+/// Reads what is there and writes nothing.
 class TReadOnlyFiles : public TFiles {
   public:
     explicit TReadOnlyFiles(const TFiles& files) : FFiles(files) {}
@@ -82,6 +83,12 @@ class TStillClock : public TClock {
     TClock& FClock;
 };
 
+/// What those who work on it may do beyond asking.
+enum class TScratchUse : std::uint8_t {
+    Ask,
+    Change,  ///< files can be written
+};
+
 /// `system` outlives it.
 struct TScratchSystem {
     TScratchDialogs Dialogs;
@@ -89,11 +96,17 @@ struct TScratchSystem {
     TStillClock Clock;
     TSystem System;
 
-    explicit TScratchSystem(TSystem& system)
-        : Files(system.Files), Clock(system.Clock), System{system.Registry, system.Parameters,
-                                                           system.Services, system.Shell,
-                                                           Files,           system.Windows,
-                                                           Dialogs,         Clock} {}
+    explicit TScratchSystem(TSystem& system, TScratchUse use = TScratchUse::Ask)
+        : Files(system.Files),
+          Clock(system.Clock),
+          System{system.Registry,
+                 system.Parameters,
+                 system.Services,
+                 system.Shell,
+                 use == TScratchUse::Change ? system.Files : Files,
+                 system.Windows,
+                 Dialogs,
+                 Clock} {}
     TScratchSystem(const TScratchSystem&) = delete;  // System refers to the members
     TScratchSystem& operator=(const TScratchSystem&) = delete;
 };

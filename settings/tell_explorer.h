@@ -1,4 +1,4 @@
-// When Windows Explorer takes over what the pages write.
+// When the shell takes over what the pages write.
 #pragma once
 
 #include "platform/shell.h"
@@ -7,4 +7,11 @@
 inline void TellExplorer(TShell& shell) {
     for (const wchar_t* area : {L"Policy", L"ShellState", L"TraySettings"})
         shell.BroadcastSettingChange(area);
+}
+
+/// What each Apply tells the shell.
+inline void NotifyShell(TShell& shell, bool associationsChanged) {
+    shell.NotifyChange(kAllEvents, kFlush);
+    if (associationsChanged) shell.NotifyChange(kAssociationsChanged, kIdList);
+    TellExplorer(shell);
 }

@@ -4,8 +4,14 @@
 #include <memory>
 
 #include "engine/change_set.h"
+#include "platform/app_frame.h"
 #include "platform/text.h"
 #include "settings/net/prefs_entries.h"
+
+/// Firefox's folder in the user's application data, with trailing delimiter.
+[[nodiscard]] inline std::wstring FirefoxFolder(const TAppFrame& frame) {
+    return frame.AppDataPath + L"\\Mozilla\\Firefox\\";
+}
 
 /// Names of prefs have their quotes, and values are what is written between the comma and the closing parenthesis; see
 /// settings/net/prefs_entry.h. Nothing is converted or checked.
@@ -14,8 +20,7 @@ class TFirefoxPrefs : public TPreferenceStore {
     /// What GetFirefoxPref answers when no statement names the pref.
     static constexpr const wchar_t* kNoSuchPref = L"Noexsit";
 
-    /// `firefoxFolder` is Firefox's folder in the user's application data, with trailing delimiter. `system` outlives
-    /// the store.
+    /// `firefoxFolder` is what FirefoxFolder answers. `system` outlives the store.
     TFirefoxPrefs(TSystem& system, std::wstring firefoxFolder);
 
     /// The folder of the profile that was looked up, without trailing delimiter; empty when there is none.

@@ -4,10 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include "app/change_sets.h"
 #include "app/changes_form.h"
 #include "app/history_form.h"
 #include "app/main_window.h"
-#include "app/preview_form.h"
 #include "engine/carry_out.h"
 #include "engine/reg_file.h"
 #include "settings/row_places.h"
@@ -454,8 +454,7 @@ TEST(TChanges, APreviewShowsWhatGoesWithADeletedKey) {
     for (const wchar_t* name : {L"a", L"c"})
         operations.push_back({{}, TRegistryTarget{key.Root, key.Key, name}, write});
     std::vector<TCells> rows;
-    for (const auto& row : PreviewRows(fake.System, operations, nullptr, TCaptions()))
-        rows.push_back(row.Cells);
+    for (const auto& row : PreviewRows(fake.System, operations, TCaptions())) rows.push_back(row.Cells);
     const std::wstring path = L"HKEY_CURRENT_USER\\K";
     EXPECT_EQ(rows, (std::vector<TCells>{{path, L"(key)", L"(key)"},
                                          {path + L"\\(Default)", L"x", L"(not set)"},
@@ -483,7 +482,7 @@ TEST(TChanges, AnEndBetweenTheWritesLeavesAWayBackOfTheParametersProfile) {
     const THistory history(fake.System);
     const auto back = history.Read(history.Entries().at(0));
     ASSERT_TRUE(back);
-    EXPECT_EQ(PreviewRows(fake.System, *back, nullptr, TCaptions()).size(), 3U)
+    EXPECT_EQ(PreviewRows(fake.System, *back, TCaptions()).size(), 3U)
         << "what differs, and what goes with a key";
     // Setting a parameter again changes more of it.
     fake.Registry.Put({odd.Root, odd.Key, L"Beside"}, {TRegDataType::Dword, 2});

@@ -7,9 +7,9 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
-find app settings engine platform ui base -name '*.h' -o -name '*.cpp' | sort | xargs awk '
+find console app settings engine platform ui base -name '*.h' -o -name '*.cpp' | sort | xargs awk '
     function Complain(what) { printf "%s:%d: %s\n", FILENAME, FNR, what; Faults++ }
-    BEGIN { Count = split("app settings engine platform ui base", Floors, " "); for (i = 1; i <= Count; i++) Rank[Floors[i]] = i }
+    BEGIN { Count = split("console app settings engine platform ui base", Floors, " "); for (i = 1; i <= Count; i++) Rank[Floors[i]] = i }
     FNR == 1 { split(FILENAME, Path, "/"); Own = Rank[Path[1]]; Portable = FILENAME !~ /\/win32\// }
     /^[ \t]*#[ \t]*include[ \t]*"/ {
         split($0, Part, "\"")

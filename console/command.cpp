@@ -1,0 +1,69 @@
+#include "console/command.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/decimal.h"
+#include "platform/language.h"
+#include "platform/text.h"
+#include "platform/windows_version.h"
+
+namespace {
+
+/// The message does not become longer with the number of settings.
+constexpr std::size_t kMostNamed = 8;
+
+int LevelOf(const TSystem& system) {
+    std::wstring name;
+    GetOSName(system, name);
+    return WindowsLevel(name);
+}
+
+}  // namespace
+
+TTask::TTask(TSystem& system, const TLanguage& language, TConsole& console)
+    : System(system), Language(language), Console(console), Texts(language), WindowsLevel(LevelOf(system)) {
+    Captions.Load(language);
+}
+
+TCatalogue& TTask::Catalogue() {
+    if (!FCatalogue) FCatalogue.emplace(System, &Language, WindowsLevel);
+    return *FCatalogue;
+}
+
+const TSetting& TTask::Setting(const std::wstring& id) {
+    if (const TSetting* setting = Catalogue().Find(id)) return *setting;
+    std::vector<std::wstring> known;
+    std::vector<const TSetting*> holding;
+    for (const TSetting* setting : Catalogue().Settings()) {
+        known.push_back(setting->Id);
+        if (!id.empty() && FindText(setting->Id, id) != std::wstring::npos) holding.push_back(setting);
+    }
+    if (holding.empty()) throw Unknown(TText::UnknownSetting, id, known);
+    if (holding.size() == 1) return *holding.front();
+    std::wstring names;
+    for (std::size_t i = 0; i < std::min(holding.size(), kMostNamed); ++i)
+        names += (i == 0 ? L"" : L", ") + holding[i]->Id;
+    if (holding.size() > kMostNamed) names += L", \u2026";
+    throw TWrongUsage{Texts(TText::ManySettings,
+                            {id, DecimalText(static_cast<std::int64_t>(holding.size())), std::move(names)})};
+}
+
+void TTask::Print(const TValue& value) const {
+    if (Json) return Console.Print(JsonOf(value));
+    for (const std::wstring& line : LinesOf(value)) Console.Print(line);
+}
+
+void TTask::Fail(const std::wstring& message) {
+    FFailed = true;
+    Console.Complain(L"qtune: " + message);
+}
+
+void TTask::NeedRestart() {
+    if (!std::exchange(FRestart, true)) Console.Complain(L"qtune: " + Texts[TText::RestartNeeded]);
+}
+
+TExitStatus TTask::Status() const {
+    if (FFailed) return TExitStatus::Failed;
+    return FRestart ? TExitStatus::Restart : TExitStatus::Done;
+}

@@ -1,0 +1,161 @@
+// Brings settings into states: everything is checked on a catalogue that only asks, then done on one that writes.
+#include <algorithm>
+#include <cstdlib>
+#include <map>
+
+#include "app/history.h"
+#include "console/outcome_words.h"
+#include "engine/carry_out.h"
+#include "settings/tell_explorer.h"
+
+namespace {
+
+/// A word of the command line.
+struct TAssignment {
+    std::wstring Id;
+    std::wstring State;
+};
+
+/// The changes on one Windows level, checked, in an order in which each setting can be changed when its turn comes.
+struct TPlan {
+    struct TStep {
+        std::wstring Id;
+        TControlState State;
+    };
+
+    int WindowsLevel = 0;
+    std::vector<TStep> Steps{};
+    std::vector<TChange> Changes{};
+};
+
+TAssignment Split(const TTask& task, const std::wstring& word) {
+    const std::size_t equals = word.find(L'=');
+    if (equals == std::wstring::npos) throw TWrongUsage{task.Texts(TText::NoAssignment, {word})};
+    return {word.substr(0, equals), word.substr(equals + 1)};
+}
+
+/// The level of this Windows or, of a setting that it does not have, the nearest one that has it.
+int LevelFor(const TTask& task, const TSetting& setting) {
+    const auto distance = [&](int level) {
+        constexpr int kNewest = 7;
+        return std::abs((task.WindowsLevel == 0 ? kNewest : task.WindowsLevel) - level);
+    };
+    if (!task.Force || setting.Levels.empty() || std::ranges::count(setting.Levels, task.WindowsLevel) != 0)
+        return task.WindowsLevel;
+    return *std::ranges::min_element(setting.Levels, {}, distance);
+}
+
+TControlState StateFor(const TTask& task, TCatalogue& catalogue, const TSetting& setting,
+                       const std::wstring& words) {
+    const TStates states = catalogue.States(setting);
+    if (states.Kind == TStateKind::None) throw TWrongUsage{task.Texts(TText::WindowOnly, {setting.Id})};
+    if (const auto state = ParseState(states, words)) return *state;
+    std::wstring allowed;
+    for (const std::wstring& each : AllowedWords(states)) allowed += (allowed.empty() ? L"" : L", ") + each;
+    throw TWrongUsage{task.Texts(TText::WrongState, {setting.Id, words, allowed})};
+}
+
+/// Makes the changes on a catalogue that only asks.
+void Check(const TTask& task, TCatalogue& catalogue, std::vector<TPlan::TStep> waiting, TPlan& plan) {
+    // A setting may wait for another one that enables it, wherever that stands on the command line.
+    while (!waiting.empty()) {
+        const auto next = std::ranges::find_if(waiting, [&](const TPlan::TStep& step) {
+            const TPresent present = catalogue.Availability(*catalogue.Find(step.Id));
+            return task.Force || (present.IsOffered && present.IsEnabled);
+        });
+        if (next == waiting.end()) {
+            const TSetting& setting = *catalogue.Find(waiting.front().Id);
+            const bool isOffered = catalogue.Availability(setting).IsOffered;
+            throw TWrongUsage{
+                task.Texts(isOffered ? TText::NotEnabledForce : TText::NotOfferedForce, {setting.Id})};
+        }
+        catalogue.Change(*catalogue.Find(next->Id), next->State);
+        plan.Steps.push_back(std::move(*next));
+        waiting.erase(next);
+    }
+    plan.Changes = ChangesOf(task.System, catalogue.Pending(), catalogue.ChangedPreferences());
+}
+
+std::vector<TPlan> PlansFor(TTask& task) {
+    std::map<int, std::vector<TAssignment>> byLevel;
+    for (const std::wstring& word : task.Words) {
+        TAssignment assignment = Split(task, word);
+        const TSetting& setting = task.Setting(assignment.Id);
+        assignment.Id = setting.Id;
+        byLevel[LevelFor(task, setting)].push_back(std::move(assignment));
+    }
+    std::vector<TPlan> plans;
+    for (const auto& [level, assignments] : byLevel) {
+        TCatalogue catalogue(task.System, &task.Language, level);
+        std::vector<TPlan::TStep> steps;
+        for (const TAssignment& each : assignments)
+            steps.push_back({each.Id, StateFor(task, catalogue, *catalogue.Find(each.Id), each.State)});
+        plans.push_back({.WindowsLevel = level});
+        Check(task, catalogue, std::move(steps), plans.back());
+    }
+    return plans;
+}
+
+/// The desktop builds its icons anew when associations change.
+bool ChangesDesktopIcons(const TCatalogue& catalogue, const TPlan& plan) {
+    const auto isAmong = [&](const TSetting* setting) {
+        return std::ranges::count(plan.Steps, setting->Id, &TPlan::TStep::Id) != 0;
+    };
+    for (const TCataloguedPage& page : catalogue.Pages())
+        for (const TCataloguedRow& row : page.Rows)
+            if (page.Definition->Tag == 0 && std::ranges::any_of(row.Settings, isAmong)) return true;
+    return false;
+}
+
+/// Whether there is now what the change was to leave.
+bool IsMade(const TTask& task, const TChange& change, const TPreferenceStore& preferences) {
+    const TContent now = ContentOf(task.System, change.Target, &preferences);
+    // Windows may keep a parameter in a form of its own, and need not tell it.
+    if (std::holds_alternative<TParameterTarget>(change.Target))
+        return now != change.Before || change.Before == change.After || now == TContent(TParameterContent());
+    return now == change.After;
+}
+
+/// Adds a record of each change to the list.
+void CarryOut(TTask& task, const TPlan& plan, TList& list) {
+    TCatalogue catalogue(task.System, &task.Language, plan.WindowsLevel, TScratchUse::Change);
+    // As in the window, where pages are read before anything is changed: to read the preferences drops changes.
+    for (const TPlan::TStep& step : plan.Steps) (void)catalogue.Availability(*catalogue.Find(step.Id));
+    for (const TPlan::TStep& step : plan.Steps) catalogue.Change(*catalogue.Find(step.Id), step.State);
+
+    TFirefoxPrefs* preferences = catalogue.ChangedPreferences();
+    TRecordedApply record(task.System, catalogue.Pending(), preferences);
+    TWritten written;
+    Try(task, [&] { record.Begin(); });
+    Try(task, [&] { written = CarryOut(catalogue.Changes()); });
+    Try(task, [&] { record.Supplement(); });
+    NotifyShell(task.System.Shell, written.AssociationsChanged || ChangesDesktopIcons(catalogue, plan));
+    Try(task, [&] {
+        if (preferences != nullptr && preferences->SaveFirefoxPrefs())
+            task.Console.Complain(task.Captions[TCaption::RestartFirefox]);
+    });
+    Try(task, [&] { record.Complete(); });
+    if (written.RestartNeeded) task.NeedRestart();
+
+    const TFirefoxPrefs saved(task.System, FirefoxFolder(TAppFrame(task.System)));
+    for (const TChange& change : plan.Changes) {
+        const bool isMade =
+            change.IsOverwritten || IsMade(task, change, preferences == nullptr ? saved : *preferences);
+        if (!isMade) FailAt(task, change.Target);
+        list.push_back(RecordOf(task, change, isMade));
+    }
+}
+
+}  // namespace
+
+void SetStates(TTask& task) {
+    TList list;
+    for (const TPlan& plan : PlansFor(task)) {
+        if (!task.DryRun) {
+            CarryOut(task, plan, list);
+            continue;
+        }
+        for (const TChange& change : plan.Changes) list.push_back(RecordOf(task, change, std::nullopt));
+    }
+    task.Print({std::move(list)});
+}
