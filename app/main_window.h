@@ -6,12 +6,12 @@
 
 #include "app/pending_review.h"
 #include "app/setting_names.h"
-#include "app/twin_controls.h"
 #include "platform/app_frame.h"
 #include "platform/language.h"
 #include "settings/net/firefox_prefs.h"
 #include "settings/page_context.h"
 #include "settings/page_table.h"
+#include "settings/twin_controls.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 

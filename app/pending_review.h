@@ -3,8 +3,8 @@
 
 #include <set>
 
-#include "app/twin_controls.h"
 #include "engine/change_set.h"
+#include "settings/twin_controls.h"
 
 class TPendingReview {
   public:

@@ -40,7 +40,7 @@ class TTask {
     TSystem& System;
     const TLanguage& Language;
     TConsole& Console;
-    const TTexts Texts;
+    const TMessages Texts;
     TCaptions Captions;
     int WindowsLevel;
 

@@ -129,7 +129,7 @@ void ExportFile(TTask& task) {
     std::set<std::wstring> known;
     TList list;
     for (const TSetting* setting : settings) {
-        if (!task.Catalogue().Availability(*setting).IsOffered) {
+        if (!task.Catalogue().PendingState(*setting).IsOffered) {
             if (!isAll) task.Fail(task.Texts(TText::NotOffered, {setting->Id}));
             continue;
         }

@@ -30,7 +30,7 @@ std::size_t DistanceToPart(std::wstring_view typed, std::wstring_view word) {
 
 std::vector<std::wstring> NearestWords(std::wstring_view typed, const std::vector<std::wstring>& known) {
     typed = typed.substr(0, kLongestTyped);
-    const std::size_t farthest = typed.size() / 3;
+    const std::size_t farthest = (typed.size() + 2) / 3;
     std::vector<std::tuple<std::size_t, std::size_t, std::wstring>> ranked;
     for (const std::wstring& word : known)
         if (const std::size_t distance = DistanceToPart(typed, word); distance <= farthest)

@@ -1,4 +1,5 @@
-// Brings settings into states: everything is checked on a catalogue that only asks, then done on one that writes.
+// Brings settings into states: everything is checked on a catalogue that only asks, then done on one that writes. What is in
+// its state already is left alone, as in the window.
 #include <algorithm>
 #include <cstdlib>
 #include <map>
@@ -55,25 +56,43 @@ TControlState StateFor(const TTask& task, TCatalogue& catalogue, const TSetting&
     throw TWrongUsage{task.Texts(TText::WrongState, {setting.Id, words, allowed})};
 }
 
+/// A button is in no state: it can always be pressed.
+bool IsIn(TCatalogue& catalogue, const TSetting& setting, const TControlState& state) {
+    return catalogue.PendingState(setting).State == state && !std::holds_alternative<std::monostate>(state);
+}
+
 /// Makes the changes on a catalogue that only asks.
 void Check(const TTask& task, TCatalogue& catalogue, std::vector<TPlan::TStep> waiting, TPlan& plan) {
     // A setting may wait for another one that enables it, wherever that stands on the command line.
     while (!waiting.empty()) {
         const auto next = std::ranges::find_if(waiting, [&](const TPlan::TStep& step) {
-            const TPresent present = catalogue.Availability(*catalogue.Find(step.Id));
-            return task.Force || (present.IsOffered && present.IsEnabled);
+            const TSetting& setting = *catalogue.Find(step.Id);
+            const TPresent present = catalogue.PendingState(setting);
+            const bool canStay = present.IsEnabled || IsIn(catalogue, setting, step.State);
+            return task.Force || (present.IsOffered && canStay);
         });
         if (next == waiting.end()) {
             const TSetting& setting = *catalogue.Find(waiting.front().Id);
-            const bool isOffered = catalogue.Availability(setting).IsOffered;
+            const bool isOffered = catalogue.PendingState(setting).IsOffered;
             throw TWrongUsage{
                 task.Texts(isOffered ? TText::NotEnabledForce : TText::NotOfferedForce, {setting.Id})};
         }
-        catalogue.Change(*catalogue.Find(next->Id), next->State);
-        plan.Steps.push_back(std::move(*next));
+        const TSetting& setting = *catalogue.Find(next->Id);
+        if (!IsIn(catalogue, setting, next->State)) {
+            catalogue.Change(setting, next->State);
+            plan.Steps.push_back(std::move(*next));
+        }
         waiting.erase(next);
     }
-    plan.Changes = ChangesOf(task.System, catalogue.Pending(), catalogue.ChangedPreferences());
+    for (const TChange& change :
+         ChangesOf(task.System, catalogue.Pending(), catalogue.ChangedPreferences())) {
+        // Two pages may have recorded the same.
+        const bool isRepeated = std::ranges::any_of(plan.Changes, [&](const TChange& earlier) {
+            return earlier.Target == change.Target && earlier.IsOverwritten == change.IsOverwritten &&
+                   earlier.After == change.After;
+        });
+        if (!isRepeated) plan.Changes.push_back(change);
+    }
 }
 
 std::vector<TPlan> PlansFor(TTask& task) {
@@ -120,7 +139,7 @@ bool IsMade(const TTask& task, const TChange& change, const TPreferenceStore& pr
 void CarryOut(TTask& task, const TPlan& plan, TList& list) {
     TCatalogue catalogue(task.System, &task.Language, plan.WindowsLevel, TScratchUse::Change);
     // As in the window, where pages are read before anything is changed: to read the preferences drops changes.
-    for (const TPlan::TStep& step : plan.Steps) (void)catalogue.Availability(*catalogue.Find(step.Id));
+    for (const TPlan::TStep& step : plan.Steps) (void)catalogue.PendingState(*catalogue.Find(step.Id));
     for (const TPlan::TStep& step : plan.Steps) catalogue.Change(*catalogue.Find(step.Id), step.State);
 
     TFirefoxPrefs* preferences = catalogue.ChangedPreferences();

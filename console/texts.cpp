@@ -63,11 +63,11 @@ const std::array<TTextKey, kTextCount> kTextKeys{{
     {L"HelpHelp", L"prints this"},
 }};
 
-std::wstring TTexts::operator[](TText text) const {
+std::wstring TMessages::operator[](TText text) const {
     const TTextKey& key = kTextKeys[static_cast<std::size_t>(text)];
     return FLanguage.ReadString(kTextSection, key.Key, key.English);
 }
 
-std::wstring TTexts::operator()(TText text, std::initializer_list<std::wstring> values) const {
+std::wstring TMessages::operator()(TText text, std::initializer_list<std::wstring> values) const {
     return Formatted((*this)[text], values);
 }

@@ -69,10 +69,10 @@ inline constexpr const wchar_t* kTextSection = L"Quilltune_Console";
 inline constexpr std::size_t kTextCount = static_cast<std::size_t>(TText::kCount);
 extern const std::array<TTextKey, kTextCount> kTextKeys;
 
-class TTexts {
+class TMessages {
   public:
     /// `language` outlives the object.
-    explicit TTexts(const TLanguage& language) : FLanguage(language) {}
+    explicit TMessages(const TLanguage& language) : FLanguage(language) {}
 
     [[nodiscard]] std::wstring operator[](TText text) const;
     /// With each of the values in the place of %1, %2, ….

@@ -10,6 +10,7 @@
 #include "settings/category_table.h"
 #include "settings/page_table.h"
 #include "settings/shell/desktop_icons.h"
+#include "settings/twin_controls.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 
@@ -133,7 +134,11 @@ TCatalogue::TCatalogue(TSystem& system, const TLanguage* language, int windowsLe
     window.Build(window, Notebook(L"Notebook_Main", {}));
     FDialog->Form.SetCaption(kDesktopIconsCaption);
     const auto add = [this](TModel& model, const TPageDefinition& page, TControl& container) {
-        model.Pages.push_back(std::make_unique<TPageModel>(page, model.Context, FScratch, container));
+        const auto changed = [this](TComponent& sender) {
+            if (FTwins) FTwins->Changed(static_cast<TControl&>(sender));
+        };
+        model.Pages.push_back(
+            std::make_unique<TPageModel>(page, model.Context, FScratch, container, changed));
     };
     for (const TPageDefinition* page : PageDefinitions())
         add(*FWindow, *page, *window.Find(L"Notebook_Main"));
@@ -225,7 +230,9 @@ void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& ca
 
 TPageModel& TCatalogue::Loaded(const TSetting& setting) {
     TPageModel& page = *FOwners.at(&setting);
+    if (page.IsLoaded()) return page;
     page.Load();
+    if (FTwins) FTwins->PageLoaded(page.Definition().Tag);
     return page;
 }
 
@@ -234,6 +241,7 @@ TControl& TCatalogue::ControlOf(const TSetting& setting) const {
 }
 
 void TCatalogue::Drop(TPageModel& page) {
+    FTwins.reset();
     FChanges.Clear();
     // Pages share the preferences: whichever is asked next must read them again.
     if (std::exchange(page.Context().FirefoxChanged, false)) Refresh();
@@ -265,17 +273,17 @@ TStates TCatalogue::States(const TSetting& setting) {
     return states;
 }
 
-TPresent TCatalogue::Availability(const TSetting& setting) {
-    const TPageModel& page = Loaded(setting);
-    const TControl& control = ControlOf(setting);
-    return {.State = {},
+TPresent TCatalogue::PendingState(const TSetting& setting) {
+    TPageModel& page = Loaded(setting);
+    TControl& control = ControlOf(setting);
+    return {.State = IsPressed(setting, control) ? TControlState() : page.StateOfSetting(control),
             .IsOffered = TPageModel::IsShown(control) &&
                          std::ranges::count(setting.Levels, page.Context().WindowsLevel) != 0,
             .IsEnabled = control.Enabled()};
 }
 
 TPresent TCatalogue::Present(const TSetting& setting) {
-    TPresent present = Availability(setting);
+    TPresent present = PendingState(setting);
     TPageModel& page = Loaded(setting);
     TControl& control = ControlOf(setting);
     for (const TRow* row : setting.Rows) {
@@ -283,14 +291,17 @@ TPresent TCatalogue::Present(const TSetting& setting) {
         for (const TTarget& target : TargetsOf(*row))
             present.Stored.push_back({target, ContentOf(FScratch.System, target, &FFirefox)});
     }
-    present.State = page.StateOfSetting(control);
-    if (IsPressed(setting, control)) Drop(page);
+    if (IsPressed(setting, control)) {
+        present.State = page.StateOfSetting(control);
+        Drop(page);
+    }
     return present;
 }
 
 std::vector<TChange> TCatalogue::WouldWrite(const TSetting& setting, const TControlState& state) {
     if (!States(setting).Allow(state)) return {};
-    Change(setting, state);
+    FTwins.reset();
+    Act(setting, state);
     auto changes = PendingChanges(FScratch.System, FChanges, ChangedPreferences());
     Drop(*FOwners.at(&setting));
     for (const auto& [other, unused] : PresetStates(setting)) FOwners.at(other)->Forget();
@@ -298,6 +309,15 @@ std::vector<TChange> TCatalogue::WouldWrite(const TSetting& setting, const TCont
 }
 
 void TCatalogue::Change(const TSetting& setting, const TControlState& state) {
+    if (!FTwins) {
+        FTwins = std::make_unique<TTwinControls>(FWindow->Context);
+        for (const auto& page : FWindow->Pages)
+            if (page->IsLoaded()) FTwins->PageLoaded(page->Definition().Tag);
+    }
+    Act(setting, state);
+}
+
+void TCatalogue::Act(const TSetting& setting, const TControlState& state) {
     TPageModel& page = Loaded(setting);
     // A preset may reach controls of other pages.
     for (const auto& [other, unused] : PresetStates(setting)) Loaded(*other);
@@ -321,6 +341,7 @@ std::vector<std::pair<const TSetting*, TControlState>> TCatalogue::PresetStates(
 }
 
 void TCatalogue::Refresh() {
+    FTwins.reset();
     FChanges.Clear();
     FWindow->Context.FirefoxChanged = false;
     for (const auto& [setting, page] : FOwners) page->Forget();

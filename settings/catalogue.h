@@ -61,6 +61,8 @@ struct TPresent {
     std::vector<TStored> Stored;  ///< what is stored at each of its places
 };
 
+class TTwinControls;
+
 class TCatalogue {
   public:
     /// `language` is null for English. It and `system` outlive the catalogue. For use Change a page that is read prepares
@@ -91,8 +93,8 @@ class TCatalogue {
     [[nodiscard]] std::vector<std::pair<const TSetting*, TControlState>> PresetStates(
         const TSetting& preset) const;
 
-    /// With what is pending, without its state and what is stored.
-    [[nodiscard]] TPresent Availability(const TSetting& setting);
+    /// With what is pending, and without what is stored; a button has no state here.
+    [[nodiscard]] TPresent PendingState(const TSetting& setting);
     /// Does what a user does who brings the setting into one of its states, though it be in it already, and leaves that
     /// pending.
     void Change(const TSetting& setting, const TControlState& state);
@@ -115,6 +117,8 @@ class TCatalogue {
     TPageModel& Loaded(const TSetting& setting);
     /// Takes back what the page has recorded and shows.
     void Drop(TPageModel& page);
+    /// What a user does.
+    void Act(const TSetting& setting, const TControlState& state);
     [[nodiscard]] TControl& ControlOf(const TSetting& setting) const;
 
     TScratchSystem FScratch;
@@ -123,6 +127,7 @@ class TCatalogue {
     TFirefoxPrefs FFirefox;
     std::unique_ptr<TModel> FWindow;
     std::unique_ptr<TModel> FDialog;
+    std::unique_ptr<TTwinControls> FTwins;  ///< from the first change that stays pending
     std::vector<TCataloguedPage> FPages;
     std::vector<const TSetting*> FSettings;
     std::map<const TSetting*, TPageModel*> FOwners;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include "base/decimal.h"
 #include "platform/text.h"
@@ -29,11 +30,11 @@ TControlState StateFor(const TControl& control, const TControlState& state) {
 }  // namespace
 
 TPageModel::TPageModel(const TPageDefinition& definition, TPageContext& context, TScratchSystem& scratch,
-                       TControl& container)
+                       TControl& container, TNotifyEvent changed)
     : FDefinition(definition),
       FContext(context),
       FScratch(scratch),
-      FPage(definition, context, container, [](TComponent&) {}),
+      FPage(definition, context, container, std::move(changed)),
       FRoot(*container.Children().back()) {}
 
 void TPageModel::Load() {

@@ -10,9 +10,9 @@ class TButton;
 class TPageModel {
   public:
     /// Builds the page's controls into `container`. Everything outlives the model; the system of `context` is that of
-    /// `scratch`.
+    /// `scratch`. `changed` is told like that of a TPage.
     TPageModel(const TPageDefinition& definition, TPageContext& context, TScratchSystem& scratch,
-               TControl& container);
+               TControl& container, TNotifyEvent changed);
 
     [[nodiscard]] const TPageDefinition& Definition() const { return FDefinition; }
     [[nodiscard]] TPageContext& Context() const { return FContext; }
@@ -22,6 +22,7 @@ class TPageModel {
     /// Shows what is stored, from the state that the page is built in; does nothing when it shows that already. A fault of
     /// a loader leaves what was loaded until then.
     void Load();
+    [[nodiscard]] bool IsLoaded() const { return FIsLoaded; }
     /// The next Load loads anew.
     void Forget() { FIsLoaded = false; }
 

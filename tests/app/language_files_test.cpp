@@ -13,6 +13,7 @@
 #include "app/history_form.h"
 #include "app/main_window.h"
 #include "app/preview_form.h"
+#include "console/texts.h"
 #include "platform/text.h"
 #include "settings/shell/desktop_icons.h"
 #include "tests/fakes/fake_system.h"
@@ -96,6 +97,8 @@ TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
     const TQuilltune_FormMain window(fake.System);
     TTexts captions;
     for (const TCaptionKey& key : kCaptionKeys) captions[key.Key] = key.English;
+    TTexts messages;
+    for (const TTextKey& key : kTextKeys) messages[key.Key] = key.English;
     const TLanguage none(fake.System, L"Scanner");
     const TQuilltune_FormFolder dialog(window.Context(), none);
     TPlainDialogs dialogs(fake.System, window, none);
@@ -106,12 +109,14 @@ TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
         ExpectKeys(ini, L"Scanner_Quilltune_FormMain", FormTexts(window), english);
         ExpectKeys(ini, L"Scanner_Quilltune_FormFolder", FolderFormTexts(dialog), english);
         ExpectKeys(ini, L"Quilltune_M", captions, english);
+        ExpectKeys(ini, kTextSection, messages, english);
         std::vector<std::wstring> sections{L"Main", L"Scanner_Quilltune_FormMain", L"Quilltune_M",
                                            L"Scanner_Quilltune_FormFolder"};
         for (const TForm* form : dialogs.All()) {
             sections.push_back(L"Scanner_" + form->Name());
             ExpectKeys(ini, sections.back().c_str(), FormTexts(*form), english);
         }
+        sections.emplace_back(kTextSection);
         EXPECT_EQ(ini.ReadSections(), sections);
     }
 }

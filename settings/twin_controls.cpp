@@ -1,4 +1,4 @@
-#include "app/twin_controls.h"
+#include "settings/twin_controls.h"
 
 #include <algorithm>
 
