@@ -68,6 +68,7 @@ void TQuilltune_FormMain::BuildControls() {
 
 void TQuilltune_FormMain::BindEvents() {
     OnShow = [this](TComponent&) { FormShow(); };
+    OnComeBack = [this](TComponent&) { FormComeBack(); };
     Find<TTimer>(L"Timer_Click")->OnTimer = [this](TComponent&) { Timer_ClickTimer(); };
     Find<TTimer>(L"Timer_Loading")->OnTimer = [this](TComponent&) { Timer_LoadingTimer(); };
     Find<TButton>(L"Button_OK")->OnClick = [this](TComponent&) { Button_OKClick(); };

@@ -56,6 +56,8 @@ class TQuilltune_FormMain : public TForm {
     void TellFirefoxRestart(const TForm& asker);
     /// Apply is enabled exactly while something is pending.
     void EnableApply();
+    /// Pages that were visited show again what is stored, when nothing is pending.
+    void FormComeBack();
     /// A control's change was recorded.
     void PageChanged(TComponent& sender);
     /// Opens the page and the sheet of the control and gives it the focus.
@@ -86,4 +88,5 @@ class TQuilltune_FormMain : public TForm {
     std::set<int> FVisitedPages;  ///< tags of the pages whose loaders have run
     TCategoryItem* FSelectedItem = nullptr;
     bool FLoadingFinished = true;
+    bool FIsCarryingOut = false;  ///< an Apply; while a service is waited for, messages are handled
 };

@@ -21,6 +21,7 @@ void TQuilltune_FormMain::Button_ApplyClick() {
     TRecordedApply record(FSystem, FReview->Operations(), &FFirefox);
     TWritten written;
     TakeAll({
+        [&] { FIsCarryingOut = true; },
         [&] { record.Begin(); },
         [&] { written = CarryOut(FChanges); },
         [&] { record.Supplement(); },
@@ -33,7 +34,13 @@ void TQuilltune_FormMain::Button_ApplyClick() {
         [&] { FTwins->Written(); },
         [&] { EnableApply(); },
         [&] { record.Complete(); },
+        [&] { FIsCarryingOut = false; },
     });
+}
+
+void TQuilltune_FormMain::FormComeBack() {
+    if (FIsCarryingOut || FContext.Loading || !FChanges.IsEmpty() || FContext.FirefoxChanged) return;
+    FReview->Reload(FVisitedPages);
 }
 
 void TQuilltune_FormMain::OfferRestart(const TForm& asker) {
@@ -137,9 +144,11 @@ void TQuilltune_FormMain::Review(TForm& asker, const TChangeSet& operations) {
 void TQuilltune_FormMain::CarryOutNow(const TForm& asker, const TChangeSet& operations) {
     TCarriedOut done;
     TakeAll({
+        [&] { FIsCarryingOut = true; },
         // What is pending for preferences stays pending: the file is changed by another store.
         [&] { CarryOutRecorded(FSystem, operations, done); },
         [&] {
+            FIsCarryingOut = false;
             FReview->Reload(FVisitedPages);
             EnableApply();
         },

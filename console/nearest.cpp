@@ -30,6 +30,8 @@ std::size_t DistanceToPart(std::wstring_view typed, std::wstring_view word) {
 
 std::vector<std::wstring> NearestWords(std::wstring_view typed, const std::vector<std::wstring>& known) {
     typed = typed.substr(0, kLongestTyped);
+    constexpr std::size_t kShortest = 3;  // less is nearly a part of anything
+    if (typed.size() < kShortest) return {};
     const std::size_t farthest = (typed.size() + 2) / 3;
     std::vector<std::tuple<std::size_t, std::size_t, std::wstring>> ranked;
     for (const std::wstring& word : known)

@@ -150,8 +150,11 @@ Check "formatting" "$Checks/format.sh"
 Check "include directions" "$Checks/includes.sh"
 Check "reference of the settings" "$Checks/settings_reference.sh"
 for Target in win32 win64; do
-    Check "imports of the $Target program" "$Checks/imports.sh" "$Root/dist/$Target/Quilltune.exe"
-    Check "file of the $Target program" "$Checks/program_file.sh" "$Root/dist/$Target/Quilltune.exe"
+    for File in Quilltune:GUI qtune:CUI; do
+        Name="$Target/${File%:*}.exe"
+        Check "imports of $Name" "$Checks/imports.sh" "$Root/dist/$Name"
+        Check "file $Name" "$Checks/program_file.sh" "$Root/dist/$Name" "${File#*:}"
+    done
 done
 
 wait "$TidyJob"

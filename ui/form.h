@@ -67,8 +67,11 @@ class TForm : public TControl {
 
     TNotifyEvent OnShow;  ///< runs once, just before the window becomes visible
 
-    /// Called by the native window.
+    TNotifyEvent OnComeBack;  ///< the user comes back to the form from another program
+
+    // Called by the native window.
     void Show() { Fire(OnShow); }
+    void ComeBack() { Fire(OnComeBack); }
 
   private:
     TControl& Create(TControl& parent, const TControlDesign& design);

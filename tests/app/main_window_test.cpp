@@ -118,6 +118,23 @@ TEST_F(TMainWindow, APageIsLoadedOnItsFirstVisitOnly) {
     EXPECT_TRUE(Get<TCheckBox>(kLastAccess).Checked()) << "the user's change is still there";
 }
 
+TEST_F(TMainWindow, ShowsWhatWasStoredMeanwhileWhenTheUserComesBack) {
+    Open();
+    Click(kDriverItem);
+    const auto& box = Get<TCheckBox>(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData");
+    const auto storeAndComeBack = [&](int value) {
+        Fake.Registry.Put(kLastAccessValue, {TRegDataType::Dword, value});
+        Window->ComeBack();
+        return box.Checked();
+    };
+    EXPECT_FALSE(storeAndComeBack(1));
+    EXPECT_TRUE(storeAndComeBack(0));
+    EXPECT_FALSE(Enabled(L"Button_Apply")) << "that is no change";
+    Toggle(L"Checkbox_Drives_Common_NTFS_SaveShortName");
+    EXPECT_TRUE(storeAndComeBack(1)) << "something is pending";
+    EXPECT_TRUE(Enabled(L"Button_Apply"));
+}
+
 TEST_F(TMainWindow, ApplyAndOkWriteAndOkAndCancelClose) {
     for (const wchar_t* button : {L"Button_Apply", L"Button_OK", L"Button_Cancel"}) {
         SCOPED_TRACE(testing::PrintToString(std::wstring(button)));

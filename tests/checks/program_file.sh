@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# The program file $1 is small, stripped, starts on the oldest Windows and can be loaded at any address.
+# The program file $1, for windows ("GUI") or the console ("CUI") as $2 says, is small, stripped, starts on the oldest
+# Windows and can be loaded at any address.
 set -euo pipefail
 Program=$1
+Subsystem=$2
 MaximalSize=1500000
 
 Headers=$(x86_64-w64-mingw32-objdump -p "$Program")
@@ -21,7 +23,7 @@ Demand "not for the oldest subsystem" "$Headers" '^MajorSubsystemVersion[[:space
 Demand "not for the oldest subsystem" "$Headers" "^MinorSubsystemVersion[[:space:]]+$Minor\$"
 Demand "not for the oldest system" "$Headers" '^MajorOSystemVersion[[:space:]]+5$'
 Demand "not for the oldest system" "$Headers" "^MinorOSystemVersion[[:space:]]+$Minor\$"
-Demand "not a window program" "$Headers" '^Subsystem.*\(Windows GUI\)'
+Demand "not for the $Subsystem" "$Headers" "^Subsystem.*\(Windows $Subsystem\)"
 Demand "not relocatable at random (ASLR)" "$Headers" '^[[:space:]]+DYNAMIC_BASE$'
 Demand "data may be executed (NX)" "$Headers" '^[[:space:]]+NX_COMPAT$'
 Demand "no relocations" "$Sections" '[[:space:]]\.reloc[[:space:]]+0*[1-9a-f]'

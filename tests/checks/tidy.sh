@@ -43,7 +43,7 @@ export SingleChecks PathSteps
 
 # Neighbours, too, have names in common, and come into different groups. The longest files first, so that no processor
 # waits for one of them in the end.
-Files=$(find app settings engine platform ui base -name '*.cpp' -not -path '*/win32/*' | sort)
+Files=$(find app console settings engine platform ui base -name '*.cpp' -not -path '*/win32/*' | sort)
 {
     awk -v groups=$Groups '{ Group[NR % groups] = Group[NR % groups] " " $0 } END { for (i in Group) print "TidyGroup" Group[i] }' <<<"$Files"
     # shellcheck disable=SC2086  # many files

@@ -9,8 +9,9 @@
 
 namespace {
 
-constexpr UINT kLayOutMessage = WM_APP;       // posted to itself: containers wait to be laid out
-constexpr UINT kRestyleMessage = WM_APP + 1;  // posted to itself: the look of Windows has changed
+constexpr UINT kLayOutMessage = WM_APP;        // posted to itself: containers wait to be laid out
+constexpr UINT kRestyleMessage = WM_APP + 1;   // posted to itself: the look of Windows has changed
+constexpr UINT kComeBackMessage = WM_APP + 2;  // posted to itself: another program was in front
 constexpr int kFormMargin = 8;
 
 /// A window that takes no input while another one is shown over it. `focus` is what then gets the focus.
@@ -409,8 +410,14 @@ LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lPar
         case WM_THEMECHANGED:
             FFormWindow.RestyleLater();
             break;
+        case WM_ACTIVATEAPP:
+            if (wParam != FALSE) PostMessageW(Handle(), kComeBackMessage, 0, 0);
+            break;
         case kRestyleMessage:
             FFormWindow.Restyle();
+            return 0;
+        case kComeBackMessage:
+            if (IsWindowEnabled(Handle())) FFormWindow.FForm.ComeBack();
             return 0;
         case kLayOutMessage:
             FFormWindow.LayOutChanged();
