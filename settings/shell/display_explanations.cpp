@@ -17,11 +17,11 @@ constexpr TExplanation kTexts[] = {
      "The shadow makes the pointer easier to see on a light background. Needs more than 256 colors. The same "
      "setting is found among the mouse functions."},
     {L"CheckBox_Display_Effect_DisplayAndEffectSettings_Rect",
-     "The rectangle that you draw with the mouse around icons is filled with a transparent color; otherwise "
-     "it is a dotted line, which is faster to draw."},
+     "Since Windows XP the rectangle that you draw with the mouse around icons is filled with a transparent "
+     "color; otherwise it is a dotted line, which is faster to draw."},
     {L"CheckBox_Display_Effect_DisplayAndEffectSettings_DesktopShadow",
-     "The wallpaper shows through behind the names of icons, and a shadow keeps them readable. Otherwise "
-     "each name stands on the desktop's plain color."},
+     "Since Windows XP the wallpaper shows through behind the names of icons, and a shadow keeps them "
+     "readable. Otherwise each name stands on the desktop's plain color."},
     {L"Checkbox_Display_Effect_BehaviorSettings_Folder",
      "Windows XP shows a pane with tasks for the selected files at the left of folder windows. Without it "
      "there is more room for files. Windows 7 does not have this pane."},
@@ -75,8 +75,7 @@ constexpr TExplanation kTexts[] = {
      "Menus have a thin frame instead of a raised edge. Since Windows XP; choosing a theme sets it anew. "
      "Where a visual style draws the menus itself, as since Vista, this shows little or not at all."},
     {L"Checkbox_Display_MenuAppearance_DynamicElements_MenuShadow",
-     "A soft shadow sets menus off from the windows below them. Since Windows XP; needs more than 256 "
-     "colors."},
+     "A soft shadow sets menus off from the windows below them. Windows 2000 does not have it."},
     {L"Button_Display_MenuAppearance_HighestPerformance",
      "Turns off animation and shadows of menus; they stay flat."},
     {L"Button_Display_MenuAppearance_Default",

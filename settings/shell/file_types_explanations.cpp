@@ -27,7 +27,7 @@ constexpr TExplanation kTexts[] = {
      "The submenu that creates folders, shortcuts and documents; it appears on the empty area of a folder or "
      "the desktop. Clearing removes it for all users."},
     {L"Button_FileType_MenuOperation_Default",
-     "Chooses \"Open Explorer here\" and resets the cursor and the Windows key in the input options; the "
+     "Checks \"Open Explorer here\" and resets the cursor and the Windows key in the input options; the "
      "other entries of the menus stay as they are."},
     {L"Radio_FileType_OpenFile_DefaultPrograme_WithOpen",
      "A double-click on a file whose type no program has registered lets you choose a program. This is how "
@@ -60,7 +60,7 @@ constexpr TExplanation kTexts[] = {
      "Lets the viewer of Windows XP open pictures by default; clearing takes only this from it, its menu "
      "entry stays. Other versions do not have this viewer: leave the setting alone there. At first the box "
      "does not tell what is set."},
-    {L"Button_FileType_Advanced_Default", "Chooses both settings of this sheet, as in a new Windows XP."},
+    {L"Button_FileType_Advanced_Default", "Checks both boxes of this sheet, as Windows XP does by default."},
 };
 
 }  // namespace

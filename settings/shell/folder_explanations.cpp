@@ -25,7 +25,7 @@ constexpr TExplanation kTexts[] = {
      "of their kind. Windows 7 always remembers and no longer offers this choice."},
     {L"Trabar_Folder_View_BehaviorSet_SaveViewSetCount",
      "When the number is reached, Windows forgets the view of the folder that was not opened for the longest "
-     "time. Windows XP keeps only about 400 by itself. Since Vista Windows stores this elsewhere, where it "
+     "time. Windows XP keeps only about 400 by default. Since Vista Windows stores this elsewhere, where it "
      "is not changed."},
     {L"Button_Folder_View_BehaviorSet_Default",
      "Opens folders without the tree, does not restore them at logon, allows the details pane and remembers "
@@ -37,8 +37,8 @@ constexpr TExplanation kTexts[] = {
      "The tip of a folder tells its size and some of the files in it. Windows has to look through the folder "
      "for this, which may take time on slow or network drives."},
     {L"Radio_Folder_List_ArrangeIcons_WithNumber",
-     "Numbers in names are compared by their value, as most people count. This is what Windows does by "
-     "itself since XP; Windows 2000 always compares single characters."},
+     "Numbers in names are compared by their value, as most people count. This is the default since Windows "
+     "XP; Windows 2000 always compares single characters."},
     {L"Radio_Folder_List_ArrangeIcons_WithLetter",
      "Names are compared character by character, digits as well, as Windows 2000 does. Useful for names with "
      "hexadecimal numbers or fixed numbers of digits. Applies to all users."},

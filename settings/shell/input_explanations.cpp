@@ -6,16 +6,16 @@ namespace {
 constexpr TExplanation kTexts[] = {
     {L"TrackBar_Use_MouseSensitivity_Speed",
      "How far the pointer goes when you move the mouse. Choose more for large screens, less for precise "
-     "work. The middle is Windows' own value."},
+     "work. The default is in the middle."},
     {L"Updown_Use_MouseSensitivity_DoubleClickError",
-     "If the mouse moves further than this between two clicks, they do not count as a double-click. Choose "
-     "more if your double-clicks often fail because the hand moves."},
+     "Both clicks must fall into a square of this width to count as a double-click. Choose more if your "
+     "double-clicks often fail because the hand moves. The default is 4."},
     {L"UpDown_Use_MouseSensitivity_DoubleClickTime",
      "Choose more if you find it hard to click twice quickly; with too much, two single clicks open things "
-     "by mistake. Windows' own value is 500."},
+     "by mistake. The default is 500."},
     {L"UpDown_Use_MouseSensitivity_Drag",
      "The mouse must move this far with its button held down before an item is dragged. Choose more if files "
-     "get moved by accident while you click. Windows' own value is 4."},
+     "get moved by accident while you click. The default is 4."},
     {L"UpDown_Use_MouseSensitivity_Hover_MoveError",
      "As long as the pointer stays within this area, it counts as resting, for example when folders select "
      "an item by pointing. Choose more for an unsteady hand."},
@@ -25,7 +25,7 @@ constexpr TExplanation kTexts[] = {
     {L"UpDown_Use_MouseSensitivity_Tilt_Count",
      "How far a tilt of the wheel moves the content to the side. Needs a mouse whose wheel can be tilted and "
      "a program that supports it; Windows does so since Vista."},
-    {L"Button_Use_MouseSensitivity_Default", "Sets all values of this sheet as in a new Windows."},
+    {L"Button_Use_MouseSensitivity_Default", "Sets all values of this sheet as Windows does by default."},
     {L"Checkbox_Use_MouseFunction_ChangeKey_Change",
      "For left-handed use: the right button then clicks and drags, the left one opens menus. It takes effect "
      "as soon as you apply it, for the next click already."},
@@ -33,8 +33,8 @@ constexpr TExplanation kTexts[] = {
      "The usual choice, in which you keep the text in view. Programs that scroll by steps of their own may "
      "not follow it."},
     {L"UpDown_Use_MouseFunction_Wheel_Count",
-     "Choose more to get through long texts quickly. Windows' own value is 3; some programs use steps of "
-     "their own."},
+     "Choose more to get through long texts quickly. The default is 3; some programs use steps of their "
+     "own."},
     {L"Radio_Use_MouseFunction_Wheel_RollPage",
      "Each notch moves by as much as the window shows, like the Page Down key. Good for reading page by "
      "page."},

@@ -28,7 +28,7 @@ constexpr TExplanation kTexts[] = {
      "arrow. Clear it if you want to find all entries in their places at all times."},
     {L"UpDown_Use_StartMenu_Common_Menu_Delay",
      "How long the mouse pointer must rest on an entry until its submenu opens, in the menus of all "
-     "programs. Windows' own value is 400; with less, menus feel quicker, with more, fewer open by mistake."},
+     "programs. The default is 400; with less, menus feel quicker, with more, fewer open by mistake."},
     {L"Checkbox_Use_StartMenu_Common_Classic_ControlPanel",
      "The tools of the Control Panel appear in a submenu instead of a window. Concerns the classic Start "
      "menu and that of Windows 2000."},
@@ -57,11 +57,11 @@ constexpr TExplanation kTexts[] = {
      "The entry for the folder in which Windows Media Player puts music from CDs by default. Has no effect "
      "on the classic Start menu."},
     {L"CB_Use_StartMenu_Items_Videos",
-     "The entry for your videos, which the Start menu of Windows 7 does not show by itself. As a menu it "
+     "The entry for your videos, which the Start menu of Windows 7 does not show by default. As a menu it "
      "unfolds the files."},
     {L"CB_Use_StartMenu_Items_Downloads",
      "The entry for the folder in which browsers put downloads by default. The Start menu of Windows 7 does "
-     "not show it by itself."},
+     "not show it by default."},
     {L"CB_Use_StartMenu_Items_ControlPanel",
      "As a menu it shows all tools at once, without categories, which saves a click or two. Has no effect on "
      "the classic Start menu."},
@@ -70,8 +70,8 @@ constexpr TExplanation kTexts[] = {
      "Has no effect on the classic Start menu."},
     {L"Checkbox_Use_StartMenu_Items_Run",
      "Opens programs, folders and Web addresses by name. Since Vista Windows does not show the entry by "
-     "itself, as Windows key + R does the same. On Windows 2000 clearing also blocks these keys and New Task "
-     "in Task Manager."},
+     "default, as Windows key + R does the same. On Windows 2000 clearing also blocks these keys and New "
+     "Task in Task Manager."},
     {L"Checkbox_Use_StartMenu_Items_Search",
      "The entry that searches for files. The search box of Vista is another matter and stays. On Windows "
      "2000 clearing also blocks Windows key + F."},
@@ -83,7 +83,7 @@ constexpr TExplanation kTexts[] = {
      "other browsers keep bookmarks of their own."},
     {L"Checkbox_Use_StartMenu_Items_NetConn",
      "The entry with which you connect to wireless networks, dial-up or a VPN. Windows 7 does not show it by "
-     "itself, because the network icon beside the clock does the same."},
+     "default, because the network icon beside the clock does the same."},
     {L"Checkbox_Use_StartMenu_Items_Printers",
      "The entry for the folder in which printers are set up and print jobs are watched. Has no effect on the "
      "classic Start menu."},
@@ -100,10 +100,10 @@ constexpr TExplanation kTexts[] = {
      "Windows notes which documents you open. If you clear it, others cannot see what you worked on, and the "
      "Jump Lists of Windows 7 list no documents. Programs may keep lists of their own."},
     {L"Checkbox_Use_StartMenu_RecentlyUse_Document_Show",
-     "Only the menu is shown or hidden; what is remembered stays. Windows 7 does not show it by itself, as "
+     "Only the menu is shown or hidden; what is remembered stays. Windows 7 does not show it by default, as "
      "its Jump Lists offer the documents of each program."},
     {L"UpDown_Use_StartMenu_RecentlyUse_Document_FileCount",
-     "How many of the documents opened last the menu lists. Windows' own value is 15."},
+     "How many of the documents opened last the menu lists. The default is 15."},
     {L"Checkbox_Use_StartMenu_RecentlyUse_Program_Keep",
      "Windows counts how often you start each program. The list of frequently used programs and personalized "
      "menus need this; without it they do not adapt to you."},

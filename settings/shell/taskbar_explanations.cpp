@@ -9,12 +9,12 @@ constexpr TExplanation kTexts[] = {
      "buttons flash instead. If you clear it, any program may bring its window to the front at any time."},
     {L"UpDown_Taskbar_ButtonFlashes_Common_Time",
      "When you have used neither keyboard nor mouse for this time, a window may come to the front by itself. "
-     "Windows' own value is 200 seconds."},
+     "The default is 200 seconds."},
     {L"UpDown_Taskbar_ButtonFlashes_Speed_Flash",
      "How often the button flashes when a program was kept from coming to the front. Programs that make "
      "their button flash by themselves choose their own number."},
     {L"Button_Taskbar_ButtonFlashes_Default",
-     "Lets buttons flash three times and keeps windows back for 200 seconds, as Windows does by itself."},
+     "Lets buttons flash three times and keeps windows back for 200 seconds, as Windows does by default."},
     {L"Checkbox_Taskbar_ButtonAppearance_Bar_Lock",
      "Keeps the taskbar and its toolbars from being moved or resized by accident. Clear it to move the bar "
      "to another edge or to give it a second row."},
@@ -61,9 +61,7 @@ constexpr TExplanation kTexts[] = {
     {L"Checkbox_Taskbar_Notification_Balloons_Show",
      "The balloons beside the clock in which Windows and programs report news. Clearing also hides warnings, "
      "for example of low disk space."},
-    {L"Button_Taskbar_Notification_Default",
-     "Shows the notification area with all icons and messages that this page knows, and hides inactive "
-     "icons."},
+    {L"Button_Taskbar_Notification_Default", "Checks all boxes of this sheet, as Windows does by default."},
     {L"CB_Taskbar_MinWindow_Arrange",
      "Where minimized windows go while no taskbar shows them: as small title bars on the desktop, or "
      "nowhere. The choice lasts until you log off, because the desktop sets it back at every logon."},
