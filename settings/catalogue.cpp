@@ -220,9 +220,8 @@ void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& ca
 void TCatalogue::Explain(TModel& model) const {
     std::map<std::wstring_view, TExplanation> explanations;
     for (const auto& page : model.Pages)
-        if (page->Definition().Explanations != nullptr)
-            for (const TExplanation& each : page->Definition().Explanations())
-                explanations.emplace(each.Control, each);
+        for (const TExplanation& each : page->Definition().Explanations())
+            explanations.emplace(each.Control, each);
     // What the program does not explain a language may.
     const auto of = [&](const wchar_t* control) {
         return explanations.try_emplace(control, TExplanation{control, ""}).first->second;

@@ -51,7 +51,7 @@ struct TPageDefinition {
     std::span<const TLoader> Loaders;  ///< in the order in which they run
     std::span<const TPreset> Presets;
     /// Of its settings and presets, in a unit of their own; those that have a twin share its explanation.
-    TExplanations (*Explanations)() = nullptr;
+    TExplanations (*Explanations)() = [] { return TExplanations(); };
     std::span<const TOffer> Offers = {};
     std::span<const TLevelCaption> LevelCaptions = {};
     std::span<const TTwin> Twins = {};

@@ -52,7 +52,6 @@ TTexts FolderFormTexts(const TForm& form) {
 }
 
 void AddExplanations(TTexts& texts, const TPageDefinition& page) {
-    if (page.Explanations == nullptr) return;
     for (const auto& [control, text] : page.Explanations())
         texts[control + std::wstring(L".Hint")] = FromUtf8(text);
 }
