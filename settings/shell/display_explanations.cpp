@@ -35,13 +35,13 @@ constexpr TExplanation kTexts[] = {
      "Name and build number of Windows stand in the lower right corner of the desktop. Useful if you look "
      "after several computers or take screenshots of errors."},
     {L"Button_Display_Effect_BestAppearance",
-     "Turns on all effects of the upper group and the common tasks in folders, but not highlighting."},
+     "Turns on all effects of the upper group and the common tasks in folders, and turns off highlighting."},
     {L"Button_Display_Effect_HighestPerformance",
-     "Turns off all effects of the upper group, which relieves slow computers; highlighting and the common "
-     "tasks in folders stay on."},
+     "Turns off all effects of the upper group, which relieves slow computers, but turns on highlighting and "
+     "the common tasks in folders."},
     {L"Button_Display_Effect_Default",
-     "Turns on all effects of the upper group, highlighting and the common tasks in folders, but neither "
-     "underlined keys nor the Windows version."},
+     "Turns on all effects of the upper group, highlighting and the common tasks in folders, and turns off "
+     "underlined access keys and the Windows version."},
     {L"Checkbox_Display_Animation_MessageAndAnimation_MaxAndMin",
      "A window seems to fly to its taskbar button and back, so that you see where it goes. Clear it if "
      "windows should appear at once."},
@@ -77,7 +77,7 @@ constexpr TExplanation kTexts[] = {
     {L"Checkbox_Display_MenuAppearance_DynamicElements_MenuShadow",
      "A soft shadow sets menus off from the windows below them. Windows 2000 does not have it."},
     {L"Button_Display_MenuAppearance_HighestPerformance",
-     "Turns off animation and shadows of menus; they stay flat."},
+     "Turns off animation, fading and shadows of menus and makes them flat."},
     {L"Button_Display_MenuAppearance_Default",
      "Lets flat menus with a shadow fade in and out, as in a new Windows XP."},
     {L"CB_Display_FontSmooth_SmoothType",
