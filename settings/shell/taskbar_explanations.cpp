@@ -47,10 +47,10 @@ constexpr TExplanation kTexts[] = {
      "The time at the end of the taskbar. While it is hidden here, the properties of the taskbar cannot "
      "bring it back."},
     {L"Checkbox_Taskbar_Notification_Icons_Volume",
-     "The loudspeaker since Vista, with which you set the volume. While it is hidden here, Windows' own "
+     "The loudspeaker with which you set the volume since Vista. While it is hidden here, Windows' own "
      "settings cannot bring it back."},
     {L"Checkbox_Taskbar_Notification_Icons_Network",
-     "The icon since Vista that tells whether you are connected and offers wireless networks. While it is "
+     "The icon that tells since Vista whether you are connected, and offers wireless networks. While it is "
      "hidden here, Windows' own settings cannot bring it back."},
     {L"Checkbox_Taskbar_Notification_Icons_Power",
      "The icon with the battery's charge and the power plans, on portable computers. While it is hidden "
