@@ -156,6 +156,8 @@ TCatalogue::TCatalogue(TSystem& system, const TLanguage* language, int windowsLe
                     AddPage(*FWindow, *page, item.Text ? FWindow->Context.Captions[*item.Text] : item.Caption,
                             item.Text ? item.Levels : TLevels{.Last = -1});
     AddPage(*FDialog, *FDialog->Pages.front(), FDialog->Form.Caption(), kEveryLevel);
+    Explain(*FWindow);
+    Explain(*FDialog);
 }
 
 TCatalogue::~TCatalogue() = default;
@@ -180,9 +182,6 @@ TSetting& TCatalogue::AddSetting(TModel& model, TPageModel& page, const TControl
             setting.LevelNames.push_back({name.Levels, Plain(model.Context.Captions[name.Caption])});
     setting.Sheet = captionOf(Above(control, TComponentKind::TabSheet));
     setting.Group = captionOf(Above(control, TComponentKind::GroupBox));
-    if (FLanguage != nullptr)
-        setting.Explanation =
-            FLanguage->ReadString(L"Scanner_" + model.Form.Name(), setting.Id + L".Hint", L"");
     if (IsSwatch(control)) return setting;
     FSettings.push_back(&setting);
     FOwners.emplace(&setting, &page);
@@ -226,6 +225,27 @@ void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& ca
         }
     }
     for (const TPreset& preset : definition.Presets) add(preset.Button, kEveryLevel).Preset = &preset;
+}
+
+void TCatalogue::Explain(TModel& model) const {
+    std::map<std::wstring_view, TExplanation> explanations;
+    for (const auto& page : model.Pages)
+        for (const TExplanation& each : page->Definition().Explanations())
+            explanations.emplace(each.Control, each);
+    // What the program does not explain a language may.
+    const auto of = [&](const wchar_t* control) {
+        return explanations.try_emplace(control, TExplanation{control, ""}).first->second;
+    };
+    for (const auto& page : model.Pages)
+        for (const TTwin& twin : page->Definition().Twins)
+            explanations.insert_or_assign(twin.Control, of(twin.Twin));
+    for (TSetting& setting : model.Settings) {
+        const auto [control, text] = of(setting.Id.c_str());
+        setting.Explanation = FromUtf8(text);
+        if (FLanguage != nullptr)
+            setting.Explanation = FLanguage->ReadString(
+                L"Scanner_" + model.Form.Name(), std::wstring(control) + L".Hint", setting.Explanation);
+    }
 }
 
 TPageModel& TCatalogue::Loaded(const TSetting& setting) {

@@ -27,7 +27,7 @@ struct TSetting {
     std::wstring Page;
     std::wstring Sheet;
     std::wstring Group;             ///< empty when it is in none
-    std::wstring Explanation;       ///< empty when the language has none
+    std::wstring Explanation;       ///< what its caption does not say: one to three sentences
     std::vector<const TRow*> Rows;  ///< the rows that it records through; none of a preset
     const TPreset* Preset = nullptr;
     std::vector<int> Levels;  ///< the Windows levels on which it is offered
@@ -113,6 +113,7 @@ class TCatalogue {
 
     void AddPage(TModel& model, TPageModel& page, const std::wstring& caption, const TLevels& reachable);
     TSetting& AddSetting(TModel& model, TPageModel& page, const TControl& control);
+    void Explain(TModel& model) const;
     /// The setting's page, loaded.
     TPageModel& Loaded(const TSetting& setting);
     /// Takes back what the page has recorded and shows.

@@ -3,6 +3,7 @@
 
 #include <set>
 
+#include "settings/explanation.h"
 #include "settings/page_context.h"
 #include "settings/rows.h"
 #include "ui/design.h"
@@ -49,6 +50,8 @@ struct TPageDefinition {
     TControlDesign (*Design)();
     std::span<const TLoader> Loaders;  ///< in the order in which they run
     std::span<const TPreset> Presets;
+    /// Of its settings and presets, in a unit of their own; those that have a twin share its explanation.
+    TExplanations (*Explanations)() = [] { return TExplanations(); };
     std::span<const TOffer> Offers = {};
     std::span<const TLevelCaption> LevelCaptions = {};
     std::span<const TTwin> Twins = {};

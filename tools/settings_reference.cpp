@@ -29,8 +29,7 @@ TText Words(const TSetting& setting) {
     TText words = setting.GeneralCaption;
     for (const TSetting::TLevelName& name : setting.LevelNames)
         words += L" (" + WordsOf(name.Levels) + L": " + name.Caption + L")";
-    words += L" " + Code(setting.Id);
-    return setting.Explanation.empty() ? words : words + L"<br>" + setting.Explanation;
+    return words + L" " + Code(setting.Id);
 }
 
 /// The Windows versions on which the row holds and its control is offered, and those on which it is read, where they
@@ -53,7 +52,15 @@ void PrintRow(const TCataloguedRow& row) {
           Cell(words.Writes) + L" | " + Levels(row) + L" | " + (RestartOf(*row.Row) ? L"yes" : L"") + L" |");
 }
 
-void PrintPage(const TCataloguedPage& page, const TText& caption) {
+/// What the settings and presets of the sheet are for. Several may have one caption.
+void PrintExplanations(const TCatalogue& catalogue, const TText& page, const TText& sheet) {
+    Print(L"");
+    for (const TSetting* setting : catalogue.Settings())
+        if (setting->Page == page && setting->Sheet == sheet)
+            Print(L"- " + Code(setting->Id) + L": " + setting->Explanation);
+}
+
+void PrintPage(const TCatalogue& catalogue, const TCataloguedPage& page, const TText& caption) {
     Print(L"");
     Print(L"## " + caption);
     // A loader may go back and forth between the sheets.
@@ -69,6 +76,7 @@ void PrintPage(const TCataloguedPage& page, const TText& caption) {
         Print(L"|---|---|---|---|---|---|");
         for (const TCataloguedRow& row : page.Rows)
             if (row.Settings.front()->Sheet == sheet) PrintRow(row);
+        PrintExplanations(catalogue, page.Caption, sheet);
     }
 }
 
@@ -94,5 +102,5 @@ int main() {
         L"of the controls, \"Writes\" what Apply writes for the state that the user has chosen. HKLM, HKCU, "
         L"HKU and HKCR are the");
     Print(L"registry's roots; a text is a REG_SZ value.");
-    for (const TCataloguedPage& page : catalogue.Pages()) PrintPage(page, CaptionOf(page));
+    for (const TCataloguedPage& page : catalogue.Pages()) PrintPage(catalogue, page, CaptionOf(page));
 }

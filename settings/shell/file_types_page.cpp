@@ -242,8 +242,12 @@ constexpr TPreset kPresets[] = {
 
 constexpr TOffer kOffers[] = {{L"Checkbox_FileType_MenuOperation_Drive_OpenDrive", kUntilXp}};
 
-constexpr TPageDefinition kPage{
-    .Tag = 2, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers};
+constexpr TPageDefinition kPage{.Tag = 2,
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = kPresets,
+                                .Explanations = FileTypesExplanations,
+                                .Offers = kOffers};
 
 }  // namespace
 

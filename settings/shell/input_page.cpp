@@ -152,8 +152,12 @@ constexpr TOffer kOffers[] = {
     {L"GroupBox_Use_MouseFunction_Trails", kSinceXp},
 };
 
-constexpr TPageDefinition kPage{
-    .Tag = 4, .Design = InputDesign, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers};
+constexpr TPageDefinition kPage{.Tag = 4,
+                                .Design = InputDesign,
+                                .Loaders = kLoaders,
+                                .Presets = kPresets,
+                                .Explanations = InputExplanations,
+                                .Offers = kOffers};
 
 }  // namespace
 

@@ -317,6 +317,7 @@ constexpr TPageDefinition kPage{.Tag = 5,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
+                                .Explanations = StartMenuExplanations,
                                 .Offers = kOffers,
                                 .LevelCaptions = kLevelCaptions};
 

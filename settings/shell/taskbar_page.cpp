@@ -188,8 +188,12 @@ constexpr TOffer kOffers[] = {
     {L"Checkbox_Taskbar_Notification_Icons_ActionCenter", kSinceWindows7},
 };
 
-constexpr TPageDefinition kPage{
-    .Tag = 6, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers};
+constexpr TPageDefinition kPage{.Tag = 6,
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = kPresets,
+                                .Explanations = TaskbarExplanations,
+                                .Offers = kOffers};
 
 }  // namespace
 

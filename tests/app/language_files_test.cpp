@@ -52,6 +52,11 @@ TTexts FolderFormTexts(const TForm& form) {
     return texts;
 }
 
+void AddExplanations(TTexts& texts, const TPageDefinition& page) {
+    for (const auto& [control, text] : page.Explanations())
+        texts[control + std::wstring(L".Hint")] = FromUtf8(text);
+}
+
 TExtIniFile LoadDelivered(const std::string& language) {
     std::ifstream file(QUILLTUNE_SOURCE_DIR "/languages/" + language + ".lng", std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(file), {}};
@@ -102,12 +107,16 @@ TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
     const TLanguage none(fake.System, L"Scanner");
     const TQuilltune_FormFolder dialog(window.Context(), none);
     TPlainDialogs dialogs(fake.System, window, none);
+    TTexts windowTexts = FormTexts(window);
+    for (const TPageDefinition* page : PageDefinitions()) AddExplanations(windowTexts, *page);
+    TTexts dialogTexts = FolderFormTexts(dialog);
+    AddExplanations(dialogTexts, DesktopIcons());
     for (const char* language : {"English", "German"}) {
         SCOPED_TRACE(language);
         const bool english = language == std::string("English");
         const TExtIniFile ini = LoadDelivered(language);
-        ExpectKeys(ini, L"Scanner_Quilltune_FormMain", FormTexts(window), english);
-        ExpectKeys(ini, L"Scanner_Quilltune_FormFolder", FolderFormTexts(dialog), english);
+        ExpectKeys(ini, L"Scanner_Quilltune_FormMain", windowTexts, english);
+        ExpectKeys(ini, L"Scanner_Quilltune_FormFolder", dialogTexts, english);
         ExpectKeys(ini, L"Quilltune_M", captions, english);
         ExpectKeys(ini, kTextSection, messages, english);
         std::vector<std::wstring> sections{L"Main", L"Scanner_Quilltune_FormMain", L"Quilltune_M",

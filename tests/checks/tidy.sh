@@ -27,7 +27,7 @@ TidySingle() { Tidy "-*,$SingleChecks" "$1"; }
 TidyGroup() {
     local text file status=0
     text=$(mktemp --suffix=.cpp)
-    awk 'FNR == 1 { if (Open) print "}"; Open = 0; Page = FILENAME ~ /_page\.cpp$/ }
+    awk 'FNR == 1 { if (Open) print "}"; Open = 0; Page = FILENAME ~ /_(page|explanations)\.cpp$/ }
          Page && !Open && /^namespace/ { print "namespace unit" ++Units " {"; Open = 1 }
          { print }
          END { if (Open) print "}" }' "$@" >"$text"

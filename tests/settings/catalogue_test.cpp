@@ -161,14 +161,14 @@ TEST(TCatalogueModel, KnowsItsSettings) {
         L"C:\\L\\English.lng",
         "[Main]\nDisplayName=English\n[Quilltune_M]\nD_SystemDriver=Drives!\n"
         "[Scanner_Quilltune_FormMain]\nCheckbox_Drives_Common_NTFS_SaveLastVisitData.Caption=&Keep dates:\n"
-        "Checkbox_Drives_Common_NTFS_SaveLastVisitData.Hint=Costs a write.\n");
+        "Checkbox_Drives_Common_NTFS_SaveLastVisitData.Hint=Costs a zloty.\n");
     TLanguage language(fake.System, L"Scanner", L"C:\\L");
     language.LoadLanguage(L"English");
     TCatalogue catalogue(fake.System, &language, 7);
     const TSetting& setting = *catalogue.Find(L"CHECKBOX_drives_Common_NTFS_SaveLastVisitData");
     EXPECT_EQ(setting.Id, kLastAccess);
     EXPECT_EQ(setting.Caption, L"Keep dates");
-    EXPECT_EQ(setting.Explanation, L"Costs a write.");
+    EXPECT_EQ(setting.Explanation, L"Costs a zloty.");
     EXPECT_EQ(setting.Page, L"Drives!");
     EXPECT_EQ(setting.Levels, std::vector<int>(std::begin(kLevels), std::end(kLevels)));
     EXPECT_EQ(catalogue.Find(L"Checkbox_None"), nullptr);
@@ -193,7 +193,8 @@ TEST(TCatalogueModel, KnowsItsSettings) {
     const std::vector<int> sinceXp{5, 6, 7};
     EXPECT_EQ(catalogue.Find(L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing")->Levels, sinceXp);
     EXPECT_EQ(catalogue.Search(L"DATES keep").at(0), &setting);
-    EXPECT_EQ(catalogue.Search(L"costs").at(0), &setting);
+    const TSetting* twin = catalogue.Find(L"Checkbox_CommonSettings_Function_Drives_LastVisit");
+    EXPECT_EQ(catalogue.Search(L"zloty"), (std::vector{twin, &setting})) << "they share the explanation";
     EXPECT_EQ(catalogue.Search(L"ntfsdisablelastaccessupdate keep").at(0), &setting);
     EXPECT_TRUE(catalogue.Search(L"keep nowhere").empty());
     const auto found = catalogue.Search(L"access");
@@ -203,6 +204,25 @@ TEST(TCatalogueModel, KnowsItsSettings) {
     const TSetting& preset = *catalogue.Find(L"Button_Drives_Common_Default");
     const auto states = catalogue.PresetStates(preset);
     EXPECT_TRUE(std::ranges::any_of(states, [&](const auto& each) { return each.first == &setting; }));
+}
+
+TEST(TCatalogueModel, EverySettingIsExplainedOnce) {
+    TFakeSystem fake;
+    const TCatalogue catalogue(fake.System, nullptr, 7);
+    for (const TCataloguedPage& page : catalogue.Pages()) {
+        if (page.Definition->Explanations().empty()) continue;
+        std::set<std::wstring> explained;
+        for (const auto& [control, text] : page.Definition->Explanations()) {
+            EXPECT_TRUE(explained.insert(control).second) << testing::PrintToString(std::wstring(control));
+            EXPECT_TRUE(std::string_view(text).ends_with('.')) << text;
+        }
+        for (const TSetting* setting : catalogue.Settings()) {
+            if (setting->Page != page.Caption) continue;
+            EXPECT_FALSE(setting->Explanation.empty()) << testing::PrintToString(setting->Id);
+            explained.erase(setting->Id);
+        }
+        EXPECT_TRUE(explained.empty()) << "of no setting: " << testing::PrintToString(explained);
+    }
 }
 
 TEST(TSettingStates, OtherWordsAreRefused) {
