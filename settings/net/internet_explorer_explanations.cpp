@@ -6,7 +6,7 @@ namespace {
 constexpr TExplanation kTexts[] = {
     {L"Edit_IE_Common_Homepage_Address",
      "Page that Internet Explorer opens when it starts and with its Home button; about:blank is an empty "
-     "page. Further home pages, which there are since Internet Explorer 7, stay as they are."},
+     "page. Further home pages (Internet Explorer 7 and later) stay as they are."},
     {L"Updown_IE_Common_History_KeepDays",
      "Pages that were visited longer ago drop out of the history. Few days leave fewer traces for others at "
      "this computer, many make it easier to find a page again."},

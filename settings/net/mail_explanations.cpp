@@ -9,8 +9,8 @@ constexpr TExplanation kTexts[] = {
      "not use the messenger. Outlook Express exists up to Windows XP only."},
     {L"Checkbox_Mail_Outlook_Tray",
      "Minimized, Outlook leaves the taskbar and can be opened by its icon in the notification area, whose "
-     "menu has the same choice. It is stored for every version from Outlook 2002 to 2010 that has settings "
-     "here."},
+     "menu has the same choice since Outlook 2003. It is stored for every version from Outlook 2002 to 2010 "
+     "that has settings here."},
     {L"Checkbox_Mail_Messenger_Run",
      "If this is cleared, nobody at this computer can use the chat program of Windows XP, nor can Remote "
      "Assistance send its invitations with it. Other messengers, such as Windows Live Messenger, are not "

@@ -5,9 +5,9 @@ namespace {
 
 constexpr TExplanation kTexts[] = {
     {L"Checkbox_Net_Neighbor_Common_Task",
-     "When Windows 2000 or XP opens another computer in the network, it first asks it for its scheduled "
-     "tasks, which can take long; clearing this spares the wait. Since Windows Vista it is of no use, and "
-     "the stored state is not shown."},
+     "When Windows 2000 or XP opens another computer in the network, it first asks that one for its "
+     "scheduled tasks, which can take long; clearing this spares the wait. Since Windows Vista it is of no "
+     "use, and the stored state is not shown."},
     {L"Checkbox_Net_Neighbor_Common_Printer",
      "When Windows Vista or later opens another computer in the network, it also shows the printers of that "
      "computer; clearing this can make it faster. On Windows 2000 and XP the stored state is not shown."},
@@ -19,7 +19,7 @@ constexpr TExplanation kTexts[] = {
      "When you open a document in a shared folder, Windows remembers that folder among the network places. "
      "Clearing this keeps the list from growing and from showing others what you have opened."},
     {L"Checkbox_Net_Neighbor_Security_Hide",
-     "After Windows was started again, the computer no longer appears in the list of computers in the "
+     "Once Windows has been started again, the computer no longer appears in the list of computers in the "
      "network; it can take an hour until it is gone. Those who know its name can still open its shares. "
      "Windows Vista and later also find computers in other ways."},
     {L"Checkbox_Net_Neighbor_Security_ActiveShare",
