@@ -267,6 +267,7 @@ constexpr TPageDefinition kPage{.Tag = 9,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
+                                .Explanations = FirefoxExplanations,
                                 .LoadsEveryVisit = true,
                                 .Prepare = Prepare};
 

@@ -250,8 +250,12 @@ constexpr TOffer kOffers[] = {
     {L"GroupBox_IE_Common_Popup", kSinceXp},
 };
 
-constexpr TPageDefinition kPage{
-    .Tag = 8, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers};
+constexpr TPageDefinition kPage{.Tag = 8,
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = kPresets,
+                                .Explanations = InternetExplorerExplanations,
+                                .Offers = kOffers};
 
 }  // namespace
 

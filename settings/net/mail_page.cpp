@@ -77,7 +77,8 @@ constexpr TRow kMessengerRows[] = {
 
 constexpr TLoader kLoaders[] = {kOutlookExpressRows, kOutlookRows, kMessengerRows};
 
-constexpr TPageDefinition kPage{.Tag = 11, .Design = Design, .Loaders = kLoaders, .Presets = {}};
+constexpr TPageDefinition kPage{
+    .Tag = 11, .Design = Design, .Loaders = kLoaders, .Presets = {}, .Explanations = MailExplanations};
 
 }  // namespace
 

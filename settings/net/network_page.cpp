@@ -172,6 +172,7 @@ constexpr TPageDefinition kPage{.Tag = 7,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
+                                .Explanations = NetworkExplanations,
                                 .LevelCaptions = kLevelCaptions,
                                 .ShowsPending = true,
                                 .Prepare = Prepare};

@@ -78,8 +78,12 @@ constexpr TPreset kPresets[] = {
     {L"Button_Privacy_IE_Default", kInternetExplorerDefault},
 };
 
-constexpr TPageDefinition kPage{
-    .Tag = 12, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .ShowsPending = true};
+constexpr TPageDefinition kPage{.Tag = 12,
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = kPresets,
+                                .Explanations = PrivacyExplanations,
+                                .ShowsPending = true};
 
 }  // namespace
 

@@ -69,6 +69,7 @@ constexpr TPageDefinition kPage{.Tag = 18,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = {},
+                                .Explanations = SecurityExplanations,
                                 .ShowsPending = true,
                                 .Prepare = Prepare};
 

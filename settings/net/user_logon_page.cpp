@@ -160,8 +160,12 @@ constexpr TRow kMessageRows[] = {
 
 constexpr TLoader kLoaders[] = {kCommonRows, kAutoLoginRows, kMessageRows};
 
-constexpr TPageDefinition kPage{
-    .Tag = 13, .Design = Design, .Loaders = kLoaders, .Presets = {}, .ShowsPending = true};
+constexpr TPageDefinition kPage{.Tag = 13,
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = {},
+                                .Explanations = UserLogonExplanations,
+                                .ShowsPending = true};
 
 }  // namespace
 

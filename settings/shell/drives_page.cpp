@@ -87,7 +87,11 @@ constexpr TPreset kPresets[] = {
     {L"Button_Drives_DiskSpace_SpaceWarn_Default", kSpaceWarnDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 14, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
+constexpr TPageDefinition kPage{.Tag = 14,
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = kPresets,
+                                .Explanations = DrivesExplanations};
 
 }  // namespace
 

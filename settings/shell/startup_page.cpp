@@ -151,7 +151,11 @@ constexpr TPreset kPresets[] = {
     {L"Button_Startup_Error_Default", kErrorDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 16, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
+constexpr TPageDefinition kPage{.Tag = 16,
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = kPresets,
+                                .Explanations = StartupExplanations};
 
 }  // namespace
 
