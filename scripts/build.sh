@@ -15,5 +15,6 @@ for Target in "$@"; do
     mkdir -p "$Folder/Toolbox_Language"
     cp "$Root/build/$Target"/{Quilltune,qtune}.exe "$Folder/"
     cp "$Root"/languages/*.lng "$Folder/Toolbox_Language/"
+    cp -r "$Root/completions" "$Folder/"
     Say "$(cd "$Root" && ls -l "dist/$Target"/*.exe)"
 done

@@ -148,6 +148,7 @@ NativeJob=$!
 
 Check "formatting" "$Checks/format.sh"
 Check "include directions" "$Checks/includes.sh"
+Check "completion of command lines" "$Checks/completion.sh"
 Check "reference of the settings" "$Checks/settings_reference.sh"
 for Target in win32 win64; do
     for File in Quilltune:GUI qtune:CUI; do
