@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the window and the command line, for both kinds of Windows, on Debian 12, installing what the machine lacks. Leaves dist/win32 and dist/win64; each runs as it
-# stands when copied elsewhere.
+# Builds the window and the command line, for both kinds of Windows, on Debian 12, installing what the machine lacks. Leaves
+# dist/win32 and dist/win64; each runs as it stands when copied elsewhere.
 #   scripts/build.sh [win32|win64]...
 set -euo pipefail
 . "$(dirname "$0")/lib.sh"

@@ -26,5 +26,5 @@ Expect 'Box_One Box_Two' qtune get --json Box
 Expect 'Box_One= Box_Two=' qtune set Box
 Expect '0 1' qtune set List =
 Expect '1' qtune set List = 1
-Expect '' qtune export
+Expect '' qtune export ''
 Expect 'List' qtune export file.reg L
