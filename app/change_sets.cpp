@@ -48,7 +48,7 @@ bool IsChangedSince(const TOperation& operation, const TContent& now) {
 
 /// The preferences that the operations change; read only when they change some.
 TFirefoxPrefs PreferencesFor(TSystem& system, const TChangeSet& operations) {
-    TFirefoxPrefs preferences(system, FirefoxFolder(TAppFrame(system)));
+    TFirefoxPrefs preferences(system);
     if (std::ranges::any_of(operations, [](const TOperation& operation) {
             return std::holds_alternative<TPreferenceTarget>(operation.Target);
         }))

@@ -39,7 +39,7 @@ TQuilltune_FormMain::TQuilltune_FormMain(TSystem& system)
       FSystem(system),
       FChanges(system),
       FAppFrame(system),
-      FFirefox(system, FirefoxFolder(FAppFrame)),
+      FFirefox(system),
       FContext{.System = system, .Form = *this, .Changes = FChanges, .Firefox = FFirefox} {
     SetCaption(L"Quilltune");
     BuildControls();

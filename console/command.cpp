@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/decimal.h"
-#include "platform/language.h"
+#include "platform/suite_language.h"
 #include "platform/text.h"
 #include "platform/windows_version.h"
 
@@ -21,13 +21,27 @@ int LevelOf(const TSystem& system) {
 
 }  // namespace
 
-TTask::TTask(TSystem& system, const TLanguage& language, TConsole& console)
-    : System(system), Language(language), Console(console), Texts(language), WindowsLevel(LevelOf(system)) {
-    Captions.Load(language);
+TTask::TTask(TSystem& system, std::optional<std::wstring> language, TConsole& console)
+    : System(system),
+      Console(console),
+      Texts([this]() -> const TLanguage& { return Language(); }),
+      WindowsLevel(LevelOf(system)),
+      FLanguageName(std::move(language)) {}
+
+const TLanguage& TTask::Language() const {
+    if (FLanguage) return *FLanguage;
+    FLanguage = OpenLanguages(System, TAppFrame(System));
+    FLanguage->LoadLanguage(FLanguageName ? *FLanguageName : GetSuiteLanguage(System));
+    return *FLanguage;
+}
+
+const TCaptions& TTask::Captions() const {
+    if (!FCaptions) FCaptions.emplace().Load(Language());
+    return *FCaptions;
 }
 
 TCatalogue& TTask::Catalogue() {
-    if (!FCatalogue) FCatalogue.emplace(System, &Language, WindowsLevel);
+    if (!FCatalogue) FCatalogue.emplace(System, HasCaptions ? &Language() : nullptr, WindowsLevel);
     return *FCatalogue;
 }
 

@@ -34,21 +34,24 @@ struct TWrongUsage {
 /// The work of one command.
 class TTask {
   public:
-    /// Everything outlives the object.
-    TTask(TSystem& system, const TLanguage& language, TConsole& console);
+    /// `language` is the name of the language to answer in; nothing = the suite's. Everything else outlives the object.
+    TTask(TSystem& system, std::optional<std::wstring> language, TConsole& console);
 
     TSystem& System;
-    const TLanguage& Language;
     TConsole& Console;
     const TMessages Texts;
-    TCaptions Captions;
     int WindowsLevel;
 
     std::vector<std::wstring> Words;  ///< behind the command, without the options
     bool Json = false;
     bool DryRun = false;
     bool Force = false;
+    bool HasCaptions =
+        true;  ///< otherwise those of the catalogue are not needed, and no language is read for them
 
+    /// Read when it is first asked for.
+    [[nodiscard]] const TLanguage& Language() const;
+    [[nodiscard]] const TCaptions& Captions() const;
     /// Made when it is first asked for.
     [[nodiscard]] TCatalogue& Catalogue();
     /// The setting of that name, or the only one of whose name it is a part. Throws TWrongUsage.
@@ -66,6 +69,9 @@ class TTask {
                                       const std::vector<std::wstring>& known) const;
 
   private:
+    std::optional<std::wstring> FLanguageName;
+    mutable std::unique_ptr<TLanguage> FLanguage;
+    mutable std::optional<TCaptions> FCaptions;
     std::optional<TCatalogue> FCatalogue;
     bool FFailed = false;
     bool FRestart = false;

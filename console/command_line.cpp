@@ -3,7 +3,7 @@
 
 #include "console/command.h"
 #include "console/nearest.h"
-#include "platform/suite_language.h"
+#include "platform/language.h"
 #include "platform/text.h"
 
 namespace {
@@ -111,7 +111,7 @@ void CheckLanguage(const TTask& task, const TWords& words) {
     if (words.LacksLanguage) throw TWrongUsage{task.Texts(TText::NoOptionValue, {kLanguage})};
     if (!words.Language) return;
     std::wstring names;
-    for (const std::wstring& name : task.Language.FileNames()) {
+    for (const std::wstring& name : task.Language().FileNames()) {
         if (SameText(name, *words.Language)) return;
         names += (names.empty() ? L"" : L", ") + name;
     }
@@ -175,9 +175,7 @@ std::span<const TCommand> Commands() { return kCommands; }
 
 TExitStatus RunCommandLine(TSystem& system, const std::vector<std::wstring>& arguments, TConsole& console) {
     const TWords words = Sort(arguments);
-    const auto language = OpenLanguages(system, TAppFrame(system));
-    language->LoadLanguage(words.Language ? *words.Language : GetSuiteLanguage(system));
-    TTask task(system, *language, console);
+    TTask task(system, words.Language, console);
     try {
         Run(task, words);
     } catch (const TWrongUsage& usage) {

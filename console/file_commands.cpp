@@ -19,7 +19,7 @@ namespace {
 /// way.
 std::optional<TChangeSet> ReadFile(TTask& task) {
     const std::wstring& path = task.Words.front();
-    auto content = ReadChangeFile(task.System, path, task.Captions);
+    auto content = ReadChangeFile(task.System, path, task.Captions());
     if (auto* changes = std::get_if<TChangeSet>(&content)) return std::move(*changes);
     std::wstring& reason = std::get<std::wstring>(content);
     if (task.System.Files.Size(path)) throw TWrongUsage{std::move(reason)};
@@ -40,20 +40,21 @@ TList Records(const std::vector<TListView::TRow>& rows, const wchar_t* now,
 }
 
 void Preview(const TTask& task, const TChangeSet& operations) {
-    task.Print({Records(PreviewRows(task.System, operations, task.Captions), L"now", nullptr)});
+    task.Print({Records(PreviewRows(task.System, operations, task.Captions()), L"now", nullptr)});
 }
 
 void Apply(TTask& task, const TChangeSet& operations) {
     if (task.DryRun) return Preview(task, operations);
-    const auto rows = PreviewRows(task.System, operations, task.Captions);
+    const auto rows = PreviewRows(task.System, operations, task.Captions());
     TCarriedOut done;
     Try(task, [&] { CarryOutRecorded(task.System, operations, done); });
     NotifyShell(task.System.Shell, done.Written.AssociationsChanged);
-    if (done.SavedPreferences) task.Console.Complain(task.Captions[TCaption::RestartFirefox]);
+    if (done.SavedPreferences) task.Console.Complain(task.Captions()[TCaption::RestartFirefox]);
     if (done.Written.RestartNeeded) task.NeedRestart();
     std::set<std::wstring> failed;
     for (const TOperation& operation : done.Failed)
-        if (failed.insert(PlaceWords(operation.Target, task.Captions)).second) FailAt(task, operation.Target);
+        if (failed.insert(PlaceWords(operation.Target, task.Captions())).second)
+            FailAt(task, operation.Target);
     task.Print({Records(rows, L"before", &failed)});
 }
 
@@ -116,7 +117,7 @@ void ApplyFile(TTask& task) {
     auto operations = ReadFile(task);
     if (!operations) return;
     // The file need not say that Windows must restart.
-    TSettingNames(task.System, task.Language, task.WindowsLevel).Attribute(*operations);
+    TSettingNames(task.System, task.Language(), task.WindowsLevel).Attribute(*operations);
     Apply(task, *operations);
 }
 
@@ -134,25 +135,26 @@ void ExportFile(TTask& task) {
             continue;
         }
         for (TOperation& operation : StoredFor(task, *setting)) {
-            const std::wstring place = PlaceWords(operation.Target, task.Captions);
+            const std::wstring place = PlaceWords(operation.Target, task.Captions());
             if (std::holds_alternative<std::monostate>(operation.Effect) || !known.insert(place).second)
                 continue;
             const TContent content = ContentOf(task.System, operation.Target, nullptr);
-            list.push_back({TRecord{{L"setting", {operation.Setting}, false},
-                                    {L"place", {place}},
-                                    {L"content", {ContentWords(operation.Target, content, task.Captions)}}}});
+            list.push_back(
+                {TRecord{{L"setting", {operation.Setting}, false},
+                         {L"place", {place}},
+                         {L"content", {ContentWords(operation.Target, content, task.Captions())}}}});
             operations.push_back(std::move(operation));
         }
     }
     const std::wstring& path = task.Words.front();
     if (!task.System.Files.Replace(path, WriteRegFile(operations)))
-        return task.Fail(Formatted(task.Captions[TCaption::RegFileNotWritten], {path}));
+        return task.Fail(Formatted(task.Captions()[TCaption::RegFileNotWritten], {path}));
     task.Print({std::move(list)});
 }
 
 void ListHistory(TTask& task) {
     const THistory history(task.System);
-    const TSettingNames names(task.System, task.Language, task.WindowsLevel);
+    const TSettingNames names(task.System, task.Language(), task.WindowsLevel);
     TList list;
     for (const std::wstring& entry : history.Entries()) {
         const auto wayBack = history.Read(entry);
@@ -163,7 +165,7 @@ void ListHistory(TTask& task) {
         list.push_back(
             {TRecord{{L"number", {static_cast<std::int64_t>(list.size()) + 1}},
                      {L"time", {entry}},
-                     {L"settings", {wayBack ? names.Of(*wayBack) : task.Captions[TCaption::Unreadable]}},
+                     {L"settings", {wayBack ? names.Of(*wayBack) : task.Captions()[TCaption::Unreadable]}},
                      {L"ids", {std::move(ids)}, false},
                      {L"readable", {wayBack.has_value()}, false}}});
     }

@@ -24,11 +24,11 @@ TText ReasonAt(const TTask& task, const TTarget& target) {
 }  // namespace
 
 TValue RecordOf(const TTask& task, const TChange& change, std::optional<bool> done) {
-    std::wstring after = ContentWords(change.Target, change.After, task.Captions);
-    if (change.IsOverwritten) after = Formatted(task.Captions[TCaption::Overwritten], {after});
+    std::wstring after = ContentWords(change.Target, change.After, task.Captions());
+    if (change.IsOverwritten) after = Formatted(task.Captions()[TCaption::Overwritten], {after});
     TRecord record{{L"setting", {change.Setting}, false},
-                   {L"place", {PlaceWords(change.Target, task.Captions)}},
-                   {L"before", {ContentWords(change.Target, change.Before, task.Captions)}},
+                   {L"place", {PlaceWords(change.Target, task.Captions())}},
+                   {L"before", {ContentWords(change.Target, change.Before, task.Captions())}},
                    {L"after", {std::move(after)}},
                    {L"restart", {change.Restart}, false}};
     if (done) record.push_back({L"done", {*done}, false});
@@ -37,7 +37,7 @@ TValue RecordOf(const TTask& task, const TChange& change, std::optional<bool> do
 
 void FailAt(TTask& task, const TTarget& target) {
     task.Fail(task.Texts(TText::NotWritten,
-                         {PlaceWords(target, task.Captions), task.Texts[ReasonAt(task, target)]}));
+                         {PlaceWords(target, task.Captions()), task.Texts[ReasonAt(task, target)]}));
 }
 
 void Try(TTask& task, const std::function<void()>& step) {

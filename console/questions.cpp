@@ -77,7 +77,7 @@ void ListSettings(TTask& task) {
     TList list;
     for (const TSetting* setting : task.Catalogue().Settings()) {
         if (!page.empty() && setting->Page != page) continue;
-        const TPresent present = task.Catalogue().Present(*setting);
+        const TPresent present = task.Catalogue().Shown(*setting);
         list.push_back({TRecord{{L"id", {setting->Id}},
                                 {L"state", {StateWords(task.Catalogue(), *setting, present)}},
                                 {L"caption", {setting->Caption}},
@@ -113,16 +113,16 @@ void ShowSetting(TTask& task) {
     for (const int level : setting.Levels) windows.push_back({std::wstring(NameOfLevel(level))});
     TList stored;
     for (const TPresent::TStored& each : present.Stored)
-        stored.push_back({TRecord{{L"place", {PlaceWords(each.Target, task.Captions)}},
-                                  {L"content", {ContentWords(each.Target, each.Content, task.Captions)}}}});
+        stored.push_back({TRecord{{L"place", {PlaceWords(each.Target, task.Captions())}},
+                                  {L"content", {ContentWords(each.Target, each.Content, task.Captions())}}}});
     TList writes;
     for (const TControlState& state : Examples(states, present.State))
         for (const TChange& change : catalogue.WouldWrite(setting, state))
             writes.push_back({TRecord{
                 {L"state",
                  {states.Kind == TStateKind::Press ? AllowedWords(states).front() : WordsOf(states, state)}},
-                {L"place", {PlaceWords(change.Target, task.Captions)}},
-                {L"after", {ContentWords(change.Target, change.After, task.Captions)}}}});
+                {L"place", {PlaceWords(change.Target, task.Captions())}},
+                {L"after", {ContentWords(change.Target, change.After, task.Captions())}}}});
     task.Print({TRecord{{L"id", {setting.Id}},
                         {L"caption", {setting.Caption}},
                         {L"page", {setting.Page}},
@@ -140,11 +140,12 @@ void ShowSetting(TTask& task) {
 }
 
 void GetStates(TTask& task) {
+    task.HasCaptions = false;
     std::vector<const TSetting*> settings;
     for (const std::wstring& word : task.Words) settings.push_back(&task.Setting(word));
     TList list;
     for (const TSetting* setting : settings) {
-        const TPresent present = task.Catalogue().Present(*setting);
+        const TPresent present = task.Catalogue().Shown(*setting);
         std::wstring state;
         if (present.IsOffered)
             state = StateWords(task.Catalogue(), *setting, present);

@@ -105,7 +105,7 @@ std::vector<TPlan> PlansFor(TTask& task) {
     }
     std::vector<TPlan> plans;
     for (const auto& [level, assignments] : byLevel) {
-        TCatalogue catalogue(task.System, &task.Language, level);
+        TCatalogue catalogue(task.System, &task.Language(), level);
         std::vector<TPlan::TStep> steps;
         for (const TAssignment& each : assignments)
             steps.push_back({each.Id, StateFor(task, catalogue, *catalogue.Find(each.Id), each.State)});
@@ -137,7 +137,7 @@ bool IsMade(const TTask& task, const TChange& change, const TPreferenceStore& pr
 
 /// Adds a record of each change to the list.
 void CarryOut(TTask& task, const TPlan& plan, TList& list) {
-    TCatalogue catalogue(task.System, &task.Language, plan.WindowsLevel, TScratchUse::Change);
+    TCatalogue catalogue(task.System, &task.Language(), plan.WindowsLevel, TScratchUse::Change);
     // As in the window, where pages are read before anything is changed: to read the preferences drops changes.
     for (const TPlan::TStep& step : plan.Steps) (void)catalogue.PendingState(*catalogue.Find(step.Id));
     for (const TPlan::TStep& step : plan.Steps) catalogue.Change(*catalogue.Find(step.Id), step.State);
@@ -151,12 +151,12 @@ void CarryOut(TTask& task, const TPlan& plan, TList& list) {
     NotifyShell(task.System.Shell, written.AssociationsChanged || ChangesDesktopIcons(catalogue, plan));
     Try(task, [&] {
         if (preferences != nullptr && preferences->SaveFirefoxPrefs())
-            task.Console.Complain(task.Captions[TCaption::RestartFirefox]);
+            task.Console.Complain(task.Captions()[TCaption::RestartFirefox]);
     });
     Try(task, [&] { record.Complete(); });
     if (written.RestartNeeded) task.NeedRestart();
 
-    const TFirefoxPrefs saved(task.System, FirefoxFolder(TAppFrame(task.System)));
+    const TFirefoxPrefs saved(task.System);
     for (const TChange& change : plan.Changes) {
         const bool isMade =
             change.IsOverwritten || IsMade(task, change, preferences == nullptr ? saved : *preferences);

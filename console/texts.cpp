@@ -65,7 +65,7 @@ const std::array<TTextKey, kTextCount> kTextKeys{{
 
 std::wstring TMessages::operator[](TText text) const {
     const TTextKey& key = kTextKeys[static_cast<std::size_t>(text)];
-    return FLanguage.ReadString(kTextSection, key.Key, key.English);
+    return FLanguage().ReadString(kTextSection, key.Key, key.English);
 }
 
 std::wstring TMessages::operator()(TText text, std::initializer_list<std::wstring> values) const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <initializer_list>
 #include <string>
 
@@ -71,13 +72,13 @@ extern const std::array<TTextKey, kTextCount> kTextKeys;
 
 class TMessages {
   public:
-    /// `language` outlives the object.
-    explicit TMessages(const TLanguage& language) : FLanguage(language) {}
+    /// `language` is asked for whenever there is something to say.
+    explicit TMessages(std::function<const TLanguage&()> language) : FLanguage(std::move(language)) {}
 
     [[nodiscard]] std::wstring operator[](TText text) const;
     /// With each of the values in the place of %1, %2, ….
     [[nodiscard]] std::wstring operator()(TText text, std::initializer_list<std::wstring> values) const;
 
   private:
-    const TLanguage& FLanguage;
+    std::function<const TLanguage&()> FLanguage;
 };

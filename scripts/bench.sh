@@ -16,7 +16,7 @@ Measure() {
 
 RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" libgtest-dev libgmock-dev
 "$Root/scripts/build.sh"
-BuildPreset win64 --target startup_bench page_bench resize_bench apply_bench prefs_bench
+BuildPreset win64 --target startup_bench page_bench resize_bench command_bench apply_bench prefs_bench
 NativeBenches=(prefs_bench)
 LanguagePackages=(libsimpleini-dev libinih-dev)
 if dpkg -s "${LanguagePackages[@]}" >/dev/null 2>&1; then NativeBenches+=(language_bench); fi
@@ -33,6 +33,8 @@ sed -n 's/^model name[^:]*: //p' /proc/cpuinfo | sort | uniq -c | sed 's/^ *\([0
 echo "Debian $(cat /etc/debian_version), $(wine --version), load $(cut -d ' ' -f 1 /proc/loadavg), $(date +%F)"
 Heading "Start"
 Measure startup_bench "$Program" "${1:-15}"
+Heading "Command line"
+Measure command_bench "${Program%Quilltune.exe}qtune.exe" "${1:-15}"
 Heading "Window"
 Measure resize_bench "$Program" 96
 Heading "Pages"
@@ -51,5 +53,7 @@ else
 fi
 Heading "Size"
 for Target in win32 win64; do
-    printf '%s program %8d bytes\n' "$Target" "$(stat -c %s "$Root/dist/$Target/Quilltune.exe")"
+    for File in Quilltune qtune; do
+        printf '%s %-9s %8d bytes\n' "$Target" $File "$(stat -c %s "$Root/dist/$Target/$File.exe")"
+    done
 done

@@ -125,7 +125,7 @@ TCatalogue::TCatalogue(TSystem& system, const TLanguage* language, int windowsLe
     : FScratch(system, use),
       FLanguage(language),
       FChanges(FScratch.System),
-      FFirefox(FScratch.System, FirefoxFolder(TAppFrame(system))),
+      FFirefox(FScratch.System),
       FWindow(std::make_unique<TModel>(L"Quilltune_FormMain", L"TQuilltune_FormMain", FScratch.System,
                                        FChanges, FFirefox, windowsLevel)),
       FDialog(std::make_unique<TModel>(L"Quilltune_FormFolder", L"TQuilltune_FormFolder", FScratch.System,
@@ -302,18 +302,24 @@ TPresent TCatalogue::PendingState(const TSetting& setting) {
             .IsEnabled = control.Enabled()};
 }
 
-TPresent TCatalogue::Present(const TSetting& setting) {
+TPresent TCatalogue::Shown(const TSetting& setting) {
     TPresent present = PendingState(setting);
     TPageModel& page = Loaded(setting);
     TControl& control = ControlOf(setting);
-    for (const TRow* row : setting.Rows) {
-        if (!LevelsOf(*row).Include(page.Context().WindowsLevel)) continue;
-        for (const TTarget& target : TargetsOf(*row))
-            present.Stored.push_back({target, ContentOf(FScratch.System, target, &FFirefox)});
-    }
     if (IsPressed(setting, control)) {
         present.State = page.StateOfSetting(control);
         Drop(page);
+    }
+    return present;
+}
+
+TPresent TCatalogue::Present(const TSetting& setting) {
+    TPresent present = Shown(setting);
+    const int windowsLevel = Loaded(setting).Context().WindowsLevel;
+    for (const TRow* row : setting.Rows) {
+        if (!LevelsOf(*row).Include(windowsLevel)) continue;
+        for (const TTarget& target : TargetsOf(*row))
+            present.Stored.push_back({target, ContentOf(FScratch.System, target, &FFirefox)});
     }
     return present;
 }

@@ -86,6 +86,8 @@ class TCatalogue {
     [[nodiscard]] TStates States(const TSetting& setting);
     /// A page is read when it is first asked for; see Refresh. A fault of its loader leaves what was loaded until then.
     [[nodiscard]] TPresent Present(const TSetting& setting);
+    /// The same without what is stored, which takes less.
+    [[nodiscard]] TPresent Shown(const TSetting& setting);
     /// What a user's change into the state would leave pending, though the setting be in that state already. Nothing when
     /// the setting has no such state.
     [[nodiscard]] std::vector<TChange> WouldWrite(const TSetting& setting, const TControlState& state);

@@ -1,5 +1,7 @@
 #include "base/win32/late_bound.h"
 
+#include <delayimp.h>
+
 #include <bit>
 #include <string>
 
@@ -31,6 +33,20 @@ class TSystemLibrary {
     TLibraryHandle FLibrary;
 };
 
+/// Called by the binding of late libraries, before it loads one. Where SetDefaultDllDirectories is missing, and sometimes
+/// where it is not (Wine, for what its libraries bind late), the program's folder is still searched for what Windows' own
+/// libraries ask for. A library that is loaded is not searched for again, so those are loaded here, for good. The registry's
+/// asks for none.
+FARPROC WINAPI BeforeLoading(unsigned event, DelayLoadInfo* library) {
+    static bool loaded = false;
+    if (event != dliNotePreLoadLibrary || loaded || lstrcmpiA(library->szDll, "advapi32.dll") == 0)
+        return nullptr;
+    loaded = true;
+    for (const wchar_t* name : {L"ole32.dll", L"uxtheme.dll", L"msimg32.dll", L"imm32.dll", L"version.dll"})
+        LoadSystemLibrary(name);
+    return nullptr;
+}
+
 }  // namespace
 
 void SearchSystemFolderOnly() {
@@ -42,11 +58,7 @@ void SearchSystemFolderOnly() {
         setFolders(kSystemFolder);
     else if (setFolder != nullptr)
         setFolder(L"");  // no more than the current folder
-    // Where the first is missing, and sometimes where it is not (Wine, for what its libraries bind late), the program's
-    // folder is still searched. A library that is loaded is not searched for again, so those that Windows' own libraries
-    // ask for are loaded here, for good.
-    for (const wchar_t* name : {L"ole32.dll", L"uxtheme.dll", L"msimg32.dll", L"imm32.dll", L"version.dll"})
-        LoadSystemLibrary(name);
+    __pfnDliNotifyHook2 = BeforeLoading;
 }
 
 void LoadForCommonDialogs() { LoadSystemLibrary(L"winspool.drv"); }

@@ -9,7 +9,7 @@
 
 /// From now on libraries are not looked for in the program's folder, where anybody may have put one, nor in the current
 /// one: SetDefaultDllDirectories, or where Windows lacks it SetDllDirectoryW (since Windows XP). Those libraries that are
-/// known to be asked for are loaded from the system folder at once.
+/// known to be asked for are loaded from the system folder before the first one that asks.
 void SearchSystemFolderOnly();
 
 /// Does the same for what the common dialogs ask for, before the first of them: it would take a tenth of the start.

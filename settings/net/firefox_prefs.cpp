@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "platform/app_frame.h"
 #include "platform/ext_ini_file.h"
 #include "platform/unicode.h"
 #include "settings/net/prefs_entry.h"
@@ -61,7 +62,8 @@ TFirefoxPrefs::TSharedBytes TFirefoxPrefs::ReadBytes(const std::wstring& path) c
     return bytes ? Share(*std::move(bytes)) : nullptr;
 }
 
-std::wstring TFirefoxPrefs::FindProfileFolder() const {
+std::wstring TFirefoxPrefs::FindProfileFolder() {
+    if (FFirefoxFolder.empty()) FFirefoxFolder = TAppFrame(FSystem).AppDataPath + L"\\Mozilla\\Firefox\\";
     TExtIniFile profiles;
     if (const auto bytes = ReadBytes(FFirefoxFolder + L"profiles.ini"))
         profiles.SetStrings(TLineReader(DecodeUtf8OrAnsi(*bytes, FSystem.Windows).Text));

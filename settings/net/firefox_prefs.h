@@ -4,14 +4,8 @@
 #include <memory>
 
 #include "engine/change_set.h"
-#include "platform/app_frame.h"
 #include "platform/text.h"
 #include "settings/net/prefs_entries.h"
-
-/// Firefox's folder in the user's application data, with trailing delimiter.
-[[nodiscard]] inline std::wstring FirefoxFolder(const TAppFrame& frame) {
-    return frame.AppDataPath + L"\\Mozilla\\Firefox\\";
-}
 
 /// Names of prefs have their quotes, and values are what is written between the comma and the closing parenthesis; see
 /// settings/net/prefs_entry.h. Nothing is converted or checked.
@@ -20,8 +14,9 @@ class TFirefoxPrefs : public TPreferenceStore {
     /// What GetFirefoxPref answers when no statement names the pref.
     static constexpr const wchar_t* kNoSuchPref = L"Noexsit";
 
-    /// `firefoxFolder` is what FirefoxFolder answers. `system` outlives the store.
-    TFirefoxPrefs(TSystem& system, std::wstring firefoxFolder);
+    /// `firefoxFolder` is Firefox's folder, with trailing delimiter; empty = that in the user's application data, which is
+    /// looked up when it is first needed. `system` outlives the store.
+    explicit TFirefoxPrefs(TSystem& system, std::wstring firefoxFolder = {});
 
     /// The folder of the profile that was looked up, without trailing delimiter; empty when there is none.
     [[nodiscard]] const std::wstring& FirefoxProfileFolder() const { return FFirefoxProfileFolder; }
@@ -99,7 +94,7 @@ class TFirefoxPrefs : public TPreferenceStore {
 
     /// Null when there is no such file.
     [[nodiscard]] TSharedBytes ReadBytes(const std::wstring& path) const;
-    [[nodiscard]] std::wstring FindProfileFolder() const;
+    [[nodiscard]] std::wstring FindProfileFolder();
     [[nodiscard]] TSource Decode(TSharedBytes file) const;
     [[nodiscard]] TBytes Encode(const std::string& text, TTextEncoding encoding) const;
     [[nodiscard]] TContent ReadProfile(const std::wstring& profileFolder) const;
