@@ -21,7 +21,7 @@ std::optional<TChangeSet> ReadFile(TTask& task) {
     const std::wstring& path = task.Words.front();
     auto content = ReadChangeFile(task.System, path, task.Captions());
     if (auto* changes = std::get_if<TChangeSet>(&content)) return std::move(*changes);
-    std::wstring& reason = std::get<std::wstring>(content);
+    auto& reason = std::get<std::wstring>(content);
     if (task.System.Files.Size(path)) throw TWrongUsage{std::move(reason)};
     task.Fail(reason);
     return std::nullopt;

@@ -14,7 +14,7 @@ std::wstring Quoted(const std::wstring& text) {
     };
     constexpr std::uint32_t kFirstSupplementary = 0x10000;
     for (const wchar_t c : text) {
-        const auto unit = static_cast<std::uint32_t>(c);
+        const auto unit = static_cast<char32_t>(c);
         if (c == L'"' || c == L'\\') {
             quoted += {L'\\', c};
         } else if (c >= L' ' && c <= L'~') {

@@ -133,16 +133,9 @@ TCatalogue::TCatalogue(TSystem& system, const TLanguage* language, int windowsLe
     TForm& window = FWindow->Form;
     window.Build(window, Notebook(L"Notebook_Main", {}));
     FDialog->Form.SetCaption(kDesktopIconsCaption);
-    const auto add = [this](TModel& model, const TPageDefinition& page, TControl& container) {
-        const auto changed = [this](TComponent& sender) {
-            if (FTwins) FTwins->Changed(static_cast<TControl&>(sender));
-        };
-        model.Pages.push_back(
-            std::make_unique<TPageModel>(page, model.Context, FScratch, container, changed));
-    };
     for (const TPageDefinition* page : PageDefinitions())
-        add(*FWindow, *page, *window.Find(L"Notebook_Main"));
-    add(*FDialog, DesktopIcons(), FDialog->Form);
+        BuildPage(*FWindow, *page, *window.Find(L"Notebook_Main"));
+    BuildPage(*FDialog, DesktopIcons(), FDialog->Form);
     for (TModel* model : {FWindow.get(), FDialog.get()}) {
         if (FLanguage == nullptr) continue;
         model->Context.Captions.Load(*FLanguage);
@@ -161,6 +154,13 @@ TCatalogue::TCatalogue(TSystem& system, const TLanguage* language, int windowsLe
 }
 
 TCatalogue::~TCatalogue() = default;
+
+void TCatalogue::BuildPage(TModel& model, const TPageDefinition& page, TControl& container) {
+    const auto changed = [this](TComponent& sender) {
+        if (FTwins) FTwins->Changed(static_cast<TControl&>(sender));
+    };
+    model.Pages.push_back(std::make_unique<TPageModel>(page, model.Context, FScratch, container, changed));
+}
 
 TSetting& TCatalogue::AddSetting(TModel& model, TPageModel& page, const TControl& control) {
     const TPageDefinition& definition = page.Definition();

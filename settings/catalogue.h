@@ -113,6 +113,7 @@ class TCatalogue {
   private:
     struct TModel;
 
+    void BuildPage(TModel& model, const TPageDefinition& page, TControl& container);
     void AddPage(TModel& model, TPageModel& page, const std::wstring& caption, const TLevels& reachable);
     TSetting& AddSetting(TModel& model, TPageModel& page, const TControl& control);
     void Explain(TModel& model) const;

@@ -89,20 +89,22 @@ TEST_F(TReplacedFilesWin32, NothingIsLeftBeside) {
     EXPECT_THAT(Names(), ElementsAre(L"user.js"));
 }
 
+/// Looks for the file all the time.
+struct TWatch {
+    std::wstring File;
+    std::atomic<bool> Ends = false;
+    int Missing = 0;
+
+    static DWORD WINAPI Run(void* parameter) {
+        for (auto& watch = *static_cast<TWatch*>(parameter); !watch.Ends;)
+            if (GetFileAttributesW(watch.File.c_str()) == INVALID_FILE_ATTRIBUTES) ++watch.Missing;
+        return 0;
+    }
+};
+
 TEST_F(TReplacedFilesWin32, AFileIsThereAtEveryMoment) {
-    struct TWatch {
-        std::wstring File;
-        std::atomic<bool> Ends = false;
-        int Missing = 0;
-    } watch{File};
-    const TWaitableHandle thread(CreateThread(
-        nullptr, 0,
-        [](void* parameter) -> DWORD {
-            for (auto& seen = *static_cast<TWatch*>(parameter); !seen.Ends;)
-                if (GetFileAttributesW(seen.File.c_str()) == INVALID_FILE_ATTRIBUTES) ++seen.Missing;
-            return 0;
-        },
-        &watch, 0, nullptr));
+    TWatch watch{File};
+    const TWaitableHandle thread(CreateThread(nullptr, 0, TWatch::Run, &watch, 0, nullptr));
     ASSERT_TRUE(thread.IsValid());
     for (int i = 0; i < 300; ++i) EXPECT_TRUE(Replace("new"));
     watch.Ends = true;
