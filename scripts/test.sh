@@ -137,7 +137,7 @@ fi
 
 Build "unit tests" BuildPreset native
 
-FuzzTargets=(language_file prefs profiles)
+FuzzTargets=(language_file prefs profiles reg_file)
 NativeTests() {
     local name
     for name in unit_tests contract_tests; do Record "$name" "$Root/build/native/tests/$name"; done
