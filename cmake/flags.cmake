@@ -29,7 +29,8 @@ if(WIN32)
         -Wl,--major-subsystem-version=5,--minor-subsystem-version=${MinorVersion}
         -Wl,--dynamicbase,--nxcompat)
 elseif(CMAKE_BUILD_TYPE STREQUAL "Debug")
+    # Of the debugging information a report of the sanitizers shows the lines only; all of it would take longer to write.
     target_compile_options(quilltune_flags INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -g1)
     target_link_options(quilltune_flags INTERFACE -fsanitize=address,undefined)
 endif()

@@ -137,11 +137,11 @@ fi
 
 Build "unit tests" BuildPreset native
 
-FuzzTargets=(language_file prefs profiles)
+FuzzTargets=(language_file prefs profiles reg_file)
 NativeTests() {
     local name
     for name in unit_tests contract_tests; do Record "$name" "$Root/build/native/tests/$name"; done
-    for name in "${FuzzTargets[@]}"; do Record "fuzzing of $name" "$Root/scripts/fuzz.sh" 10 "$name"; done
+    for name in "${FuzzTargets[@]}"; do Record "fuzzing of $name" "$Root/scripts/fuzz.sh" 7 "$name"; done
 }
 NativeTests &
 NativeJob=$!

@@ -10,7 +10,7 @@ cd "$(dirname "$0")/../.."
 Groups=4
 # A function's paths grow with every branch of what it calls. After this many steps of one function (its own limit is
 # 225,000) the analyzer has seen nearly every branch once and only combines them further, at twice the time.
-PathSteps=100000
+PathSteps=40000
 SingleChecks='clang-analyzer-*,readability-duplicate-include'
 
 # <checks added to those of .clang-tidy, or taken from them> <file>

@@ -41,6 +41,7 @@ std::string FileBytes(const std::wstring& path) {
 }
 void PutFile(const std::wstring& path, const std::string& bytes) {
     const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) throw TAutomationError(L"cannot write " + path);
     DWORD written = 0;
     WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
     CloseHandle(file);
@@ -249,20 +250,29 @@ class TChanges : public TProgramTest {
         return rows;
     }
 
-    /// Presses a button that carries something out, and says No or OK to all that follows.
-    static void CarryOut(const TMainWindow& window, const wchar_t* button, const TMainWindow& main) {
-        window.Click(button);
-        constexpr DWORD kQuiet = 200;
-        do AnswerAll(main);
-        while (WaitUntil([&] { return main.Question().has_value(); }, kQuiet));
+    /// Presses a button, does `meanwhile` while that is handled, and says No or OK to all that follows, until it is done.
+    static void CarryOut(
+        const TMainWindow& window, const wchar_t* button, const TMainWindow& main,
+        const std::function<void()>& meanwhile = [] {}) {
+        static bool done;
+        done = false;
+        SendMessageCallbackW(
+            window.Find(button), BM_CLICK, 0, 0, [](HWND, UINT, ULONG_PTR, LRESULT) { done = true; }, 0);
+        meanwhile();
+        EXPECT_TRUE(WaitUntil([&] {
+            AnswerAll(main);
+            MSG message;
+            PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);  // calls back
+            return done;
+        }));
     }
     /// Undoes the newest entry.
     static void Undo(const TMainWindow& window) {
         window.Click(L"Button_History");
         const TMainWindow history = TMainWindow::WaitFor(window.Process(), kHistoryClass);
-        history.Click(L"Button_History_Undo");
-        CarryOut(TMainWindow::WaitFor(window.Process(), kPreviewClass), L"Button_Preview_Apply", window);
-        EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(history.Handle()) != FALSE; }));
+        CarryOut(history, L"Button_History_Undo", window, [&] {
+            TMainWindow::WaitFor(window.Process(), kPreviewClass).Click(L"Button_Preview_Apply");
+        });
         history.Click(L"Button_History_Close");
     }
 
@@ -370,8 +380,10 @@ TEST_F(TChanges, AreUndoneAfterAnEndInTheMiddleOfApply) {
             const TProgram program;
             for (int i = 0; i < 6; ++i) ActOnPage(program.Window(), 30);
             (void)Pending(program.Window());
-            PostMessageW(program.Window().Find(L"Button_Apply"), BM_CLICK, 0, 0);
-            if (Pick(4) != 0) (void)WaitUntil([] { return !Entries().empty(); }, 3000);
+            const HWND apply = program.Window().Find(L"Button_Apply");
+            PostMessageW(apply, BM_CLICK, 0, 0);
+            if (Pick(4) != 0)
+                (void)WaitUntil([=] { return !Entries().empty() || !IsWindowEnabled(apply); }, 3000);
             Sleep(static_cast<DWORD>(Pick(30)));
         }
         const TWorld after = World();
@@ -416,8 +428,8 @@ TEST_F(TChanges, FilesAreTakenAfterAPreviewOnly) {
 
     EXPECT_EQ(TProcess(file.Quoted()).ExitCode(), 0u);
     preview = TMainWindow::WaitFor(program.Id(), kPreviewClass);
-    CarryOut(preview, L"Button_Preview_Apply", window);
-    EXPECT_EQ(imported().size(), 5u) << testing::PrintToString(imported());
+    preview.Click(L"Button_Preview_Apply");
+    EXPECT_TRUE(WaitUntil([&] { return imported().size() == 5; })) << testing::PrintToString(imported());
     EXPECT_EQ(Stored({HKEY_CURRENT_USER, L"Software\\Imported\\Key", L"Odd"}), TStoredValue(0x1234, {1, 2}));
     ASSERT_EQ(Entries().size(), 1u);
     Undo(window);
@@ -518,13 +530,9 @@ TEST_F(TChanges, CanBeTakenBackAndUndoneByKeyboardAlone) {
             list.Press(VK_RETURN);
         }
         ASSERT_TRUE(isGone(list)) << key;
-        if (key == VK_RETURN) {
-            EXPECT_EQ(window.FocusedControl(), kVisitsBox);
-        }
-        if (key == VK_ESCAPE) {
-            EXPECT_EQ(window.FocusedControl(), L"Button_Changes");
-        }
-        EXPECT_EQ(window.Enabled(L"Button_Apply"), key != VK_DELETE);
+        const std::wstring next = key == VK_RETURN ? kVisitsBox : L"Button_Changes";
+        EXPECT_TRUE(key == VK_DELETE || WaitUntil([&] { return window.FocusedControl() == next; }));
+        EXPECT_TRUE(WaitUntil([&] { return window.Enabled(L"Button_Apply") == (key != VK_DELETE); }));
     }
     window.Click(kVisitsBox);
     program.Apply();
@@ -545,7 +553,9 @@ TEST_F(TChanges, CanBeTakenBackAndUndoneByKeyboardAlone) {
     goTo(preview, L"ListView_Preview");
     preview.Press(VK_RETURN);
     ASSERT_TRUE(isGone(preview));
-    EXPECT_TRUE(WaitUntil([] { return Stored(kLastAccess) == Dword(0); }));
+    // The list is made anew when all is done.
+    EXPECT_TRUE(WaitUntil([&] { return history.Rows(L"ListView_History").size() == 2; }));
+    EXPECT_EQ(Stored(kLastAccess), Dword(0));
     history.Press(VK_ESCAPE);
     ASSERT_TRUE(isGone(history));
     EXPECT_TRUE(window.Checked(kVisitsBox)) << "loaded again";

@@ -44,7 +44,7 @@ TProcess::TProcess(const std::wstring& arguments) {
     PROCESS_INFORMATION process{};
     if (!CreateProcessW(file.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                         &startup, &process))
-        throw TAutomationError(L"cannot start " + file);
+        throw TAutomationError(L"cannot start " + file + L": error " + std::to_wstring(GetLastError()));
     CloseHandle(process.hThread);
     FHandle = process.hProcess;
     FId = process.dwProcessId;

@@ -14,17 +14,31 @@ constexpr const wchar_t* kParts[] = {L"HKEY_CURRENT_USER", L"HKEY_LOCAL_MACHINE\
                                      L"HKEY_USERS\\.DEFAULT"};
 constexpr const wchar_t* kUnnamed = L"(Default)";
 
+const std::wstring kControl = L"HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Control\\";
+
+/// Wine registers displays whenever the desktop's own program starts, and other devices when it comes to them.
 bool IsForeign(const std::wstring& path) {
     return path == L"HKEY_CURRENT_USER\\Software\\Wine\\Temporary System Parameters" ||
            path == L"HKEY_LOCAL_MACHINE\\Software\\Classes\\Interface" ||
-           path == L"HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Control\\ServiceCurrent" ||
+           path == kControl + L"ServiceCurrent" || path == kControl + L"Video" ||
+           path == kControl + L"DeviceClasses" ||
+           path == kControl + L"Class\\{4D36E968-E325-11CE-BFC1-08002BE10318}" ||
            path.ends_with(L"\\Wow6432Node");
 }
 
-void AddKey(HKEY parent, const std::wstring& key, const std::wstring& path, TSnapshot& snapshot) {
-    HKEY handle = nullptr;
-    if (IsForeign(path) || RegOpenKeyExW(parent, key.c_str(), 0, KEY_READ, &handle) != ERROR_SUCCESS) return;
-    snapshot[path + L'\\'];
+/// A key as it was when it was read last.
+struct TKey {
+    std::uint64_t Written = 0;  ///< when its values or the set of its keys were changed
+    std::map<std::wstring, TStoredValue> Values;
+    std::map<std::wstring, TKey> Keys;
+};
+
+std::uint64_t Number(const FILETIME& time) {
+    return std::uint64_t{time.dwHighDateTime} << 32 | time.dwLowDateTime;
+}
+
+void ReadValues(HKEY handle, TKey& key) {
+    key.Values.clear();
     DWORD longest = 0;
     RegQueryInfoKeyW(handle, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &longest,
                      nullptr, nullptr);
@@ -35,13 +49,41 @@ void AddKey(HKEY parent, const std::wstring& key, const std::wstring& path, TSna
         DWORD size = longest;
         if (RegEnumValueW(handle, i, name, &length, nullptr, &value.first, value.second.data(), &size) !=
             ERROR_SUCCESS)
-            break;
+            return;
         value.second.resize(size);
-        snapshot[path + L'\\' + (length == 0 ? kUnnamed : name)] = value;
+        key.Values[length == 0 ? kUnnamed : name] = std::move(value);
     }
-    for (DWORD i = 0; RegEnumKeyW(handle, i, name, 256) == ERROR_SUCCESS; ++i)
-        AddKey(handle, name, path + L'\\' + name, snapshot);
+}
+
+/// Reads what was written since `key` was read: each call costs a way to another process and back.
+void ReadKey(HKEY parent, const std::wstring& name, const std::wstring& path, std::uint64_t written,
+             TKey& key) {
+    HKEY handle = nullptr;
+    if (RegOpenKeyExW(parent, name.c_str(), 0, KEY_READ, &handle) != ERROR_SUCCESS) return;
+    if (written != key.Written) ReadValues(handle, key);
+    std::map<std::wstring, TKey> keys;
+    wchar_t inner[256];
+    DWORD length = 256;
+    FILETIME time;
+    for (DWORD i = 0;
+         RegEnumKeyExW(handle, i, inner, &length, nullptr, nullptr, nullptr, &time) == ERROR_SUCCESS;
+         ++i, length = 256) {
+        const std::wstring innerPath = path + L'\\' + inner;
+        if (IsForeign(innerPath)) continue;
+        // A key that comes up before this one meanwhile lets it be met twice.
+        TKey& known = keys.try_emplace(inner, std::move(key.Keys[inner])).first->second;
+        if (known.Written != Number(time) || !known.Keys.empty())
+            ReadKey(handle, inner, innerPath, Number(time), known);
+    }
+    key.Keys = std::move(keys);
+    key.Written = written;
     RegCloseKey(handle);
+}
+
+void AddKey(const TKey& key, const std::wstring& path, TSnapshot& snapshot) {
+    snapshot[path];
+    for (const auto& [name, value] : key.Values) snapshot[path + name] = value;
+    for (const auto& [name, inner] : key.Keys) AddKey(inner, path + name + L'\\', snapshot);
 }
 
 std::pair<HKEY, std::wstring> SplitPath(const std::wstring& path) {
@@ -56,10 +98,13 @@ std::pair<HKEY, std::wstring> SplitPath(const std::wstring& path) {
 }  // namespace
 
 TSnapshot RegistrySnapshot() {
+    static TKey parts[std::size(kParts)];
     TSnapshot snapshot;
-    for (const wchar_t* part : kParts) {
-        const auto [root, key] = SplitPath(part);
-        AddKey(root, key, part, snapshot);
+    for (std::size_t i = 0; i < std::size(kParts); ++i) {
+        const auto [root, key] = SplitPath(kParts[i]);
+        // Its own time is not asked for: it is read anew.
+        ReadKey(root, key, kParts[i], parts[i].Written + 1, parts[i]);
+        AddKey(parts[i], std::wstring(kParts[i]) + L'\\', snapshot);
     }
     return snapshot;
 }

@@ -9,7 +9,7 @@
 using TSnapshot = std::map<std::wstring, TStoredValue>;
 
 /// Settings, services and classes of the machine and of the user. Not among it are what Wine and the
-/// services' manager keep for the session, interfaces and the registry of 32-bit programs.
+/// services' manager keep for the session, devices, interfaces and the registry of 32-bit programs.
 [[nodiscard]] TSnapshot RegistrySnapshot();
 
 /// Puts things back as they were at one, but for services: their manager would not know.

@@ -223,7 +223,7 @@ TEST_F(PeersTest, HiddenPagesComeIntoBeingWhileThereIsNothingElseToDo) {
 
 using TStartTest = TPeerBench;
 
-TEST_F(TStartTest, TimersWaitForTheFirstPageAndAShownPageIsComplete) {
+TEST_F(TStartTest, TimersWaitForTheFirstPageAndNotForItsDrawingAndAShownPageIsComplete) {
     const auto page = [](int tag) {
         const auto sheet = [tag](std::wstring name) {
             name += std::to_wstring(tag);
@@ -245,6 +245,9 @@ TEST_F(TStartTest, TimersWaitForTheFirstPageAndAShownPageIsComplete) {
             EXPECT_TRUE(exists(L"LastB1"));
             Get<TNotebook>(L"Notebook").ShowPage(L"3");
             EXPECT_TRUE(exists(L"LastA3") && exists(L"LastB3"));
+        }
+        if (ticks == 2) {
+            EXPECT_TRUE(GetUpdateRect(Window(L"A30"), nullptr, FALSE)) << "drawn when all is there";
         }
         if (ticks == 500 || exists(L"LastB2")) PostQuitMessage(0);
     };

@@ -103,10 +103,8 @@ void TFormWindow::Show(int showCommand) {
 int TFormWindow::Run() {
     HWND focus = nullptr;
     while (!IsOver()) {
-        // The timers that end the start wait for the page that they show.
-        constexpr UINT kNoTimer = PM_QS_INPUT | PM_QS_PAINT | PM_QS_SENDMESSAGE | QS_POSTMESSAGE << 16;
         MSG message;
-        if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | (CreatesFirstPage() ? kNoTimer : 0))) {
+        if (!NextMessage(message)) {
             // Looking for a message has handled those that were sent; one of them may have closed the dialog.
             if (!IsOver() && !CreateNext()) WaitMessage();
             continue;
@@ -123,6 +121,19 @@ int TFormWindow::Run() {
         }
     }
     return 0;
+}
+
+/// Takes the next message; false when there is none.
+bool TFormWindow::NextMessage(MSG& message) const {
+    constexpr UINT kNoTimer = PM_QS_INPUT | PM_QS_PAINT | PM_QS_SENDMESSAGE | QS_POSTMESSAGE << 16;
+    constexpr UINT kNoPaint = PM_QS_INPUT | PM_QS_SENDMESSAGE | PM_QS_POSTMESSAGE;
+    const auto take = [&](UINT kinds) {
+        return PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | kinds) != FALSE;
+    };
+    // The timers that end the start wait for the page that they show, and nothing is drawn between the one that shows
+    // it below the loading panel and the one that takes the panel away.
+    if (CreatesFirstPage()) return take(kNoTimer);
+    return (!FTimers.empty() && take(kNoPaint)) || take(0);
 }
 
 void TFormWindow::ShowModal(TForm& dialog) {

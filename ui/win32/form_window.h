@@ -92,6 +92,7 @@ class TFormWindow : public TFormPeer {
     bool CreateNext();
     /// Whether the notebook's first page is still being created.
     [[nodiscard]] bool CreatesFirstPage() const;
+    bool NextMessage(MSG& message) const;
     bool StepSheet(const MSG& message) const;
     bool PressButton(const MSG& message) const;
     void ScrollTo(HWND window) const;
