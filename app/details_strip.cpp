@@ -15,6 +15,7 @@ constexpr const wchar_t* kText = L"Label_Details_Text";
 constexpr const wchar_t* kPlace = L"Label_Details_Place";
 
 constexpr int kTextLines = 2;
+constexpr int kPlaceLines = 2;
 
 // The least heights of the window, in dots of 96 per inch, that leave the pages enough room beside the strip.
 constexpr int kRoomForAll = 520;
@@ -80,7 +81,7 @@ TControlDesign TDetailsStrip::Design() {
                                         L"Rest the pointer on a setting or choose it, and read here what it "
                                         L"is for and what is stored.",
                                         kTextLines, TTextLook::Plain),
-                              CardLabel(kPlace, L"F1 shows the whole text", 1, TTextLook::Quiet)));
+                              CardLabel(kPlace, L"F1 shows the whole text", kPlaceLines, TTextLook::Quiet)));
 }
 
 const TSetting* TDetailsStrip::SettingOf(const TControl* control) const {

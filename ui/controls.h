@@ -13,8 +13,8 @@ class TLabel : public TControl {
   public:
     explicit TLabel(std::wstring name) : TControl(TComponentKind::Label, std::move(name)) {}
 
-    /// How many lines it is high, whatever its text: what has no place in them is cut. One line shows the first line of
-    /// the text at its left end, and the second one at its right end. 0 = as high as the text needs.
+    /// How many lines it is high, whatever its text: what has no place in them is cut. A plain text is wrapped, of another
+    /// each line stays one. 0 = as high as the text needs.
     int Lines = 0;
     TTextLook Look = TTextLook::Plain;  ///< of one with a fixed number of lines
 };

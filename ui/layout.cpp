@@ -13,7 +13,7 @@ namespace {
 constexpr int kGap = 7;            // between controls that stand together
 constexpr int kGroupGap = 11;      // before and after a group box
 constexpr int kGroupPadding = 11;  // between a group box's frame and its controls
-constexpr int kLineGap = 3;        // between what stands as close as lines of a text
+constexpr int kLineGap = 2;        // between what stands as close as lines of a text
 constexpr int kIndent = 18;        // below the text of a check box
 constexpr int kGlyph = 18;         // a check mark or radio circle with the space before its text
 constexpr int kBoxHeight = 17;     // the least height of a check box or radio button

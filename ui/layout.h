@@ -19,7 +19,7 @@ struct TRect {
 };
 
 /// Between the edges of a card and its content, at 96 dots per inch.
-inline constexpr int kCardPadding = 7;
+inline constexpr int kCardPadding = 4;
 
 /// What each of those who want these widths gets of a total: what it wants, or where that is too much, none more than a
 /// fair share. The last one gets what is left over.

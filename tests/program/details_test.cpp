@@ -53,4 +53,23 @@ TEST_F(TDetails, FollowTheFocusAndTheRegistry) {
     EXPECT_TRUE(EqualRect(&before, &after)) << "texts move nothing";
 }
 
+TEST_F(TDetails, FollowThePointerOnceItRests) {
+    Window.Click(kDriverItem);
+    Focus(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData");
+    ExpectPlace(L"NtfsDisableLastAccessUpdate");
+    EnableWindow(Window.Find(kUdmaBox), FALSE);
+    const auto point = [&](const wchar_t* control) {
+        RECT place{};
+        GetWindowRect(Window.Find(control), &place);
+        for (const int x : {0, 4}) {
+            SetCursorPos(place.left + 10 + x, (place.top + place.bottom) / 2);
+            Sleep(50);
+        }
+    };
+    point(kUdmaBox);
+    ExpectPlace(L"EnableUDMA66");
+    point(L"Button_OK");
+    ExpectPlace(L"NtfsDisableLastAccessUpdate");
+}
+
 }  // namespace

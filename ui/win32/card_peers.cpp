@@ -9,21 +9,12 @@
 
 namespace {
 
-// At 96 dots per inch.
-constexpr int kAccentWidth = 3;
-constexpr int kPartGap = 12;      // between the two parts of a line
-constexpr int kLeastOfFirst = 3;  // the part of a line, as its divisor, that its first text has at least
-constexpr int kUnlimited = 1 << 20;
+constexpr int kAccentWidth = 3;  // at 96 dots per inch
 
-SIZE DrawnSize(HDC target, const std::wstring& text, int width) {
+int DrawnHeight(HDC target, const std::wstring& text, int width) {
     RECT place{0, 0, width, 0};
-    DrawTextW(target, text.c_str(), static_cast<int>(text.size()), &place,
-              DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
-    return {place.right, place.bottom};
-}
-
-void DrawPart(HDC target, const std::wstring& text, RECT area, UINT cut) {
-    DrawTextW(target, text.c_str(), static_cast<int>(text.size()), &area, DT_SINGLELINE | DT_NOPREFIX | cut);
+    return DrawTextW(target, text.c_str(), static_cast<int>(text.size()), &place,
+                     DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
 }
 
 }  // namespace
@@ -46,6 +37,12 @@ LRESULT TCardPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     if (message == WM_SIZE) InvalidateRect(Handle(), nullptr, TRUE);
     return TContainerPeer::OnMessage(message, wParam, lParam);
+}
+
+RECT TCardPeer::ContentArea() const {
+    RECT area = TContainerPeer::ContentArea();
+    area.left += FForm.Screen().Scale(kAccentWidth);
+    return area;
 }
 
 void TCardPeer::Draw(HDC target) const {
@@ -84,10 +81,10 @@ void TCardLabelPeer::OnDraw(const DRAWITEMSTRUCT& item) {
     SetTextColor(target, isTitle                          ? colors.HeaderText()
                          : label.Look == TTextLook::Quiet ? colors.QuietText()
                                                           : colors.CardText());
-    if (label.Lines > 1)
+    if (label.Look == TTextLook::Plain)
         DrawWrapped(target, item.rcItem);
     else
-        DrawLine(target, item.rcItem);
+        DrawLines(target, item.rcItem, static_cast<int>(item.rcItem.bottom - item.rcItem.top) / label.Lines);
     SelectObject(target, font);
 }
 
@@ -95,26 +92,25 @@ void TCardLabelPeer::DrawWrapped(HDC target, RECT area) const {
     const int width = static_cast<int>(area.right - area.left);
     const int height = static_cast<int>(area.bottom - area.top);
     const std::wstring shown = CutAtWord(Control().Caption(), [&](const std::wstring& text) {
-        return DrawnSize(target, text, width).cy <= height;
+        return DrawnHeight(target, text, width) <= height;
     });
     DrawTextW(target, shown.c_str(), static_cast<int>(shown.size()), &area, DT_WORDBREAK | DT_NOPREFIX);
 }
 
-void TCardLabelPeer::DrawLine(HDC target, RECT area) const {
+void TCardLabelPeer::DrawLines(HDC target, RECT area, int lineHeight) const {
     const std::wstring& text = Control().Caption();
-    const std::size_t firstEnd = std::min(text.find(L'\n'), text.size());
-    const std::wstring first = text.substr(0, firstEnd);
-    if (firstEnd < text.size()) {
-        const std::size_t secondEnd = text.find(L'\n', firstEnd + 1);
-        std::wstring second = text.substr(firstEnd + 1, secondEnd - firstEnd - 1);
-        if (secondEnd != std::wstring::npos) second += std::wstring(L" ") + kEllipsis;
-        RECT right = area;
-        right.left = std::max(area.right - DrawnSize(target, second, kUnlimited).cx,
-                              area.left + (area.right - area.left) / kLeastOfFirst);
-        DrawPart(target, second, right, DT_END_ELLIPSIS);
-        area.right = right.left - FForm.Screen().Scale(kPartGap);
+    const LONG bottom = area.bottom;
+    for (std::size_t start = 0; start < text.size() && area.top + lineHeight <= bottom;
+         area.top += lineHeight) {
+        area.bottom = area.top + lineHeight;
+        const std::size_t end = std::min(text.find(L'\n', start), text.size());
+        std::wstring line = text.substr(start, end - start);
+        const bool isLast = area.bottom + lineHeight > bottom;
+        if (isLast && end < text.size()) line += std::wstring(L" ") + kEllipsis;
+        // Of a place in the registry the end says most.
+        const UINT cut = line.starts_with(L"HKEY_") ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS;
+        DrawTextW(target, line.c_str(), static_cast<int>(line.size()), &area,
+                  DT_SINGLELINE | DT_NOPREFIX | cut);
+        start = end + 1;
     }
-    // Of a place in the registry the end says most.
-    DrawPart(target, first, area,
-             first.find(L'\\') == std::wstring::npos ? DT_END_ELLIPSIS : DT_PATH_ELLIPSIS);
 }

@@ -13,6 +13,7 @@ class TCardPeer : public TContainerPeer {
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    [[nodiscard]] RECT ContentArea() const override;
 
   private:
     void Draw(HDC target) const;
@@ -29,6 +30,5 @@ class TCardLabelPeer : public TWindowPeer {
 
   private:
     void DrawWrapped(HDC target, RECT area) const;
-    /// The first line of the text at the left end, the second one at the right end.
-    void DrawLine(HDC target, RECT area) const;
+    void DrawLines(HDC target, RECT area, int lineHeight) const;
 };
