@@ -15,8 +15,10 @@ namespace {
 
 constexpr TColor kPlainItemColor = 0xC56A31;
 constexpr TColor kSelectedItemColor = 0xC65D21;
+constexpr int kHeight = 536;
 constexpr int kFrameCount = 7;
 constexpr int kTimerInterval = 100;
+constexpr int kIdleInterval = 300;
 
 TControlDesign WindowDesign() {
     return Row(CategoryBarDesign(),
@@ -25,11 +27,13 @@ TControlDesign WindowDesign() {
                                     Center(Row(Image(L"ImageNote_Animate", L"loading", kFrameCount),
                                                Label(L"Label_Wait", L"Loading system settings......."))))
                                   .Hidden()),
+                      TDetailsStrip::Design(),
                       Ends(Row(Button(L"Button_Changes", L"Changes\u2026").Disabled(),
                                Button(L"Button_History", L"History\u2026")),
                            Buttons(Button(L"Button_OK", L"OK"), Button(L"Button_Cancel", L"Cancel"),
                                    Button(L"Button_Apply", L"&Apply")))),
-               Timer(L"Timer_Click", kTimerInterval), Timer(L"Timer_Loading", kTimerInterval));
+               Timer(L"Timer_Click", kTimerInterval), Timer(L"Timer_Loading", kTimerInterval),
+               Timer(L"Timer_Details", kIdleInterval));
 }
 
 }  // namespace
@@ -42,6 +46,7 @@ TQuilltune_FormMain::TQuilltune_FormMain(TSystem& system)
       FFirefox(system),
       FContext{.System = system, .Form = *this, .Changes = FChanges, .Firefox = FFirefox} {
     SetCaption(L"Quilltune");
+    ClientHeight = kHeight;
     BuildControls();
     BindEvents();
     FormCreate();
@@ -59,6 +64,7 @@ void TQuilltune_FormMain::BuildControls() {
     }
     FTwins = std::make_unique<TTwinControls>(FContext);
     FReview = std::make_unique<TPendingReview>(FContext, FPages, *FTwins);
+    MakeDetails();
     Find<TButton>(L"Button_OK")->Default = true;
     Find<TButton>(L"Button_Cancel")->Cancel = true;
     // The items of this group bear the plain colour by design; FormCreate gives it to the other groups.
@@ -116,6 +122,7 @@ void TQuilltune_FormMain::FormShow() {
             FContext.Captions.Load(*FLanguage);
             MarkText = FContext.Captions[TCaption::Changed];
             FLanguage->Translate(*this);
+            Switches.front().Caption = FContext.Captions[TCaption::DetailsShow];
         },
         [&] { ReinitialiseLists(log); },
         [&] {
@@ -184,6 +191,7 @@ void TQuilltune_FormMain::BecomeReady() {
         [this] { Find(L"Button_Cancel")->SetEnabled(true); },
         [this] { Find(L"Button_History")->SetEnabled(true); },
         [this] { EnableApply(); },
+        [this] { Find(L"Timer_Details")->SetEnabled(true); },
         [this] {
             if (!FFileToOpen.empty()) OpenFile(std::exchange(FFileToOpen, {}));
         },
@@ -200,6 +208,7 @@ void TQuilltune_FormMain::RzGroup1Items0Click(TComponent& sender) {
         [&] {
             if (&item != FSelectedItem) SelectItem(item);
         },
+        [&] { FDetails->Refresh(); },
     });
 }
 
@@ -243,6 +252,31 @@ void TQuilltune_FormMain::EnableApply() {
                            ? FContext.Captions[TCaption::OneChange]
                            : Formatted(FContext.Captions[TCaption::ManyChanges], {DecimalText(count)}));
     FReview->ShowMarks();
+    FDetails->Refresh();
+}
+
+void TQuilltune_FormMain::MakeDetails() {
+    const auto names = [this]() -> const TSettingNames* {
+        return FLanguage && FLoadingFinished ? &Names() : nullptr;
+    };
+    FDetails = std::make_unique<TDetailsStrip>(FContext, *FReview, names);
+    OnFocus = [this](TControl* control) { FDetails->FocusCame(control); };
+    OnPoint = [this](TControl* control) { FDetails->PointerRests(control); };
+    OnHelp = [this](TControl* control) { ShowHelp(control); };
+    OnHeight = [this](int height) { FDetails->HeightChanged(height); };
+    Switches = {{.Caption = FContext.Captions[TCaption::DetailsShow],
+                 .IsOn = true,
+                 .OnClick = [this](bool isOn) { FDetails->SetShown(isOn); }}};
+    // The settings are known before the first of them is asked for.
+    Find<TTimer>(L"Timer_Details")->OnTimer = [this](TComponent& timer) {
+        static_cast<TTimer&>(timer).SetEnabled(false);
+        if (FLanguage) (void)Names();
+    };
+}
+
+void TQuilltune_FormMain::ShowHelp(const TControl* control) {
+    const std::wstring text = FDetails->WholeOf(control);
+    if (!text.empty()) FSystem.Dialogs.Message(*this, text, TMessageButtons::Ok, TMessageIcon::None);
 }
 
 void TQuilltune_FormMain::Button_OKClick() {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <set>
 
+#include "app/details_strip.h"
 #include "app/pending_review.h"
 #include "app/setting_names.h"
 #include "platform/app_frame.h"
@@ -71,6 +72,10 @@ class TQuilltune_FormMain : public TForm {
     /// Made when it is first asked for.
     [[nodiscard]] const TSettingNames& Names();
 
+    void MakeDetails();
+    /// What there is to say of the control, in full.
+    void ShowHelp(const TControl* control);
+
     /// Opens the desktop-icons dialog with one of its sheets chosen.
     void ShowFolderForm(const wchar_t* sheet);
 
@@ -84,6 +89,7 @@ class TQuilltune_FormMain : public TForm {
     std::unique_ptr<TTwinControls> FTwins;
     std::unique_ptr<TPendingReview> FReview;
     std::unique_ptr<TSettingNames> FNames;
+    std::unique_ptr<TDetailsStrip> FDetails;
     std::wstring FFileToOpen;     ///< once the window is ready
     std::set<int> FVisitedPages;  ///< tags of the pages whose loaders have run
     TCategoryItem* FSelectedItem = nullptr;

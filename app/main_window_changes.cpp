@@ -41,6 +41,7 @@ void TQuilltune_FormMain::Button_ApplyClick() {
 void TQuilltune_FormMain::FormComeBack() {
     if (FIsCarryingOut || FContext.Loading || !FChanges.IsEmpty() || FContext.FirefoxChanged) return;
     FReview->Reload(FVisitedPages);
+    FDetails->Refresh();
 }
 
 void TQuilltune_FormMain::OfferRestart(const TForm& asker) {

@@ -9,6 +9,8 @@ class TSettingNames {
     /// `language` and `system` outlive the object.
     TSettingNames(TSystem& system, const TLanguage& language, int windowsLevel);
 
+    [[nodiscard]] const TCatalogue& Catalogue() const { return FCatalogue; }
+
     /// The caption with page and sheet; of what is no setting the name itself.
     [[nodiscard]] std::wstring operator[](const std::wstring& setting) const;
 

@@ -38,6 +38,9 @@ class TForm;
 /// An event of a component; the sender is the component that fired.
 using TNotifyEvent = std::function<void(TComponent& sender)>;
 
+/// How a text stands out from the others.
+enum class TTextLook { Plain, Title, Quiet };
+
 /// Something a form owns. Names are unique within the form and are what the outside world (language files,
 /// pending changes, automation) knows it by; they never change.
 class TComponent {

@@ -12,6 +12,11 @@
 class TLabel : public TControl {
   public:
     explicit TLabel(std::wstring name) : TControl(TComponentKind::Label, std::move(name)) {}
+
+    /// How many lines it is high, whatever its text: what has no place in them is cut. A plain text is wrapped, of another
+    /// each line stays one. 0 = as high as the text needs.
+    int Lines = 0;
+    TTextLook Look = TTextLook::Plain;  ///< of one with a fixed number of lines
 };
 
 class TGroupBox : public TControl {
@@ -22,6 +27,8 @@ class TGroupBox : public TControl {
 class TPanel : public TControl {
   public:
     explicit TPanel(std::wstring name) : TControl(TComponentKind::Panel, std::move(name)) {}
+
+    bool IsCard = false;  ///< it has a pale ground and a frame
 };
 
 class TButton : public TControl {

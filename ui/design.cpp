@@ -90,6 +90,13 @@ TControlDesign Label(const wchar_t* name, const wchar_t* caption) {
     return Control(TComponentKind::Label, name, caption);
 }
 
+TControlDesign CardLabel(const wchar_t* name, const wchar_t* caption, int lines, TTextLook look) {
+    TControlDesign design = Label(name, caption);
+    design.Lines = lines;
+    design.Look = look;
+    return design;
+}
+
 TControlDesign CheckBox(const wchar_t* name, const wchar_t* caption) {
     return Control(TComponentKind::CheckBox, name, caption);
 }

@@ -33,6 +33,9 @@ struct TControlDesign {
     bool IsPositive = false;
     bool IsSender = false;
     bool IsTable = false;
+    bool IsCard = false;
+    int Lines = 0;  ///< of a label; 0 = what its text needs
+    TTextLook Look = TTextLook::Plain;
     int Share = 1;
     int Min = 0;
     int Max = 100;
@@ -100,6 +103,10 @@ TControlDesign Fields(TContent&&... rows) {
     return Arrangement(TLayoutKind::Fields, Designs(rows...));
 }
 template <typename... TContent>
+TControlDesign Stack(TContent&&... content) {
+    return Arrangement(TLayoutKind::Stack, Designs(content...));
+}
+template <typename... TContent>
 TControlDesign Indent(TContent&&... content) {
     return Arrangement(TLayoutKind::Indent, Designs(content...));
 }
@@ -134,9 +141,18 @@ template <typename... TContent>
 TControlDesign Panel(const wchar_t* name, TContent&&... content) {
     return Container(TComponentKind::Panel, name, L"", Designs(content...));
 }
+/// A panel that stands out by a pale ground and a frame.
+template <typename... TContent>
+TControlDesign Card(const wchar_t* name, TContent&&... content) {
+    TControlDesign design = Panel(name, content...);
+    design.IsCard = true;
+    return design;
+}
 
 // Controls.
 TControlDesign Label(const wchar_t* name, const wchar_t* caption);
+/// A text on a card, of a fixed number of lines whatever it says; see TLabel.
+TControlDesign CardLabel(const wchar_t* name, const wchar_t* caption, int lines, TTextLook look);
 TControlDesign CheckBox(const wchar_t* name, const wchar_t* caption);
 TControlDesign RadioButton(const wchar_t* name, const wchar_t* caption);
 TControlDesign Button(const wchar_t* name, const wchar_t* caption);

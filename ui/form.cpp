@@ -78,6 +78,13 @@ void SetDesignState(const TForm& form, TControl& control, const TControlDesign& 
             edit.WidthInCharacters = design.WidthInCharacters;
             return;  // the caption of its design is its text
         }
+        case TComponentKind::Label:
+            static_cast<TLabel&>(control).Lines = design.Lines;
+            static_cast<TLabel&>(control).Look = design.Look;
+            break;
+        case TComponentKind::Panel:
+            static_cast<TPanel&>(control).IsCard = design.IsCard;
+            break;
         case TComponentKind::UpDown: {
             auto* edit = form.Find<TEdit>(design.Associate);
             if (edit == nullptr) throw std::logic_error("an up-down without its edit");

@@ -60,7 +60,7 @@ class TForm : public TControl {
     /// Size of the client area at 96 dots per inch, of which no user can make it smaller. The main window's leaves
     /// room for the frame on a screen of 800 by 600.
     int ClientWidth = 740;
-    int ClientHeight = 504;
+    int ClientHeight = 532;
     bool CanMaximise = false;  ///< of a dialog; the main window always can
 
     std::wstring MarkText = L"changed";  ///< what a screen reader says of a marked control
@@ -68,6 +68,23 @@ class TForm : public TControl {
     TNotifyEvent OnShow;  ///< runs once, just before the window becomes visible
 
     TNotifyEvent OnComeBack;  ///< the user comes back to the form from another program
+
+    /// A control of the form, or null for none.
+    using TControlEvent = std::function<void(TControl* control)>;
+    TControlEvent OnFocus;  ///< it has got the focus
+    TControlEvent OnPoint;  ///< the pointer has come to rest on it; also on one that is disabled
+    TControlEvent OnHelp;   ///< F1 was pressed while it has the focus
+
+    /// The client area has another height than before; in dots of 96 per inch.
+    std::function<void(int height)> OnHeight;
+
+    /// A command of the window's menu that switches something on and off.
+    struct TSwitch {
+        std::wstring Caption;
+        bool IsOn = false;
+        std::function<void(bool isOn)> OnClick;
+    };
+    std::vector<TSwitch> Switches;  ///< fixed once the window is shown
 
     // Called by the native window.
     void Show() { Fire(OnShow); }

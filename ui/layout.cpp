@@ -13,6 +13,7 @@ namespace {
 constexpr int kGap = 7;            // between controls that stand together
 constexpr int kGroupGap = 11;      // before and after a group box
 constexpr int kGroupPadding = 11;  // between a group box's frame and its controls
+constexpr int kLineGap = 2;        // between what stands as close as lines of a text
 constexpr int kIndent = 18;        // below the text of a check box
 constexpr int kGlyph = 18;         // a check mark or radio circle with the space before its text
 constexpr int kBoxHeight = 17;     // the least height of a check box or radio button
@@ -98,6 +99,7 @@ void TLayout::Arrange(const TControl& container, const TRect& area, const TPlace
 /// The distance between a box and the one before it in the same column or row.
 int TLayout::GapBefore(const TLayoutBox& box, std::size_t index) const {
     if (index == 0) return 0;
+    if (box.Kind == TLayoutKind::Stack) return FMetrics.Scale(kLineGap);
     const TLayoutBox& here = box.Boxes[index];
     const TLayoutBox& before = box.Boxes[index - 1];
     if (IsKind(here, TComponentKind::UpDown)) return 0;  // it clings to its edit
@@ -125,6 +127,7 @@ TSize TLayout::Measure(const TLayoutBox& box, int width) const {
             return size;
         }
         case TLayoutKind::Column:
+        case TLayoutKind::Stack:
         case TLayoutKind::Center:
             return MeasureColumn(box, width);
         case TLayoutKind::Overlay:
@@ -217,6 +220,8 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
         case TComponentKind::RadioButton:
             return TextLine(control, width);
         case TComponentKind::Label:
+            if (const int lines = static_cast<const TLabel&>(control).Lines; lines > 0)
+                return {width, lines * line};
             return FMetrics.TextSize(control.Caption(), std::max(width, 1));
         case TComponentKind::Button: {
             const TSize text = FMetrics.TextSize(control.Caption(), kUnlimited);
@@ -254,8 +259,11 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
             const int caption = FMetrics.TextSize(control.Caption(), kUnlimited).Width;
             return {std::max(content.Width, caption) + 2 * padding, line + content.Height + 3 * padding / 2};
         }
-        case TComponentKind::Panel:
-            return ContentSize(control, width);
+        case TComponentKind::Panel: {
+            const int padding = static_cast<const TPanel&>(control).IsCard ? scale(kCardPadding) : 0;
+            const TSize content = ContentSize(control, width - 2 * padding);
+            return {content.Width + 2 * padding, content.Height + 2 * padding};
+        }
         case TComponentKind::CategoryBar: {
             int text = 0;
             for (const TControl* group : control.Children()) {
@@ -303,6 +311,7 @@ void TLayout::Put(const TLayoutBox& box, const TRect& area, const TPlace& place)
             return;
         }
         case TLayoutKind::Column:
+        case TLayoutKind::Stack:
         case TLayoutKind::Fields:
             PutColumn(box, area, place);
             return;

@@ -18,6 +18,9 @@ struct TRect {
     bool operator==(const TRect&) const = default;
 };
 
+/// Between the edges of a card and its content, at 96 dots per inch.
+inline constexpr int kCardPadding = 4;
+
 /// What each of those who want these widths gets of a total: what it wants, or where that is too much, none more than a
 /// fair share. The last one gets what is left over.
 [[nodiscard]] std::vector<int> FairShares(std::vector<int> wanted, int total);

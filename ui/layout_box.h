@@ -11,6 +11,7 @@ enum class TLayoutKind {
     Row,      ///< side by side, in one line
     Buttons,  ///< side by side, at the right end of the line
     Ends,     ///< a row at the left end of the line and buttons at its right end
+    Stack,    ///< one below the other, as close as the lines of a text
     Fields,   ///< rows whose first controls share one width, so that the second ones line up
     Indent,   ///< a column set in below the control it depends on
     Center,   ///< a column in the middle of the container

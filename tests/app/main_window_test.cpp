@@ -135,6 +135,77 @@ TEST_F(TMainWindow, ShowsWhatWasStoredMeanwhileWhenTheUserComesBack) {
     EXPECT_TRUE(Enabled(L"Button_Apply"));
 }
 
+TEST_F(TMainWindow, ExplainsTheSettingThatTheUserIsAt) {
+    Fake.Registry.Put(kLastAccessValue, {TRegDataType::Dword, 1});
+    Open();
+    Click(kDriverItem);
+    const auto said = [this](const wchar_t* part) {
+        return Window->Find(L"Label_Details_" + std::wstring(part))->Caption();
+    };
+    const std::wstring place =
+        L"HKEY_LOCAL_"
+        L"MACHINE\\SYSTEM\\CurrentControlSet\\Control\\FileSystem\\NtfsDisableLastAccessUpdate\nstored: ";
+    const std::wstring idle = said(L"Title");
+    Window->OnFocus(Window->Find(kDriverItem));
+    EXPECT_EQ(said(L"Title"), idle);
+
+    Window->OnFocus(Window->Find(kLastAccess));
+    EXPECT_EQ(said(L"Title"), L"Record the date of the last access to files and folders");
+    EXPECT_NE(said(L"Text").find(L"NTFS"), std::wstring::npos);
+    EXPECT_EQ(said(L"Place"), place + L"0x00000001 (1) \u00B7 not changed");
+    Toggle(kLastAccess);
+    EXPECT_EQ(said(L"Place"), place + L"0x00000001 (1) \u00B7 after Apply: 0x00000000 (0) (pending)");
+    Apply();
+    EXPECT_EQ(said(L"Place"), place + L"0x00000000 (0) \u00B7 not changed");
+    Fake.Registry.Put(kLastAccessValue, {TRegDataType::Dword, 7});
+    Window->ComeBack();
+    EXPECT_EQ(said(L"Place"), place + L"0x00000007 (7) \u00B7 not changed");
+
+    Window->OnPoint(Window->Find(kUdma));
+    EXPECT_EQ(said(L"Title"), L"Use Ultra DMA mode 66 for hard disks");
+    EXPECT_NE(said(L"Place").find(L"after a restart"), std::wstring::npos);
+    Window->OnHelp(Window->Find(kLastAccess));
+    const std::wstring help = Fake.Dialogs.Questions().back().Text;
+    Window->OnPoint(nullptr);
+    EXPECT_EQ(help, said(L"Title") + L"\n\n" + said(L"Text") + L"\n\n" + said(L"Place"));
+    EXPECT_EQ(help, Window->Find(L"Panel_Details")->Caption()) << "it is the focus again";
+
+    Window->OnFocus(Window->Find(L"Button_Apply"));
+    EXPECT_EQ(help, Window->Find(L"Panel_Details")->Caption()) << "what becomes of it";
+    Click(L"RzGroup_Display.Items[3]");
+    EXPECT_EQ(said(L"Title"), idle) << "it is no longer to be seen";
+
+    // A label speaks of what is behind it, an edit of its up-down.
+    for (const wchar_t* control :
+         {L"Label_Taskbar_ButtonFlashes_Speed_Flash", L"Edit_Taskbar_ButtonFlashes_Speed_Flash",
+          L"UpDown_Taskbar_ButtonFlashes_Speed_Flash"}) {
+        ASSERT_NE(Window->Find(control), nullptr);
+        Window->OnFocus(Window->Find(control));
+        EXPECT_EQ(said(L"Title"), L"Number of flashes") << testing::PrintToString(std::wstring(control));
+    }
+}
+
+TEST_F(TMainWindow, TheExplanationGivesWayToThePages) {
+    Open();
+    const auto shown = [this] {
+        return std::pair(Window->Find(L"Panel_Details")->Visible(),
+                         Window->Find(L"Label_Details_Text")->Visible());
+    };
+    for (const auto& [height, panel, text] :
+         {std::tuple(532, true, true), {500, true, false}, {480, false, false}}) {
+        Window->OnHeight(height);
+        EXPECT_EQ(shown(), std::pair(panel, text)) << height;
+    }
+    Window->OnHeight(700);
+    Click(kDriverItem);
+    for (const bool isOn : {false, true}) {
+        Window->Switches.front().OnClick(isOn);
+        Window->OnFocus(Window->Find(isOn ? kUdma : kLastAccess));
+        EXPECT_EQ(shown(), std::pair(isOn, true));
+    }
+    EXPECT_EQ(Window->Find(L"Label_Details_Title")->Caption(), L"Use Ultra DMA mode 66 for hard disks");
+}
+
 TEST_F(TMainWindow, ApplyAndOkWriteAndOkAndCancelClose) {
     for (const wchar_t* button : {L"Button_Apply", L"Button_OK", L"Button_Cancel"}) {
         SCOPED_TRACE(testing::PrintToString(std::wstring(button)));

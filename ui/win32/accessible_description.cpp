@@ -2,6 +2,8 @@
 
 #include <oleacc.h>
 
+#include <utility>
+
 namespace {
 
 constexpr CLSID kService{// CLSID_AccPropServices
@@ -19,6 +21,11 @@ constexpr MSAAPROPID kDescription{// PROPID_ACC_DESCRIPTION
                                   0xBD3F,
                                   0x491F,
                                   {0xA6, 0x48, 0x49, 0x2D, 0x6F, 0x20, 0xC5, 0x88}};
+constexpr MSAAPROPID kRole{// PROPID_ACC_ROLE
+                           0xCB905FF2,
+                           0x7BD1,
+                           0x4C05,
+                           {0xB3, 0xC8, 0xE6, 0xC2, 0x41, 0x36, 0x4D, 0x70}};
 constexpr auto kClient = static_cast<DWORD>(OBJID_CLIENT);
 
 }  // namespace
@@ -44,6 +51,17 @@ void TAccessibleDescriptions::Set(HWND window, const std::wstring& text) {
     if (service == nullptr) return;
     service->SetHwndPropStr(window, kClient, CHILDID_SELF, kDescription, text.c_str());
     NotifyWinEvent(EVENT_OBJECT_DESCRIPTIONCHANGE, window, OBJID_CLIENT, CHILDID_SELF);
+}
+
+void TAccessibleDescriptions::Alert(HWND window) {
+    IAccPropServices* service = Service();
+    if (service != nullptr && std::exchange(FAlert, window) != window) {
+        VARIANT role{};
+        role.vt = VT_I4;
+        role.lVal = ROLE_SYSTEM_ALERT;
+        service->SetHwndProp(window, kClient, CHILDID_SELF, kRole, role);
+    }
+    NotifyWinEvent(EVENT_SYSTEM_ALERT, window, OBJID_CLIENT, CHILDID_SELF);
 }
 
 void TAccessibleDescriptions::Remove(HWND window) {

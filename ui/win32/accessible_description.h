@@ -16,6 +16,8 @@ class TAccessibleDescriptions {
     TAccessibleDescriptions& operator=(const TAccessibleDescriptions&) = delete;
 
     void Set(HWND window, const std::wstring& text);
+    /// Has the text of the window said now, without its getting the focus.
+    void Alert(HWND window);
     void Remove(HWND window);
 
   private:
@@ -23,6 +25,7 @@ class TAccessibleDescriptions {
     IAccPropServices* Service();
 
     bool FIsAsked = false;
+    HWND FAlert = nullptr;  ///< the window that is known as an alert
     HRESULT FInitialised = E_FAIL;
     IAccPropServices* FService = nullptr;
 };

@@ -17,6 +17,8 @@ constexpr int kSelectedTint = 18;
 constexpr int kSelectedFrameTint = 45;
 constexpr int kPressedTint = 28;
 constexpr int kHeaderTextShade = 45;
+constexpr int kCardTint = 5;
+constexpr int kQuietShade = 40;  // of the card in a text
 
 /// Window colours darker than this leave no contrast to the items' colours.
 constexpr int kLightestDark = 160;
@@ -38,11 +40,18 @@ TCategoryColors::TCategoryColors()
         FHeader = GetSysColor(COLOR_3DFACE);
         FHeaderLine = GetSysColor(COLOR_WINDOWFRAME);
         FHeaderText = GetSysColor(COLOR_BTNTEXT);
+        FCard = FHeader;
+        FCardText = FQuietText = FHeaderText;
+        FAccent = GetSysColor(COLOR_HIGHLIGHT);
     } else {
         FFrame = GetSysColor(COLOR_3DSHADOW);
         FHeader = Tint(kHeaderTint);
         FHeaderLine = Tint(kHeaderLineTint);
         FHeaderText = MixColors(kProductColor, GetSysColor(COLOR_WINDOWTEXT), kHeaderTextShade);
+        FCard = Tint(kCardTint);
+        FCardText = GetSysColor(COLOR_WINDOWTEXT);
+        FQuietText = MixColors(FCardText, FCard, kQuietShade);
+        FAccent = kProductColor;
     }
 }
 

@@ -1,4 +1,4 @@
-// The colours and inner distances of the category bar, in one place.
+// The colours and inner distances of the category bar, and the colours of cards, in one place.
 #pragma once
 
 #include "ui/containers.h"
@@ -15,6 +15,12 @@ class TCategoryColors {
     [[nodiscard]] COLORREF Header() const { return FHeader; }
     [[nodiscard]] COLORREF HeaderLine() const { return FHeaderLine; }
     [[nodiscard]] COLORREF HeaderText() const { return FHeaderText; }
+
+    // Of a card, whose title is like a group's header.
+    [[nodiscard]] COLORREF Card() const { return FCard; }
+    [[nodiscard]] COLORREF CardText() const { return FCardText; }
+    [[nodiscard]] COLORREF QuietText() const { return FQuietText; }
+    [[nodiscard]] COLORREF Accent() const { return FAccent; }
 
     struct TItem {
         COLORREF Ground;
@@ -34,6 +40,10 @@ class TCategoryColors {
     COLORREF FHeader;
     COLORREF FHeaderLine;
     COLORREF FHeaderText;
+    COLORREF FCard;
+    COLORREF FCardText;
+    COLORREF FQuietText;
+    COLORREF FAccent;
 };
 
 /// Distances in pixels of the screen.

@@ -13,6 +13,10 @@ constexpr UINT kLayOutMessage = WM_APP;        // posted to itself: containers w
 constexpr UINT kRestyleMessage = WM_APP + 1;   // posted to itself: the look of Windows has changed
 constexpr UINT kComeBackMessage = WM_APP + 2;  // posted to itself: another program was in front
 constexpr int kFormMargin = 8;
+constexpr UINT_PTR kRestTimer = 0xFFFF;  // beyond those of the form
+constexpr UINT kRest = 500;              // milliseconds without a move that are a rest
+constexpr WPARAM kFirstSwitch = 0x100;   // in the window's menu; Windows keeps the last four bits for itself
+constexpr WPARAM kSwitchStep = 0x10;
 
 /// A window that takes no input while another one is shown over it. `focus` is what then gets the focus.
 class TDisabledWindow {
@@ -101,24 +105,23 @@ void TFormWindow::Show(int showCommand) {
 }
 
 int TFormWindow::Run() {
-    HWND focus = nullptr;
+    GetCursorPos(&FPointer);
     while (!IsOver()) {
         MSG message;
         if (!NextMessage(message)) {
             // Looking for a message has handled those that were sent; one of them may have closed the dialog.
+            FollowFocus();
             if (!IsOver() && !CreateNext()) WaitMessage();
             continue;
         }
-        if (StepSheet(message) || PressButton(message)) continue;
+        FollowPointer(message);
+        if (StepSheet(message) || PressButton(message) || AskHelp(message)) continue;
         if (message.message == WM_QUIT) return static_cast<int>(message.wParam);
         if (Handle() == nullptr || !IsDialogMessageW(Handle(), &message)) {
             TranslateMessage(&message);
             DispatchMessageW(&message);
         }
-        if (const HWND now = GetFocus(); now != focus) {
-            focus = now;
-            ScrollTo(now);
-        }
+        FollowFocus();
     }
     return 0;
 }
@@ -201,6 +204,68 @@ void TFormWindow::ScrollTo(HWND window) const {
     if (peer == nullptr) return;
     if (auto* container = dynamic_cast<TContainerPeer*>(PeerOf(GetParent(window))))
         container->ScrollTo(window);
+}
+
+void TFormWindow::FollowFocus() {
+    const HWND focus = GetFocus();
+    if (std::exchange(FFocus, focus) == focus) return;
+    ScrollTo(focus);
+    // Another program or a dialog in front leaves the user where he was.
+    if (focus != nullptr && IsChild(Handle(), focus)) Tell(FForm.OnFocus, ControlOf(focus));
+}
+
+void TFormWindow::FollowPointer(const MSG& message) {
+    // Windows sends moves of what lies below the pointer, too.
+    if (message.message != WM_MOUSEMOVE || !FForm.OnPoint || Handle() == nullptr) return;
+    const POINT now = message.pt;
+    if (now.x == FPointer.x && now.y == FPointer.y) return;
+    FPointer = now;
+    SetTimer(Handle(), kRestTimer, kRest, nullptr);
+}
+
+void TFormWindow::PointerRests() {
+    KillTimer(Handle(), kRestTimer);
+    POINT point{};
+    GetCursorPos(&point);
+    Tell(FForm.OnPoint, IsWindowEnabled(Handle()) ? ControlAt(point) : nullptr);
+}
+
+bool TFormWindow::AskHelp(const MSG& message) const {
+    if (message.message != WM_KEYDOWN || message.wParam != VK_F1 || !FForm.OnHelp) return false;
+    Tell(FForm.OnHelp, ControlOf(message.hwnd));
+    return true;
+}
+
+TControl* TFormWindow::ControlOf(HWND window) const {
+    while (window != nullptr && PeerOf(window) == nullptr) window = GetParent(window);
+    return window == nullptr ? nullptr : &PeerOf(window)->Control();
+}
+
+TControl* TFormWindow::ControlAt(POINT point) const {
+    const HWND front = WindowFromPoint(point);
+    if (front != Handle() && !IsChild(Handle(), front)) return nullptr;
+    // Windows itself would stop at a group box or at a window that is disabled.
+    HWND found = Handle();
+    for (HWND inner = found; inner != nullptr;) {
+        found = inner;
+        for (inner = GetWindow(found, GW_CHILD); inner != nullptr; inner = GetWindow(inner, GW_HWNDNEXT)) {
+            RECT place{};
+            GetWindowRect(inner, &place);
+            const TWindowPeer* peer = PeerOf(inner);
+            const bool isFrame = peer != nullptr && peer->Control().Kind() == TComponentKind::GroupBox;
+            if (IsWindowVisible(inner) && !isFrame && PtInRect(&place, point)) break;
+        }
+    }
+    return ControlOf(found);
+}
+
+void TFormWindow::Tell(const TForm::TControlEvent& event, TControl* control) const {
+    if (!event) return;
+    try {
+        event(control);
+    } catch (...) {
+        Fault(std::current_exception());
+    }
 }
 
 void TFormWindow::ComeForward() {
@@ -354,7 +419,37 @@ void TFormWindow::TWindow::Open() {
     CreateContent();
     FillSheets(FFormWindow.FForm);
     SetWindowTextW(Handle(), WindowText().c_str());
+    AddSwitches();
     SetInitialSize();
+}
+
+void TFormWindow::TWindow::AddSwitches() {
+    const auto& switches = FFormWindow.FForm.Switches;
+    if (switches.empty()) return;
+    const HMENU menu = GetSystemMenu(Handle(), FALSE);
+    AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+    for (std::size_t i = 0; i < switches.size(); ++i)
+        AppendMenuW(menu, MF_STRING, kFirstSwitch + i * kSwitchStep, switches[i].Caption.c_str());
+    ShowSwitches();
+}
+
+void TFormWindow::TWindow::ShowSwitches() const {
+    const auto& switches = FFormWindow.FForm.Switches;
+    const HMENU menu = GetSystemMenu(Handle(), FALSE);
+    for (std::size_t i = 0; i < switches.size(); ++i)
+        CheckMenuItem(menu, static_cast<UINT>(kFirstSwitch + i * kSwitchStep),
+                      switches[i].IsOn ? MF_CHECKED : MF_UNCHECKED);
+}
+
+bool TFormWindow::TWindow::PressSwitch(WPARAM command) {
+    auto& switches = FFormWindow.FForm.Switches;
+    const std::size_t index = (command - kFirstSwitch) / kSwitchStep;
+    if (command < kFirstSwitch || index >= switches.size()) return false;
+    TForm::TSwitch& pressed = switches[index];
+    pressed.IsOn = !pressed.IsOn;
+    ShowSwitches();
+    pressed.OnClick(pressed.IsOn);
+    return true;
 }
 
 SIZE TFormWindow::TWindow::DesignedSize(const RECT& work) const {
@@ -395,7 +490,18 @@ void TFormWindow::TWindow::Restyle() {
 
 LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
+        case WM_SIZE:
+            if (FFormWindow.FForm.OnHeight && wParam != SIZE_MINIMIZED)
+                FFormWindow.FForm.OnHeight(FFormWindow.Screen().Unscale(HIWORD(lParam)));
+            break;
+        case WM_SYSCOMMAND:
+            if (PressSwitch(wParam)) return 0;
+            break;
         case WM_TIMER:
+            if (wParam == kRestTimer) {
+                FFormWindow.PointerRests();
+                return 0;
+            }
             if (const auto timer = FFormWindow.FTimers.find(static_cast<unsigned>(wParam));
                 timer != FFormWindow.FTimers.end()) {
                 timer->second->Tick();

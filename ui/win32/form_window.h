@@ -79,6 +79,9 @@ class TFormWindow : public TFormPeer {
         void Restyle() override;
 
       private:
+        void AddSwitches();
+        void ShowSwitches() const;
+        bool PressSwitch(WPARAM command);
         /// The size of the window that gives the form its client area, no larger than the work area.
         [[nodiscard]] SIZE DesignedSize(const RECT& work) const;
         void SetInitialSize();
@@ -96,6 +99,17 @@ class TFormWindow : public TFormPeer {
     bool StepSheet(const MSG& message) const;
     bool PressButton(const MSG& message) const;
     void ScrollTo(HWND window) const;
+    /// Scrolls what has got the focus into sight, and tells the form of it.
+    void FollowFocus();
+    /// Waits for the pointer's rest when it has moved.
+    void FollowPointer(const MSG& message);
+    void PointerRests();
+    bool AskHelp(const MSG& message) const;
+    /// The control of a window or of one around it; null when there is none.
+    [[nodiscard]] TControl* ControlOf(HWND window) const;
+    /// The control below a point of the screen, enabled or not.
+    [[nodiscard]] TControl* ControlAt(POINT point) const;
+    void Tell(const TForm::TControlEvent& event, TControl* control) const;
     void LayOutChanged();
     /// Follows a change of the look of Windows once the present message is handled.
     void RestyleLater();
@@ -114,6 +128,8 @@ class TFormWindow : public TFormPeer {
     std::deque<TControl*>
         FUnfilled;  ///< pages and sheets that may lack content, in the order of its creation
     std::unordered_map<unsigned, TTimer*> FTimers;
+    HWND FFocus = nullptr;  ///< as the form knows it
+    POINT FPointer{};
     HWND FNextFocus = nullptr;  ///< gets the focus when the window waits no longer for a dialog
     bool FRestyles = false;     ///< a change of the look waits
     int FLastCommandId = 100;

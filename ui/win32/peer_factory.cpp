@@ -1,6 +1,7 @@
 #include "ui/win32/peer_factory.h"
 
 #include "ui/win32/button_peers.h"
+#include "ui/win32/card_peers.h"
 #include "ui/win32/category_peers.h"
 #include "ui/win32/color_swatch_peer.h"
 #include "ui/win32/field_peers.h"
@@ -29,7 +30,8 @@ std::unique_ptr<TPeer> Make(TFormWindow& form, TControl& control, HWND parent) {
 std::unique_ptr<TPeer> MakePeer(TFormWindow& form, TControl& control, HWND parent) {
     switch (control.Kind()) {
         case TComponentKind::Panel:
-            return Make<TPanelPeer, TPanel>(form, control, parent);
+            return static_cast<TPanel&>(control).IsCard ? Make<TCardPeer, TPanel>(form, control, parent)
+                                                        : Make<TPanelPeer, TPanel>(form, control, parent);
         case TComponentKind::Notebook:
             return Make<TNotebookPeer, TNotebook>(form, control, parent);
         case TComponentKind::NotebookPage:
@@ -41,7 +43,9 @@ std::unique_ptr<TPeer> MakePeer(TFormWindow& form, TControl& control, HWND paren
         case TComponentKind::GroupBox:
             return Make<TGroupBoxPeer, TGroupBox>(form, control, parent);
         case TComponentKind::Label:
-            return Make<TLabelPeer, TLabel>(form, control, parent);
+            return static_cast<TLabel&>(control).Lines > 0
+                       ? Make<TCardLabelPeer, TLabel>(form, control, parent)
+                       : Make<TLabelPeer, TLabel>(form, control, parent);
         case TComponentKind::CheckBox:
             return Make<TCheckBoxPeer, TCheckBox>(form, control, parent);
         case TComponentKind::RadioButton:

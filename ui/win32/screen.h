@@ -18,6 +18,9 @@ class TScreen : public TLayoutMetrics {
     [[nodiscard]] TSize TextSize(const std::wstring& caption, int maxWidth) const override;
     [[nodiscard]] int Scale(int distance) const override { return MulDiv(distance, FDotsPerInch, 96); }
 
+    /// A number of pixels in dots of 96 per inch.
+    [[nodiscard]] int Unscale(int pixels) const { return MulDiv(pixels, 96, FDotsPerInch); }
+
     /// Whether the fonts and measures are still those that Windows has.
     [[nodiscard]] bool IsCurrent() const;
 
