@@ -4,6 +4,7 @@
 #include <memory>
 #include <set>
 
+#include "app/find_box.h"
 #include "app/pending_review.h"
 #include "app/setting_names.h"
 #include "platform/app_frame.h"
@@ -60,7 +61,7 @@ class TQuilltune_FormMain : public TForm {
     void FormComeBack();
     /// A control's change was recorded.
     void PageChanged(TComponent& sender);
-    /// Opens the page and the sheet of the control and gives it the focus.
+    /// Opens the page, or the dialog, and the sheet of the control and gives it the focus.
     void GoTo(const std::wstring& setting);
     void Export(const TForm& asker);
     void Import(TForm& asker, const std::wstring& path);
@@ -69,10 +70,10 @@ class TQuilltune_FormMain : public TForm {
     /// A fault says how many of them failed.
     void CarryOutNow(const TForm& asker, const TChangeSet& operations);
     /// Made when it is first asked for.
-    [[nodiscard]] const TSettingNames& Names();
+    [[nodiscard]] TSettingNames& Names();
 
-    /// Opens the desktop-icons dialog with one of its sheets chosen.
-    void ShowFolderForm(const wchar_t* sheet);
+    /// Opens the desktop-icons dialog with one of its sheets chosen, or one of its settings.
+    void ShowFolderForm(const wchar_t* sheet, const std::wstring& setting = {});
 
     TSystem& FSystem;
     TSysControl FChanges;
@@ -84,6 +85,7 @@ class TQuilltune_FormMain : public TForm {
     std::unique_ptr<TTwinControls> FTwins;
     std::unique_ptr<TPendingReview> FReview;
     std::unique_ptr<TSettingNames> FNames;
+    std::unique_ptr<TFindBox> FFind;
     std::wstring FFileToOpen;     ///< once the window is ready
     std::set<int> FVisitedPages;  ///< tags of the pages whose loaders have run
     TCategoryItem* FSelectedItem = nullptr;

@@ -92,6 +92,7 @@ enum class TCaption {
     RegFileUnreadable,
     RegFileNotRead,
     RegFileNotWritten,
+    FindSetting,
     kCount,
 };
 

@@ -60,18 +60,23 @@ class TForm : public TControl {
     /// Size of the client area at 96 dots per inch, of which no user can make it smaller. The main window's leaves
     /// room for the frame on a screen of 800 by 600.
     int ClientWidth = 740;
-    int ClientHeight = 504;
+    int ClientHeight = 522;
     bool CanMaximise = false;  ///< of a dialog; the main window always can
 
     std::wstring MarkText = L"changed";  ///< what a screen reader says of a marked control
 
     TNotifyEvent OnShow;  ///< runs once, just before the window becomes visible
 
+    TNotifyEvent OnFindKey;  ///< Ctrl+F is pressed, whatever has the focus
+
+    TControl* FirstFocus = nullptr;  ///< of a dialog: gets the focus instead of the first control
+
     TNotifyEvent OnComeBack;  ///< the user comes back to the form from another program
 
     // Called by the native window.
     void Show() { Fire(OnShow); }
     void ComeBack() { Fire(OnComeBack); }
+    void FindKey() { Fire(OnFindKey); }
 
   private:
     TControl& Create(TControl& parent, const TControlDesign& design);

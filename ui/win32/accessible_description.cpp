@@ -19,6 +19,11 @@ constexpr MSAAPROPID kDescription{// PROPID_ACC_DESCRIPTION
                                   0xBD3F,
                                   0x491F,
                                   {0xA6, 0x48, 0x49, 0x2D, 0x6F, 0x20, 0xC5, 0x88}};
+constexpr MSAAPROPID kName{// PROPID_ACC_NAME
+                           0x608D3DF8,
+                           0x8128,
+                           0x4AA7,
+                           {0xA4, 0x28, 0xF5, 0x5E, 0x49, 0x26, 0x72, 0x91}};
 constexpr auto kClient = static_cast<DWORD>(OBJID_CLIENT);
 
 }  // namespace
@@ -44,6 +49,16 @@ void TAccessibleDescriptions::Set(HWND window, const std::wstring& text) {
     if (service == nullptr) return;
     service->SetHwndPropStr(window, kClient, CHILDID_SELF, kDescription, text.c_str());
     NotifyWinEvent(EVENT_OBJECT_DESCRIPTIONCHANGE, window, OBJID_CLIENT, CHILDID_SELF);
+}
+
+void TAccessibleDescriptions::SetName(HWND window, const std::wstring& text) {
+    IAccPropServices* service = Service();
+    if (service == nullptr || !FNamed.insert(window).second) return;
+    service->SetHwndPropStr(window, kClient, CHILDID_SELF, kName, text.c_str());
+}
+
+void TAccessibleDescriptions::RemoveName(HWND window) {
+    if (FNamed.erase(window) != 0) FService->ClearHwndProps(window, kClient, CHILDID_SELF, &kName, 1);
 }
 
 void TAccessibleDescriptions::Remove(HWND window) {

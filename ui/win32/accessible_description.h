@@ -1,9 +1,10 @@
-// What screen readers say of a window besides its name. Without the service for it, which Windows 2000 may lack, they say
+// What screen readers say of a window besides its name, and the name of one that has no label. Without the service for it, which Windows 2000 may lack, they say
 // no more than they did.
 #pragma once
 
 #include <windows.h>
 
+#include <set>
 #include <string>
 
 struct IAccPropServices;
@@ -17,6 +18,9 @@ class TAccessibleDescriptions {
 
     void Set(HWND window, const std::wstring& text);
     void Remove(HWND window);
+    /// Only the first name counts.
+    void SetName(HWND window, const std::wstring& text);
+    void RemoveName(HWND window);
 
   private:
     /// Asked for at the first description.
@@ -25,4 +29,5 @@ class TAccessibleDescriptions {
     bool FIsAsked = false;
     HRESULT FInitialised = E_FAIL;
     IAccPropServices* FService = nullptr;
+    std::set<HWND> FNamed;
 };

@@ -50,6 +50,7 @@ class TFormWindow : public TFormPeer {
     [[nodiscard]] const TScreen& Screen() const { return *FScreen; }
     [[nodiscard]] TPictureStore& Pictures() { return FPictures; }
     [[nodiscard]] TMarks& Marks() { return FMarks; }
+    [[nodiscard]] TAccessibleDescriptions& Accessible() { return FAccessible; }
 
     // For the peers.
     void Register(HWND window, TWindowPeer& peer) { FPeers[window] = &peer; }
@@ -94,6 +95,7 @@ class TFormWindow : public TFormPeer {
     [[nodiscard]] bool CreatesFirstPage() const;
     bool StepSheet(const MSG& message) const;
     bool PressButton(const MSG& message) const;
+    bool PressFindKey(const MSG& message);
     void ScrollTo(HWND window) const;
     void LayOutChanged();
     /// Follows a change of the look of Windows once the present message is handled.
@@ -107,7 +109,8 @@ class TFormWindow : public TFormPeer {
     TFaultHandler FFaultHandler;
     std::unique_ptr<TScreen> FScreen = std::make_unique<TScreen>();
     TPictureStore FPictures;
-    TMarks FMarks;
+    TAccessibleDescriptions FAccessible;
+    TMarks FMarks{FAccessible};
     std::unordered_map<HWND, TWindowPeer*> FPeers;
     std::set<const TControl*> FChanged;  ///< containers to lay out
     std::deque<TControl*>
