@@ -4,6 +4,10 @@
 #include "platform/language.h"
 #include "settings/page.h"
 
+/// A button that opens the dialog, and the sheet that it opens.
+inline constexpr const wchar_t* kFolderButton = L"Button_Folder_Advanced_Desktop_Set";
+inline constexpr const wchar_t* kFolderSheet = L"TabSheet_Folder_Desktop";
+
 /// Made anew for each showing. Its changes are its own: OK writes them at once, everything else drops them.
 class TQuilltune_FormFolder : public TForm {
   public:

@@ -21,8 +21,8 @@ constexpr int kTimerInterval = 100;
 constexpr int kIdleInterval = 300;
 
 TControlDesign WindowDesign() {
-    return Row(CategoryBarDesign(),
-               Column(Overlay(Notebook(L"Notebook_Main", {}),
+    return Row(Column(TFindBox::FieldDesign().Disabled(), CategoryBarDesign()),
+               Column(Overlay(Notebook(L"Notebook_Main", {}), TFindBox::ListDesign(),
                               Panel(L"Panel_Loading",
                                     Center(Row(Image(L"ImageNote_Animate", L"loading", kFrameCount),
                                                Label(L"Label_Wait", L"Loading system settings......."))))
@@ -33,7 +33,7 @@ TControlDesign WindowDesign() {
                            Buttons(Button(L"Button_OK", L"OK"), Button(L"Button_Cancel", L"Cancel"),
                                    Button(L"Button_Apply", L"&Apply")))),
                Timer(L"Timer_Click", kTimerInterval), Timer(L"Timer_Loading", kTimerInterval),
-               Timer(L"Timer_Details", kIdleInterval));
+               Timer(L"Timer_Details", kIdleInterval), TFindBox::TimersDesign());
 }
 
 }  // namespace
@@ -65,6 +65,9 @@ void TQuilltune_FormMain::BuildControls() {
     FTwins = std::make_unique<TTwinControls>(FContext);
     FReview = std::make_unique<TPendingReview>(FContext, FPages, *FTwins);
     MakeDetails();
+    FFind = std::make_unique<TFindBox>(
+        *this, TFindHost{.Catalogue = [this]() -> TCatalogue& { return Names().Catalogue(); },
+                         .GoTo = [this](const std::wstring& setting) { GoTo(setting); }});
     Find<TButton>(L"Button_OK")->Default = true;
     Find<TButton>(L"Button_Cancel")->Cancel = true;
     // The items of this group bear the plain colour by design; FormCreate gives it to the other groups.
@@ -86,7 +89,7 @@ void TQuilltune_FormMain::BindEvents() {
         if (auto* control = Find<TButton>(button))
             control->OnClick = [this, sheet](TComponent&) { ShowFolderForm(sheet); };
     };
-    opensFolderForm(L"Button_Folder_Advanced_Desktop_Set", L"TabSheet_Folder_Desktop");
+    opensFolderForm(kFolderButton, kFolderSheet);
     opensFolderForm(L"Button_Folder_Advanced_MyComputer_Set", L"TabSheet_Folder_MyComputer");
     for (const auto& component : Components()) {
         if (component->Kind() == TComponentKind::CategoryItem)
@@ -121,6 +124,7 @@ void TQuilltune_FormMain::FormShow() {
             FLanguage->LoadLanguage(GetSuiteLanguage(FSystem));
             FContext.Captions.Load(*FLanguage);
             MarkText = FContext.Captions[TCaption::Changed];
+            Find(L"Edit_Find")->SetCaption(FContext.Captions[TCaption::FindSetting]);
             FLanguage->Translate(*this);
             Switches.front().Caption = FContext.Captions[TCaption::DetailsShow];
         },
@@ -187,6 +191,9 @@ void TQuilltune_FormMain::BecomeReady() {
     TakeAll({
         [this] { Find(L"Panel_Loading")->SendToBack(); },
         [this] { Find(L"Panel_Loading")->SetVisible(false); },
+        [this] {
+            if (FLanguage) FFind->Start();
+        },
         [this] { Find(L"Button_OK")->SetEnabled(true); },
         [this] { Find(L"Button_Cancel")->SetEnabled(true); },
         [this] { Find(L"Button_History")->SetEnabled(true); },
@@ -203,6 +210,7 @@ void TQuilltune_FormMain::RzGroup1Items0Click(TComponent& sender) {
     auto& item = static_cast<TCategoryItem&>(sender);
     // A fault of a loader is for the fault log; the page shows what was loaded until then.
     TakeAll({
+        [&] { FFind->Clear(); },
         [&] { LoadPage(item.Tag()); },
         [&] { Find<TNotebook>(L"Notebook_Main")->ShowPage(DecimalText(item.Tag())); },
         [&] {
@@ -230,10 +238,12 @@ void TQuilltune_FormMain::SelectItem(TCategoryItem& item) {
     item.SetColor(kSelectedItemColor);
 }
 
-void TQuilltune_FormMain::ShowFolderForm(const wchar_t* sheet) {
+void TQuilltune_FormMain::ShowFolderForm(const wchar_t* sheet, const std::wstring& setting) {
     if (!FLanguage) return;  // a fault kept it from being created
     TQuilltune_FormFolder dialog(FContext, *FLanguage);
     dialog.ChooseSheet(sheet);
+    dialog.FirstFocus = dialog.Find(setting);
+    if (dialog.FirstFocus != nullptr) dialog.Reveal(*dialog.FirstFocus);
     ShowModal(dialog);
 }
 

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "app/details_strip.h"
+#include "app/find_box.h"
 #include "app/pending_review.h"
 #include "app/setting_names.h"
 #include "platform/app_frame.h"
@@ -61,7 +62,7 @@ class TQuilltune_FormMain : public TForm {
     void FormComeBack();
     /// A control's change was recorded.
     void PageChanged(TComponent& sender);
-    /// Opens the page and the sheet of the control and gives it the focus.
+    /// Opens the page, or the dialog, and the sheet of the control and gives it the focus.
     void GoTo(const std::wstring& setting);
     void Export(const TForm& asker);
     void Import(TForm& asker, const std::wstring& path);
@@ -70,14 +71,14 @@ class TQuilltune_FormMain : public TForm {
     /// A fault says how many of them failed.
     void CarryOutNow(const TForm& asker, const TChangeSet& operations);
     /// Made when it is first asked for.
-    [[nodiscard]] const TSettingNames& Names();
+    [[nodiscard]] TSettingNames& Names();
 
     void MakeDetails();
     /// What there is to say of the control, in full.
     void ShowHelp(const TControl* control);
 
-    /// Opens the desktop-icons dialog with one of its sheets chosen.
-    void ShowFolderForm(const wchar_t* sheet);
+    /// Opens the desktop-icons dialog with one of its sheets chosen, or one of its settings.
+    void ShowFolderForm(const wchar_t* sheet, const std::wstring& setting = {});
 
     TSystem& FSystem;
     TSysControl FChanges;
@@ -90,6 +91,7 @@ class TQuilltune_FormMain : public TForm {
     std::unique_ptr<TPendingReview> FReview;
     std::unique_ptr<TSettingNames> FNames;
     std::unique_ptr<TDetailsStrip> FDetails;
+    std::unique_ptr<TFindBox> FFind;
     std::wstring FFileToOpen;     ///< once the window is ready
     std::set<int> FVisitedPages;  ///< tags of the pages whose loaders have run
     TCategoryItem* FSelectedItem = nullptr;

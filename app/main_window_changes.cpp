@@ -5,6 +5,7 @@
 
 #include "app/change_sets.h"
 #include "app/changes_form.h"
+#include "app/folder_form.h"
 #include "app/history.h"
 #include "app/history_form.h"
 #include "app/main_window.h"
@@ -62,7 +63,7 @@ void TQuilltune_FormMain::TellFirefoxRestart(const TForm& asker) {
                             TMessageIcon::None);
 }
 
-const TSettingNames& TQuilltune_FormMain::Names() {
+TSettingNames& TQuilltune_FormMain::Names() {
     if (!FNames) FNames = std::make_unique<TSettingNames>(FSystem, *FLanguage, FContext.WindowsLevel);
     return *FNames;
 }
@@ -83,6 +84,12 @@ void TQuilltune_FormMain::Button_ChangesClick() {
 
 void TQuilltune_FormMain::GoTo(const std::wstring& setting) {
     TControl* control = Find(setting);
+    if (control == nullptr) {
+        if (Names().Catalogue().Find(setting) == nullptr) return;
+        GoTo(kFolderButton);
+        ShowFolderForm(kFolderSheet, setting);
+        return;
+    }
     const TControl* page = control;
     while (page != nullptr && page->Kind() != TComponentKind::NotebookPage) page = page->Parent();
     if (page == nullptr) return;

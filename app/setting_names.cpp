@@ -7,14 +7,17 @@
 #include "engine/outcome.h"
 #include "settings/change_words.h"
 
+std::wstring SheetWords(const TSetting& setting) {
+    return setting.Sheet.empty() ? setting.Page : setting.Page + L", " + setting.Sheet;
+}
+
 TSettingNames::TSettingNames(TSystem& system, const TLanguage& language, int windowsLevel)
     : FCatalogue(system, &language, windowsLevel) {}
 
 std::wstring TSettingNames::operator[](const std::wstring& setting) const {
     const TSetting* found = FCatalogue.Find(setting);
     if (found == nullptr) return setting;
-    const std::wstring where = found->Sheet.empty() ? found->Page : found->Page + L", " + found->Sheet;
-    return found->Caption + L" (" + where + L')';
+    return found->Caption + L" (" + SheetWords(*found) + L')';
 }
 
 std::wstring TSettingNames::Of(const TChangeSet& operations) const {

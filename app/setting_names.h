@@ -4,11 +4,15 @@
 #include "engine/change_set.h"
 #include "settings/catalogue.h"
 
+/// The page and the sheet that the setting stands on.
+[[nodiscard]] std::wstring SheetWords(const TSetting& setting);
+
 class TSettingNames {
   public:
     /// `language` and `system` outlive the object.
     TSettingNames(TSystem& system, const TLanguage& language, int windowsLevel);
 
+    [[nodiscard]] TCatalogue& Catalogue() { return FCatalogue; }
     [[nodiscard]] const TCatalogue& Catalogue() const { return FCatalogue; }
 
     /// The caption with page and sheet; of what is no setting the name itself.

@@ -88,6 +88,7 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_RegFileUnreadable", L"the file cannot be read."},
     {L"D_RegFileNotRead", L"The file %1 cannot be read."},
     {L"D_RegFileNotWritten", L"The file %1 cannot be written."},
+    {L"D_FindSetting", L"Find a setting (Ctrl+F)"},
 }};
 
 TCaptions::TCaptions() {

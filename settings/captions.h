@@ -97,6 +97,7 @@ enum class TCaption {
     RegFileUnreadable,
     RegFileNotRead,
     RegFileNotWritten,
+    FindSetting,
     kCount,
 };
 

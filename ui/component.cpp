@@ -23,3 +23,9 @@ void TControl::SetMarked(bool marked) {
     FMarked = marked;
     UpdatePeer(TControlAspect::Mark);
 }
+
+void TControl::SetFramed(bool framed) {
+    if (framed == FFramed) return;
+    FFramed = framed;
+    UpdatePeer(TControlAspect::Frame);
+}

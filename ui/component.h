@@ -65,7 +65,7 @@ class TComponent {
 };
 
 /// What about a control changed, so that its peer updates no more than that.
-enum class TControlAspect { Caption, Enabled, Visible, State, Items, Mark, Front, Back };
+enum class TControlAspect { Caption, Enabled, Visible, State, Items, Mark, Frame, Front, Back };
 
 /// The native side of a component. It shows the state, and turns a user's action into a state change; it never
 /// knows what the component means.
@@ -94,6 +94,10 @@ class TControl : public TComponent {
     [[nodiscard]] bool Marked() const { return FMarked; }
     void SetMarked(bool marked);
 
+    /// Whether a frame around the control catches the eye; of the controls of a form one at a time.
+    [[nodiscard]] bool Framed() const { return FFramed; }
+    void SetFramed(bool framed);
+
     void BringToFront() { UpdatePeer(TControlAspect::Front); }
     void SendToBack() { UpdatePeer(TControlAspect::Back); }
 
@@ -118,6 +122,7 @@ class TControl : public TComponent {
     bool FEnabled = true;
     bool FVisible = true;
     bool FMarked = false;
+    bool FFramed = false;
     TControl* FParent = nullptr;
     std::vector<TControl*> FChildren;
     std::unique_ptr<TPeer> FPeer;

@@ -9,6 +9,12 @@
 #include "ui/color.h"
 #include "ui/component.h"
 
+/// Keys that a control may take for itself, though elsewhere in a form they mean something else.
+enum class TKey { Enter, Escape, Down };
+
+/// True when the key is used up.
+using TKeyEvent = std::function<bool(TKey key)>;
+
 class TLabel : public TControl {
   public:
     explicit TLabel(std::wstring name) : TControl(TComponentKind::Label, std::move(name)) {}
@@ -76,6 +82,8 @@ class TRadioButton : public TControl {
 
 class TUpDown;
 
+/// Its caption is what it is for: it stands in the edit as long as that is empty and has no focus, and screen readers say
+/// it.
 class TEdit : public TControl {
   public:
     explicit TEdit(std::wstring name) : TControl(TComponentKind::Edit, std::move(name)) {}
@@ -87,6 +95,10 @@ class TEdit : public TControl {
     [[nodiscard]] bool Focused() const { return FFocused; }
     /// Called by the peer when the input focus comes or goes; losing it fires OnExit.
     void SetFocused(bool focused);
+    /// Called by the peer when the focus comes from another control of the form.
+    void Enter(TControl& from) const {
+        if (OnEnter) OnEnter(from);
+    }
     /// Fires OnExit as if the focus left for a moment: what is about to use the text finds it as leaving makes it.
     void Commit();
 
@@ -95,8 +107,10 @@ class TEdit : public TControl {
 
     TNotifyEvent OnChange;                        ///< every change of the text
     TNotifyEvent OnExit;                          ///< the focus left the edit
+    std::function<void(TControl& from)> OnEnter;  ///< the focus comes from another control of the form
     std::function<bool(wchar_t key)> OnKeyPress;  ///< whether a typed character passes
-    bool DigitsOnly = false;                      ///< no other characters can be typed
+    TKeyEvent OnKey;          ///< with it, Enter and Escape are never those of the form's buttons
+    bool DigitsOnly = false;  ///< no other characters can be typed
     // Of a numeric field:
     bool FiltersKeys = false;   ///< typed characters other than digits and Backspace are discarded
     bool IsPositive = false;    ///< a number of 0 or less becomes 1 while the user types
@@ -262,6 +276,7 @@ class TListView : public TControl {
     TNotifyEvent OnSelect;  ///< other rows than before are selected
     TNotifyEvent OnOpen;    ///< the focused row is to be opened
     TNotifyEvent OnDelete;  ///< the selected rows are to be deleted
+    TKeyEvent OnKey;  ///< told of Escape; with it, Enter and Escape are never those of the form's buttons
 
   private:
     std::vector<std::wstring> FColumns;

@@ -67,6 +67,10 @@ class TForm : public TControl {
 
     TNotifyEvent OnShow;  ///< runs once, just before the window becomes visible
 
+    TNotifyEvent OnFindKey;  ///< Ctrl+F is pressed, whatever has the focus
+
+    TControl* FirstFocus = nullptr;  ///< of a dialog: gets the focus instead of the first control
+
     TNotifyEvent OnComeBack;  ///< the user comes back to the form from another program
 
     /// A control of the form, or null for none.
@@ -89,6 +93,7 @@ class TForm : public TControl {
     // Called by the native window.
     void Show() { Fire(OnShow); }
     void ComeBack() { Fire(OnComeBack); }
+    void FindKey() { Fire(OnFindKey); }
 
   private:
     TControl& Create(TControl& parent, const TControlDesign& design);

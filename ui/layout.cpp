@@ -48,6 +48,14 @@ bool Stretches(const TLayoutBox& box) {
     }
 }
 
+/// Kinds that take the height that the others of their column leave, and that of their row.
+bool StretchesInColumn(const TLayoutBox& box) {
+    if (Stretches(box)) return true;
+    if (box.Kind == TLayoutKind::Column || box.Kind == TLayoutKind::Row)
+        return std::any_of(box.Boxes.begin(), box.Boxes.end(), StretchesInColumn);
+    return box.Kind == TLayoutKind::Control && box.Control->Kind() == TComponentKind::CategoryBar;
+}
+
 /// Kinds that grow with their row, though they never take height.
 bool StretchesInRow(const TLayoutBox& box) {
     if (Stretches(box)) return true;
@@ -346,7 +354,7 @@ void TLayout::PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& 
         if (IsAbsent(inner)) continue;
         heights[i] = Measure(inner, area.Width).Height;
         spare -= heights[i] + (std::exchange(any, true) ? GapBefore(box, i) : 0);
-        if (!Stretches(inner)) continue;
+        if (!StretchesInColumn(inner)) continue;
         shares += inner.Share;
         needed += heights[i];
     }
@@ -358,7 +366,7 @@ void TLayout::PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& 
         if (IsAbsent(inner)) continue;
         if (std::exchange(any, true)) top += GapBefore(box, i);
         int height = heights[i];
-        if (Stretches(inner)) {
+        if (StretchesInColumn(inner)) {
             needed -= height;
             height = std::clamp(shared * inner.Share / shares, height, shared - needed);
             shared -= height;
@@ -386,8 +394,7 @@ void TLayout::PutRow(const TLayoutBox& box, const TRect& area, const TFieldWidth
         size.Width = widths.WidthOf(inner, i, size.Width);
         if (StretchesInRow(inner)) size.Width += std::exchange(spare, 0);
         // Containers fill the height of their row; everything else is centred on its line.
-        const bool fills = Stretches(inner) || IsKind(inner, TComponentKind::CategoryBar);
-        const int height = fills ? area.Height : std::min(size.Height, area.Height);
+        const int height = StretchesInColumn(inner) ? area.Height : std::min(size.Height, area.Height);
         Put(inner, {left, area.Top + (area.Height - height) / 2, size.Width, height}, place);
         left += size.Width;
     }

@@ -67,11 +67,47 @@ TEST_F(TStart, TheTabKeyReachesEverythingAndChangesNothing) {
         ASSERT_TRUE(WaitUntil([&] { return window.FocusedControl() != before; })) << Utf8(before);
     }
     for (const wchar_t* stop :
-         {kMemoryItem, L"PageControl_MemoryAndCache", L"Checkbox_MemoryAndCache_MemoryManage_Pagefile_Delete",
+         {L"Edit_Find", kMemoryItem, L"PageControl_MemoryAndCache",
+          L"Checkbox_MemoryAndCache_MemoryManage_Pagefile_Delete",
           L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Allways", L"Button_OK", L"Button_Cancel"})
         EXPECT_TRUE(reached.contains(stop)) << Utf8(stop);
     EXPECT_FALSE(reached.contains(L"Radio_MemoryAndCache_MemoryUse_Program")) << "on another sheet";
     EXPECT_FALSE(reached.contains(L"Button_Apply")) << "disabled, for nothing is changed";
+}
+
+TEST_F(TStart, TheKeyboardFindsASettingAndLeadsBack) {
+    const TProgram program;
+    const TMainWindow& window = program.Window();
+    const auto waitFor = [&](const std::wstring& focused) {
+        EXPECT_TRUE(WaitUntil([&] { return window.FocusedControl() == focused; }))
+            << Utf8(focused) << ", not " << Utf8(window.FocusedControl());
+    };
+    waitFor(L"RzGroup_CommonSettings.Items[0]");
+    window.Click(kMemoryItem);
+    const std::wstring from = window.FocusedControl();
+    window.Type(L"Edit_Find", L"last access driver");
+    EXPECT_TRUE(window.Visible(L"ListView_Find"));
+    EXPECT_EQ(ShownPages(window), TNames());
+    ASSERT_FALSE(window.Rows(L"ListView_Find").empty());
+    window.Press(VK_DOWN);
+    waitFor(L"ListView_Find");
+    window.Press(VK_ESCAPE);
+    waitFor(from);
+    EXPECT_EQ(ShownPages(window), TNames{L"15"});
+    EXPECT_EQ(window.Text(L"Edit_Find"), L"");
+
+    window.Type(L"Edit_Find", L"last access driver");
+    window.Press(VK_RETURN);
+    waitFor(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData");
+    EXPECT_EQ(ShownPages(window), TNames{L"14"});
+    EXPECT_FALSE(window.Visible(L"ListView_Find"));
+
+    // What stands in the dialog is found, too.
+    window.Type(L"Edit_Find", L"checkbox_folder_desktop_recyclebin");
+    window.Press(VK_RETURN);
+    const TMainWindow dialog = TMainWindow::WaitFor(program.Id(), TMainWindow::kFolderClass);
+    EXPECT_TRUE(WaitUntil([&] { return dialog.FocusedControl() == L"Checkbox_Folder_Desktop_RecycleBin"; }))
+        << Utf8(dialog.FocusedControl());
 }
 
 TEST_F(TStart, ASecondInstanceRestoresTheFirstAndEnds) {

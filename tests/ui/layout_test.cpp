@@ -112,13 +112,18 @@ TEST(TLayoutTest, CentresInBothDirections) {
 TEST(TLayoutTest, GivesTheSpareRoomToTheNotebookAndCoversItWithThePanel) {
     const TRect area{8, 8, 700, 480};
     const TLaidOut laidOut(
-        {Row(CategoryBar(L"Bar", {CategoryGroup(L"G", L"Group", {CategoryItem(L"I", L"Item", 1, L"")})}),
+        {Row(Column(
+                 Edit(L"Find"),
+                 CategoryBar(L"Bar", {CategoryGroup(L"G", L"Group", {CategoryItem(L"I", L"Item", 1, L"")})})),
              Column(Overlay(Notebook(L"Book", {}), Panel(L"Panel", Label(L"Wait", L"Wait"))),
                     Buttons(Button(L"Ok", L"OK"), Button(L"Cancel", L"Cancel"))))},
         area);
     const TRect& bar = laidOut[L"Bar"];
     const TRect& book = laidOut[L"Book"];
-    EXPECT_EQ(bar.Height, area.Height);
+    EXPECT_EQ(laidOut[L"Find"].Top, area.Top);
+    EXPECT_EQ(laidOut[L"Find"].Width, bar.Width);
+    EXPECT_GT(bar.Top, TLaidOut::Bottom(laidOut[L"Find"]));
+    EXPECT_EQ(TLaidOut::Bottom(bar), TLaidOut::Bottom(area));
     EXPECT_GT(book.Left, TLaidOut::Right(bar));
     EXPECT_EQ(TLaidOut::Right(book), TLaidOut::Right(area));
     EXPECT_EQ(book.Top, area.Top);

@@ -90,6 +90,43 @@ TEST_F(TModal, EnterPressesAFocusedButtonAndElsewhereOkAfterTheFocusedEditIsComm
     EXPECT_EQ(std::exchange(Faults, 0), 5) << "a fault of the edit holds no button back";
 }
 
+TEST_F(TModal, KeysThatAControlTakesAreNotThoseOfTheForm) {
+    Dialog.Build(Dialog, Column(Edit(L"Find"), Table(L"Found", {L"A"})));
+    auto& field = *Dialog.Find<TEdit>(L"Find");
+    auto& list = *Dialog.Find<TListView>(L"Found");
+    const auto note = [this](const wchar_t* who) {
+        return [this, who](TKey key) {
+            Fired.push_back(who + std::to_wstring(static_cast<int>(key)));
+            return true;
+        };
+    };
+    field.SetCaption(L"Find something");
+    field.OnKey = note(L"field ");
+    field.OnEnter = [this](TControl& from) { Fired.push_back(L"from " + from.Name()); };
+    list.OnKey = note(L"list ");
+    Dialog.OnFindKey = [&](TComponent&) { Dialog.Reveal(field); };
+    Dialog.FirstFocus = &list;
+    Dialog.Find<TButton>(L"OK")->OnClick = Dialog.Find<TButton>(L"Cancel")->OnClick = Note;
+    BYTE keys[256]{};
+    Open([&] {
+        const auto post = [](const TControl& control, WPARAM key) {
+            PostMessageW(PeerOf(control)->Handle(), WM_KEYDOWN, key, 1);
+        };
+        EXPECT_EQ(GetFocus(), PeerOf(list)->Handle());
+        post(list, VK_RETURN);
+        post(list, VK_ESCAPE);
+        keys[VK_CONTROL] = 0x80;
+        SetKeyboardState(keys);
+        post(list, 'F');
+        for (const WPARAM key : {VK_RETURN, VK_ESCAPE, VK_DOWN}) post(field, key);
+        Dialog.Close();
+    });
+    keys[VK_CONTROL] = 0;
+    SetKeyboardState(keys);
+    EXPECT_EQ(Fired, (TNames{L"list 1", L"from Found", L"field 0", L"field 1", L"field 2"}));
+    EXPECT_EQ(field.Text(), L"");
+}
+
 TEST_F(TModal, ASentCloseEndsItAtOnce) {
     Open([&] { SendMessageW(HandleOf(Dialog), WM_CLOSE, 0, 0); });
     EXPECT_TRUE(IsWindowEnabled(HandleOf(Form)));

@@ -221,8 +221,20 @@ TEST_F(PaintTest, MarksComeAndGoAndFollowTheirControls) {
         HandleMessages();
         EXPECT_EQ(Difference(plain, PixelsOf(FormWindow())), 0) << testing::PrintToString(name);
     }
+    for (const wchar_t* name : {L"Box", L"UpDown", L"Combo"}) {
+        TControl& control = *Form.Find(name);
+        const std::vector<COLORREF> plain = PixelsOf(FormWindow());
+        control.SetFramed(true);
+        ExpectFreshlyDrawn("a frame");
+        EXPECT_GT(Difference(plain, PixelsOf(FormWindow())), 100) << testing::PrintToString(name);
+        control.SetFramed(false);
+        HandleMessages();
+        EXPECT_EQ(Difference(plain, PixelsOf(FormWindow())), 0) << testing::PrintToString(name);
+    }
     Mark(true);
+    Form.Find(L"Number")->SetFramed(true);
     ExpectSizesAreDrawnRight();
+    Form.Find(L"Number")->SetFramed(false);
     Mark(false);
     ExpectLikeNew("no marks");
 }

@@ -26,6 +26,11 @@ constexpr MSAAPROPID kRole{// PROPID_ACC_ROLE
                            0x7BD1,
                            0x4C05,
                            {0xB3, 0xC8, 0xE6, 0xC2, 0x41, 0x36, 0x4D, 0x70}};
+constexpr MSAAPROPID kName{// PROPID_ACC_NAME
+                           0x608D3DF8,
+                           0x8128,
+                           0x4AA7,
+                           {0xA4, 0x28, 0xF5, 0x5E, 0x49, 0x26, 0x72, 0x91}};
 constexpr auto kClient = static_cast<DWORD>(OBJID_CLIENT);
 
 }  // namespace
@@ -62,6 +67,16 @@ void TAccessibleDescriptions::Alert(HWND window) {
         service->SetHwndProp(window, kClient, CHILDID_SELF, kRole, role);
     }
     NotifyWinEvent(EVENT_SYSTEM_ALERT, window, OBJID_CLIENT, CHILDID_SELF);
+}
+
+void TAccessibleDescriptions::SetName(HWND window, const std::wstring& text) {
+    IAccPropServices* service = Service();
+    if (service == nullptr || !FNamed.insert(window).second) return;
+    service->SetHwndPropStr(window, kClient, CHILDID_SELF, kName, text.c_str());
+}
+
+void TAccessibleDescriptions::RemoveName(HWND window) {
+    if (FNamed.erase(window) != 0) FService->ClearHwndProps(window, kClient, CHILDID_SELF, &kName, 1);
 }
 
 void TAccessibleDescriptions::Remove(HWND window) {

@@ -1,9 +1,10 @@
-// What screen readers say of a window besides its name. Without the service for it, which Windows 2000 may lack, they say
+// What screen readers say of a window besides its name, and the name of one that has no label. Without the service for it, which Windows 2000 may lack, they say
 // no more than they did.
 #pragma once
 
 #include <windows.h>
 
+#include <set>
 #include <string>
 
 struct IAccPropServices;
@@ -19,6 +20,9 @@ class TAccessibleDescriptions {
     /// Has the text of the window said now, without its getting the focus.
     void Alert(HWND window);
     void Remove(HWND window);
+    /// Only the first name counts.
+    void SetName(HWND window, const std::wstring& text);
+    void RemoveName(HWND window);
 
   private:
     /// Asked for at the first description.
@@ -28,4 +32,5 @@ class TAccessibleDescriptions {
     HWND FAlert = nullptr;  ///< the window that is known as an alert
     HRESULT FInitialised = E_FAIL;
     IAccPropServices* FService = nullptr;
+    std::set<HWND> FNamed;
 };

@@ -75,7 +75,7 @@ TCategoryColors::TItem TCategoryColors::SystemItem(const TCategoryItem& item, bo
 
 TCategoryMetrics::TCategoryMetrics(const TScreen& screen) {
     const int line = screen.TextSize(L"0", 1 << 20).Height;
-    GroupGap = screen.Scale(3);
+    GroupGap = screen.Scale(1);
     MostGroupGap = screen.Scale(10);
     HeaderHeight = line + screen.Scale(5);
     HeaderIndent = screen.Scale(6);

@@ -70,10 +70,42 @@ void TEditPeer::ShowState() {
     FShowing = false;
 }
 
+void TEditPeer::PaintCue() const {
+    const std::wstring& cue = Control().Caption();
+    if (cue.empty() || GetFocus() == Handle() || GetWindowTextLengthW(Handle()) != 0) return;
+    RECT area{};
+    Send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&area));
+    const HDC target = GetDC(Handle());
+    const HGDIOBJ former = SelectObject(target, FForm.Screen().Font());
+    SetBkMode(target, TRANSPARENT);
+    SetTextColor(target, GetSysColor(COLOR_GRAYTEXT));
+    DrawTextW(target, cue.c_str(), static_cast<int>(cue.size()), &area,
+              DT_SINGLELINE | DT_END_ELLIPSIS | DT_NOPREFIX | DT_EDITCONTROL);
+    SelectObject(target, former);
+    ReleaseDC(Handle(), target);
+}
+
 LRESULT TEditPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto& edit = static_cast<const TEdit&>(Control());
+    TEdit& edit = Edit();
     if (message == WM_CHAR && !edit.AcceptsKey(static_cast<wchar_t>(wParam))) return 0;
-    return TWindowPeer::OnMessage(message, wParam, lParam);
+    if (edit.OnKey) {
+        if (const auto key = KeyDown(message, wParam); key && edit.OnKey(*key)) return 0;
+        if (message == WM_CHAR && (wParam == VK_RETURN || wParam == VK_ESCAPE)) return 0;  // it would beep
+        if (message == WM_GETDLGCODE && AsksForKey(lParam))
+            return TWindowPeer::OnMessage(message, wParam, lParam) | DLGC_WANTMESSAGE;
+    }
+    if (edit.Caption().empty()) return TWindowPeer::OnMessage(message, wParam, lParam);
+    // Only a screen reader asks: for nobody else the service that takes the name is started.
+    if (message == WM_GETOBJECT) FForm.Accessible().SetName(Handle(), edit.Caption());
+    const LRESULT result = TWindowPeer::OnMessage(message, wParam, lParam);
+    if (message == WM_PAINT) PaintCue();
+    if (message == WM_SETFOCUS || message == WM_KILLFOCUS) InvalidateRect(Handle(), nullptr, TRUE);
+    if (message == WM_SETFOCUS) {
+        Send(EM_SETSEL, 0, -1);  // a click then sets the caret
+        if (const TWindowPeer* from = FForm.PeerOf(reinterpret_cast<HWND>(wParam)))
+            edit.Enter(from->Control());
+    }
+    return result;
 }
 
 TComboBoxPeer::TComboBoxPeer(TFormWindow& form, TComboBox& box, HWND parent) : TWindowPeer(form, box) {

@@ -20,6 +20,10 @@ class TEditPeer : public TWindowPeer {
     [[nodiscard]] std::wstring WindowText() const override;
 
   private:
+    [[nodiscard]] TEdit& Edit() const { return static_cast<TEdit&>(Control()); }
+    /// Draws the caption into an edit that is empty. Windows could do that since XP, and only with a theme.
+    void PaintCue() const;
+
     bool FShowing = false;
     std::wstring FWhole;  ///< what the program showed last; the window may hold the beginning only
 };

@@ -115,7 +115,7 @@ int TFormWindow::Run() {
             continue;
         }
         FollowPointer(message);
-        if (StepSheet(message) || PressButton(message) || AskHelp(message)) continue;
+        if (StepSheet(message) || PressButton(message) || AskHelp(message) || PressFindKey(message)) continue;
         if (message.message == WM_QUIT) return static_cast<int>(message.wParam);
         if (Handle() == nullptr || !IsDialogMessageW(Handle(), &message)) {
             TranslateMessage(&message);
@@ -145,6 +145,7 @@ void TFormWindow::ShowModal(TForm& dialog) {
     const TDisabledWindow disabled(Handle(), FNextFocus);
     window.Show(SW_SHOW);
     SetFocus(GetNextDlgTabItem(window.Handle(), nullptr, FALSE));
+    if (dialog.FirstFocus != nullptr) dialog.Reveal(*dialog.FirstFocus);
     // The end of the program is the outer loop's affair.
     if (const int exitCode = window.Run(); window.Handle() != nullptr) {
         PostQuitMessage(exitCode);
@@ -195,6 +196,19 @@ bool TFormWindow::PressButton(const MSG& message) const {
     if (kind != TComponentKind::Button && kind != TComponentKind::CategoryItem) return false;
     SendMessageW(GetParent(message.hwnd), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(message.hwnd), BN_CLICKED),
                  reinterpret_cast<LPARAM>(message.hwnd));
+    return true;
+}
+
+bool TFormWindow::PressFindKey(const MSG& message) {
+    const auto isDown = [](int key) { return GetKeyState(key) < 0; };
+    if (message.message != WM_KEYDOWN || message.wParam != 'F' || !FForm.OnFindKey) return false;
+    if (!isDown(VK_CONTROL) || isDown(VK_MENU) || isDown(VK_SHIFT) || !IsWindowEnabled(Handle()))
+        return false;
+    try {
+        FForm.FindKey();
+    } catch (...) {
+        Fault(std::current_exception());
+    }
     return true;
 }
 

@@ -50,6 +50,7 @@ class TFormWindow : public TFormPeer {
     [[nodiscard]] const TScreen& Screen() const { return *FScreen; }
     [[nodiscard]] TPictureStore& Pictures() { return FPictures; }
     [[nodiscard]] TMarks& Marks() { return FMarks; }
+    [[nodiscard]] TAccessibleDescriptions& Accessible() { return FAccessible; }
 
     // For the peers.
     void Register(HWND window, TWindowPeer& peer) { FPeers[window] = &peer; }
@@ -98,6 +99,7 @@ class TFormWindow : public TFormPeer {
     bool NextMessage(MSG& message) const;
     bool StepSheet(const MSG& message) const;
     bool PressButton(const MSG& message) const;
+    bool PressFindKey(const MSG& message);
     void ScrollTo(HWND window) const;
     /// Scrolls what has got the focus into sight, and tells the form of it.
     void FollowFocus();
@@ -122,7 +124,8 @@ class TFormWindow : public TFormPeer {
     TFaultHandler FFaultHandler;
     std::unique_ptr<TScreen> FScreen = std::make_unique<TScreen>();
     TPictureStore FPictures;
-    TMarks FMarks;
+    TAccessibleDescriptions FAccessible;
+    TMarks FMarks{FAccessible};
     std::unordered_map<HWND, TWindowPeer*> FPeers;
     std::set<const TControl*> FChanged;  ///< containers to lay out
     std::deque<TControl*>

@@ -47,6 +47,7 @@ void TMarks::Remove(TWindowPeer& peer) {
 }
 
 void TMarks::Follow(HWND container) {
+    if (FFramed != nullptr && GetParent(FFramed->Handle()) == container) Frame(FFramed);
     for (auto& [peer, dot] : FDots) {
         if (GetParent(peer->Handle()) != container) continue;
         const RECT place = peer->DotPlace();
@@ -57,7 +58,22 @@ void TMarks::Follow(HWND container) {
     }
 }
 
+void TMarks::Frame(const TWindowPeer* peer) {
+    if (FFramed != nullptr) Redraw(*FFramed, FFrame);
+    FFramed = peer;
+    if (peer == nullptr) return;
+    FFrame = peer->FramePlace();
+    Redraw(*peer, FFrame);
+}
+
 void TMarks::Draw(HWND container, HDC target) const {
+    if (FFramed != nullptr && GetParent(FFramed->Handle()) == container) {
+        RECT frame = FFrame;
+        for (int width = FFramed->FrameWidth(); width > 0; --width) {
+            FrameRect(target, &frame, GetSysColorBrush(COLOR_HIGHLIGHT));
+            InflateRect(&frame, -1, -1);
+        }
+    }
     for (const auto& [peer, dot] : FDots) {
         if (GetParent(peer->Handle()) == container) DrawDot(target, dot, DotColor());
     }

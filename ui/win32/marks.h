@@ -1,5 +1,5 @@
 // The marks of a form's controls: a dot that the container of the control draws, a word for screen readers, and the window
-// property "ControlChanged" for other programs.
+// property "ControlChanged" for other programs. And the frame around a control that is to catch the eye.
 #pragma once
 
 #include <unordered_map>
@@ -18,14 +18,24 @@ void DrawDot(HDC target, const RECT& area, COLORREF color);
 
 class TMarks {
   public:
+    explicit TMarks(TAccessibleDescriptions& descriptions) : FDescriptions(descriptions) {}
+
     void Add(TWindowPeer& peer, const std::wstring& text);
     void Remove(TWindowPeer& peer);
     /// Lets the dots in a container follow the controls, which may have been moved, shown or hidden.
     void Follow(HWND container);
-    /// Draws the dots in a container.
+    /// Frames the control instead of the one that was framed; null frames none.
+    void Frame(const TWindowPeer* peer);
+    /// Takes the frame from the control if it has it.
+    void Unframe(const TWindowPeer& peer) {
+        if (FFramed == &peer) Frame(nullptr);
+    }
+    /// Draws the dots in a container, and the frame.
     void Draw(HWND container, HDC target) const;
 
   private:
     std::unordered_map<TWindowPeer*, RECT> FDots;  ///< and where they are in their containers
-    TAccessibleDescriptions FDescriptions;
+    const TWindowPeer* FFramed = nullptr;
+    RECT FFrame{};  ///< in its container
+    TAccessibleDescriptions& FDescriptions;
 };

@@ -9,10 +9,6 @@ namespace {
 
 constexpr WPARAM kSelectAll = 1;  // Ctrl+A as a character
 
-bool IsEnter(const MSG* message) {
-    return message != nullptr && message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
-}
-
 }  // namespace
 
 TTablePeer::TTablePeer(TFormWindow& form, TListView& list, HWND parent) : TListViewPeer(form, list) {
@@ -123,7 +119,7 @@ LRESULT TTablePeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     ++FDepth;
     const LRESULT result = OnKey(message, wParam) ? 0 : TWindowPeer::OnMessage(message, wParam, lParam);
     if (--FDepth == 0) FireEvents();
-    if (message == WM_GETDLGCODE && IsEnter(reinterpret_cast<const MSG*>(lParam)) && TakesEnter())
+    if (message == WM_GETDLGCODE && lParam != 0 && Takes(*reinterpret_cast<const MSG*>(lParam)))
         return result | DLGC_WANTMESSAGE;
     if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lParam)->code == HDN_ENDTRACKW)
         FHasOwnWidths = true;
@@ -133,6 +129,10 @@ LRESULT TTablePeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 bool TTablePeer::OnKey(UINT message, WPARAM key) {
     if (message == WM_KEYDOWN && key == VK_RETURN && TakesEnter()) {
         FOpened = FocusedRow();
+        return true;
+    }
+    if (message == WM_KEYDOWN && key == VK_ESCAPE && List().OnKey) {
+        FEscapes = true;
         return true;
     }
     if (message == WM_KEYDOWN && key == VK_DELETE) {
@@ -148,6 +148,11 @@ bool TTablePeer::OnKey(UINT message, WPARAM key) {
     return key < VK_SPACE;  // the list would look for a row that begins with it
 }
 
+bool TTablePeer::Takes(const MSG& message) const {
+    return (message.message == WM_KEYDOWN && message.wParam == VK_RETURN && TakesEnter()) ||
+           (List().OnKey && KeyDown(message.message, message.wParam));
+}
+
 bool TTablePeer::TakesEnter() const { return List().OnOpen && FocusedRow() >= 0; }
 
 /// They may have the window closed, or another one shown.
@@ -155,7 +160,9 @@ void TTablePeer::FireEvents() {
     TListView& list = List();
     const int opened = std::exchange(FOpened, -1);
     const bool deletes = std::exchange(FDeletes, false);
+    const bool escapes = std::exchange(FEscapes, false);
     if (std::exchange(FHasChanged, false)) list.SetSelected(SelectedRows(), FocusedRow());
     if (opened >= 0) list.Open(static_cast<std::size_t>(opened));
     if (deletes) list.Delete();
+    if (escapes) (void)list.OnKey(TKey::Escape);
 }

@@ -21,6 +21,8 @@ class TTablePeer : public TListViewPeer {
     void FitColumns() override;
     /// False when the list itself is to handle the message.
     bool OnKey(UINT message, WPARAM key);
+    /// Whether the message is a key that the list has a use for though the form has one, too.
+    [[nodiscard]] bool Takes(const MSG& message) const;
     /// Whether Enter opens a row; else it presses the default button.
     [[nodiscard]] bool TakesEnter() const;
     /// Tells what the user has done. Called when the message that it came from is done: a click first clears the
@@ -35,6 +37,7 @@ class TTablePeer : public TListViewPeer {
     int FDepth = 0;            ///< of the messages being handled
     bool FHasChanged = false;  ///< the user has changed the selection or the focus
     bool FDeletes = false;     ///< the user has pressed Delete
+    bool FEscapes = false;     ///< … Escape
     int FOpened = -1;          ///< the row that the user has opened
     bool FHasOwnWidths = false;
 };

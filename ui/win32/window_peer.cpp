@@ -6,6 +6,31 @@
 #include "ui/win32/automation_name.h"
 #include "ui/win32/form_window.h"
 
+namespace {
+
+constexpr int kFrameWidth = 2;  // at 96 dots per inch
+
+}  // namespace
+
+std::optional<TKey> KeyDown(UINT message, WPARAM wParam) {
+    if (message != WM_KEYDOWN) return std::nullopt;
+    switch (wParam) {
+        case VK_RETURN:
+            return TKey::Enter;
+        case VK_ESCAPE:
+            return TKey::Escape;
+        case VK_DOWN:
+            return TKey::Down;
+        default:
+            return std::nullopt;
+    }
+}
+
+bool AsksForKey(LPARAM lParam) {
+    const auto* message = reinterpret_cast<const MSG*>(lParam);
+    return message != nullptr && KeyDown(message->message, message->wParam);
+}
+
 TWindowPeer::~TWindowPeer() {
     const HWND handle = FHandle;
     Detach();
@@ -111,6 +136,22 @@ RECT TWindowPeer::DotPlace() const {
     return {right - size, top, right, top + size};
 }
 
+RECT TWindowPeer::FramePlace() const {
+    RECT place = PlaceInParent();
+    if (FControl.Kind() == TComponentKind::UpDown) {
+        const TEdit* edit = static_cast<const TUpDown&>(FControl).Associate();
+        if (const auto* peer = edit == nullptr ? nullptr : PeerOf(*edit)) {
+            const RECT number = peer->PlaceInParent();
+            UnionRect(&place, &place, &number);
+        }
+    }
+    const int distance = 2 * FrameWidth();
+    InflateRect(&place, distance, distance);
+    return place;
+}
+
+int TWindowPeer::FrameWidth() const { return FForm.Screen().Scale(kFrameWidth); }
+
 RECT TWindowPeer::PlaceInParent() const {
     RECT place{};
     GetWindowRect(FHandle, &place);
@@ -128,6 +169,8 @@ void TWindowPeer::ShowMark() {
 void TWindowPeer::Detach() {
     if (FHandle == nullptr) return;
     FForm.Marks().Remove(*this);
+    FForm.Marks().Unframe(*this);
+    FForm.Accessible().RemoveName(FHandle);
     RemoveAutomationName(FHandle);
     FForm.Unregister(FHandle);
     FHandle = nullptr;
@@ -171,6 +214,12 @@ void TWindowPeer::Update(TControlAspect aspect) {
             break;
         case TControlAspect::Mark:
             ShowMark();
+            break;
+        case TControlAspect::Frame:
+            if (FControl.Framed())
+                FForm.Marks().Frame(this);
+            else
+                FForm.Marks().Unframe(*this);
             break;
         case TControlAspect::Front:
         case TControlAspect::Back:

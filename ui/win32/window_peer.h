@@ -3,6 +3,9 @@
 
 #include <windows.h>
 
+#include <optional>
+
+#include "ui/controls.h"
 #include "ui/layout.h"
 // After windows.h, which it needs.
 #include <commctrl.h>
@@ -36,6 +39,10 @@ class TWindowPeer : public TPeer {
 
     /// Where in the parent the dot of a marked control is to be; empty while the control is not shown.
     [[nodiscard]] virtual RECT DotPlace() const;
+
+    /// Where in the parent the frame around the control is to be, and how wide it is drawn.
+    [[nodiscard]] RECT FramePlace() const;
+    [[nodiscard]] int FrameWidth() const;
 
     /// Forgets the window, which is about to be destroyed, and withdraws its automation name.
     void Detach();
@@ -84,6 +91,11 @@ class TWindowPeer : public TPeer {
     WNDPROC FBaseProc = nullptr;  ///< of the window's class, once it is subclassed
     TRect FPlace;
 };
+
+/// The key that the message says is pressed, if it is one that controls may take for themselves.
+[[nodiscard]] std::optional<TKey> KeyDown(UINT message, WPARAM wParam);
+/// Whether Windows asks by WM_GETDLGCODE who gets such a key.
+[[nodiscard]] bool AsksForKey(LPARAM lParam);
 
 /// The window that shows `control`; nullptr while it has none.
 [[nodiscard]] inline TWindowPeer* PeerOf(const TControl& control) {
