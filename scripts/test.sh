@@ -152,9 +152,10 @@ Check "completion of command lines" "$Checks/completion.sh"
 Check "reference of the settings" "$Checks/settings_reference.sh"
 for Target in win32 win64; do
     for File in Quilltune:GUI qtune:CUI; do
-        Name="$Target/${File%:*}.exe"
-        Check "imports of $Name" "$Checks/imports.sh" "$Root/dist/$Name"
-        Check "file $Name" "$Checks/program_file.sh" "$Root/dist/$Name" "${File#*:}"
+        Name=${File%:*}
+        Program="$Root/dist/$Target/$Name.exe"
+        Check "imports of $Name ($Target)" "$Checks/imports.sh" "$Program"
+        Check "file of $Name ($Target)" "$Checks/program_file.sh" "$Program" "${File#*:}"
     done
 done
 
