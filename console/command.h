@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <span>
 
 #include "console/texts.h"
 #include "console/value.h"
@@ -90,9 +89,6 @@ struct TCommand {
 };
 
 inline constexpr std::size_t kAnyNumber = static_cast<std::size_t>(-1);
-
-/// In the order in which help lists them.
-[[nodiscard]] std::span<const TCommand> Commands();
 
 // console/questions.cpp
 void ListSettings(TTask& task);

@@ -8,6 +8,7 @@
 
 namespace {
 
+/// In the order in which help lists them.
 constexpr TCommand kCommands[] = {
     {L"list", L"[PAGE]", 0, 1, false, false, TText::HelpList, L"qtune list \"Task Bar\"", ListSettings},
     {L"find", L"TEXT...", 1, kAnyNumber, false, false, TText::HelpFind, L"qtune find recycle bin",
@@ -170,8 +171,6 @@ TWrongUsage TTask::Unknown(TText message, const std::wstring& typed,
     if (!nearest.empty()) text = Texts(TText::DidYouMean, {std::move(text), std::move(nearest)});
     return {std::move(text)};
 }
-
-std::span<const TCommand> Commands() { return kCommands; }
 
 TExitStatus RunCommandLine(TSystem& system, const std::vector<std::wstring>& arguments, TConsole& console) {
     const TWords words = Sort(arguments);
