@@ -11,3 +11,10 @@ std::wstring DecimalText(std::int64_t number, std::size_t digits) {
     const std::string_view text(buffer, static_cast<std::size_t>(end - buffer));
     return std::wstring(std::max(digits, text.size()) - text.size(), L'0').append(text.begin(), text.end());
 }
+
+std::wstring HexText(std::uint64_t number, std::size_t digits, const wchar_t* numerals) {
+    std::wstring text;
+    for (; number != 0 || text.size() < digits; number >>= 4) text += numerals[number & 15];
+    std::ranges::reverse(text);
+    return text;
+}

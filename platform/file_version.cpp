@@ -2,6 +2,8 @@
 
 #include <span>
 
+#include "base/decimal.h"
+
 namespace {
 
 using TByteSpan = std::span<const std::uint8_t>;
@@ -24,20 +26,17 @@ constexpr TVersionText kTexts[] = {
     {L"ProductName", &TFileVersionRecord::ProductName},
     {L"ProductVersion", &TFileVersionRecord::ProductVersion},
 };
-constexpr int kTextCount = static_cast<int>(std::size(kTexts));
+constexpr int kRecordCount = static_cast<int>(std::size(kTexts));
 
 /// The 16-bit number with the low byte first as four hexadecimal digits.
-std::wstring Hex(TByteSpan word) {
-    constexpr std::wstring_view kDigits = L"0123456789ABCDEF";
-    return {kDigits[word[1] >> 4], kDigits[word[1] & 15], kDigits[word[0] >> 4], kDigits[word[0] & 15]};
-}
+std::wstring WordText(TByteSpan word) { return HexText(word[1], 2) + HexText(word[0], 2); }
 
 /// Where the texts of the first language are, with trailing delimiter; nothing when no language is given.
 std::optional<std::wstring> TextFolder(const TVersionResource& resource) {
     const auto translation = resource.Block(L"\\VarFileInfo\\Translation");
     if (!translation || translation->size() < 4) return std::nullopt;
     const TByteSpan bytes(*translation);
-    return L"\\StringFileInfo\\" + Hex(bytes.first(2)) + Hex(bytes.subspan(2, 2)) + L'\\';
+    return L"\\StringFileInfo\\" + WordText(bytes.first(2)) + WordText(bytes.subspan(2, 2)) + L'\\';
 }
 
 std::uint32_t Dword(TByteSpan bytes) {
@@ -68,6 +67,6 @@ bool GetFileVersionInfoRecord(const TSystem& system, const std::wstring& fileNam
 std::wstring GetFileVersionField(const TSystem& system, const std::wstring& fileName, int index) {
     TFileVersionRecord record;
     if (!GetFileVersionInfoRecord(system, fileName, record, L"WOW Version")) return L"Unknown";
-    if (index == kTextCount) return record.Extra;
-    return index >= 0 && index < kTextCount ? record.*kTexts[index].Field : L"";
+    if (index == kRecordCount) return record.Extra;
+    return index >= 0 && index < kRecordCount ? record.*kTexts[index].Field : L"";
 }

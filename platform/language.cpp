@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::wstring_view kExtension = L".lng";
+constexpr std::wstring_view kLanguageExtension = L".lng";
 
 /// The key of the i-th of the texts of a list, such as ComboBox1.Items[0].Caption.
 std::wstring KeyOf(const TComponent& component, const wchar_t* list, std::size_t i) {
@@ -33,7 +33,7 @@ void TLanguage::ScanFolder(const std::wstring& folder) {
     FFolder = folder;
     if (FFolder.ends_with(L'\\')) FFolder.pop_back();
     for (const std::wstring& file : FSystem.Files.List(FFolder, L"*.lng")) {
-        FFileNames.push_back(file.substr(0, file.size() - kExtension.size()));
+        FFileNames.push_back(file.substr(0, file.size() - kLanguageExtension.size()));
         FIndex = static_cast<int>(FFileNames.size()) - 1;
         LoadLanguage(FFileNames.back());
         const std::wstring& name = FFileNames[static_cast<std::size_t>(FIndex)];
@@ -51,7 +51,7 @@ bool TLanguage::TryLoad(const std::wstring& name) {
     const auto found =
         std::ranges::find_if(FFileNames, [&](const auto& file) { return SameText(file, name); });
     if (found == FFileNames.end()) return false;
-    if (!FIni.LoadFromFile(FSystem, FFolder + L'\\' + name + std::wstring(kExtension))) return false;
+    if (!FIni.LoadFromFile(FSystem, FFolder + L'\\' + name + std::wstring(kLanguageExtension))) return false;
     FIndex = static_cast<int>(found - FFileNames.begin());
     FModuleStrings = FIni.ReadSectionValues(FModuleName + L"_M");
     return true;

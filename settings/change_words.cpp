@@ -9,7 +9,7 @@ namespace {
 constexpr std::size_t kMostCharacters = 200;
 
 // The REG_… types, as documented.
-constexpr std::uint32_t kText = 1;
+constexpr std::uint32_t kOneString = 1;
 constexpr std::uint32_t kExpandText = 2;
 constexpr std::uint32_t kDword = 4;
 constexpr std::uint32_t kTexts = 7;
@@ -34,9 +34,7 @@ const wchar_t* NameOf(TRootKey root) {
 }
 
 std::wstring Hex(std::uint64_t number, std::size_t digits) {
-    std::wstring text;
-    for (std::size_t i = digits; i-- > 0;) text += L"0123456789abcdef"[number >> (4 * i) & 0xF];
-    return text;
+    return HexText(number, digits, kSmallHexDigits);
 }
 
 std::uint64_t NumberOf(const TBytes& bytes) {
@@ -68,7 +66,7 @@ std::wstring TextIn(const TBytes& bytes) {
 /// What tells apart values that would read alike; nothing for the types that nearly all values have.
 std::wstring TypeMark(std::uint32_t type) {
     constexpr std::uint32_t kBinary = 3;
-    if (type == kText || type == kDword || type == kBinary) return {};
+    if (type == kOneString || type == kDword || type == kBinary) return {};
     if (type == kExpandText) return L" [REG_EXPAND_SZ]";
     if (type == kTexts) return L" [REG_MULTI_SZ]";
     if (type == kQword) return L" [REG_QWORD]";
@@ -83,7 +81,8 @@ std::wstring Words(const TRawValue& value) {
         return L"0x" + Hex(number, 2 * value.Bytes.size()) + L" (" +
                DecimalText(static_cast<std::int64_t>(number)) + L")";
     }
-    if (value.Type == kText || value.Type == kExpandText || value.Type == kTexts) return TextIn(value.Bytes);
+    if (value.Type == kOneString || value.Type == kExpandText || value.Type == kTexts)
+        return TextIn(value.Bytes);
     return HexBytes(value.Bytes);
 }
 

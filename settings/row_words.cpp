@@ -13,12 +13,7 @@ using TText = std::wstring;
 
 TText Code(const TText& text) { return L'`' + text + L'`'; }
 
-TText Hex(std::uint32_t number) {
-    TText text;
-    do text.insert(text.begin(), L"0123456789ABCDEF"[number % 16]);
-    while ((number /= 16) != 0);
-    return L"0x" + text;
-}
+TText Hex(std::uint32_t number) { return L"0x" + HexText(number); }
 
 TText Words(const TDatum& datum);
 

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "base/decimal.h"
 #include "base/win32/late_bound.h"
 
 namespace {
@@ -34,12 +35,7 @@ constexpr THardwareFault kHardwareFaults[] = {
     {EXCEPTION_FLT_INVALID_OPERATION, L"EInvalidOp", L"Invalid floating-point operation"},
 };
 
-/// In hexadecimal, as wide as an address of the process unless told.
-std::wstring Hex(ULONG_PTR number, std::size_t digits = 2 * sizeof(ULONG_PTR)) {
-    std::wstring text(digits, L'0');
-    for (; digits > 0; number >>= 4) text[--digits] = L"0123456789ABCDEF"[number & 15];
-    return text;
-}
+std::wstring AddressText(ULONG_PTR address) { return HexText(address, 2 * sizeof(address)); }
 
 const THardwareFault* Find(DWORD code) {
     for (const THardwareFault& fault : kHardwareFaults)
@@ -54,12 +50,13 @@ std::wstring TypeOf(const EXCEPTION_RECORD& fault) {
 
 std::wstring MessageOf(const EXCEPTION_RECORD& fault) {
     const THardwareFault* known = Find(fault.ExceptionCode);
-    std::wstring text = known != nullptr ? known->What : L"External exception " + Hex(fault.ExceptionCode, 8);
-    text += L" at address " + Hex(reinterpret_cast<ULONG_PTR>(fault.ExceptionAddress)) + L'.';
+    std::wstring text =
+        known != nullptr ? known->What : L"External exception " + HexText(fault.ExceptionCode, 8);
+    text += L" at address " + AddressText(reinterpret_cast<ULONG_PTR>(fault.ExceptionAddress)) + L'.';
     if (fault.ExceptionCode == EXCEPTION_ACCESS_VIOLATION && fault.NumberParameters >= 2) {
         const ULONG_PTR access = fault.ExceptionInformation[0];
         text += access == 0 ? L" Read of" : access == 1 ? L" Write of" : L" Execution of";
-        text += L" address " + Hex(fault.ExceptionInformation[1]) + L'.';
+        text += L" address " + AddressText(fault.ExceptionInformation[1]) + L'.';
     }
     return text;
 }

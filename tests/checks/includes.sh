@@ -3,7 +3,8 @@
 # - a floor includes itself and the floors below it, by paths from the project's folder;
 # - of platform, only what works on forms includes ui, and of ui only the controls;
 # - outside a win32 folder there is no header of Windows or C, and none from a win32 folder;
-# - only base/win32/late_bound.cpp looks functions up at run time.
+# - only base/win32/late_bound.cpp looks functions up at run time;
+# - no file includes a header twice.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -21,6 +22,7 @@ find console app settings engine platform ui base -name '*.h' -o -name '*.cpp' |
             Complain("works on more than the controls of forms: " Part[2])
         if (Portable && Part[2] ~ /\/win32\//) Complain("portable code includes " Part[2])
     }
+    /^[ \t]*#[ \t]*include/ { if (Seen[FILENAME, $2]++) Complain("includes " $2 " twice") }
     /^[ \t]*#[ \t]*include[ \t]*<.*\.h>/ && Portable { Complain("portable code includes a header of Windows or C") }
     /GetProcAddress|LoadLibrary/ && FILENAME != "base/win32/late_bound.cpp" && !/^[ \t]*\/\// {
         Complain("functions are looked up in base/win32/late_bound.cpp only")
