@@ -124,6 +124,7 @@ void TQuilltune_FormMain::FormShow() {
             FLanguage->LoadLanguage(GetSuiteLanguage(FSystem));
             FContext.Captions.Load(*FLanguage);
             MarkText = FContext.Captions[TCaption::Changed];
+            SelectedText = FContext.Captions[TCaption::Selected];
             Find(L"Edit_Find")->SetCaption(FContext.Captions[TCaption::FindSetting]);
             FLanguage->Translate(*this);
             Switches.front().Caption = FContext.Captions[TCaption::DetailsShow];

@@ -53,6 +53,7 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_OneChange", L"1 change\u2026"},
     {L"D_ManyChanges", L"%1 changes\u2026"},
     {L"D_Changed", L"changed"},
+    {L"D_Selected", L"selected"},
     {L"D_DetailsStored", L"stored: %1"},
     {L"D_DetailsPending", L"after Apply: %1 (pending)"},
     {L"D_DetailsNotChanged", L"not changed"},

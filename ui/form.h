@@ -63,7 +63,8 @@ class TForm : public TControl {
     int ClientHeight = 532;
     bool CanMaximise = false;  ///< of a dialog; the main window always can
 
-    std::wstring MarkText = L"changed";  ///< what a screen reader says of a marked control
+    std::wstring MarkText = L"changed";       ///< what a screen reader says of a marked control …
+    std::wstring SelectedText = L"selected";  ///< … and of the selected item of a category bar
 
     TNotifyEvent OnShow;  ///< runs once, just before the window becomes visible
 

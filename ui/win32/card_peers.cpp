@@ -27,7 +27,7 @@ TCardPeer::TCardPeer(TFormWindow& form, TPanel& card, HWND parent)
 void TCardPeer::Update(TControlAspect aspect) {
     if (aspect != TControlAspect::Caption) return TContainerPeer::Update(aspect);
     SetWindowTextW(Handle(), WindowText().c_str());
-    if (IsWindowVisible(Handle())) FDescriptions.Alert(Handle());
+    if (IsWindowVisible(Handle())) NotifyWinEvent(EVENT_SYSTEM_ALERT, Handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 LRESULT TCardPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {

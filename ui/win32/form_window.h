@@ -7,6 +7,7 @@
 #include <unordered_map>
 
 #include "ui/form.h"
+#include "ui/win32/accessible_description.h"
 #include "ui/win32/container_peer.h"
 #include "ui/win32/marks.h"
 #include "ui/win32/picture_store.h"
@@ -125,7 +126,7 @@ class TFormWindow : public TFormPeer {
     std::unique_ptr<TScreen> FScreen = std::make_unique<TScreen>();
     TPictureStore FPictures;
     TAccessibleDescriptions FAccessible;
-    TMarks FMarks{FAccessible};
+    TMarks FMarks;
     std::unordered_map<HWND, TWindowPeer*> FPeers;
     std::set<const TControl*> FChanged;  ///< containers to lay out
     std::deque<TControl*>
