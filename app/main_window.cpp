@@ -15,7 +15,6 @@ namespace {
 
 constexpr TColor kPlainItemColor = 0xC56A31;
 constexpr TColor kSelectedItemColor = 0xC65D21;
-constexpr int kHeight = 536;
 constexpr int kFrameCount = 7;
 constexpr int kTimerInterval = 100;
 constexpr int kIdleInterval = 300;
@@ -46,7 +45,6 @@ TQuilltune_FormMain::TQuilltune_FormMain(TSystem& system)
       FFirefox(system),
       FContext{.System = system, .Form = *this, .Changes = FChanges, .Firefox = FFirefox} {
     SetCaption(L"Quilltune");
-    ClientHeight = kHeight;
     BuildControls();
     BindEvents();
     FormCreate();

@@ -10,7 +10,8 @@ bool ShowsCaption(const TControl& control) {
 /// A label with a number says how a field stands, not what it is for.
 bool ShowsValue(const TControl& control) {
     const std::wstring& caption = control.Caption();
-    return control.Kind() == TComponentKind::Label && !caption.empty() && caption[0] >= L'0' && caption[0] <= L'9';
+    return control.Kind() == TComponentKind::Label && !caption.empty() && caption[0] >= L'0' &&
+           caption[0] <= L'9';
 }
 
 }  // namespace
@@ -39,7 +40,8 @@ std::wstring SpokenName(const TControl& control) {
         case TComponentKind::ComboBox:
         case TComponentKind::ColorSwatch:
         case TComponentKind::ListView:
-            return PlainCaption(control.Caption().empty() ? CaptionedBy(control).Caption() : control.Caption());
+            return PlainCaption(control.Caption().empty() ? CaptionedBy(control).Caption()
+                                                          : control.Caption());
         default:
             return {};
     }

@@ -110,11 +110,12 @@ class TAccessibility : public THasService, public TPeerBench {
 };
 
 TEST_F(TAccessibility, FieldsAreCalledWhatStandsBesideThem) {
-    Form.Build(Form, Column(Group(L"Group", L"&Group", ComboBox(L"First", {L"a"}),
-                                  Row(Label(L"L", L"&Size:"), Edit(L"Size"), UpDown(L"Arrows", L"Size", 1, 9, 1)),
-                                  Row(Button(L"Color", L"&Colour\u2026"), ColorSwatch(L"Swatch")),
-                                  Label(L"Value", L"1 ms"), TrackBar(L"Track", 0, 9, 1)),
-                            Table(L"Table", {L"A"}), ListView(L"List", {L"A"}), Edit(L"Find")));
+    Form.Build(Form,
+               Column(Group(L"Group", L"&Group", ComboBox(L"First", {L"a"}),
+                            Row(Label(L"L", L"&Size:"), Edit(L"Size"), UpDown(L"Arrows", L"Size", 1, 9, 1)),
+                            Row(Button(L"Color", L"&Colour\u2026"), ColorSwatch(L"Swatch")),
+                            Label(L"Value", L"1 ms"), TrackBar(L"Track", 0, 9, 1)),
+                      Table(L"Table", {L"A"}), ListView(L"List", {L"A"}), Edit(L"Find")));
     Form.SetCaption(L"Form");
     Form.Find(L"Find")->SetCaption(L"Find it");
     Form.Find(L"Table")->SetCaption(L"Found");
@@ -137,9 +138,10 @@ TEST_F(TAccessibility, FieldsAreCalledWhatStandsBesideThem) {
 }
 
 TEST_F(TAccessibility, ChangedAndSelectedAreSaid) {
-    Form.Build(Form,
-               Column(CategoryBar(L"Bar", {CategoryGroup(L"G", L"G", {CategoryItem(L"A", L"A", 1, L"general")})}),
-                      CheckBox(L"Box", L"Box"), Card(L"Card", Label(L"Text", L"Text"))));
+    Form.Build(
+        Form,
+        Column(CategoryBar(L"Bar", {CategoryGroup(L"G", L"G", {CategoryItem(L"A", L"A", 1, L"general")})}),
+               CheckBox(L"Box", L"Box"), Card(L"Card", Label(L"Text", L"Text"))));
     auto& item = Get<TCategoryItem>(L"A");
     Show();
     item.SetSelected(true);

@@ -1,17 +1,19 @@
 // The native window of a form, and what all its peers share.
 #pragma once
 
-#include <deque>
 #include <exception>
 #include <set>
 #include <unordered_map>
 
 #include "ui/form.h"
 #include "ui/win32/accessible_description.h"
+#include "ui/win32/attention.h"
 #include "ui/win32/container_peer.h"
 #include "ui/win32/marks.h"
+#include "ui/win32/page_filler.h"
 #include "ui/win32/picture_store.h"
 #include "ui/win32/screen.h"
+#include "ui/win32/window_menu.h"
 
 class TTimer;
 
@@ -47,7 +49,7 @@ class TFormWindow : public TFormPeer {
 
     [[nodiscard]] HWND Handle() const { return FWindow.Handle(); }
     [[nodiscard]] HINSTANCE Instance() const { return FInstance; }
-    [[nodiscard]] const TForm& Form() const { return FForm; }
+    [[nodiscard]] TForm& Form() const { return FForm; }
     [[nodiscard]] const TScreen& Screen() const { return *FScreen; }
     [[nodiscard]] TPictureStore& Pictures() { return FPictures; }
     [[nodiscard]] TMarks& Marks() { return FMarks; }
@@ -57,15 +59,20 @@ class TFormWindow : public TFormPeer {
     void Register(HWND window, TWindowPeer& peer) { FPeers[window] = &peer; }
     void Unregister(HWND window) { FPeers.erase(window); }
     [[nodiscard]] TWindowPeer* PeerOf(HWND window) const;
+    /// The control of a window or of one around it; null when there is none.
+    [[nodiscard]] TControl* ControlOf(HWND window) const;
+    /// Scrolls a control's window into sight.
+    void ScrollTo(HWND window) const;
+    /// Fires an event of the form; its fault is told like that of any handler.
+    void Tell(const TForm::TControlEvent& event, TControl* control) const;
     [[nodiscard]] int CommandId(const TControl& control);
     /// Lays the control's container out anew once the present message is handled.
     void LayOutLater(const TControl& control);
     void Fault(std::exception_ptr fault) const;
     /// Commits the edit that has the focus: a button can be pressed without taking the focus from it.
     void CommitFocus() const;
-    /// Creates what is to be seen of a notebook page, as far as it does not exist yet: its window, its content and that
-    /// of its sheets.
-    void CreatePage(TControl& page);
+    /// See TPageFiller.
+    void CreatePage(TControl& page) { FFiller.CreatePage(page); }
     /// Lets the timer tick until StopTimer; the answer identifies it.
     [[nodiscard]] unsigned StartTimer(TTimer& timer);
     void StopTimer(unsigned id);
@@ -81,38 +88,23 @@ class TFormWindow : public TFormPeer {
         void Restyle() override;
 
       private:
-        void AddSwitches();
-        void ShowSwitches() const;
-        bool PressSwitch(WPARAM command);
         /// The size of the window that gives the form its client area, no larger than the work area.
         [[nodiscard]] SIZE DesignedSize(const RECT& work) const;
         void SetInitialSize();
 
         TFormWindow& FFormWindow;
+        TWindowMenu FMenu;
         SIZE FMinimum{};
     };
 
+    // Posted to itself.
+    static constexpr UINT kLayOutMessage = WM_APP;        ///< containers wait to be laid out
+    static constexpr UINT kRestyleMessage = WM_APP + 1;   ///< the look of Windows has changed
+    static constexpr UINT kComeBackMessage = WM_APP + 2;  ///< another program was in front
+
     /// Whether this is a dialog that is closed.
     [[nodiscard]] bool IsOver() const { return FOwner != nullptr && Handle() == nullptr; }
-    bool CreateNext();
-    /// Whether the notebook's first page is still being created.
-    [[nodiscard]] bool CreatesFirstPage() const;
     bool NextMessage(MSG& message) const;
-    bool StepSheet(const MSG& message) const;
-    bool PressButton(const MSG& message) const;
-    bool PressFindKey(const MSG& message);
-    void ScrollTo(HWND window) const;
-    /// Scrolls what has got the focus into sight, and tells the form of it.
-    void FollowFocus();
-    /// Waits for the pointer's rest when it has moved.
-    void FollowPointer(const MSG& message);
-    void PointerRests();
-    bool AskHelp(const MSG& message) const;
-    /// The control of a window or of one around it; null when there is none.
-    [[nodiscard]] TControl* ControlOf(HWND window) const;
-    /// The control below a point of the screen, enabled or not.
-    [[nodiscard]] TControl* ControlAt(POINT point) const;
-    void Tell(const TForm::TControlEvent& event, TControl* control) const;
     void LayOutChanged();
     /// Follows a change of the look of Windows once the present message is handled.
     void RestyleLater();
@@ -129,11 +121,9 @@ class TFormWindow : public TFormPeer {
     TMarks FMarks;
     std::unordered_map<HWND, TWindowPeer*> FPeers;
     std::set<const TControl*> FChanged;  ///< containers to lay out
-    std::deque<TControl*>
-        FUnfilled;  ///< pages and sheets that may lack content, in the order of its creation
+    TPageFiller FFiller{*this};
+    TAttention FAttention{*this};
     std::unordered_map<unsigned, TTimer*> FTimers;
-    HWND FFocus = nullptr;  ///< as the form knows it
-    POINT FPointer{};
     HWND FNextFocus = nullptr;  ///< gets the focus when the window waits no longer for a dialog
     bool FRestyles = false;     ///< a change of the look waits
     int FLastCommandId = 100;

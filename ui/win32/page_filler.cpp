@@ -1,0 +1,69 @@
+#include "ui/win32/page_filler.h"
+
+#include "ui/win32/form_window.h"
+#include "ui/win32/page_peers.h"
+
+namespace {
+
+/// Null when a fault kept it from being created.
+TContainerPeer* ContainerOf(const TControl& control) { return static_cast<TContainerPeer*>(control.Peer()); }
+
+/// The notebook page that a sheet lies on, or that the control is; null for a sheet of a dialog.
+const TControl* PageOf(const TControl& control) {
+    const TControl* page = &control;
+    while (page != nullptr && page->Kind() != TComponentKind::NotebookPage) page = page->Parent();
+    return page;
+}
+
+}  // namespace
+
+void TPageFiller::FillSheets(const TControl& container) {
+    for (const TControl* tabs : container.Children()) {
+        if (tabs->Kind() != TComponentKind::PageControl) continue;
+        for (const TControl* sheet : tabs->Children())
+            if (TContainerPeer* peer = ContainerOf(*sheet)) peer->Fill();
+    }
+}
+
+void TPageFiller::Start() {
+    for (const auto& component : FForm.Form().Components()) {
+        const TComponentKind kind = component->Kind();
+        if (kind == TComponentKind::NotebookPage || kind == TComponentKind::TabSheet)
+            FUnfilled.push_back(static_cast<TControl*>(component.get()));
+    }
+}
+
+void TPageFiller::CreatePage(TControl& page) {
+    auto* notebook = static_cast<TNotebookPeer*>(page.Parent()->Peer());
+    if (page.Peer() == nullptr && notebook != nullptr) notebook->CreatePage(page);
+    if (TContainerPeer* peer = ContainerOf(page)) {
+        peer->Fill();
+        peer->CatchUp();  // the sheets get their size before their content
+    }
+    // All of them, so that whoever looks for a control finds it when its page is shown.
+    FillSheets(page);
+}
+
+bool TPageFiller::CreatesFirstPage() const {
+    if (FUnfilled.empty()) return false;
+    const TControl* page = PageOf(*FUnfilled.front());
+    return page != nullptr && page == page->Parent()->Children().front();
+}
+
+bool TPageFiller::CreateNext() {
+    if (FForm.Handle() == nullptr || FUnfilled.empty()) return false;
+    TControl* control = FUnfilled.front();
+    bool isFilled = true;  // what a fault keeps from being created is not tried again
+    try {
+        if (TContainerPeer* peer = ContainerOf(*control)) {
+            isFilled = !peer->FillNext();
+        } else if (auto* notebook = dynamic_cast<TNotebookPeer*>(control->Parent()->Peer())) {
+            notebook->CreatePage(*control);
+            isFilled = control->Peer() == nullptr;
+        }
+    } catch (...) {
+        FForm.Fault(std::current_exception());
+    }
+    if (isFilled) std::erase(FUnfilled, control);
+    return true;
+}

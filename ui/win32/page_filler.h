@@ -1,0 +1,29 @@
+// Creates the windows of notebook pages and of sheets: at once when they are shown, else while nothing else is to do.
+#pragma once
+
+#include <deque>
+
+class TControl;
+class TFormWindow;
+
+class TPageFiller {
+  public:
+    explicit TPageFiller(TFormWindow& form) : FForm(form) {}
+
+    /// Notes what there is to create; called before the first window is.
+    void Start();
+    /// Creates what is to be seen of a notebook page, as far as it does not exist yet: its window, its content and that
+    /// of its sheets.
+    void CreatePage(TControl& page);
+    /// Creates the content of the sheets in a container.
+    static void FillSheets(const TControl& container);
+    /// Creates or places one more control of the pages and sheets; false when there is nothing left to do.
+    bool CreateNext();
+    /// Whether the notebook's first page is still being created.
+    [[nodiscard]] bool CreatesFirstPage() const;
+
+  private:
+    TFormWindow& FForm;
+    std::deque<TControl*>
+        FUnfilled;  ///< pages and sheets that may lack content, in the order of its creation
+};
