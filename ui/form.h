@@ -72,6 +72,10 @@ class TForm : public TControl {
 
     TControl* FirstFocus = nullptr;  ///< of a dialog: gets the focus instead of the first control
 
+    /// Parts of the window: F6 leads from one to the next and Shift+F6 back, to where the focus was last in it, else to the
+    /// first of its controls that can have it. Each part is what lies in these controls, or is one of them.
+    std::vector<std::vector<TControl*>> Panes;
+
     TNotifyEvent OnComeBack;  ///< the user comes back to the form from another program
 
     /// A control of the form, or null for none.

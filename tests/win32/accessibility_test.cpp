@@ -8,6 +8,7 @@
 #include "tests/fakes/fake_system.h"
 #include "tests/win32/peer_bench.h"
 #include "ui/containers.h"
+#include "ui/win32/form_keys.h"
 
 namespace {
 
@@ -188,6 +189,46 @@ TEST_F(TAccessibility, WhatChangesByItselfIsSaidAtOnce) {
     Form.Find(L"Box")->SetMarked(true);
     EXPECT_TRUE(TEvents::Tell(Window(L"Card"), EVENT_SYSTEM_ALERT));
     EXPECT_TRUE(TEvents::Tell(Window(L"Box"), EVENT_OBJECT_DESCRIPTIONCHANGE));
+}
+
+TEST_F(TAccessibility, KeysLeadFromPartToPartAndFromSheetToSheet) {
+    Form.Build(
+        Form, Column(Edit(L"Find"),
+                     Notebook(L"Pages",
+                              {NotebookPage(1, PageControl(L"Tabs", Sheet(L"A", L"A", CheckBox(L"InA", L"A")),
+                                                           Sheet(L"B", L"B", CheckBox(L"InB", L"B"))))}),
+                     Row(Button(L"OK", L"OK"), Button(L"Apply", L"Apply"))));
+    Form.Find(L"OK")->SetEnabled(false);
+    Form.Panes = {{Form.Find(L"Find")}, {Form.Find(L"Pages")}, {Form.Find(L"OK"), Form.Find(L"Apply")}};
+    Get<TNotebook>(L"Pages").ShowPage(L"1");
+    Show();
+    auto& window = static_cast<TFormWindow&>(*Form.Peer());
+    const auto press = [&](WPARAM key, int with = 0) {
+        BYTE keys[256]{};
+        keys[with] = with == 0 ? 0 : 0x80;
+        SetKeyboardState(keys);
+        const bool isUsed = PressFormKey(window, {GetFocus(), WM_KEYDOWN, key, 1, 0, {}});
+        keys[with] = 0;
+        SetKeyboardState(keys);
+        window.Panes().Note(GetFocus());
+        const TControl* control = window.ControlOf(GetFocus());
+        return isUsed && control != nullptr ? control->Name() : L"";
+    };
+    SetFocus(Window(L"Find"));
+    EXPECT_EQ(press(VK_F6), L"InA");
+    EXPECT_EQ(press(VK_NEXT, VK_CONTROL), L"Tabs");
+    EXPECT_EQ(Get<TPageControl>(L"Tabs").ActiveSheet()->Name(), L"B");
+    SetFocus(Window(L"InB"));
+    window.Panes().Note(GetFocus());
+    EXPECT_EQ(press(VK_F6), L"Apply") << "the first that is enabled";
+    EXPECT_EQ(press(VK_F6), L"Find");
+    EXPECT_EQ(press(VK_F6), L"InB") << "where the user was";
+    EXPECT_EQ(press(VK_F6, VK_SHIFT), L"Find");
+    EXPECT_EQ(press(VK_PRIOR, VK_CONTROL), L"Tabs");
+    EXPECT_EQ(Get<TPageControl>(L"Tabs").ActiveSheet()->Name(), L"A");
+    EXPECT_EQ(press(VK_NEXT), L"") << "alone it is the control's";
+    Form.Panes.clear();
+    EXPECT_EQ(press(VK_F6), L"");
 }
 
 bool IsField(const TComponent& component) {

@@ -11,6 +11,7 @@
 #include "ui/win32/container_peer.h"
 #include "ui/win32/marks.h"
 #include "ui/win32/page_filler.h"
+#include "ui/win32/panes.h"
 #include "ui/win32/picture_store.h"
 #include "ui/win32/screen.h"
 #include "ui/win32/window_menu.h"
@@ -53,6 +54,7 @@ class TFormWindow : public TFormPeer {
     [[nodiscard]] const TScreen& Screen() const { return *FScreen; }
     [[nodiscard]] TPictureStore& Pictures() { return FPictures; }
     [[nodiscard]] TMarks& Marks() { return FMarks; }
+    [[nodiscard]] TPanes& Panes() { return FPanes; }
     [[nodiscard]] TAccessibleDescriptions& Accessible() { return FAccessible; }
 
     // For the peers.
@@ -123,6 +125,7 @@ class TFormWindow : public TFormPeer {
     std::set<const TControl*> FChanged;  ///< containers to lay out
     TPageFiller FFiller{*this};
     TAttention FAttention{*this};
+    TPanes FPanes{*this};
     std::unordered_map<unsigned, TTimer*> FTimers;
     HWND FNextFocus = nullptr;  ///< gets the focus when the window waits no longer for a dialog
     bool FRestyles = false;     ///< a change of the look waits
