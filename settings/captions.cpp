@@ -57,7 +57,7 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_DetailsStored", L"stored: %1"},
     {L"D_DetailsPending", L"after Apply: %1 (pending)"},
     {L"D_DetailsNotChanged", L"not changed"},
-    {L"D_DetailsRestart", L"after a restart"},
+    {L"D_DetailsRestart", L"takes effect after a restart"},
     {L"D_DetailsShow", L"&Explain Settings"},
     {L"D_AfterRestart", L"%1 (after a restart)"},
     {L"D_Overwritten", L"%1 (a later change decides)"},

@@ -28,5 +28,7 @@ class TCardLabelPeer : public TWindowPeer {
 
   private:
     void DrawWrapped(HDC target, RECT area) const;
+    /// At the right end of the line; the answer is the width that is used up there.
+    LONG DrawNotice(HDC target, RECT area) const;
     void DrawLines(HDC target, RECT area, int lineHeight) const;
 };
