@@ -66,6 +66,10 @@ void TQuilltune_FormMain::BuildControls() {
     FFind = std::make_unique<TFindBox>(
         *this, TFindHost{.Catalogue = [this]() -> TCatalogue& { return Names().Catalogue(); },
                          .GoTo = [this](const std::wstring& setting) { GoTo(setting); }});
+    Panes = {{Find(L"CategoryBar"), Find(L"Edit_Find")},
+             {&notebook, Find(L"ListView_Find")},
+             {Find(L"Button_OK"), Find(L"Button_Cancel"), Find(L"Button_Apply"), Find(L"Button_Changes"),
+              Find(L"Button_History")}};
     Find<TButton>(L"Button_OK")->Default = true;
     Find<TButton>(L"Button_Cancel")->Cancel = true;
     // The items of this group bear the plain colour by design; FormCreate gives it to the other groups.
@@ -122,6 +126,7 @@ void TQuilltune_FormMain::FormShow() {
             FLanguage->LoadLanguage(GetSuiteLanguage(FSystem));
             FContext.Captions.Load(*FLanguage);
             MarkText = FContext.Captions[TCaption::Changed];
+            SelectedText = FContext.Captions[TCaption::Selected];
             Find(L"Edit_Find")->SetCaption(FContext.Captions[TCaption::FindSetting]);
             FLanguage->Translate(*this);
             Switches.front().Caption = FContext.Captions[TCaption::DetailsShow];

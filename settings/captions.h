@@ -62,6 +62,7 @@ enum class TCaption {
     OneChange,
     ManyChanges,
     Changed,
+    Selected,
     DetailsStored,
     DetailsPending,
     DetailsNotChanged,

@@ -23,6 +23,8 @@ class TLabel : public TControl {
     /// each line stays one. 0 = as high as the text needs.
     int Lines = 0;
     TTextLook Look = TTextLook::Plain;  ///< of one with a fixed number of lines
+    /// A line that ends with it shows it apart, at its right end and in a colour that warns.
+    std::wstring Notice;
 };
 
 class TGroupBox : public TControl {

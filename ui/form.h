@@ -63,13 +63,18 @@ class TForm : public TControl {
     int ClientHeight = 536;
     bool CanMaximise = false;  ///< of a dialog; the main window always can
 
-    std::wstring MarkText = L"changed";  ///< what a screen reader says of a marked control
+    std::wstring MarkText = L"changed";       ///< what a screen reader says of a marked control …
+    std::wstring SelectedText = L"selected";  ///< … and of the selected item of a category bar
 
     TNotifyEvent OnShow;  ///< runs once, just before the window becomes visible
 
     TNotifyEvent OnFindKey;  ///< Ctrl+F is pressed, whatever has the focus
 
     TControl* FirstFocus = nullptr;  ///< of a dialog: gets the focus instead of the first control
+
+    /// Parts of the window: F6 leads from one to the next and Shift+F6 back, to where the focus was last in it, else to the
+    /// first of its controls that can have it. Each part is what lies in these controls, or is one of them.
+    std::vector<std::vector<TControl*>> Panes;
 
     TNotifyEvent OnComeBack;  ///< the user comes back to the form from another program
 

@@ -51,34 +51,35 @@ IAccPropServices* TAccessibleDescriptions::Service() {
     return FService;
 }
 
-void TAccessibleDescriptions::Set(HWND window, const std::wstring& text) {
+void TAccessibleDescriptions::Tell(HWND window, const TSpoken& spoken) {
+    if (spoken == TSpoken() && !FTold.contains(window)) return;
     IAccPropServices* service = Service();
     if (service == nullptr) return;
-    service->SetHwndPropStr(window, kClient, CHILDID_SELF, kDescription, text.c_str());
+    TSpoken& told = FTold[window];
+    const auto tell = [&](const MSAAPROPID& property, std::wstring& before, const std::wstring& now) {
+        if (now == before) return;
+        before = now;
+        if (now.empty())
+            service->ClearHwndProps(window, kClient, CHILDID_SELF, &property, 1);
+        else
+            service->SetHwndPropStr(window, kClient, CHILDID_SELF, property, now.c_str());
+    };
+    tell(kName, told.Name, spoken.Name);
+    tell(kDescription, told.Description, spoken.Description);
+    if (!spoken.IsAlert || std::exchange(told.IsAlert, true)) return;
+    VARIANT role{};
+    role.vt = VT_I4;
+    role.lVal = ROLE_SYSTEM_ALERT;
+    service->SetHwndProp(window, kClient, CHILDID_SELF, kRole, role);
+}
+
+void TAccessibleDescriptions::Change(HWND window, const TSpoken& spoken) {
+    if (FTold.contains(window)) Tell(window, spoken);
     NotifyWinEvent(EVENT_OBJECT_DESCRIPTIONCHANGE, window, OBJID_CLIENT, CHILDID_SELF);
 }
 
-void TAccessibleDescriptions::Alert(HWND window) {
-    IAccPropServices* service = Service();
-    if (service != nullptr && std::exchange(FAlert, window) != window) {
-        VARIANT role{};
-        role.vt = VT_I4;
-        role.lVal = ROLE_SYSTEM_ALERT;
-        service->SetHwndProp(window, kClient, CHILDID_SELF, kRole, role);
-    }
-    NotifyWinEvent(EVENT_SYSTEM_ALERT, window, OBJID_CLIENT, CHILDID_SELF);
-}
-
-void TAccessibleDescriptions::SetName(HWND window, const std::wstring& text) {
-    IAccPropServices* service = Service();
-    if (service == nullptr || !FNamed.insert(window).second) return;
-    service->SetHwndPropStr(window, kClient, CHILDID_SELF, kName, text.c_str());
-}
-
-void TAccessibleDescriptions::RemoveName(HWND window) {
-    if (FNamed.erase(window) != 0) FService->ClearHwndProps(window, kClient, CHILDID_SELF, &kName, 1);
-}
-
-void TAccessibleDescriptions::Remove(HWND window) {
-    if (FService != nullptr) FService->ClearHwndProps(window, kClient, CHILDID_SELF, &kDescription, 1);
+void TAccessibleDescriptions::Forget(HWND window) {
+    const MSAAPROPID all[] = {kName, kDescription, kRole};
+    if (FTold.erase(window) != 0)
+        FService->ClearHwndProps(window, kClient, CHILDID_SELF, all, static_cast<int>(std::size(all)));
 }

@@ -1,13 +1,22 @@
-// What screen readers say of a window besides its name, and the name of one that has no label. Without the service for it, which Windows 2000 may lack, they say
-// no more than they did.
+// What screen readers say of windows besides what Windows itself knows of them. Without the service for it, which Windows 2000
+// may lack, they say no more than that.
 #pragma once
 
 #include <windows.h>
 
-#include <set>
+#include <map>
 #include <string>
 
 struct IAccPropServices;
+
+/// What is said of a window.
+struct TSpoken {
+    std::wstring Name;  ///< of one that shows none
+    std::wstring Description;
+    bool IsAlert = false;  ///< it speaks without getting the focus
+
+    bool operator==(const TSpoken&) const = default;
+};
 
 class TAccessibleDescriptions {
   public:
@@ -16,21 +25,18 @@ class TAccessibleDescriptions {
     TAccessibleDescriptions(const TAccessibleDescriptions&) = delete;
     TAccessibleDescriptions& operator=(const TAccessibleDescriptions&) = delete;
 
-    void Set(HWND window, const std::wstring& text);
-    /// Has the text of the window said now, without its getting the focus.
-    void Alert(HWND window);
-    void Remove(HWND window);
-    /// Only the first name counts.
-    void SetName(HWND window, const std::wstring& text);
-    void RemoveName(HWND window);
+    /// Answers somebody who asks for the window: only a screen reader does, and for nobody else the service is started.
+    void Tell(HWND window, const TSpoken& spoken);
+    /// Another description than before is to be said.
+    void Change(HWND window, const TSpoken& spoken);
+    /// The window is about to go.
+    void Forget(HWND window);
 
   private:
-    /// Asked for at the first description.
     IAccPropServices* Service();
 
     bool FIsAsked = false;
-    HWND FAlert = nullptr;  ///< the window that is known as an alert
     HRESULT FInitialised = E_FAIL;
     IAccPropServices* FService = nullptr;
-    std::set<HWND> FNamed;
+    std::map<HWND, TSpoken> FTold;
 };

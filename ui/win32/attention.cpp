@@ -16,6 +16,7 @@ void TAttention::FollowFocus() {
     const HWND focus = GetFocus();
     if (std::exchange(FFocus, focus) == focus) return;
     FForm.ScrollTo(focus);
+    FForm.Panes().Note(focus);
     // Another program or a dialog in front leaves the user where he was.
     if (focus != nullptr && IsChild(FForm.Handle(), focus))
         FForm.Tell(FForm.Form().OnFocus, FForm.ControlOf(focus));

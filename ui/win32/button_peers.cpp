@@ -42,6 +42,7 @@ void TPushButtonPeer::OnCommand(WORD code) {
 
 TCheckBoxPeer::TCheckBoxPeer(TFormWindow& form, TCheckBox& box, HWND parent) : TWindowPeer(form, box) {
     Create(parent, WC_BUTTONW, BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP | WS_GROUP);
+    Subclass();
 }
 
 void TCheckBoxPeer::OnCommand(WORD code) {

@@ -9,7 +9,11 @@
 
 namespace {
 
-constexpr int kAccentWidth = 3;  // at 96 dots per inch
+// At 96 dots per inch.
+constexpr int kAccentWidth = 3;
+constexpr int kNoticeGap = 12;
+
+constexpr const wchar_t* kBetween = L" \u00B7";  // what stands between the parts of a line
 
 int DrawnHeight(HDC target, const std::wstring& text, int width) {
     RECT place{0, 0, width, 0};
@@ -27,7 +31,7 @@ TCardPeer::TCardPeer(TFormWindow& form, TPanel& card, HWND parent)
 void TCardPeer::Update(TControlAspect aspect) {
     if (aspect != TControlAspect::Caption) return TContainerPeer::Update(aspect);
     SetWindowTextW(Handle(), WindowText().c_str());
-    if (IsWindowVisible(Handle())) FDescriptions.Alert(Handle());
+    if (IsWindowVisible(Handle())) NotifyWinEvent(EVENT_SYSTEM_ALERT, Handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 LRESULT TCardPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -97,20 +101,39 @@ void TCardLabelPeer::DrawWrapped(HDC target, RECT area) const {
     DrawTextW(target, shown.c_str(), static_cast<int>(shown.size()), &area, DT_WORDBREAK | DT_NOPREFIX);
 }
 
+LONG TCardLabelPeer::DrawNotice(HDC target, RECT area) const {
+    const std::wstring& notice = static_cast<const TLabel&>(Control()).Notice;
+    const auto length = static_cast<int>(notice.size());
+    const COLORREF color = SetTextColor(target, TCategoryColors().Notice());
+    DrawTextW(target, notice.c_str(), length, &area, DT_SINGLELINE | DT_NOPREFIX | DT_RIGHT);
+    SetTextColor(target, color);
+    SIZE size{};
+    GetTextExtentPoint32W(target, notice.c_str(), length, &size);
+    return size.cx + FForm.Screen().Scale(kNoticeGap);
+}
+
 void TCardLabelPeer::DrawLines(HDC target, RECT area, int lineHeight) const {
     const std::wstring& text = Control().Caption();
+    const std::wstring& notice = static_cast<const TLabel&>(Control()).Notice;
     const LONG bottom = area.bottom;
     for (std::size_t start = 0; start < text.size() && area.top + lineHeight <= bottom;
          area.top += lineHeight) {
         area.bottom = area.top + lineHeight;
         const std::size_t end = std::min(text.find(L'\n', start), text.size());
         std::wstring line = text.substr(start, end - start);
+        const LONG right = area.right;
+        if (!notice.empty() && line.ends_with(notice)) {
+            line.resize(line.size() - notice.size());
+            line.resize(line.find_last_not_of(kBetween) + 1);
+            area.right -= DrawNotice(target, area);
+        }
         const bool isLast = area.bottom + lineHeight > bottom;
         if (isLast && end < text.size()) line += std::wstring(L" ") + kEllipsis;
         // Of a place in the registry the end says most.
         const UINT cut = line.starts_with(L"HKEY_") ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS;
         DrawTextW(target, line.c_str(), static_cast<int>(line.size()), &area,
                   DT_SINGLELINE | DT_NOPREFIX | cut);
+        area.right = right;
         start = end + 1;
     }
 }

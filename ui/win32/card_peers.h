@@ -2,7 +2,6 @@
 #pragma once
 
 #include "ui/controls.h"
-#include "ui/win32/accessible_description.h"
 #include "ui/win32/container_peer.h"
 
 /// A screen reader says the caption whenever it changes; it is not drawn.
@@ -10,6 +9,7 @@ class TCardPeer : public TContainerPeer {
   public:
     TCardPeer(TFormWindow& form, TPanel& card, HWND parent);
     void Update(TControlAspect aspect) override;
+    [[nodiscard]] TSpoken Spoken() const override { return {.IsAlert = true}; }
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -17,8 +17,6 @@ class TCardPeer : public TContainerPeer {
 
   private:
     void Draw(HDC target) const;
-
-    TAccessibleDescriptions FDescriptions;
 };
 
 /// A label of a fixed number of lines. Its window text is whole, whatever is cut.
@@ -30,5 +28,7 @@ class TCardLabelPeer : public TWindowPeer {
 
   private:
     void DrawWrapped(HDC target, RECT area) const;
+    /// At the right end of the line; the answer is the width that is used up there.
+    LONG DrawNotice(HDC target, RECT area) const;
     void DrawLines(HDC target, RECT area, int lineHeight) const;
 };

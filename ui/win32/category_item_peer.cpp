@@ -42,6 +42,15 @@ void TCategoryItemPeer::ShowState() {
     // Until one item is selected, all of them are tab stops.
     if (static_cast<const TCategoryItem&>(Control()).Selected()) TakeTabStop();
     InvalidateRect(Handle(), nullptr, FALSE);
+    ShowSpoken();
+}
+
+TSpoken TCategoryItemPeer::Spoken() const {
+    TSpoken spoken = TWindowPeer::Spoken();
+    if (static_cast<const TCategoryItem&>(Control()).Selected())
+        spoken.Description =
+            FForm.Form().SelectedText + (spoken.Description.empty() ? L"" : L", " + spoken.Description);
+    return spoken;
 }
 
 void TCategoryItemPeer::TakeTabStop() {

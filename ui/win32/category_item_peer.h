@@ -10,6 +10,7 @@ class TCategoryItemPeer : public TWindowPeer {
 
     void OnCommand(WORD code) override;
     void Update(TControlAspect aspect) override;
+    [[nodiscard]] TSpoken Spoken() const override;
     [[nodiscard]] RECT DotPlace() const override;
     void OnDraw(const DRAWITEMSTRUCT& drawing) override;
 

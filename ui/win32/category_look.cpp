@@ -7,6 +7,7 @@
 namespace {
 
 constexpr COLORREF kProductColor = RGB(0x21, 0x5D, 0xC6);
+constexpr COLORREF kAmber = RGB(0x92, 0x66, 0x14);
 
 // How much of the product's colour is in a tint of the window colour.
 constexpr int kHeaderTint = 9;
@@ -41,7 +42,7 @@ TCategoryColors::TCategoryColors()
         FHeaderLine = GetSysColor(COLOR_WINDOWFRAME);
         FHeaderText = GetSysColor(COLOR_BTNTEXT);
         FCard = FHeader;
-        FCardText = FQuietText = FHeaderText;
+        FCardText = FQuietText = FNotice = FHeaderText;
         FAccent = GetSysColor(COLOR_HIGHLIGHT);
     } else {
         FFrame = GetSysColor(COLOR_3DSHADOW);
@@ -51,6 +52,7 @@ TCategoryColors::TCategoryColors()
         FCard = Tint(kCardTint);
         FCardText = GetSysColor(COLOR_WINDOWTEXT);
         FQuietText = MixColors(FCardText, FCard, kQuietShade);
+        FNotice = kAmber;
         FAccent = kProductColor;
     }
 }

@@ -20,6 +20,7 @@ class TCategoryColors {
     [[nodiscard]] COLORREF Card() const { return FCard; }
     [[nodiscard]] COLORREF CardText() const { return FCardText; }
     [[nodiscard]] COLORREF QuietText() const { return FQuietText; }
+    [[nodiscard]] COLORREF Notice() const { return FNotice; }
     [[nodiscard]] COLORREF Accent() const { return FAccent; }
 
     struct TItem {
@@ -43,6 +44,7 @@ class TCategoryColors {
     COLORREF FCard;
     COLORREF FCardText;
     COLORREF FQuietText;
+    COLORREF FNotice;
     COLORREF FAccent;
 };
 

@@ -6,6 +6,7 @@
 TColorSwatchPeer::TColorSwatchPeer(TFormWindow& form, TColorSwatch& swatch, HWND parent)
     : TWindowPeer(form, swatch) {
     Create(parent, WC_STATICW, SS_OWNERDRAW, WS_EX_CLIENTEDGE);
+    Subclass();
 }
 
 void TColorSwatchPeer::ShowState() {

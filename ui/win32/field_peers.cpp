@@ -95,8 +95,6 @@ LRESULT TEditPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return TWindowPeer::OnMessage(message, wParam, lParam) | DLGC_WANTMESSAGE;
     }
     if (edit.Caption().empty()) return TWindowPeer::OnMessage(message, wParam, lParam);
-    // Only a screen reader asks: for nobody else the service that takes the name is started.
-    if (message == WM_GETOBJECT) FForm.Accessible().SetName(Handle(), edit.Caption());
     const LRESULT result = TWindowPeer::OnMessage(message, wParam, lParam);
     if (message == WM_PAINT) PaintCue();
     if (message == WM_SETFOCUS || message == WM_KILLFOCUS) InvalidateRect(Handle(), nullptr, TRUE);
@@ -110,6 +108,7 @@ LRESULT TEditPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 TComboBoxPeer::TComboBoxPeer(TFormWindow& form, TComboBox& box, HWND parent) : TWindowPeer(form, box) {
     Create(parent, WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP);
+    Subclass();
     PassWheelOn(Handle());
 }
 

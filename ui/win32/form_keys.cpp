@@ -5,16 +5,20 @@
 
 namespace {
 
-/// Control and Tab choose the next sheet, with Shift the one before, as in the dialogs of Windows.
+bool IsDown(int key) { return GetKeyState(key) < 0; }
+
+/// With Control the Tab key, or Page Down, chooses the next sheet, with Shift or as Page Up the one before, as in the dialogs
+/// of Windows.
 bool StepSheet(TFormWindow& form, const MSG& message) {
-    if (message.wParam != VK_TAB || GetKeyState(VK_CONTROL) >= 0) return false;
+    const WPARAM key = message.wParam;
+    if ((key != VK_TAB && key != VK_NEXT && key != VK_PRIOR) || !IsDown(VK_CONTROL)) return false;
     for (const auto& component : form.Form().Components()) {
         if (component->Kind() != TComponentKind::PageControl) continue;
         auto& tabs = static_cast<TPageControl&>(*component);
         const auto* peer = dynamic_cast<TWindowPeer*>(tabs.Peer());
         if (peer == nullptr || !IsWindowVisible(peer->Handle())) continue;
         SetFocus(peer->Handle());  // the control that had it is about to disappear
-        tabs.StepSheet(GetKeyState(VK_SHIFT) < 0);
+        tabs.StepSheet(key == VK_PRIOR || (key == VK_TAB && IsDown(VK_SHIFT)));
         return true;
     }
     return false;
@@ -33,6 +37,10 @@ bool PressButton(TFormWindow& form, const MSG& message) {
     return true;
 }
 
+bool StepPane(TFormWindow& form, const MSG& message) {
+    return message.wParam == VK_F6 && !IsDown(VK_CONTROL) && form.Panes().Step(IsDown(VK_SHIFT));
+}
+
 bool AskHelp(TFormWindow& form, const MSG& message) {
     if (message.wParam != VK_F1 || !form.Form().OnHelp) return false;
     form.Tell(form.Form().OnHelp, form.ControlOf(message.hwnd));
@@ -40,9 +48,8 @@ bool AskHelp(TFormWindow& form, const MSG& message) {
 }
 
 bool PressFindKey(TFormWindow& form, const MSG& message) {
-    const auto isDown = [](int key) { return GetKeyState(key) < 0; };
     if (message.wParam != 'F' || !form.Form().OnFindKey) return false;
-    if (!isDown(VK_CONTROL) || isDown(VK_MENU) || isDown(VK_SHIFT) || !IsWindowEnabled(form.Handle()))
+    if (!IsDown(VK_CONTROL) || IsDown(VK_MENU) || IsDown(VK_SHIFT) || !IsWindowEnabled(form.Handle()))
         return false;
     try {
         form.Form().FindKey();
@@ -56,6 +63,6 @@ bool PressFindKey(TFormWindow& form, const MSG& message) {
 
 bool PressFormKey(TFormWindow& form, const MSG& message) {
     if (message.message != WM_KEYDOWN) return false;
-    return StepSheet(form, message) || PressButton(form, message) || AskHelp(form, message) ||
-           PressFindKey(form, message);
+    return StepSheet(form, message) || PressButton(form, message) || StepPane(form, message) ||
+           AskHelp(form, message) || PressFindKey(form, message);
 }

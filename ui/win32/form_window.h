@@ -6,10 +6,12 @@
 #include <unordered_map>
 
 #include "ui/form.h"
+#include "ui/win32/accessible_description.h"
 #include "ui/win32/attention.h"
 #include "ui/win32/container_peer.h"
 #include "ui/win32/marks.h"
 #include "ui/win32/page_filler.h"
+#include "ui/win32/panes.h"
 #include "ui/win32/picture_store.h"
 #include "ui/win32/screen.h"
 #include "ui/win32/window_menu.h"
@@ -52,6 +54,7 @@ class TFormWindow : public TFormPeer {
     [[nodiscard]] const TScreen& Screen() const { return *FScreen; }
     [[nodiscard]] TPictureStore& Pictures() { return FPictures; }
     [[nodiscard]] TMarks& Marks() { return FMarks; }
+    [[nodiscard]] TPanes& Panes() { return FPanes; }
     [[nodiscard]] TAccessibleDescriptions& Accessible() { return FAccessible; }
 
     // For the peers.
@@ -117,11 +120,12 @@ class TFormWindow : public TFormPeer {
     std::unique_ptr<TScreen> FScreen = std::make_unique<TScreen>();
     TPictureStore FPictures;
     TAccessibleDescriptions FAccessible;
-    TMarks FMarks{FAccessible};
+    TMarks FMarks;
     std::unordered_map<HWND, TWindowPeer*> FPeers;
     std::set<const TControl*> FChanged;  ///< containers to lay out
     TPageFiller FFiller{*this};
     TAttention FAttention{*this};
+    TPanes FPanes{*this};
     std::unordered_map<unsigned, TTimer*> FTimers;
     HWND FNextFocus = nullptr;  ///< gets the focus when the window waits no longer for a dialog
     bool FRestyles = false;     ///< a change of the look waits

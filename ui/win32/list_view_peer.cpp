@@ -17,6 +17,7 @@ void TListViewPeer::CreateList(HWND parent, DWORD style) {
     Create(parent, WC_LISTVIEWW,
            WS_TABSTOP | WS_GROUP | LVS_REPORT | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER | style,
            WS_EX_CLIENTEDGE);
+    Subclass();
 }
 
 void TListViewPeer::Update(TControlAspect aspect) {

@@ -30,9 +30,8 @@ void DrawDot(HDC target, const RECT& area, COLORREF color) {
         BlendPixels(pixels, DiscPixels(static_cast<int>(area.right - area.left), color).Pixels);
 }
 
-void TMarks::Add(TWindowPeer& peer, const std::wstring& text) {
+void TMarks::Add(TWindowPeer& peer) {
     SetPropW(peer.Handle(), kChangedProperty, reinterpret_cast<HANDLE>(1));
-    FDescriptions.Set(peer.Handle(), text);
     const RECT dot = FDots[&peer] = peer.DotPlace();
     Redraw(peer, dot);
 }
@@ -41,7 +40,6 @@ void TMarks::Remove(TWindowPeer& peer) {
     const auto found = FDots.find(&peer);
     if (found == FDots.end()) return;
     RemovePropW(peer.Handle(), kChangedProperty);
-    FDescriptions.Remove(peer.Handle());
     Redraw(peer, found->second);
     FDots.erase(found);
 }

@@ -1,10 +1,9 @@
-// The marks of a form's controls: a dot that the container of the control draws, a word for screen readers, and the window
-// property "ControlChanged" for other programs. And the frame around a control that is to catch the eye.
+// The marks of a form's controls: a dot that the container of the control draws, and the window property "ControlChanged" for
+// other programs. And the frame around a control that is to catch the eye.
 #pragma once
 
 #include <unordered_map>
 
-#include "ui/win32/accessible_description.h"
 #include "ui/win32/window_peer.h"
 
 inline constexpr const wchar_t* kChangedProperty = L"ControlChanged";
@@ -18,9 +17,7 @@ void DrawDot(HDC target, const RECT& area, COLORREF color);
 
 class TMarks {
   public:
-    explicit TMarks(TAccessibleDescriptions& descriptions) : FDescriptions(descriptions) {}
-
-    void Add(TWindowPeer& peer, const std::wstring& text);
+    void Add(TWindowPeer& peer);
     void Remove(TWindowPeer& peer);
     /// Lets the dots in a container follow the controls, which may have been moved, shown or hidden.
     void Follow(HWND container);
@@ -37,5 +34,4 @@ class TMarks {
     std::unordered_map<TWindowPeer*, RECT> FDots;  ///< and where they are in their containers
     const TWindowPeer* FFramed = nullptr;
     RECT FFrame{};  ///< in its container
-    TAccessibleDescriptions& FDescriptions;
 };

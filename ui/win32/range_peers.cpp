@@ -6,6 +6,7 @@
 TTrackBarPeer::TTrackBarPeer(TFormWindow& form, TTrackBar& bar, HWND parent) : TWindowPeer(form, bar) {
     constexpr int kTicks = 10;
     Create(parent, TRACKBAR_CLASSW, TBS_HORZ | TBS_AUTOTICKS | WS_TABSTOP | WS_GROUP);
+    Subclass();
     const int step = std::max(1, (bar.Max() - bar.Min()) / kTicks);
     Send(TBM_SETRANGEMIN, FALSE, bar.Min());
     Send(TBM_SETRANGEMAX, FALSE, bar.Max());
@@ -23,6 +24,7 @@ void TTrackBarPeer::ShowState() { Send(TBM_SETPOS, TRUE, static_cast<TTrackBar&>
 
 TUpDownPeer::TUpDownPeer(TFormWindow& form, TUpDown& upDown, HWND parent) : TWindowPeer(form, upDown) {
     Create(parent, UPDOWN_CLASSW, UDS_ARROWKEYS);
+    Subclass();
     Send(UDM_SETRANGE32, static_cast<WPARAM>(upDown.Min()), upDown.Max());
     if (upDown.Associate() != nullptr) {
         if (auto* edit = dynamic_cast<TWindowPeer*>(upDown.Associate()->Peer())) {

@@ -13,7 +13,6 @@ constexpr WPARAM kSelectAll = 1;  // Ctrl+A as a character
 
 TTablePeer::TTablePeer(TFormWindow& form, TListView& list, HWND parent) : TListViewPeer(form, list) {
     CreateList(parent, LVS_OWNERDATA | (list.SelectsOne ? LVS_SINGLESEL : 0));
-    Subclass();
 }
 
 void TTablePeer::ShowItems() {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ui/controls.h"
+#include "ui/spoken_name.h"
 #include "ui/win32/automation_name.h"
 #include "ui/win32/form_window.h"
 
@@ -72,6 +73,7 @@ LRESULT CALLBACK TWindowPeer::SubclassProc(HWND window, UINT message, WPARAM wPa
 LRESULT TWindowPeer::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     TFormWindow& form = FForm;  // the peer may be gone afterwards
     try {
+        if (message == WM_GETOBJECT) form.Accessible().Tell(FHandle, Spoken());
         return OnMessage(message, wParam, lParam);
     } catch (...) {
         form.Fault(std::current_exception());
@@ -161,16 +163,23 @@ RECT TWindowPeer::PlaceInParent() const {
 
 void TWindowPeer::ShowMark() {
     if (FControl.Marked())
-        FForm.Marks().Add(*this, FForm.Form().MarkText);
+        FForm.Marks().Add(*this);
     else
         FForm.Marks().Remove(*this);
+    ShowSpoken();
 }
+
+TSpoken TWindowPeer::Spoken() const {
+    return {.Name = SpokenName(FControl), .Description = FControl.Marked() ? FForm.Form().MarkText : L""};
+}
+
+void TWindowPeer::ShowSpoken() { FForm.Accessible().Change(FHandle, Spoken()); }
 
 void TWindowPeer::Detach() {
     if (FHandle == nullptr) return;
     FForm.Marks().Remove(*this);
     FForm.Marks().Unframe(*this);
-    FForm.Accessible().RemoveName(FHandle);
+    FForm.Accessible().Forget(FHandle);
     RemoveAutomationName(FHandle);
     FForm.Unregister(FHandle);
     FHandle = nullptr;

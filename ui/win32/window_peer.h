@@ -7,6 +7,7 @@
 
 #include "ui/controls.h"
 #include "ui/layout.h"
+#include "ui/win32/accessible_description.h"
 // After windows.h, which it needs.
 #include <commctrl.h>
 
@@ -37,6 +38,9 @@ class TWindowPeer : public TPeer {
     /// Moves the window to its place in the parent; nothing happens when it is there.
     virtual void Place(const TRect& place);
 
+    /// What a screen reader is to say of the control besides what it shows.
+    [[nodiscard]] virtual TSpoken Spoken() const;
+
     /// Where in the parent the dot of a marked control is to be; empty while the control is not shown.
     [[nodiscard]] virtual RECT DotPlace() const;
 
@@ -55,6 +59,8 @@ class TWindowPeer : public TPeer {
 
     /// Lets OnMessage handle the messages of a window whose class is Windows' own.
     void Subclass();
+    /// Lets screen readers know that the control's description is another one now.
+    void ShowSpoken();
     /// Lets OnMessage handle a message, and tells its fault to the form: none may cross Windows' own frames.
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
     /// Handles a message of the window.
