@@ -15,14 +15,16 @@ namespace {
 
 constexpr TColor kPlainItemColor = 0xC56A31;
 constexpr TColor kSelectedItemColor = 0xC65D21;
-constexpr int kHeight = 536;
+constexpr int kWidth = 764;
+constexpr int kHeight = 566;
 constexpr int kFrameCount = 7;
 constexpr int kTimerInterval = 100;
 constexpr int kIdleInterval = 300;
 
 TControlDesign WindowDesign() {
     return Row(Column(TFindBox::FieldDesign().Disabled(), CategoryBarDesign()),
-               Column(Overlay(Notebook(L"Notebook_Main", {}), TFindBox::ListDesign(),
+               Column(TPageHeader::Design(),
+                      Overlay(Notebook(L"Notebook_Main", {}), TFindBox::ListDesign(),
                               Panel(L"Panel_Loading",
                                     Center(Row(Image(L"ImageNote_Animate", L"loading", kFrameCount),
                                                Label(L"Label_Wait", L"Loading system settings......."))))
@@ -46,6 +48,7 @@ TQuilltune_FormMain::TQuilltune_FormMain(TSystem& system)
       FFirefox(system),
       FContext{.System = system, .Form = *this, .Changes = FChanges, .Firefox = FFirefox} {
     SetCaption(L"Quilltune");
+    ClientWidth = kWidth;
     ClientHeight = kHeight;
     BuildControls();
     BindEvents();
@@ -212,6 +215,7 @@ void TQuilltune_FormMain::RzGroup1Items0Click(TComponent& sender) {
     TakeAll({
         [&] { FFind->Clear(); },
         [&] { LoadPage(item.Tag()); },
+        [&] { FHeader.Show(item); },
         [&] { Find<TNotebook>(L"Notebook_Main")->ShowPage(DecimalText(item.Tag())); },
         [&] {
             if (&item != FSelectedItem) SelectItem(item);
@@ -273,7 +277,10 @@ void TQuilltune_FormMain::MakeDetails() {
     OnFocus = [this](TControl* control) { FDetails->FocusCame(control); };
     OnPoint = [this](TControl* control) { FDetails->PointerRests(control); };
     OnHelp = [this](TControl* control) { ShowHelp(control); };
-    OnHeight = [this](int height) { FDetails->HeightChanged(height); };
+    OnHeight = [this](int height) {
+        FHeader.HeightChanged(height);
+        FDetails->HeightChanged(height);
+    };
     Switches = {{.Caption = FContext.Captions[TCaption::DetailsShow],
                  .IsOn = true,
                  .OnClick = [this](bool isOn) { FDetails->SetShown(isOn); }}};

@@ -57,8 +57,7 @@ class TForm : public TControl {
     /// for a dialog, the control gets it in the end.
     void Reveal(TControl& control);
 
-    /// Size of the client area at 96 dots per inch, of which no user can make it smaller. The main window's leaves
-    /// room for the frame on a screen of 800 by 600.
+    /// Size of the client area at 96 dots per inch, of which no user can make it smaller.
     int ClientWidth = 740;
     int ClientHeight = 532;
     bool CanMaximise = false;  ///< of a dialog; the main window always can

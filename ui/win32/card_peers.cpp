@@ -20,14 +20,14 @@ int DrawnHeight(HDC target, const std::wstring& text, int width) {
 }  // namespace
 
 TCardPeer::TCardPeer(TFormWindow& form, TPanel& card, HWND parent)
-    : TContainerPeer(form, card, kCardPadding) {
+    : TContainerPeer(form, card, card.Look == TPanelLook::Card ? kCardPadding : 0) {
     CreateContainer(parent, kContainerClass, WS_CHILD | DS_CONTROL, 0);
 }
 
 void TCardPeer::Update(TControlAspect aspect) {
     if (aspect != TControlAspect::Caption) return TContainerPeer::Update(aspect);
     SetWindowTextW(Handle(), WindowText().c_str());
-    if (IsWindowVisible(Handle())) FDescriptions.Alert(Handle());
+    if (Look() == TPanelLook::Card && IsWindowVisible(Handle())) FDescriptions.Alert(Handle());
 }
 
 LRESULT TCardPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -41,18 +41,27 @@ LRESULT TCardPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 RECT TCardPeer::ContentArea() const {
     RECT area = TContainerPeer::ContentArea();
-    area.left += FForm.Screen().Scale(kAccentWidth);
+    if (Look() == TPanelLook::Card)
+        area.left += FForm.Screen().Scale(kAccentWidth);
+    else
+        area.bottom -= FForm.Screen().Scale(kHeaderFoot);
     return area;
 }
 
 void TCardPeer::Draw(HDC target) const {
     const TCategoryColors colors;
+    const TCategoryColors::TPanel panel = colors.Panel(Look());
     RECT area{};
     GetClientRect(Handle(), &area);
-    FillArea(target, area, colors.HeaderLine());
+    FillArea(target, area, panel.Line);
     RECT inner = area;
+    if (Look() == TPanelLook::Header) {
+        --inner.bottom;
+        FillArea(target, inner, panel.Ground);
+        return;
+    }
     InflateRect(&inner, -1, -1);
-    FillArea(target, inner, colors.Card());
+    FillArea(target, inner, panel.Ground);
     area.right = area.left + FForm.Screen().Scale(kAccentWidth);
     FillArea(target, area, colors.Accent());
 }
@@ -70,17 +79,21 @@ void TCardLabelPeer::Update(TControlAspect aspect) {
 
 void TCardLabelPeer::OnDraw(const DRAWITEMSTRUCT& item) {
     const auto& label = static_cast<const TLabel&>(Control());
-    const TCategoryColors colors;
+    const TCategoryColors::TPanel colors =
+        TCategoryColors().Panel(static_cast<const TPanel*>(label.Parent())->Look);
     const TPaintBuffer buffer(item.hDC, item.rcItem);
     const HDC target = buffer.Handle();
-    FillArea(target, item.rcItem, colors.Card());
+    FillArea(target, item.rcItem, colors.Ground);
     const TScreen& screen = FForm.Screen();
+    const bool isHeading = label.Look == TTextLook::Heading;
     const bool isTitle = label.Look == TTextLook::Title;
-    const HGDIOBJ font = SelectObject(target, isTitle ? screen.BoldFont() : screen.Font());
+    const HGDIOBJ font = SelectObject(target, isHeading ? screen.HeadingFont()
+                                              : isTitle ? screen.BoldFont()
+                                                        : screen.Font());
     SetBkMode(target, TRANSPARENT);
-    SetTextColor(target, isTitle                          ? colors.HeaderText()
-                         : label.Look == TTextLook::Quiet ? colors.QuietText()
-                                                          : colors.CardText());
+    SetTextColor(target, isHeading || isTitle             ? colors.Title
+                         : label.Look == TTextLook::Quiet ? colors.Quiet
+                                                          : colors.Text);
     if (label.Look == TTextLook::Plain)
         DrawWrapped(target, item.rcItem);
     else
@@ -110,7 +123,7 @@ void TCardLabelPeer::DrawLines(HDC target, RECT area, int lineHeight) const {
         // Of a place in the registry the end says most.
         const UINT cut = line.starts_with(L"HKEY_") ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS;
         DrawTextW(target, line.c_str(), static_cast<int>(line.size()), &area,
-                  DT_SINGLELINE | DT_NOPREFIX | cut);
+                  DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | cut);
         start = end + 1;
     }
 }

@@ -1,11 +1,11 @@
-// Peers of a card and of the texts on it.
+// Peers of a card or header, and of the texts on it.
 #pragma once
 
 #include "ui/controls.h"
 #include "ui/win32/accessible_description.h"
 #include "ui/win32/container_peer.h"
 
-/// A screen reader says the caption whenever it changes; it is not drawn.
+/// A screen reader says a card's caption whenever it changes; it is not drawn.
 class TCardPeer : public TContainerPeer {
   public:
     TCardPeer(TFormWindow& form, TPanel& card, HWND parent);
@@ -16,6 +16,7 @@ class TCardPeer : public TContainerPeer {
     [[nodiscard]] RECT ContentArea() const override;
 
   private:
+    [[nodiscard]] TPanelLook Look() const { return static_cast<const TPanel&>(Control()).Look; }
     void Draw(HDC target) const;
 
     TAccessibleDescriptions FDescriptions;

@@ -1,4 +1,4 @@
-// The colours and inner distances of the category bar, and the colours of cards, in one place.
+// The colours and inner distances of the category bar, and the colours of panels and their texts, in one place.
 #pragma once
 
 #include "ui/containers.h"
@@ -16,10 +16,15 @@ class TCategoryColors {
     [[nodiscard]] COLORREF HeaderLine() const { return FHeaderLine; }
     [[nodiscard]] COLORREF HeaderText() const { return FHeaderText; }
 
-    // Of a card, whose title is like a group's header.
-    [[nodiscard]] COLORREF Card() const { return FCard; }
-    [[nodiscard]] COLORREF CardText() const { return FCardText; }
-    [[nodiscard]] COLORREF QuietText() const { return FQuietText; }
+    /// Of texts and lines on a ground. A colour that could not be read there gives way to that of plain texts.
+    struct TPanel {
+        COLORREF Ground;
+        COLORREF Text;
+        COLORREF Title;
+        COLORREF Quiet;
+        COLORREF Line;
+    };
+    [[nodiscard]] TPanel Panel(TPanelLook look) const;
     [[nodiscard]] COLORREF Accent() const { return FAccent; }
 
     struct TItem {
@@ -40,9 +45,6 @@ class TCategoryColors {
     COLORREF FHeader;
     COLORREF FHeaderLine;
     COLORREF FHeaderText;
-    COLORREF FCard;
-    COLORREF FCardText;
-    COLORREF FQuietText;
     COLORREF FAccent;
 };
 
