@@ -21,7 +21,8 @@ constexpr int kIdleInterval = 300;
 
 TControlDesign WindowDesign() {
     return Row(Column(TFindBox::FieldDesign().Disabled(), CategoryBarDesign()),
-               Column(Overlay(Notebook(L"Notebook_Main", {}), TFindBox::ListDesign(),
+               Column(TPageHeader::Design(),
+                      Overlay(Notebook(L"Notebook_Main", {}), TFindBox::ListDesign(),
                               Panel(L"Panel_Loading",
                                     Center(Row(Image(L"ImageNote_Animate", L"loading", kFrameCount),
                                                Label(L"Label_Wait", L"Loading system settings......."))))
@@ -215,6 +216,7 @@ void TQuilltune_FormMain::RzGroup1Items0Click(TComponent& sender) {
     TakeAll({
         [&] { FFind->Clear(); },
         [&] { LoadPage(item.Tag()); },
+        [&] { FHeader.Show(item); },
         [&] { Find<TNotebook>(L"Notebook_Main")->ShowPage(DecimalText(item.Tag())); },
         [&] {
             if (&item != FSelectedItem) SelectItem(item);
@@ -276,7 +278,10 @@ void TQuilltune_FormMain::MakeDetails() {
     OnFocus = [this](TControl* control) { FDetails->FocusCame(control); };
     OnPoint = [this](TControl* control) { FDetails->PointerRests(control); };
     OnHelp = [this](TControl* control) { ShowHelp(control); };
-    OnHeight = [this](int height) { FDetails->HeightChanged(height); };
+    OnHeight = [this](int height) {
+        FHeader.HeightChanged(height);
+        FDetails->HeightChanged(height);
+    };
     Switches = {{.Caption = FContext.Captions[TCaption::DetailsShow],
                  .IsOn = true,
                  .OnClick = [this](bool isOn) { FDetails->SetShown(isOn); }}};

@@ -6,6 +6,7 @@
 
 #include "app/details_strip.h"
 #include "app/find_box.h"
+#include "app/page_header.h"
 #include "app/pending_review.h"
 #include "app/setting_names.h"
 #include "platform/app_frame.h"
@@ -90,6 +91,7 @@ class TQuilltune_FormMain : public TForm {
     std::unique_ptr<TTwinControls> FTwins;
     std::unique_ptr<TPendingReview> FReview;
     std::unique_ptr<TSettingNames> FNames;
+    TPageHeader FHeader{*this, FContext.Captions};
     std::unique_ptr<TDetailsStrip> FDetails;
     std::unique_ptr<TFindBox> FFind;
     std::wstring FFileToOpen;     ///< once the window is ready

@@ -13,7 +13,9 @@ set -euo pipefail
 
 Images="$Root/resources/images"
 Sources="$Images/svg"
-CategorySizes=(16 20 24 32)  # 96, 120, 144 and 192 DPI
+CategorySizes=(16 20 24 32)  # 96, 120, 144 and 192 DPI; 32 at 96 DPI in the header of a page, too
+HeaderSize=48                # at 144 DPI in the header of a page; scaled down for 120 DPI
+HiddenCategories=(mail web_other)
 LoadingSizes=(32 40 48 64)
 PageHeights=(100 200)        # 96 and 192 DPI; scaled down for those between
 LoadingDots=7                # also the number of frames
@@ -21,6 +23,8 @@ LoadingDots=7                # also the number of frames
 Missing=()
 command -v rsvg-convert >/dev/null || Missing+=(librsvg2-bin)
 command -v convert >/dev/null || Missing+=(imagemagick)
+command -v pngquant >/dev/null || Missing+=(pngquant)
+command -v zopflipng >/dev/null || Missing+=(zopfli)
 [ ${#Missing[@]} = 0 ] || Die "needs other tools: apt-get install ${Missing[*]}"
 
 Work=$(mktemp -d)
@@ -31,7 +35,13 @@ trap 'rm -rf "$Work"' EXIT
 Render() {
     rsvg-convert --height "$2" "$1" |
         convert png:- -background none -alpha background -strip -define png:exclude-chunks=all \
-            -define png:compression-level=9 -define png:compression-filter=4 "PNG32:$3"
+            "PNG32:$3"
+}
+
+# Renders like Render, but with a palette of few colours: less than half as large, and hardly another picture.
+RenderSmall() {
+    Render "$1" "$2" "$3"
+    pngquant --strip --speed 1 --nofs --force --output "$3" 64 "$3"
 }
 
 # Prints the source of the icon $1 for $2 pixels.
@@ -48,6 +58,8 @@ RenderCategories() {
         for size in "${CategorySizes[@]}"; do
             Render "$(SourceFor "$name" "$size")" "$size" "$Work/${name}_$size.png"
         done
+        [[ " ${HiddenCategories[*]} " == *" $name "* ]] ||
+            RenderSmall "$file" "$HeaderSize" "$Work/${name}_$HeaderSize.png"
     done
 }
 
@@ -129,6 +141,15 @@ IconImage8() {
     Mask "$1" "$2"
 }
 
+# Writes the picture $1 as an icon image that is a PNG file. Only a few colours, so that it is small, but in the one form
+# that Windows Vista reads.
+IconImagePng() {
+    pngquant --strip --speed 1 --nofs --force --output "$Work/few.png" 128 "$1"
+    convert "$Work/few.png" -define png:exclude-chunks=all "PNG32:$Work/few32.png"
+    zopflipng -y "$Work/few32.png" "$Work/few.png" >/dev/null
+    cat "$Work/few.png"
+}
+
 # Prints the little-endian number of $3 bytes at offset $2 of the file $1.
 Number() {
     od -A n --endian=little -t "u$3" -j "$2" -N "$3" "$1" | tr -d ' '
@@ -136,7 +157,8 @@ Number() {
 
 # Windows 2000 paints no partial transparency: a pixel is drawn whole unless its mask bit is set, and where that is set
 # the colour must be black. So the faintest pixels of an edge are dropped and the others count as part of the picture;
-# the 8-bit images keep only what is more opaque than not.
+# the 8-bit images keep only what is more opaque than not. Windows before Vista passes over the one of 256 pixels, whose
+# size is written as 0.
 BuildIcon() {
     local entry size bits edge picture offset files=()
     for entry in 16:8 32:8 16:32 24:32 32:32 48:32; do
@@ -147,12 +169,15 @@ BuildIcon() {
         "IconImage$bits" "$picture" "$size" >"$Work/icon_${size}_$bits"
         files+=("$Work/icon_${size}_$bits")
     done
+    Render "$(SourceFor quilltune 256)" 256 "$Work/full.png"
+    IconImagePng "$Work/full.png" >"$Work/icon_256_32"
+    files+=("$Work/icon_256_32")
     offset=$((6 + 16 * ${#files[@]}))
     {
         Little 2:0 2:1 2:${#files[@]}
         for entry in "${files[@]}"; do
             size=${entry##*icon_} bits=${size#*_} size=${size%_*}
-            Little 1:"$size" 1:"$size" 1:0 1:0 2:1 2:"$bits" 4:"$(stat -c %s "$entry")" 4:"$offset"
+            Little 1:$((size % 256)) 1:$((size % 256)) 1:0 1:0 2:1 2:"$bits" 4:"$(stat -c %s "$entry")" 4:"$offset"
             offset=$((offset + $(stat -c %s "$entry")))
         done
         cat "${files[@]}"
@@ -174,6 +199,7 @@ RenderPages
 RenderLoading
 BuildIcon
 WriteResourceList >"$Work/images.rc"
+for file in "$Work"/*_[0-9][0-9]*.png; do zopflipng -y "$file" "$file" >/dev/null; done
 
 # Only a complete run replaces anything, and pictures without a source go.
 rm -f "$Images"/*.png

@@ -90,6 +90,23 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_RegFileNotRead", L"The file %1 cannot be read."},
     {L"D_RegFileNotWritten", L"The file %1 cannot be written."},
     {L"D_FindSetting", L"Find a setting (Ctrl+F)"},
+    {L"D_AboutGeneral", L"The settings that are changed most often, in one place"},
+    {L"D_AboutFileTypes", L"What the menus of files offer, and how unknown files are opened"},
+    {L"D_AboutFolderTypes", L"How folder windows look, sort and select"},
+    {L"D_AboutStartMenu", L"What the Start menu shows, and what it remembers"},
+    {L"D_AboutTaskbar", L"How taskbar buttons behave, and what the notification area shows"},
+    {L"D_AboutInternetExplorer", L"What Internet Explorer opens, remembers and warns of"},
+    {L"D_AboutFirefox", L"How Mozilla Firefox starts, loads pages and opens windows"},
+    {L"D_AboutInformation", L"What Windows tells about itself, and how its dialogs and its search work"},
+    {L"D_AboutInput", L"How the mouse, its wheel and the keyboard react"},
+    {L"D_AboutNetwork", L"What Windows looks for in the network, and how safely it shares"},
+    {L"D_AboutDriver", L"How Windows drives its disks, what it watches on them, and what opens by itself"},
+    {L"D_AboutMemory", L"How Windows uses memory and its page file"},
+    {L"D_AboutUserLogon", L"Who can log on, and what the logon screen shows"},
+    {L"D_AboutSecurityCenter", L"What Windows warns of, and what protects it"},
+    {L"D_AboutPrivacy", L"What is reported, what is remembered, and what is cleared at logoff"},
+    {L"D_AboutAnimations", L"What moves, fades and casts shadows, and how text is smoothed"},
+    {L"D_AboutStartAndM", L"What happens when Windows starts, shuts down or meets an error"},
 }};
 
 TCaptions::TCaptions() {

@@ -5,35 +5,35 @@
 namespace {
 
 constexpr TCategoryItemRow kCommonSettings[] = {
-    {L"General Setting", L"general", 19, TCaption::GeneralSettings},
+    {L"General Setting", L"general", 19, TCaption::GeneralSettings, TCaption::AboutGeneral},
 };
 constexpr TCategoryItemRow kDisplay[] = {
-    {L"File Types", L"file_types", 2, TCaption::MenuFile},
-    {L"Folder Types", L"folder_types", 3, TCaption::MenuFolder},
-    {L"Startup Menu", L"start_menu", 5, TCaption::MenuStartMenu},
-    {L"Task Bar", L"task_bar", 6, TCaption::MenuTaskbar},
+    {L"File Types", L"file_types", 2, TCaption::MenuFile, TCaption::AboutFileTypes},
+    {L"Folder Types", L"folder_types", 3, TCaption::MenuFolder, TCaption::AboutFolderTypes},
+    {L"Startup Menu", L"start_menu", 5, TCaption::MenuStartMenu, TCaption::AboutStartMenu},
+    {L"Task Bar", L"task_bar", 6, TCaption::MenuTaskbar, TCaption::AboutTaskbar},
 };
 constexpr TCategoryItemRow kUse[] = {
-    {L"Internet Explorer", L"internet", 8, TCaption::BrowserIE},
-    {L"Mozilla Firefox", L"browser", 9, TCaption::BrowserFF, kSinceXp},
+    {L"Internet Explorer", L"internet", 8, TCaption::BrowserIE, TCaption::AboutInternetExplorer},
+    {L"Mozilla Firefox", L"browser", 9, TCaption::BrowserFF, TCaption::AboutFirefox, kSinceXp},
 };
 constexpr TCategoryItemRow kCommunication[] = {
-    {L"Infomation", L"information", 17, TCaption::SystemInfomation},
-    {L"Input Options", L"input", 4, TCaption::SystemInput},
-    {L"Network", L"network", 7, TCaption::SystemNetwork},
-    {L"Driver", L"driver", 14, TCaption::SystemDriver},
-    {L"Memory and Cache", L"memory", 15, TCaption::SystemMandC},
-    {L"Opera", L"web_other", 10, std::nullopt},
-    {L"E-mail and contacts", L"mail", 11, std::nullopt},
+    {L"Infomation", L"information", 17, TCaption::SystemInfomation, TCaption::AboutInformation},
+    {L"Input Options", L"input", 4, TCaption::SystemInput, TCaption::AboutInput},
+    {L"Network", L"network", 7, TCaption::SystemNetwork, TCaption::AboutNetwork},
+    {L"Driver", L"driver", 14, TCaption::SystemDriver, TCaption::AboutDriver},
+    {L"Memory and Cache", L"memory", 15, TCaption::SystemMandC, TCaption::AboutMemory},
+    {L"Opera", L"web_other", 10, std::nullopt, {}},
+    {L"E-mail and contacts", L"mail", 11, std::nullopt, {}},
 };
 constexpr TCategoryItemRow kManage[] = {
-    {L"User Logon", L"user_logon", 13, TCaption::SecurityUserLogon},
-    {L"Security Center", L"security_center", 18, TCaption::SecurityCenter},
-    {L"Privacy", L"privacy", 12, TCaption::SecurityPrivacy},
+    {L"User Logon", L"user_logon", 13, TCaption::SecurityUserLogon, TCaption::AboutUserLogon},
+    {L"Security Center", L"security_center", 18, TCaption::SecurityCenter, TCaption::AboutSecurityCenter},
+    {L"Privacy", L"privacy", 12, TCaption::SecurityPrivacy, TCaption::AboutPrivacy},
 };
 constexpr TCategoryItemRow kOthers[] = {
-    {L"Animations and Effects", L"effects", 1, TCaption::OthersAnimations},
-    {L"Start and Maintenance", L"maintenance", 16, TCaption::OthersStartAndM},
+    {L"Animations and Effects", L"effects", 1, TCaption::OthersAnimations, TCaption::AboutAnimations},
+    {L"Start and Maintenance", L"maintenance", 16, TCaption::OthersStartAndM, TCaption::AboutStartAndM},
 };
 
 constexpr TCategoryGroupRow kGroups[] = {

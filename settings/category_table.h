@@ -12,6 +12,7 @@ struct TCategoryItemRow {
     const wchar_t* Picture;        ///< base name of the icon
     int Tag;                       ///< number of the notebook page
     std::optional<TCaption> Text;  ///< absent for a hidden item, which keeps its caption
+    TCaption About{};              ///< what the page is for
     TLevels Levels = kEveryLevel;  ///< elsewhere it is hidden, too
 };
 

@@ -39,7 +39,10 @@ class TForm;
 using TNotifyEvent = std::function<void(TComponent& sender)>;
 
 /// How a text stands out from the others.
-enum class TTextLook { Plain, Title, Quiet };
+enum class TTextLook { Plain, Title, Quiet, Heading };
+
+/// A card has a pale ground and a frame; a header, which says what stands below it, has a line under it.
+enum class TPanelLook { Plain, Card, Header };
 
 /// Something a form owns. Names are unique within the form and are what the outside world (language files,
 /// pending changes, automation) knows it by; they never change.

@@ -128,6 +128,12 @@ void TColorSwatch::SetColor(TColor color) {
     UpdatePeer(TControlAspect::State);
 }
 
+void TImage::SetPicture(const std::wstring& picture) {
+    if (picture == FPicture) return;
+    FPicture = picture;
+    UpdatePeer(TControlAspect::State);
+}
+
 void TImage::SetFrame(int frame) {
     if (frame == FFrame || frame < 0 || frame >= FFrames) return;
     FFrame = frame;

@@ -36,7 +36,7 @@ class TPanel : public TControl {
   public:
     explicit TPanel(std::wstring name) : TControl(TComponentKind::Panel, std::move(name)) {}
 
-    bool IsCard = false;  ///< it has a pale ground and a frame
+    TPanelLook Look = TPanelLook::Plain;
 };
 
 class TButton : public TControl {
@@ -223,6 +223,7 @@ class TImage : public TControl {
           FHeight(height) {}
 
     [[nodiscard]] const std::wstring& Picture() const { return FPicture; }
+    void SetPicture(const std::wstring& picture);
     [[nodiscard]] int Frames() const { return FFrames; }
     /// At 96 dots per inch.
     [[nodiscard]] int Width() const { return FWidth; }

@@ -33,9 +33,9 @@ struct TControlDesign {
     bool IsPositive = false;
     bool IsSender = false;
     bool IsTable = false;
-    bool IsCard = false;
     int Lines = 0;  ///< of a label; 0 = what its text needs
     TTextLook Look = TTextLook::Plain;
+    TPanelLook PanelLook = TPanelLook::Plain;
     int Share = 1;
     int Min = 0;
     int Max = 100;
@@ -145,13 +145,19 @@ TControlDesign Panel(const wchar_t* name, TContent&&... content) {
 template <typename... TContent>
 TControlDesign Card(const wchar_t* name, TContent&&... content) {
     TControlDesign design = Panel(name, content...);
-    design.IsCard = true;
+    design.PanelLook = TPanelLook::Card;
+    return design;
+}
+template <typename... TContent>
+TControlDesign Header(const wchar_t* name, TContent&&... content) {
+    TControlDesign design = Panel(name, content...);
+    design.PanelLook = TPanelLook::Header;
     return design;
 }
 
 // Controls.
 TControlDesign Label(const wchar_t* name, const wchar_t* caption);
-/// A text on a card, of a fixed number of lines whatever it says; see TLabel.
+/// A text on a card or header, of a fixed number of lines whatever it says; see TLabel.
 TControlDesign CardLabel(const wchar_t* name, const wchar_t* caption, int lines, TTextLook look);
 TControlDesign CheckBox(const wchar_t* name, const wchar_t* caption);
 TControlDesign RadioButton(const wchar_t* name, const wchar_t* caption);

@@ -83,7 +83,7 @@ void SetDesignState(const TForm& form, TControl& control, const TControlDesign& 
             static_cast<TLabel&>(control).Look = design.Look;
             break;
         case TComponentKind::Panel:
-            static_cast<TPanel&>(control).IsCard = design.IsCard;
+            static_cast<TPanel&>(control).Look = design.PanelLook;
             break;
         case TComponentKind::UpDown: {
             auto* edit = form.Find<TEdit>(design.Associate);

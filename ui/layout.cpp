@@ -77,6 +77,9 @@ bool IsAbsent(const TLayoutBox& box) {
     return std::all_of(box.Boxes.begin(), box.Boxes.end(), IsAbsent);
 }
 
+/// Of a text that is half as large again as others.
+int HeadingHeight(int line) { return 3 * line / 2 + 1; }
+
 bool IsKind(const TLayoutBox& box, TComponentKind kind) {
     return box.Kind == TLayoutKind::Control && box.Control->Kind() == kind;
 }
@@ -228,8 +231,8 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
         case TComponentKind::RadioButton:
             return TextLine(control, width);
         case TComponentKind::Label:
-            if (const int lines = static_cast<const TLabel&>(control).Lines; lines > 0)
-                return {width, lines * line};
+            if (const auto& label = static_cast<const TLabel&>(control); label.Lines > 0)
+                return {width, label.Look == TTextLook::Heading ? HeadingHeight(line) : label.Lines * line};
             return FMetrics.TextSize(control.Caption(), std::max(width, 1));
         case TComponentKind::Button: {
             const TSize text = FMetrics.TextSize(control.Caption(), kUnlimited);
@@ -268,9 +271,11 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
             return {std::max(content.Width, caption) + 2 * padding, line + content.Height + 3 * padding / 2};
         }
         case TComponentKind::Panel: {
-            const int padding = static_cast<const TPanel&>(control).IsCard ? scale(kCardPadding) : 0;
+            const TPanelLook look = static_cast<const TPanel&>(control).Look;
+            const int padding = look == TPanelLook::Card ? scale(kCardPadding) : 0;
+            const int foot = look == TPanelLook::Header ? scale(kHeaderFoot) : padding;
             const TSize content = ContentSize(control, width - 2 * padding);
-            return {content.Width + 2 * padding, content.Height + 2 * padding};
+            return {content.Width + 2 * padding, content.Height + padding + foot};
         }
         case TComponentKind::CategoryBar: {
             int text = 0;

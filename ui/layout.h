@@ -20,6 +20,8 @@ struct TRect {
 
 /// Between the edges of a card and its content, at 96 dots per inch.
 inline constexpr int kCardPadding = 4;
+/// Below the content of a header, with its line.
+inline constexpr int kHeaderFoot = 8;
 
 /// What each of those who want these widths gets of a total: what it wants, or where that is too much, none more than a
 /// fair share. The last one gets what is left over.

@@ -106,6 +106,22 @@ TEST_F(TMainWindow, TheSelectedItemHasItsOwnColor) {
     EXPECT_EQ(Get<TNotebook>(L"Notebook_Main").ActivePage()->Name(), L"14");
 }
 
+TEST_F(TMainWindow, TheHeaderSaysWhichPageIsShownAndWhatItIsFor) {
+    Open();
+    std::set<std::wstring> said;
+    for (const auto& component : Window->Components()) {
+        const auto* item = dynamic_cast<const TCategoryItem*>(component.get());
+        if (item == nullptr || !item->Visible()) continue;
+        Click(item->Name().c_str());
+        const std::wstring& text = Window->Find(L"Label_Header_Text")->Caption();
+        EXPECT_EQ(Window->Find(L"Label_Header_Title")->Caption(), item->Caption());
+        EXPECT_EQ(Get<TImage>(L"Image_Header").Picture(), item->Picture());
+        EXPECT_EQ(Window->Find(L"Panel_Header")->Caption(), item->Caption() + L"\n" + text);
+        EXPECT_TRUE(said.insert(text).second && !text.ends_with(L'.')) << testing::PrintToString(text);
+    }
+    EXPECT_EQ(said.size(), 17u);
+}
+
 TEST_F(TMainWindow, APageIsLoadedOnItsFirstVisitOnly) {
     Fake.Registry.Put(kLastAccessValue, {TRegDataType::Dword, 1});
     Open();

@@ -57,7 +57,8 @@ TEST(PictureStoreTest, FindsTheFittingSize) {
     TPictureStore store(nullptr);
     const std::tuple<const wchar_t*, int, int> cases[] = {
         {L"general", 16, 16},         {L"general", 20, 20},   {L"general", 18, 18},  // scaled down
-        {L"general", 40, 32},         {L"loading_0", 16, 16},  // the largest, the smallest there is
+        {L"general", 40, 40},         {L"general", 48, 48},                          // of few colours
+        {L"general", 64, 48},         {L"loading_0", 16, 16},  // the largest, the smallest there is
         {L"loading_6", 64, 64},       {L"missing", 16, 0},    {L"logon_classic", 100, 150},
         {L"logon_classic", 150, 225},  // sizes are heights, scaling keeps the shape
     };

@@ -1,6 +1,7 @@
 #include "ui/win32/category_look.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "ui/pixels.h"
 
@@ -19,7 +20,10 @@ constexpr int kSelectedFrameTint = 45;
 constexpr int kPressedTint = 28;
 constexpr int kHeaderTextShade = 45;
 constexpr int kCardTint = 5;
-constexpr int kQuietShade = 40;  // of the card in a text
+constexpr int kQuietShade = 40;  // of the ground in a text
+
+/// What is drawn in a colour that is nearer to its ground than this cannot be read.
+constexpr int kLeastContrast = 90;
 
 /// Window colours darker than this leave no contrast to the items' colours.
 constexpr int kLightestDark = 160;
@@ -41,23 +45,29 @@ TCategoryColors::TCategoryColors()
         FHeader = GetSysColor(COLOR_3DFACE);
         FHeaderLine = GetSysColor(COLOR_WINDOWFRAME);
         FHeaderText = GetSysColor(COLOR_BTNTEXT);
-        FCard = FHeader;
-        FCardText = FQuietText = FNotice = FHeaderText;
         FAccent = GetSysColor(COLOR_HIGHLIGHT);
     } else {
         FFrame = GetSysColor(COLOR_3DSHADOW);
         FHeader = Tint(kHeaderTint);
         FHeaderLine = Tint(kHeaderLineTint);
         FHeaderText = MixColors(kProductColor, GetSysColor(COLOR_WINDOWTEXT), kHeaderTextShade);
-        FCard = Tint(kCardTint);
-        FCardText = GetSysColor(COLOR_WINDOWTEXT);
-        FQuietText = MixColors(FCardText, FCard, kQuietShade);
-        FNotice = kAmber;
         FAccent = kProductColor;
     }
 }
 
 COLORREF TCategoryColors::Tint(int percent) const { return MixColors(FBar, kProductColor, percent); }
+
+TCategoryColors::TPanel TCategoryColors::Panel(TPanelLook look) const {
+    const bool isCard = look == TPanelLook::Card && !FSystemOnly;
+    const COLORREF ground = isCard ? Tint(kCardTint) : GetSysColor(COLOR_3DFACE);
+    const COLORREF text = GetSysColor(isCard ? COLOR_WINDOWTEXT : COLOR_BTNTEXT);
+    if (FSystemOnly) return {ground, text, text, text, FHeaderLine, text};
+    const auto readable = [&](COLORREF color) {
+        return std::abs(Lightness(color) - Lightness(ground)) >= kLeastContrast ? color : text;
+    };
+    return {ground, text, readable(FHeaderText), readable(MixColors(text, ground, kQuietShade)),
+            MixColors(ground, kProductColor, kHeaderLineTint), readable(kAmber)};
+}
 
 TCategoryColors::TItem TCategoryColors::Item(const TCategoryItem& item, bool hot, bool pressed) const {
     if (FSystemOnly) return SystemItem(item, hot);

@@ -1,4 +1,4 @@
-// The colours and inner distances of the category bar, and the colours of cards, in one place.
+// The colours and inner distances of the category bar, and the colours of panels and their texts, in one place.
 #pragma once
 
 #include "ui/containers.h"
@@ -16,11 +16,16 @@ class TCategoryColors {
     [[nodiscard]] COLORREF HeaderLine() const { return FHeaderLine; }
     [[nodiscard]] COLORREF HeaderText() const { return FHeaderText; }
 
-    // Of a card, whose title is like a group's header.
-    [[nodiscard]] COLORREF Card() const { return FCard; }
-    [[nodiscard]] COLORREF CardText() const { return FCardText; }
-    [[nodiscard]] COLORREF QuietText() const { return FQuietText; }
-    [[nodiscard]] COLORREF Notice() const { return FNotice; }
+    /// Of texts and lines on a ground. A colour that could not be read there gives way to that of plain texts.
+    struct TPanel {
+        COLORREF Ground;
+        COLORREF Text;
+        COLORREF Title;
+        COLORREF Quiet;
+        COLORREF Line;
+        COLORREF Notice;
+    };
+    [[nodiscard]] TPanel Panel(TPanelLook look) const;
     [[nodiscard]] COLORREF Accent() const { return FAccent; }
 
     struct TItem {
@@ -41,10 +46,6 @@ class TCategoryColors {
     COLORREF FHeader;
     COLORREF FHeaderLine;
     COLORREF FHeaderText;
-    COLORREF FCard;
-    COLORREF FCardText;
-    COLORREF FQuietText;
-    COLORREF FNotice;
     COLORREF FAccent;
 };
 

@@ -30,8 +30,9 @@ std::unique_ptr<TPeer> Make(TFormWindow& form, TControl& control, HWND parent) {
 std::unique_ptr<TPeer> MakePeer(TFormWindow& form, TControl& control, HWND parent) {
     switch (control.Kind()) {
         case TComponentKind::Panel:
-            return static_cast<TPanel&>(control).IsCard ? Make<TCardPeer, TPanel>(form, control, parent)
-                                                        : Make<TPanelPeer, TPanel>(form, control, parent);
+            return static_cast<TPanel&>(control).Look != TPanelLook::Plain
+                       ? Make<TCardPeer, TPanel>(form, control, parent)
+                       : Make<TPanelPeer, TPanel>(form, control, parent);
         case TComponentKind::Notebook:
             return Make<TNotebookPeer, TNotebook>(form, control, parent);
         case TComponentKind::NotebookPage:

@@ -21,6 +21,8 @@ TScreen::TScreen() : FMetrics(ReadMetrics()), FMeasure(CreateCompatibleDC(nullpt
     FFont = CreateFontIndirectW(&font);
     font.lfWeight = FW_BOLD;
     FBoldFont = CreateFontIndirectW(&font);
+    font.lfHeight = font.lfHeight * 3 / 2;
+    FHeadingFont = CreateFontIndirectW(&font);
     SelectObject(FMeasure, FFont);
 }
 
@@ -28,6 +30,7 @@ TScreen::~TScreen() {
     DeleteDC(FMeasure);
     DeleteObject(FFont);
     DeleteObject(FBoldFont);
+    DeleteObject(FHeadingFont);
 }
 
 bool TScreen::IsCurrent() const {

@@ -26,6 +26,8 @@ class TScreen : public TLayoutMetrics {
 
     [[nodiscard]] HFONT Font() const { return FFont; }
     [[nodiscard]] HFONT BoldFont() const { return FBoldFont; }
+    /// Half as large again as the others, and bold.
+    [[nodiscard]] HFONT HeadingFont() const { return FHeadingFont; }
 
   private:
     [[nodiscard]] TSize Measure(const std::wstring& caption, int maxWidth) const;
@@ -34,6 +36,7 @@ class TScreen : public TLayoutMetrics {
     int FDotsPerInch;
     HFONT FFont;
     HFONT FBoldFont;
+    HFONT FHeadingFont;
     HDC FMeasure;  ///< a memory device context that holds the font
     mutable std::unordered_map<std::wstring, TSize> FUnwrapped;  ///< the sizes of captions that were measured
 };
