@@ -44,7 +44,7 @@ inline constexpr const wchar_t* kMinimizedEdges[] = {L"At the top", L"At the bot
 
 /// The shell sets ARW_HIDE whenever it starts, so that the choice does not outlive the session.
 inline constexpr const wchar_t* kMinimizedNote =
-    L"Windows sets the arrangement back to Hidden at every logon.";
+    L"Windows sets the arrangement back to Hidden at every logon";
 
 // The bits of iArrange, as documented for MINIMIZEDMETRICS.
 inline constexpr std::uint32_t kStartRight = 0x01;  // ARW_STARTRIGHT

@@ -76,9 +76,9 @@ TControlDesign Design() {
     return NotebookPage(9, PageControl(kTabs, CommonSheet(), UseSheet(), PopupSheet(), TabsSheet(),
                                        Sheet(kNoFirefoxSheet, L"No fireFox",
                                              Label(L"Label_Firefox_NoFirefox_Info",
-                                                   L"Mozilla Firefox is not installed on this computer."),
+                                                   L"Mozilla Firefox is not installed on this computer"),
                                              Label(L"Label_Firefox_NoFirefox_Link",
-                                                   L"It is available from www.mozilla.org/firefox."))));
+                                                   L"It is available from www.mozilla.org/firefox"))));
 }
 
 // Written in these spellings, read in any case.

@@ -43,7 +43,7 @@ TControlDesign AutoLoginSheet() {
                                 Edit(L"Edit_UserLogin_AutoLogin_LoginInfo_Domain"))))),
         Group(L"GroupBox_UserLogin_AutoLogin_Option", L"Options",
               CheckBox(L"Checkbox_UserLogin_AutoLogin_Option_SkipLogin",
-                       L"&Ignore the Shift key, which else prevents the automatic logon"),
+                       L"Do not let &Shift stop automatic logon"),
               CheckBox(L"Checkbox_UserLogin_AutoLogin_Option_AutoLoginAfterLogoff",
                        L"Log on a&gain automatically after logging off")),
         Buttons(Button(L"Button_UserLogin_AutoLogin_Option_Default", L"&Default").Hidden()));

@@ -79,10 +79,10 @@ TControlDesign AdvancedSheet() {
     return Sheet(
         L"TabSheet_Folder_Advanced", L"Advanced",
         Group(L"GroupBox_Folder_Advanced_MyComputer", L"Computer",
-              Label(L"Label_Folder_Advanced_MyComputer", L"Choose the icons that this folder shows."),
+              Label(L"Label_Folder_Advanced_MyComputer", L"Choose the icons that this folder shows"),
               Buttons(Button(L"Button_Folder_Advanced_MyComputer_Set", L"&Settings..."))),
         Group(L"GroupBox_Folder_Advanced_Desktop", L"Desktop",
-              Label(L"Label_Folder_Advanced_Desktop", L"Choose the icons that the desktop shows."),
+              Label(L"Label_Folder_Advanced_Desktop", L"Choose the icons that the desktop shows"),
               Buttons(Button(L"Button_Folder_Advanced_Desktop_Set", L"S&ettings..."))));
 }
 

@@ -68,7 +68,7 @@ TControlDesign SecuritySheet() {
                                        kAutoUpdateTypes))),
                  Group(L"GroupBox_CommonSettings_Security_Traces", L"Traces",
                        CheckBox(L"Checkbox_CommonSettings_Security_Traces_ClearLogoff",
-                                L"Clear history list at &logoff."),
+                                L"Clear history list at &logoff"),
                        CheckBox(L"Checkbox_CommonSettings_Security_Traces_Pagefile",
                                 L"Clear the &page file when Windows shuts down")));
 }
@@ -76,7 +76,7 @@ TControlDesign SecuritySheet() {
 TControlDesign OthersSheet() {
     return Sheet(
         L"TabSheet_CommonSettings_Others", L"Others",
-        Group(L"GroupBox_CommonSettings_Others_Font", L"Edges of screen fonts",
+        Group(L"GroupBox_CommonSettings_Others_Font", L"Font smoothing",
               Row(Label(L"Label_CommonSettings_Others_Font_SmoothType", L"&Method:"),
                   ComboBox(L"CB_CommonSettings_Others_Font_SmoothType", kFontSmoothingTypes))),
         Group(L"GroupBox_CommonSettings_Others_Message", L"Messages",

@@ -12,7 +12,7 @@ TControlDesign SensitivitySheet() {
                   TrackBar(L"TrackBar_Use_MouseSensitivity_Speed", 1, 20, 10))),
         Group(L"GroupBox_Use_MouseSensitivity_DoubleClickError", L"Double-clicking",
               Fields(Row(Label(L"Label_Use_MouseSensitivity_DoubleClickError",
-                               L"Area in which &both clicks must fall:"),
+                               L"Dou&ble-click tolerance:"),
                          Edit(L"Edit_Use_MouseSensitivity_DoubleClickError").Width(5).FilteringKeys(),
                          UpDown(L"Updown_Use_MouseSensitivity_DoubleClickError",
                                 L"Edit_Use_MouseSensitivity_DoubleClickError", 1, 100, 4),

@@ -32,7 +32,7 @@ TControlDesign Design() {
                         CheckBox(L"Checkbox_Taskbar_ButtonAppearance_Group_Active",
                                  L"&Group similar taskbar buttons"),
                         Row(Label(L"Label_Taskbar_ButtonAppearance_Group_AtLeastCount",
-                                  L"&Windows of a program that make a group:"),
+                                  L"Group from this many &windows:"),
                             Edit(L"Edit_Taskbar_ButtonAppearance_Group_AtLeastCount").Width(4),
                             UpDown(L"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount",
                                    L"Edit_Taskbar_ButtonAppearance_Group_AtLeastCount", 2, 99, 3))),
