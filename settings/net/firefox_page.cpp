@@ -16,7 +16,7 @@ constexpr const wchar_t* kNoFirefoxSheet = L"TabSheet_Firefox_NoFirefox";
 TControlDesign CommonSheet() {
     return Sheet(
         L"TabSheet_Firefox_Common", L"General",
-        Group(L"GroupBox_Firefox_Common_DynamicText", L"Blinking text",
+        Group(L"GroupBox_Firefox_Common_DynamicText", L"Web pages",
               CheckBox(L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing", L"Do not let text &blink")),
         Group(L"GroupBox_Firefox_Common_ErrorMessage", L"Show error messages in",
               RadioButton(L"Radio_Firefox_Common_ErrorMessage_Windows", L"A &message box"),
@@ -60,16 +60,16 @@ TControlDesign PopupSheet() {
 TControlDesign TabsSheet() {
     return Sheet(
         L"TabSheet_Firefox_Label", L"Tabs",
-        Group(L"GroupBox_Firefox_Tab_CloseButton", L"Close button",
-              Row(Label(L"Label_Firefox_Tab_CloseButton_Pos", L"&Position:"),
-                  ComboBox(L"CB_Firefox_Tab_CloseButton_Pos",
-                           {L"Only on the current tab", L"On all tabs", L"Do not show \"Close\" button",
-                            L"On the right end of the tab menu"}))),
-        Group(L"GroupBox_Firefox_Tab_MinWidth", L"Width of tabs",
-              Row(Label(L"Label_Firefox_Tab_MinWidth_Min", L"At &least:"),
-                  Edit(L"Edit_Firefox_Tab_MinWidth_Min", L"125").Width(4).Sender(),
-                  UpDown(L"Updown_Firefox_Tab_MinWidth_Min", L"Edit_Firefox_Tab_MinWidth_Min", 36, 500, 125),
-                  Label(L"Label_Firefox_Tab_MinWidth_Unit", L"pixels"))));
+        Group(L"GroupBox_Firefox_Tab_CloseButton", L"Tab bar",
+              Fields(Row(Label(L"Label_Firefox_Tab_CloseButton_Pos", L"&Close button:"),
+                         ComboBox(L"CB_Firefox_Tab_CloseButton_Pos",
+                                  {L"Only on the current tab", L"On all tabs",
+                                   L"Do not show \"Close\" button", L"On the right end of the tab menu"})),
+                     Row(Label(L"Label_Firefox_Tab_MinWidth_Min", L"&Least width of a tab:"),
+                         Edit(L"Edit_Firefox_Tab_MinWidth_Min", L"125").Width(4).Sender(),
+                         UpDown(L"Updown_Firefox_Tab_MinWidth_Min", L"Edit_Firefox_Tab_MinWidth_Min", 36, 500,
+                                125),
+                         Label(L"Label_Firefox_Tab_MinWidth_Unit", L"pixels")))));
 }
 
 TControlDesign Design() {

@@ -58,7 +58,7 @@ TControlDesign MessageSheet() {
                                          Edit(L"Edit_UserLogin_Message_Notify_Title")),
                                      Row(Label(L"Label_UserLogin_Message_Notify_Text", L"Te&xt:"),
                                          Edit(L"Edit_UserLogin_Message_Notify_Text"))))),
-                 Group(L"GroupBox_UserLogin_Message_Logoff", L"Status messages",
+                 Group(L"GroupBox_UserLogin_Message_Logoff", L"Progress",
                        CheckBox(L"Checkbox_UserLogin_Message_Logoff_ActiveShow",
                                 L"Show detailed &messages while logging on and off")),
                  Buttons(Button(L"Button_UserLogin_Message_Logoff_Default", L"&Default").Hidden()));

@@ -47,10 +47,9 @@ TControlDesign OpenFileSheet() {
 
 TControlDesign AdvancedSheet() {
     return Sheet(L"TabSheet_FileType_Advanced", L"Advanced",
-                 Group(L"GroupBox_FileType_Advanced_NewShortcut", L"New shortcuts",
+                 Group(L"GroupBox_FileType_Advanced_NewShortcut", L"Shortcuts and pictures",
                        CheckBox(L"Checkbox_FileType_Advanced_NewShortcut_AddHead",
-                                L"Add \"&Shortcut to\" to the names of new shortcuts")),
-                 Group(L"GroupBox_FileType_Advanced_PictureAndFax", L"Windows Picture and Fax Viewer",
+                                L"Add \"&Shortcut to\" to the names of new shortcuts"),
                        CheckBox(L"Checkbox_FileType_Advanced_PictureAndFax_OpenPicture",
                                 L"&Preview pictures with the Windows Picture and Fax Viewer")),
                  Buttons(Button(L"Button_FileType_Advanced_Default", L"&Default")));

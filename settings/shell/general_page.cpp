@@ -32,13 +32,12 @@ TControlDesign DisplaySheet() {
 
 TControlDesign FunctionSheet() {
     return Sheet(L"TabSheet_CommonSettings_Function", L"Function",
-                 Group(L"GroupBox_CommonSettings_Function_CursorWidth", L"Cursor",
-                       Row(Label(L"Label_CommonSettings_Function_CursorWidth_Width", L"&Width:"),
+                 Group(L"GroupBox_CommonSettings_Function_Keyboard", L"Keyboard",
+                       Row(Label(L"Label_CommonSettings_Function_CursorWidth_Width", L"Cursor &width:"),
                            Edit(L"MaskEdit_CommonSettings_Function_CursorWidth_Width").Width(4),
                            UpDown(L"UpDownCur_CommonSettings_Function_CursorWidth_Width",
                                   L"MaskEdit_CommonSettings_Function_CursorWidth_Width", 1, 10, 1),
-                           Label(L"Label_CommonSettings_Function_CursorWidth_Unit", L"pixels"))),
-                 Group(L"GroupBox_CommonSettings_Function_Keyboard", L"Keyboard",
+                           Label(L"Label_CommonSettings_Function_CursorWidth_Unit", L"pixels")),
                        CheckBox(L"Checkbox_CommonSettings_Function_Keyboard_WinKey",
                                 L"Use the Windows &key as a shortcut key")),
                  Group(L"GroupBox_CommonSettings_Function_Explorer", L"Windows Explorer",
@@ -168,7 +167,7 @@ constexpr TRow kOthersRows[] = {
 constexpr TLoader kLoaders[] = {kDisplayRows, kFunctionRows, kSecurityRows, kOthersRows};
 
 // Windows 2000 knows neither the policy of the Windows key nor that of balloon tips.
-constexpr TOffer kOffers[] = {{L"GroupBox_CommonSettings_Function_Keyboard", kNotWindows2000},
+constexpr TOffer kOffers[] = {{L"Checkbox_CommonSettings_Function_Keyboard_WinKey", kNotWindows2000},
                               {L"Checkbox_CommonSettings_Others_Message_Balloons", kSinceXp}};
 
 bool Prepare(TPageContext& context) {

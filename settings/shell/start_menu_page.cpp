@@ -13,9 +13,8 @@ TControlDesign Design() {
         PageControl(
             L"PageControl_Use_StartMenu",
             Sheet(L"TabSheet_Use_StartMenu_Common", L"General",
-                  Group(L"GroupBox_Use_StartMenu_Common_User", L"User",
-                        CheckBox(L"Checkbox_Use_StartMenu_Common_User_ShowUserName", L"Show my &user name")),
-                  Group(L"GroupBox_Use_StartMenu_Common_Behaviour", L"Behavior",
+                  Group(L"GroupBox_Use_StartMenu_Common_Behaviour", L"Appearance and behavior",
+                        CheckBox(L"Checkbox_Use_StartMenu_Common_User_ShowUserName", L"Show my &user name"),
                         CheckBox(L"Checkbox_Use_StartMenu_Common_Behaviour_Classic",
                                  L"Use the &classic Start menu"),
                         CheckBox(L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade",
@@ -269,7 +268,7 @@ constexpr TPreset kPresets[] = {
 
 // Windows XP brought the two-column Start menu, Windows 7 left the classic one behind.
 constexpr TOffer kOffers[] = {
-    {L"GroupBox_Use_StartMenu_Common_User", kSinceXp},
+    {kUserName, kSinceXp},
     {L"Checkbox_Use_StartMenu_Common_Behaviour_Classic", kXpAndVista},
     {L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade", kSinceXp},
     {L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", kSinceXp},
