@@ -228,23 +228,27 @@ void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& ca
 }
 
 void TCatalogue::Explain(TModel& model) const {
-    std::map<std::wstring_view, TExplanation> explanations;
-    for (const auto& page : model.Pages)
-        for (const TExplanation& each : page->Definition().Explanations())
-            explanations.emplace(each.Control, each);
+    using TOwnText = std::pair<std::wstring, const char*>;  // with the control that it is kept under
+    std::map<std::wstring, TOwnText> explanations;
+    for (const auto& page : model.Pages) {
+        for (const TExplanation& each : page->Definition().Explanations()) {
+            const std::wstring control = FromUtf8(each.Control);
+            explanations.emplace(control, TOwnText(control, each.Text));
+        }
+    }
     // What the program does not explain a language may.
-    const auto of = [&](const wchar_t* control) {
-        return explanations.try_emplace(control, TExplanation{control, ""}).first->second;
+    const auto of = [&](const std::wstring& control) {
+        return explanations.try_emplace(control, control, "").first->second;
     };
     for (const auto& page : model.Pages)
         for (const TTwin& twin : page->Definition().Twins)
             explanations.insert_or_assign(twin.Control, of(twin.Twin));
     for (TSetting& setting : model.Settings) {
-        const auto [control, text] = of(setting.Id.c_str());
+        const auto [control, text] = of(setting.Id);
         setting.Explanation = FromUtf8(text);
         if (FLanguage != nullptr)
-            setting.Explanation = FLanguage->ReadString(
-                L"Scanner_" + model.Form.Name(), std::wstring(control) + L".Hint", setting.Explanation);
+            setting.Explanation = FLanguage->ReadString(L"Scanner_" + model.Form.Name(), control + L".Hint",
+                                                        setting.Explanation);
     }
 }
 

@@ -54,7 +54,7 @@ TTexts FolderFormTexts(const TForm& form) {
 
 void AddExplanations(TTexts& texts, const TPageDefinition& page) {
     for (const auto& [control, text] : page.Explanations())
-        texts[control + std::wstring(L".Hint")] = FromUtf8(text);
+        texts[FromUtf8(control) + L".Hint"] = FromUtf8(text);
 }
 
 TExtIniFile LoadDelivered(const std::string& language) {
