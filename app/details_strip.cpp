@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "settings/change_words.h"
+#include "settings/needs.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 
@@ -129,7 +130,9 @@ std::wstring TDetailsStrip::PlacesOf(const TSetting& setting) const {
 }
 
 TDetails TDetailsStrip::DetailsOf(const TSetting& setting) const {
-    return {setting.Caption, setting.Explanation, PlacesOf(setting)};
+    std::wstring text = ReasonsFor(FContext, setting.Id);
+    if (!text.empty() && !setting.Explanation.empty()) text += L' ';
+    return {setting.Caption, text + setting.Explanation, PlacesOf(setting)};
 }
 
 void TDetailsStrip::FocusCame(TControl* control) {

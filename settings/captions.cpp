@@ -89,6 +89,14 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_RegFileNotRead", L"The file %1 cannot be read."},
     {L"D_RegFileNotWritten", L"The file %1 cannot be written."},
     {L"D_FindSetting", L"Find a setting (Ctrl+F)"},
+    {L"D_OnlyWhileChecked", L"Has an effect only while \"%1\" is checked."},
+    {L"D_OnlyWhileChosen", L"Has an effect only while \"%1\" is chosen."},
+    {L"D_NotWhileChecked", L"Has no effect while \"%1\" is checked."},
+    {L"D_NotWhileChosen", L"Has no effect while \"%1\" is chosen."},
+    {L"D_NoFirefox", L"Mozilla Firefox is not installed on this computer."},
+    {L"D_NoFirefoxProfile", L"Firefox has no profile yet that could keep it; start Firefox once."},
+    {L"D_NoSecurityCenter",
+     L"The Security Center needs Windows XP with the service SharedAccess running, or a later Windows."},
 }};
 
 TCaptions::TCaptions() {

@@ -98,6 +98,14 @@ enum class TCaption {
     RegFileNotRead,
     RegFileNotWritten,
     FindSetting,
+    // Why a setting has no effect.
+    OnlyWhileChecked,
+    OnlyWhileChosen,
+    NotWhileChecked,
+    NotWhileChosen,
+    NoFirefox,
+    NoFirefoxProfile,
+    NoSecurityCenter,
     kCount,
 };
 

@@ -7,6 +7,7 @@
 #include "base/decimal.h"
 #include "platform/app_frame.h"
 #include "platform/text.h"
+#include "settings/captioned.h"
 #include "settings/category_table.h"
 #include "settings/page_table.h"
 #include "settings/shell/desktop_icons.h"
@@ -19,33 +20,11 @@ namespace {
 /// Those that differ in what they offer: any other, Windows 2000, XP, Vista, 7.
 constexpr int kLevels[] = {0, 4, 5, 6, 7};
 
-/// A caption without its access key and the colon at its end.
-std::wstring Plain(std::wstring caption) {
-    std::erase(caption, L'&');
-    if (!caption.empty() && caption.back() == L':') caption.pop_back();
-    return caption;
-}
-
 bool IsSwatch(const TControl& control) { return control.Kind() == TComponentKind::ColorSwatch; }
 
 /// Buttons but those of presets are pressed to find out what they do.
 bool IsPressed(const TSetting& setting, const TControl& control) {
     return control.Kind() == TComponentKind::Button && setting.Preset == nullptr;
-}
-
-/// The control whose text a user reads beside this one: itself, the label or box before it, or its group.
-const TControl& CaptionedBy(const TControl& control) {
-    const auto hasOwn = [](const TControl& c) {
-        return c.Kind() == TComponentKind::CheckBox || c.Kind() == TComponentKind::RadioButton ||
-               c.Kind() == TComponentKind::Button || c.Kind() == TComponentKind::Label;
-    };
-    if (hasOwn(control)) return control;
-    const TControl* captioned = control.Parent();
-    for (const TControl* sibling : control.Parent()->Children()) {
-        if (sibling == &control) break;
-        if (hasOwn(*sibling)) captioned = sibling;
-    }
-    return *captioned;
 }
 
 const TControl* Above(const TControl& control, TComponentKind kind) {
@@ -162,24 +141,24 @@ void TCatalogue::BuildPage(TModel& model, const TPageDefinition& page, TControl&
     model.Pages.push_back(std::make_unique<TPageModel>(page, model.Context, FScratch, container, changed));
 }
 
-TSetting& TCatalogue::AddSetting(TModel& model, TPageModel& page, const TControl& control) {
+TSetting& TCatalogue::AddSetting(TModel& model, TPageModel& page, TControl& control) {
     const TPageDefinition& definition = page.Definition();
     const TControl& captioned = CaptionedBy(control);
     TSetting& setting = model.Settings.emplace_back();
     setting.Id = control.Name();
-    setting.Caption = setting.GeneralCaption = Plain(captioned.Caption());
+    setting.Caption = setting.GeneralCaption = PlainCaption(captioned.Caption());
     const auto captionOf = [&](const TControl* container) {
         if (container == nullptr) return std::wstring();
         std::wstring caption = container->Caption();
         for (const TLevelCaption& name : definition.LevelCaptions)
             if (container->Name() == name.Control && name.Levels.Include(model.Context.WindowsLevel))
                 caption = model.Context.Captions[name.Caption];
-        return Plain(caption);
+        return PlainCaption(caption);
     };
     setting.Caption = captionOf(&captioned);
     for (const TLevelCaption& name : definition.LevelCaptions)
         if (captioned.Name() == name.Control)
-            setting.LevelNames.push_back({name.Levels, Plain(model.Context.Captions[name.Caption])});
+            setting.LevelNames.push_back({name.Levels, PlainCaption(model.Context.Captions[name.Caption])});
     setting.Sheet = captionOf(Above(control, TComponentKind::TabSheet));
     setting.Group = captionOf(Above(control, TComponentKind::GroupBox));
     if (IsSwatch(control)) return setting;
@@ -197,7 +176,7 @@ void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& ca
         auto found =
             std::find_if(model.Settings.begin() + static_cast<std::ptrdiff_t>(first), model.Settings.end(),
                          [&](const TSetting& each) { return each.Id == name; });
-        const TControl& control = *model.Form.Find(name);
+        TControl& control = *model.Form.Find(name);
         TSetting& setting = found == model.Settings.end() ? AddSetting(model, page, control) : *found;
         setting.Page = caption;
         const TLevels offered = Both(Both(levels, reachable), OfferedOn(definition, control));

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "settings/needs.h"
 #include "settings/row_shapes.h"
 
 // Display
@@ -67,6 +68,11 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
             .Value = Bits(0xFF, BlockParameter(0x2B, 0x2C, 20, 16)),  // …MINIMIZEDMETRICS
             .Missing = kHide,
             .ChangeName = L"Cmblocal"};
+}
+
+/// Side and edge, with their labels, say nothing of windows that are hidden.
+[[nodiscard]] constexpr TNeed MinimizedNeed(TControlNames sideAndEdge, const wchar_t* arrangement) {
+    return {.Controls = sideAndEdge, .Of = arrangement, .State = 0, .IsNot = true};
 }
 
 // Start menu and taskbar

@@ -138,7 +138,6 @@ void LoadMenuSpeed(TPageContext& context, const TSpecialRow& /*row*/) {
     const bool isClick = value && TMatch(kOnClick)(*value);
     const bool isDelay = value && !isClick;
     Radio(context, isClick ? kSpeedClick : isDelay ? kSpeedDelay : kSpeedAsWindows).SetChecked(true);
-    bar.SetEnabled(isDelay);
     if (isDelay) bar.SetPosition(AsInteger(*value).value_or(bar.Position()));
     ShowDelay(context, bar.Position());
 }
@@ -146,7 +145,6 @@ void LoadMenuSpeed(TPageContext& context, const TSpecialRow& /*row*/) {
 void RecordMenuSpeed(TPageContext& context, const TSpecialRow& /*row*/, TComponent& sender) {
     auto& bar = *context.Form.Find<TTrackBar>(kDelayBar);
     const bool isDelay = Radio(context, kSpeedDelay).Checked();
-    bar.SetEnabled(isDelay);
     if (isDelay)
         RecordNumber(context, sender.Name(), kGoButtonPref, bar.Position());
     else
@@ -227,6 +225,9 @@ constexpr TRow kTabsRows[] = {
                .RemovedAt = kDefaultTabWidth},
 };
 
+constexpr const wchar_t* kDelayControls[] = {L"Label_Firefox_Use_MenuSpeed_Delay", kDelayBar};
+constexpr TNeed kNeeds[] = {{.Controls = kDelayControls, .Of = kSpeedDelay}};
+
 constexpr TLoader kLoaders[] = {kCommonRows, kUseRows, kPopupRows, kTabsRows};
 
 constexpr TPresetState kCommonDefault[] = {
@@ -268,6 +269,7 @@ constexpr TPageDefinition kPage{.Tag = 9,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
                                 .Explanations = FirefoxExplanations,
+                                .Needs = kNeeds,
                                 .LoadsEveryVisit = true,
                                 .Prepare = Prepare};
 

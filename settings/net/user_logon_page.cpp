@@ -160,11 +160,25 @@ constexpr TRow kMessageRows[] = {
 
 constexpr TLoader kLoaders[] = {kCommonRows, kAutoLoginRows, kMessageRows};
 
+constexpr const wchar_t* kAutoLogonOptions[] = {L"Checkbox_UserLogin_AutoLogin_Option_SkipLogin",
+                                                L"Checkbox_UserLogin_AutoLogin_Option_AutoLoginAfterLogoff"};
+constexpr const wchar_t* kLogonBoxOptions[] = {L"Checkbox_UserLogin_Common_Set_UserName",
+                                               L"Checkbox_UserLogin_Common_Set_PressCAD"};
+constexpr TNeed kNeeds[] = {
+    {.Controls = kAutoLogonOptions, .Of = L"Checkbox_UserLogin_AutoLogin_ActiveAutoLogin", .Disables = false},
+    // The Welcome screen shows the names and does without the keys.
+    {.Controls = kLogonBoxOptions,
+     .Of = L"Radio_UserLogin_Common_LoginInterface_2k",
+     .Disables = false,
+     .Levels = kOnlyXp},
+};
+
 constexpr TPageDefinition kPage{.Tag = 13,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = {},
                                 .Explanations = UserLogonExplanations,
+                                .Needs = kNeeds,
                                 .ShowsPending = true};
 
 }  // namespace

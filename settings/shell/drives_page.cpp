@@ -87,11 +87,16 @@ constexpr TPreset kPresets[] = {
     {L"Button_Drives_DiskSpace_SpaceWarn_Default", kSpaceWarnDefault},
 };
 
+constexpr const wchar_t* kDiscs[] = {L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD"};
+constexpr TNeed kNeeds[] = {
+    {.Controls = kDiscs, .Of = L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable", .Disables = false}};
+
 constexpr TPageDefinition kPage{.Tag = 14,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = DrivesExplanations};
+                                .Explanations = DrivesExplanations,
+                                .Needs = kNeeds};
 
 }  // namespace
 

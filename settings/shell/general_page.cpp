@@ -170,13 +170,18 @@ constexpr TLoader kLoaders[] = {kDisplayRows, kFunctionRows, kSecurityRows, kOth
 constexpr TOffer kOffers[] = {{L"Checkbox_CommonSettings_Function_Keyboard_WinKey", kNotWindows2000},
                               {L"Checkbox_CommonSettings_Others_Message_Balloons", kSinceXp}};
 
+constexpr const wchar_t* kSideAndEdge[] = {
+    L"Label_CommonSettings_Display_MinWindow_Left", L"CB_CommonSettings_Display_MinWindow_Left",
+    L"Label_CommonSettings_Display_MinWindow_Top", L"CB_CommonSettings_Display_MinWindow_Top"};
+constexpr TNeed kNeeds[] = {MinimizedNeed(kSideAndEdge, L"CB_CommonSettings_Display_MinWindow_Arrange")};
+
+bool HasFirefox(const TPageContext& context) { return context.Firefox.IsFirefoxInstalled(); }
+
+constexpr TLack kLacks[] = {{kHomePage, HasFirefox, TCaption::NoFirefox}, SecurityCenterLack(kActiveSC)};
+
 bool Prepare(TPageContext& context) {
-    const bool installed = context.Firefox.IsFirefoxInstalled();
-    context.Form.Find(kHomePage)->SetEnabled(installed);
-    if (installed) context.Firefox.LoadFirefoxPrefs();
-    const bool hasFirewall = HasFirewall(context);
-    if (!hasFirewall) context.Form.Find(kActiveSC)->SetEnabled(false);
-    context.Form.Find(kStartWF)->SetVisible(hasFirewall);
+    if (HasFirefox(context)) context.Firefox.LoadFirefoxPrefs();
+    context.Form.Find(kStartWF)->SetVisible(HasFirewall(context));
     return true;
 }
 
@@ -186,6 +191,8 @@ constexpr TPageDefinition kPage{.Tag = 19,
                                 .Presets = {},
                                 .Offers = kOffers,
                                 .Twins = kTwins,
+                                .Needs = kNeeds,
+                                .Lacks = kLacks,
                                 .Prepare = Prepare};
 
 }  // namespace

@@ -190,12 +190,28 @@ constexpr TOffer kOffers[] = {
     {L"Checkbox_Taskbar_Notification_Icons_ActionCenter", kSinceWindows7},
 };
 
+constexpr const wchar_t* kSideAndEdge[] = {L"Label_Taskbar_MinWindow_Left", L"CB_Taskbar_MinWindow_Left",
+                                           L"Label_Taskbar_MinWindow_Top", L"CB_Taskbar_MinWindow_Top"};
+constexpr const wchar_t* kFlashCount[] = {L"UpDown_Taskbar_ButtonFlashes_Speed_Flash"};
+constexpr const wchar_t* kGroupCount[] = {L"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount"};
+constexpr const wchar_t* kTrayIcons[] = {
+    L"Checkbox_Taskbar_Notification_Icons_HideInactive", L"Checkbox_Taskbar_Notification_Icons_Volume",
+    L"Checkbox_Taskbar_Notification_Icons_Network", L"Checkbox_Taskbar_Notification_Icons_Power",
+    L"Checkbox_Taskbar_Notification_Icons_ActionCenter"};
+constexpr TNeed kNeeds[] = {
+    MinimizedNeed(kSideAndEdge, L"CB_Taskbar_MinWindow_Arrange"),
+    {.Controls = kFlashCount, .Of = L"Checkbox_Taskbar_ButtonFlashes_Active", .Disables = false},
+    {.Controls = kGroupCount, .Of = L"Checkbox_Taskbar_ButtonAppearance_Group_Active", .Disables = false},
+    {.Controls = kTrayIcons, .Of = L"Checkbox_Taskbar_Notification_Icons_Show"},
+};
+
 constexpr TPageDefinition kPage{.Tag = 6,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
                                 .Explanations = TaskbarExplanations,
-                                .Offers = kOffers};
+                                .Offers = kOffers,
+                                .Needs = kNeeds};
 
 }  // namespace
 
