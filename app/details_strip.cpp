@@ -5,6 +5,7 @@
 
 #include "settings/change_words.h"
 #include "settings/needs.h"
+#include "settings/rights.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 
@@ -125,6 +126,8 @@ std::wstring TDetailsStrip::PlacesOf(const TSetting& setting) const {
                           : FContext.Captions[TCaption::DetailsNotChanged];
         if (setting.Restart || (isPending && change->Restart))
             text += kBetween + FContext.Captions[TCaption::DetailsRestart];
+        if (!MayChange(FContext.System, target))
+            text += kBetween + FContext.Captions[TCaption::DetailsRights];
     }
     return text;
 }

@@ -97,6 +97,8 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_NoFirefoxProfile", L"Firefox has no profile yet that could keep it; start Firefox once."},
     {L"D_NoSecurityCenter",
      L"The Security Center needs Windows XP with the service SharedAccess running, or a later Windows."},
+    {L"D_NoRights", L"Without administrator rights, settings for all users (marked *) cannot be changed."},
+    {L"D_DetailsRights", L"needs administrator rights"},
 }};
 
 TCaptions::TCaptions() {

@@ -106,6 +106,9 @@ enum class TCaption {
     NoFirefox,
     NoFirefoxProfile,
     NoSecurityCenter,
+    // What only administrators may change.
+    NoRights,
+    DetailsRights,
     kCount,
 };
 

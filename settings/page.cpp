@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/numeric_fields.h"
+#include "settings/rights.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 #include "ui/state.h"
@@ -28,6 +29,7 @@ void TPage::Load() {
     if (FBuilt.empty()) TakeDown(*FRoot);
     HideWhatIsNotOffered();
     NameAsThisWindowsDoes();
+    if (!HasAdministratorRights(FContext.System)) MarkControlsForAllUsers(FContext, FDefinition);
     ApplyLacks(FContext, FDefinition);
     if (FDefinition.Prepare != nullptr && !FDefinition.Prepare(FContext)) return;
     RunLoaders([](const std::wstring&) { return false; });
