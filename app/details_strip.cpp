@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "settings/change_words.h"
+#include "settings/needs.h"
+#include "settings/rights.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 
@@ -124,12 +126,16 @@ std::wstring TDetailsStrip::PlacesOf(const TSetting& setting) const {
                           : FContext.Captions[TCaption::DetailsNotChanged];
         if (setting.Restart || (isPending && change->Restart))
             text += kBetween + FContext.Captions[TCaption::DetailsRestart];
+        if (!MayChange(FContext.System, target))
+            text += kBetween + FContext.Captions[TCaption::DetailsRights];
     }
     return text;
 }
 
 TDetails TDetailsStrip::DetailsOf(const TSetting& setting) const {
-    return {setting.Caption, setting.Explanation, PlacesOf(setting)};
+    std::wstring text = ReasonsFor(FContext, setting.Id);
+    if (!text.empty() && !setting.Explanation.empty()) text += L' ';
+    return {setting.Caption, text + setting.Explanation, PlacesOf(setting)};
 }
 
 void TDetailsStrip::FocusCame(TControl* control) {

@@ -4,16 +4,12 @@
 
 #include "platform/text.h"
 #include "settings/change_words.h"
+#include "settings/rights.h"
 
 namespace {
 
 TText ReasonAt(const TTask& task, const TTarget& target) {
-    if (const auto* registry = std::get_if<TRegistryTarget>(&target)) {
-        const TRegistryPlace key{registry->Root, registry->Key, {}};
-        const bool opens =
-            task.System.Registry.Check(key, TRegistryView::Native) != TReadStatus::KeyUnavailable;
-        return opens ? TText::Refused : TText::NoRights;
-    }
+    if (!MayChange(task.System, target)) return TText::NoRights;
     if (const auto* service = std::get_if<TServiceTarget>(&target)) {
         const TContent content = ContentOf(task.System, *service, nullptr);
         return content == TContent(TServiceContent()) ? TText::NoService : TText::ServiceNotSwitched;

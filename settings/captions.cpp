@@ -107,6 +107,16 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_AboutPrivacy", L"What is reported, what is remembered, and what is cleared at logoff"},
     {L"D_AboutAnimations", L"What moves, fades and casts shadows, and how text is smoothed"},
     {L"D_AboutStartAndM", L"What happens when Windows starts, shuts down or meets an error"},
+    {L"D_OnlyWhileChecked", L"Has an effect only while \"%1\" is checked."},
+    {L"D_OnlyWhileChosen", L"Has an effect only while \"%1\" is chosen."},
+    {L"D_NotWhileChecked", L"Has no effect while \"%1\" is checked."},
+    {L"D_NotWhileChosen", L"Has no effect while \"%1\" is chosen."},
+    {L"D_NoFirefox", L"Mozilla Firefox is not installed on this computer."},
+    {L"D_NoFirefoxProfile", L"Firefox has no profile yet that could keep it; start Firefox once."},
+    {L"D_NoSecurityCenter",
+     L"The Security Center needs Windows XP with the service SharedAccess running, or a later Windows."},
+    {L"D_NoRights", L"Without administrator rights, settings for all users (marked *) cannot be changed."},
+    {L"D_DetailsRights", L"needs administrator rights"},
 }};
 
 TCaptions::TCaptions() {

@@ -117,6 +117,17 @@ enum class TCaption {
     AboutPrivacy,
     AboutAnimations,
     AboutStartAndM,
+    // Why a setting has no effect.
+    OnlyWhileChecked,
+    OnlyWhileChosen,
+    NotWhileChecked,
+    NotWhileChosen,
+    NoFirefox,
+    NoFirefoxProfile,
+    NoSecurityCenter,
+    // What only administrators may change.
+    NoRights,
+    DetailsRights,
     kCount,
 };
 

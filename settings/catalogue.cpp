@@ -7,6 +7,7 @@
 #include "base/decimal.h"
 #include "platform/app_frame.h"
 #include "platform/text.h"
+#include "settings/captioned.h"
 #include "settings/category_table.h"
 #include "settings/page_table.h"
 #include "settings/shell/desktop_icons.h"
@@ -141,7 +142,7 @@ void TCatalogue::BuildPage(TModel& model, const TPageDefinition& page, TControl&
     model.Pages.push_back(std::make_unique<TPageModel>(page, model.Context, FScratch, container, changed));
 }
 
-TSetting& TCatalogue::AddSetting(TModel& model, TPageModel& page, const TControl& control) {
+TSetting& TCatalogue::AddSetting(TModel& model, TPageModel& page, TControl& control) {
     const TPageDefinition& definition = page.Definition();
     const TControl& captioned = CaptionedBy(control);
     TSetting& setting = model.Settings.emplace_back();
@@ -176,7 +177,7 @@ void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& ca
         auto found =
             std::find_if(model.Settings.begin() + static_cast<std::ptrdiff_t>(first), model.Settings.end(),
                          [&](const TSetting& each) { return each.Id == name; });
-        const TControl& control = *model.Form.Find(name);
+        TControl& control = *model.Form.Find(name);
         TSetting& setting = found == model.Settings.end() ? AddSetting(model, page, control) : *found;
         setting.Page = caption;
         const TLevels offered = Both(Both(levels, reachable), OfferedOn(definition, control));
@@ -207,23 +208,27 @@ void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& ca
 }
 
 void TCatalogue::Explain(TModel& model) const {
-    std::map<std::wstring_view, TExplanation> explanations;
-    for (const auto& page : model.Pages)
-        for (const TExplanation& each : page->Definition().Explanations())
-            explanations.emplace(each.Control, each);
+    using TOwnText = std::pair<std::wstring, const char*>;  // with the control that it is kept under
+    std::map<std::wstring, TOwnText> explanations;
+    for (const auto& page : model.Pages) {
+        for (const TExplanation& each : page->Definition().Explanations()) {
+            const std::wstring control = FromUtf8(each.Control);
+            explanations.emplace(control, TOwnText(control, each.Text));
+        }
+    }
     // What the program does not explain a language may.
-    const auto of = [&](const wchar_t* control) {
-        return explanations.try_emplace(control, TExplanation{control, ""}).first->second;
+    const auto of = [&](const std::wstring& control) {
+        return explanations.try_emplace(control, control, "").first->second;
     };
     for (const auto& page : model.Pages)
         for (const TTwin& twin : page->Definition().Twins)
             explanations.insert_or_assign(twin.Control, of(twin.Twin));
     for (TSetting& setting : model.Settings) {
-        const auto [control, text] = of(setting.Id.c_str());
+        const auto [control, text] = of(setting.Id);
         setting.Explanation = FromUtf8(text);
         if (FLanguage != nullptr)
-            setting.Explanation = FLanguage->ReadString(
-                L"Scanner_" + model.Form.Name(), std::wstring(control) + L".Hint", setting.Explanation);
+            setting.Explanation = FLanguage->ReadString(L"Scanner_" + model.Form.Name(), control + L".Hint",
+                                                        setting.Explanation);
     }
 }
 

@@ -115,7 +115,7 @@ class TCatalogue {
 
     void BuildPage(TModel& model, const TPageDefinition& page, TControl& container);
     void AddPage(TModel& model, TPageModel& page, const std::wstring& caption, const TLevels& reachable);
-    TSetting& AddSetting(TModel& model, TPageModel& page, const TControl& control);
+    TSetting& AddSetting(TModel& model, TPageModel& page, TControl& control);
     void Explain(TModel& model) const;
     /// The setting's page, loaded.
     TPageModel& Loaded(const TSetting& setting);

@@ -4,9 +4,9 @@
 #include <span>
 
 /// What the setting that a control stands for does, for whom it is worth changing and what to watch for: one to three English
-/// sentences, in UTF-8, which takes half the room.
+/// sentences. Both are UTF-8, which takes half the room.
 struct TExplanation {
-    const wchar_t* Control;
+    const char* Control;
     const char* Text;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/numeric_fields.h"
+#include "settings/rights.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 #include "ui/state.h"
@@ -28,6 +29,8 @@ void TPage::Load() {
     if (FBuilt.empty()) TakeDown(*FRoot);
     HideWhatIsNotOffered();
     NameAsThisWindowsDoes();
+    if (!HasAdministratorRights(FContext.System)) MarkControlsForAllUsers(FContext, FDefinition);
+    ApplyLacks(FContext, FDefinition);
     if (FDefinition.Prepare != nullptr && !FDefinition.Prepare(FContext)) return;
     RunLoaders([](const std::wstring&) { return false; });
 }
@@ -44,6 +47,7 @@ void TPage::Reload(const TIsPending& isPending) {
         }
     }
     Reset(kept);
+    ApplyLacks(FContext, FDefinition);
     if (FDefinition.Prepare == nullptr || FDefinition.Prepare(FContext)) RunLoaders(isPending);
 }
 
@@ -68,15 +72,18 @@ void TPage::Reset(const std::set<std::wstring>& kept) {
 }
 
 void TPage::RunLoaders(const TIsPending& isPending) {
-    for (const TLoader& loader : FDefinition.Loaders)
+    for (const TLoader& loader : FDefinition.Loaders) {
         for (const TRow& row : loader)
             if (IsOffered(row) && !std::ranges::any_of(ControlsOf(row), isPending)) LoadRow(FContext, row);
+        ApplyNeeds(FContext, FDefinition);  // a fault of the next loader changes nothing about these
+    }
 }
 
 void TPage::Changed(TComponent& sender) {
     if (FContext.Loading) return;
     for (const TLoader& loader : FDefinition.Loaders)
         for (const TRow& row : loader) RecordRow(FContext, row, sender);
+    ApplyNeeds(FContext, FDefinition);
     FChanged(sender);
 }
 

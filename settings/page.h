@@ -4,8 +4,8 @@
 #include <set>
 
 #include "settings/explanation.h"
+#include "settings/needs.h"
 #include "settings/page_context.h"
-#include "settings/rows.h"
 #include "ui/design.h"
 #include "ui/state.h"
 
@@ -55,6 +55,8 @@ struct TPageDefinition {
     std::span<const TOffer> Offers = {};
     std::span<const TLevelCaption> LevelCaptions = {};
     std::span<const TTwin> Twins = {};
+    std::span<const TNeed> Needs = {};  ///< beside those of its rows, for controls that no row enables
+    std::span<const TLack> Lacks = {};
     bool ShowsPending = false;     ///< its loaders show changes of other pages that are not written yet
     bool LoadsEveryVisit = false;  ///< otherwise only the first one
     /// Runs before the loaders, with the loading mark set; they do not run when it answers false.

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "settings/needs.h"
 #include "settings/row_shapes.h"
 
 // Display
@@ -44,7 +45,7 @@ inline constexpr const wchar_t* kMinimizedEdges[] = {L"At the top", L"At the bot
 
 /// The shell sets ARW_HIDE whenever it starts, so that the choice does not outlive the session.
 inline constexpr const wchar_t* kMinimizedNote =
-    L"Windows sets the arrangement back to Hidden at every logon.";
+    L"Windows sets the arrangement back to Hidden at every logon";
 
 // The bits of iArrange, as documented for MINIMIZEDMETRICS.
 inline constexpr std::uint32_t kStartRight = 0x01;  // ARW_STARTRIGHT
@@ -67,6 +68,11 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
             .Value = Bits(0xFF, BlockParameter(0x2B, 0x2C, 20, 16)),  // …MINIMIZEDMETRICS
             .Missing = kHide,
             .ChangeName = L"Cmblocal"};
+}
+
+/// Side and edge, with their labels, say nothing of windows that are hidden.
+[[nodiscard]] constexpr TNeed MinimizedNeed(TControlNames sideAndEdge, const wchar_t* arrangement) {
+    return {.Controls = sideAndEdge, .Of = arrangement, .State = 0, .IsNot = true};
 }
 
 // Start menu and taskbar

@@ -114,6 +114,7 @@ void TTwinControls::Follow(const TSide& leader, const TSide& follower) {
         // What this Windows does not offer stays as it is.
         if (follower.Controls[i]->Visible()) CopyState(*leader.Controls[i], *follower.Controls[i]);
     }
+    ApplyNeeds(FContext, *follower.Page);
 }
 
 void TTwinControls::Record(const TSide& side) {

@@ -16,7 +16,7 @@ constexpr const wchar_t* kNoFirefoxSheet = L"TabSheet_Firefox_NoFirefox";
 TControlDesign CommonSheet() {
     return Sheet(
         L"TabSheet_Firefox_Common", L"General",
-        Group(L"GroupBox_Firefox_Common_DynamicText", L"Blinking text",
+        Group(L"GroupBox_Firefox_Common_DynamicText", L"Web pages",
               CheckBox(L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing", L"Do not let text &blink")),
         Group(L"GroupBox_Firefox_Common_ErrorMessage", L"Show error messages in",
               RadioButton(L"Radio_Firefox_Common_ErrorMessage_Windows", L"A &message box"),
@@ -60,25 +60,25 @@ TControlDesign PopupSheet() {
 TControlDesign TabsSheet() {
     return Sheet(
         L"TabSheet_Firefox_Label", L"Tabs",
-        Group(L"GroupBox_Firefox_Tab_CloseButton", L"Close button",
-              Row(Label(L"Label_Firefox_Tab_CloseButton_Pos", L"&Position:"),
-                  ComboBox(L"CB_Firefox_Tab_CloseButton_Pos",
-                           {L"Only on the current tab", L"On all tabs", L"Do not show \"Close\" button",
-                            L"On the right end of the tab menu"}))),
-        Group(L"GroupBox_Firefox_Tab_MinWidth", L"Width of tabs",
-              Row(Label(L"Label_Firefox_Tab_MinWidth_Min", L"At &least:"),
-                  Edit(L"Edit_Firefox_Tab_MinWidth_Min", L"125").Width(4).Sender(),
-                  UpDown(L"Updown_Firefox_Tab_MinWidth_Min", L"Edit_Firefox_Tab_MinWidth_Min", 36, 500, 125),
-                  Label(L"Label_Firefox_Tab_MinWidth_Unit", L"pixels"))));
+        Group(L"GroupBox_Firefox_Tab_CloseButton", L"Tab bar",
+              Fields(Row(Label(L"Label_Firefox_Tab_CloseButton_Pos", L"&Close button:"),
+                         ComboBox(L"CB_Firefox_Tab_CloseButton_Pos",
+                                  {L"Only on the current tab", L"On all tabs",
+                                   L"Do not show \"Close\" button", L"On the right end of the tab menu"})),
+                     Row(Label(L"Label_Firefox_Tab_MinWidth_Min", L"&Least width of a tab:"),
+                         Edit(L"Edit_Firefox_Tab_MinWidth_Min", L"125").Width(4).Sender(),
+                         UpDown(L"Updown_Firefox_Tab_MinWidth_Min", L"Edit_Firefox_Tab_MinWidth_Min", 36, 500,
+                                125),
+                         Label(L"Label_Firefox_Tab_MinWidth_Unit", L"pixels")))));
 }
 
 TControlDesign Design() {
     return NotebookPage(9, PageControl(kTabs, CommonSheet(), UseSheet(), PopupSheet(), TabsSheet(),
                                        Sheet(kNoFirefoxSheet, L"No fireFox",
                                              Label(L"Label_Firefox_NoFirefox_Info",
-                                                   L"Mozilla Firefox is not installed on this computer."),
+                                                   L"Mozilla Firefox is not installed on this computer"),
                                              Label(L"Label_Firefox_NoFirefox_Link",
-                                                   L"It is available from www.mozilla.org/firefox."))));
+                                                   L"It is available from www.mozilla.org/firefox"))));
 }
 
 // Written in these spellings, read in any case.
@@ -138,7 +138,6 @@ void LoadMenuSpeed(TPageContext& context, const TSpecialRow& /*row*/) {
     const bool isClick = value && TMatch(kOnClick)(*value);
     const bool isDelay = value && !isClick;
     Radio(context, isClick ? kSpeedClick : isDelay ? kSpeedDelay : kSpeedAsWindows).SetChecked(true);
-    bar.SetEnabled(isDelay);
     if (isDelay) bar.SetPosition(AsInteger(*value).value_or(bar.Position()));
     ShowDelay(context, bar.Position());
 }
@@ -146,7 +145,6 @@ void LoadMenuSpeed(TPageContext& context, const TSpecialRow& /*row*/) {
 void RecordMenuSpeed(TPageContext& context, const TSpecialRow& /*row*/, TComponent& sender) {
     auto& bar = *context.Form.Find<TTrackBar>(kDelayBar);
     const bool isDelay = Radio(context, kSpeedDelay).Checked();
-    bar.SetEnabled(isDelay);
     if (isDelay)
         RecordNumber(context, sender.Name(), kGoButtonPref, bar.Position());
     else
@@ -227,6 +225,9 @@ constexpr TRow kTabsRows[] = {
                .RemovedAt = kDefaultTabWidth},
 };
 
+constexpr const wchar_t* kDelayControls[] = {L"Label_Firefox_Use_MenuSpeed_Delay", kDelayBar};
+constexpr TNeed kNeeds[] = {{.Controls = kDelayControls, .Of = kSpeedDelay}};
+
 constexpr TLoader kLoaders[] = {kCommonRows, kUseRows, kPopupRows, kTabsRows};
 
 constexpr TPresetState kCommonDefault[] = {
@@ -268,6 +269,7 @@ constexpr TPageDefinition kPage{.Tag = 9,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
                                 .Explanations = FirefoxExplanations,
+                                .Needs = kNeeds,
                                 .LoadsEveryVisit = true,
                                 .Prepare = Prepare};
 

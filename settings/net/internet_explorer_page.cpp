@@ -20,12 +20,11 @@ TControlDesign Design() {
                             UpDown(L"Updown_IE_Common_History_KeepDays", L"Edit_IE_Common_History_KeepDays",
                                    1, 100, 20),
                             Button(L"Button_IE_Common_History_Clear", L"&Clear History..."))),
-                  Group(L"GroupBox_IE_Common_Media", L"Media",
+                  Group(L"GroupBox_IE_Common_Media", L"Web pages",
                         CheckBox(L"Checkbox_IE_Common_Media_Open", L"Show &pictures"),
                         CheckBox(L"Checkbox_IE_Common_Media_Resize", L"&Fit large pictures into the window"),
                         CheckBox(L"Checkbox_IE_Common_Media_Animation", L"Play an&imations in web pages"),
-                        CheckBox(L"Checkbox_IE_Common_Media_Sound", L"Play s&ounds in web pages")),
-                  Group(L"GroupBox_IE_Common_Popup", L"Pop-ups",
+                        CheckBox(L"Checkbox_IE_Common_Media_Sound", L"Play s&ounds in web pages"),
                         CheckBox(L"Checkbox_IE_Common_Popup_Block", L"Turn on the Pop-up &Blocker")),
                   Buttons(Button(L"Button_IE_Common_Default", L"&Default"))),
             Sheet(
@@ -247,7 +246,7 @@ constexpr TPreset kPresets[] = {
 // Tabs came with Internet Explorer 7, which needs Windows XP, and the pop-up blocker with XP's second service pack.
 constexpr TOffer kOffers[] = {
     {L"TabSheet_IE_Tab", kSinceXp},
-    {L"GroupBox_IE_Common_Popup", kSinceXp},
+    {L"Checkbox_IE_Common_Popup_Block", kSinceXp},
 };
 
 constexpr TPageDefinition kPage{.Tag = 8,

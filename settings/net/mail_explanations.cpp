@@ -4,18 +4,18 @@
 namespace {
 
 constexpr TExplanation kTexts[] = {
-    {L"Checkbox_Mail_OutlookExpress_Messenger",
+    {"Checkbox_Mail_OutlookExpress_Messenger",
      "Outlook Express can show the contacts of Windows Messenger and starts it for that. Clear it if you do "
      "not use the messenger. Outlook Express exists up to Windows XP only."},
-    {L"Checkbox_Mail_Outlook_Tray",
+    {"Checkbox_Mail_Outlook_Tray",
      "Minimized, Outlook leaves the taskbar and can be opened by its icon in the notification area, whose "
      "menu has the same choice since Outlook 2003. It is stored for every version from Outlook 2002 to 2010 "
      "that has settings here."},
-    {L"Checkbox_Mail_Messenger_Run",
+    {"Checkbox_Mail_Messenger_Run",
      "If this is cleared, nobody at this computer can use the chat program of Windows XP, nor can Remote "
      "Assistance send its invitations with it. Other messengers, such as Windows Live Messenger, are not "
      "affected."},
-    {L"Checkbox_Mail_Messenger_AutoRun",
+    {"Checkbox_Mail_Messenger_AutoRun",
      "If this is cleared, the chat program of Windows XP is not loaded when a user logs on, which saves "
      "memory. It can still be opened as usual."},
 };

@@ -38,10 +38,9 @@ TControlDesign Design() {
                                    Label(L"Label_Net_Advanced_Qos_Percent", L"%")))),
                   Buttons(Button(L"Button_Net_Advanced_Default", L"&Default"))),
             Sheet(L"TabSheet_Net_Password", L"Passwords",
-                  Group(L"GroupBox_Net_Password_Storage", L"Storage",
+                  Group(L"GroupBox_Net_Password_Storage", L"Passwords for other computers",
                         CheckBox(L"Checkbox_Net_Password_Storage_SavePassword",
-                                 L"&Save passwords for network services.")),
-                  Group(L"GroupBox_Net_Password_Transmission", L"Transmission",
+                                 L"&Save passwords for network services."),
                         CheckBox(L"Checkbox_Net_Password_Transmission_OnlyForShare",
                                  L"Transfer only &encrypted passwords for shared resources.")),
                   Buttons(Button(L"Button_Net_Password_Default", L"&Default"))),
@@ -50,7 +49,7 @@ TControlDesign Design() {
                         RadioButton(L"Radio_Net_Internet_CloseConnection_Ask", L"As&k at logoff."),
                         RadioButton(L"Radio_Net_Internet_CloseConnection_NoClose",
                                     L"Always keep dial-up &connections at logoff.")),
-                  Group(L"GroupBox_Net_Internet_WindowsFirewall", L"Windows Firewall",
+                  Group(L"GroupBox_Net_Internet_WindowsFirewall", L"Protection",
                         CheckBox(L"Checkbox_Net_Internet_WindowsFirewall_Enable",
                                  L"Turn on Windows &Firewall")))));
 }

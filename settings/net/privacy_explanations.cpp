@@ -4,28 +4,28 @@
 namespace {
 
 constexpr TExplanation kTexts[] = {
-    {L"Checkbox_Privacy_Common_AutoUpdate_Active",
+    {"Checkbox_Privacy_Common_AutoUpdate_Active",
      "Gets security updates from Microsoft. Without them known holes stay open unless you look for updates "
      "yourself. Windows 2000 needs Service Pack 3 for it, and a group policy takes precedence."},
-    {L"CB_Privacy_Common_AutoUpdate_Type",
+    {"CB_Privacy_Common_AutoUpdate_Type",
      "How much Windows does by itself. The first choice counts as not yet set up, so that Windows may ask "
      "you; the third downloads updates without asking and tells you before they are installed."},
-    {L"Button_Privacy_Common_Default", "Turns automatic updates on with the default settings of Windows."},
-    {L"Checkbox_CleanTraces_ClearHistoryList_ClearLogoff",
+    {"Button_Privacy_Common_Default", "Turns automatic updates on with the default settings of Windows."},
+    {"Checkbox_CleanTraces_ClearHistoryList_ClearLogoff",
      "Empties the list of recently used documents, in Windows 7 also the jump lists of programs, so that "
      "others do not see what you have opened. The documents themselves stay."},
-    {L"Checkbox_CleanTraces_ClearIECache_ClearOnExit",
+    {"Checkbox_CleanTraces_ClearIECache_ClearOnExit",
      "Deletes the stored copies of pages and pictures when the last window is closed, so that others find "
      "fewer traces. Pages that you visit again take longer to load; the history stays."},
-    {L"Button_CleanTraces_Default", "Clears both boxes of this sheet, as Windows does by default."},
-    {L"Checkbox_Privacy_IE_Authentication_Enable",
+    {"Button_CleanTraces_Default", "Clears both boxes of this sheet, as Windows does by default."},
+    {"Checkbox_Privacy_IE_Authentication_Enable",
      "Servers of your own network then no longer recognize you by Kerberos; most of them still accept NTLM. "
      "Useful for finding out why logging on to a site fails. Takes effect when Internet Explorer is started "
      "again."},
-    {L"Checkbox_Privacy_IE_Update_Stop",
+    {"Checkbox_Privacy_IE_Update_Stop",
      "Keeps Internet Explorer up to version 6 from fetching pages for offline reading by a schedule. It has "
      "nothing to do with updates of Windows, and Internet Explorer 7 and later no longer fetch such pages."},
-    {L"Button_Privacy_IE_Default", "Clears both boxes of this sheet."},
+    {"Button_Privacy_IE_Default", "Clears both boxes of this sheet."},
 };
 
 }  // namespace

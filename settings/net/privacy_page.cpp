@@ -24,10 +24,9 @@ TControlDesign Design() {
                                  L"Empty Internet Explorer &cache when close it.")),
                   Buttons(Button(L"Button_CleanTraces_Default", L"&Default"))),
             Sheet(L"TabSheet_Privacy_IE", L"Internet Explorer",
-                  Group(L"GroupBox_Privacy_IE_Authentication", L"Authentication",
+                  Group(L"GroupBox_Privacy_IE_Authentication", L"What it does without asking",
                         CheckBox(L"Checkbox_Privacy_IE_Authentication_Enable",
-                                 L"Disable integrated &Windows authentication.")),
-                  Group(L"GroupBox_Privacy_IE_Update", L"Updates",
+                                 L"Disable integrated &Windows authentication."),
                         CheckBox(L"Checkbox_Privacy_IE_Update_Stop", L"&Prevent checking for updates.")),
                   Buttons(Button(L"Button_Privacy_IE_Default", L"&Default")))));
 }

@@ -60,18 +60,15 @@ constexpr TRow kAdvancedRows[] = {
 
 constexpr TLoader kLoaders[] = {kCenterRows, kAdvancedRows};
 
-bool Prepare(TPageContext& context) {
-    if (!HasFirewall(context)) context.Form.Find(kActive)->SetEnabled(false);
-    return true;
-}
+constexpr TLack kLacks[] = {SecurityCenterLack(kActive)};
 
 constexpr TPageDefinition kPage{.Tag = 18,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = {},
                                 .Explanations = SecurityExplanations,
-                                .ShowsPending = true,
-                                .Prepare = Prepare};
+                                .Lacks = kLacks,
+                                .ShowsPending = true};
 
 }  // namespace
 

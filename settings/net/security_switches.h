@@ -1,15 +1,18 @@
 // The protection of Windows: Security Center, Windows Firewall, automatic updates. Each can be switched on several pages.
 #pragma once
 
+#include "settings/needs.h"
 #include "settings/row_shapes.h"
-
-struct TPageContext;
 
 /// Windows Vista and later have Security Center and firewall always, Windows XP while its service
 /// SharedAccess runs, older ones never.
 [[nodiscard]] bool HasFirewall(const TPageContext& context);
 
-/// A page disables the box where there is no Security Center before it loads the row.
+/// Where there is no Security Center the box is disabled.
+[[nodiscard]] constexpr TLack SecurityCenterLack(const wchar_t* control) {
+    return {control, HasFirewall, TCaption::NoSecurityCenter};
+}
+
 [[nodiscard]] constexpr TServiceRow SecurityCenterRow(const wchar_t* control, TControlNames enables = {}) {
     return {.Control = control, .Value = Service(L"wscsvc"), .Order = 0, .Enables = enables};
 }

@@ -43,7 +43,7 @@ TControlDesign AutoLoginSheet() {
                                 Edit(L"Edit_UserLogin_AutoLogin_LoginInfo_Domain"))))),
         Group(L"GroupBox_UserLogin_AutoLogin_Option", L"Options",
               CheckBox(L"Checkbox_UserLogin_AutoLogin_Option_SkipLogin",
-                       L"&Ignore the Shift key, which else prevents the automatic logon"),
+                       L"Do not let &Shift stop automatic logon"),
               CheckBox(L"Checkbox_UserLogin_AutoLogin_Option_AutoLoginAfterLogoff",
                        L"Log on a&gain automatically after logging off")),
         Buttons(Button(L"Button_UserLogin_AutoLogin_Option_Default", L"&Default").Hidden()));
@@ -58,7 +58,7 @@ TControlDesign MessageSheet() {
                                          Edit(L"Edit_UserLogin_Message_Notify_Title")),
                                      Row(Label(L"Label_UserLogin_Message_Notify_Text", L"Te&xt:"),
                                          Edit(L"Edit_UserLogin_Message_Notify_Text"))))),
-                 Group(L"GroupBox_UserLogin_Message_Logoff", L"Status messages",
+                 Group(L"GroupBox_UserLogin_Message_Logoff", L"Progress",
                        CheckBox(L"Checkbox_UserLogin_Message_Logoff_ActiveShow",
                                 L"Show detailed &messages while logging on and off")),
                  Buttons(Button(L"Button_UserLogin_Message_Logoff_Default", L"&Default").Hidden()));
@@ -160,11 +160,25 @@ constexpr TRow kMessageRows[] = {
 
 constexpr TLoader kLoaders[] = {kCommonRows, kAutoLoginRows, kMessageRows};
 
+constexpr const wchar_t* kAutoLogonOptions[] = {L"Checkbox_UserLogin_AutoLogin_Option_SkipLogin",
+                                                L"Checkbox_UserLogin_AutoLogin_Option_AutoLoginAfterLogoff"};
+constexpr const wchar_t* kLogonBoxOptions[] = {L"Checkbox_UserLogin_Common_Set_UserName",
+                                               L"Checkbox_UserLogin_Common_Set_PressCAD"};
+constexpr TNeed kNeeds[] = {
+    {.Controls = kAutoLogonOptions, .Of = L"Checkbox_UserLogin_AutoLogin_ActiveAutoLogin", .Disables = false},
+    // The Welcome screen shows the names and does without the keys.
+    {.Controls = kLogonBoxOptions,
+     .Of = L"Radio_UserLogin_Common_LoginInterface_2k",
+     .Disables = false,
+     .Levels = kOnlyXp},
+};
+
 constexpr TPageDefinition kPage{.Tag = 13,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = {},
                                 .Explanations = UserLogonExplanations,
+                                .Needs = kNeeds,
                                 .ShowsPending = true};
 
 }  // namespace

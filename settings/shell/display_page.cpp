@@ -74,7 +74,7 @@ TControlDesign MenuSheet() {
 
 TControlDesign FontSheet() {
     return Sheet(L"TabSheet_Display_FontSmooth", L"Font Smoothing",
-                 Group(L"GroupBox_Display_FontSmooth", L"Edges of screen fonts",
+                 Group(L"GroupBox_Display_FontSmooth", L"Font smoothing",
                        Row(Label(L"Label_Display_FontSmooth_SmoothType", L"&Method:"),
                            ComboBox(L"CB_Display_FontSmooth_SmoothType", kFontSmoothingTypes))),
                  Buttons(Button(L"Button_Display_FontSmooth_Clear", L"Clear Type Settings").Hidden()));

@@ -19,13 +19,13 @@ TControlDesign Design() {
                                  L"Create &short (8.3) file names for MS-DOS programs")),
                   Buttons(Button(L"Button_Drives_Common_Default", L"&Default"))),
             Sheet(L"TabSheet_Drives_DiskSpace", L"Disk Space",
-                  Group(L"GroupBox_Drives_DiskSpace_SpaceWarn", L"Low disk space",
+                  Group(L"GroupBox_Drives_DiskSpace_SpaceWarn", L"Notification area",
                         CheckBox(L"Checkbox_Drives_DiskSpace_SpaceWarn_ShowWarn",
                                  L"&Warn me when a drive runs out of space")),
                   Buttons(Button(L"Button_Drives_DiskSpace_SpaceWarn_Default", L"&Default"))),
             Sheet(
                 L"TabSheet_Drives_AutoPlay", L"AutoPlay",
-                Group(L"GroupBox_Drives_AutoPlay_MonitorMediaChanges", L"Media changes",
+                Group(L"GroupBox_Drives_AutoPlay_MonitorMediaChanges", L"For all users",
                       CheckBox(L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable",
                                L"&Notice when a disc is inserted")),
                 Group(L"GroupBox_Drives_AutoPlay_AutoPlayInfo", L"Use AutoPlay for",
@@ -87,11 +87,16 @@ constexpr TPreset kPresets[] = {
     {L"Button_Drives_DiskSpace_SpaceWarn_Default", kSpaceWarnDefault},
 };
 
+constexpr const wchar_t* kDiscs[] = {L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD"};
+constexpr TNeed kNeeds[] = {
+    {.Controls = kDiscs, .Of = L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable", .Disables = false}};
+
 constexpr TPageDefinition kPage{.Tag = 14,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = DrivesExplanations};
+                                .Explanations = DrivesExplanations,
+                                .Needs = kNeeds};
 
 }  // namespace
 

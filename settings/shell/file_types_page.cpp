@@ -47,10 +47,9 @@ TControlDesign OpenFileSheet() {
 
 TControlDesign AdvancedSheet() {
     return Sheet(L"TabSheet_FileType_Advanced", L"Advanced",
-                 Group(L"GroupBox_FileType_Advanced_NewShortcut", L"New shortcuts",
+                 Group(L"GroupBox_FileType_Advanced_NewShortcut", L"Shortcuts and pictures",
                        CheckBox(L"Checkbox_FileType_Advanced_NewShortcut_AddHead",
-                                L"Add \"&Shortcut to\" to the names of new shortcuts")),
-                 Group(L"GroupBox_FileType_Advanced_PictureAndFax", L"Windows Picture and Fax Viewer",
+                                L"Add \"&Shortcut to\" to the names of new shortcuts"),
                        CheckBox(L"Checkbox_FileType_Advanced_PictureAndFax_OpenPicture",
                                 L"&Preview pictures with the Windows Picture and Fax Viewer")),
                  Buttons(Button(L"Button_FileType_Advanced_Default", L"&Default")));
@@ -118,17 +117,10 @@ constexpr TPlace kNoEndExePlaces[] = {DefaultOf(L"\\.\\shell\\open\\"),
                                       DefaultOf(L"\\.\\shell\\open\\Command\\")};
 constexpr TPlace kNoInternetOpenWith{kCurrentUser, kExplorerPolicies, L"NoInternetOpenWith"};
 
-void EnableUnknown(const TPageContext& context, TOpening opening) {
-    context.Form.Find(kNet)->SetEnabled(opening == kWithDialog);
-    context.Form.Find(kUnknownEdit)->SetEnabled(opening == kWithProgram);
-    context.Form.Find(kUnknownChange)->SetEnabled(opening == kWithProgram);
-}
-
 void LoadUnknown(TPageContext& context, const TSpecialRow& row) {
     const auto verb = Stored(context, row.Places[0]);
     const TOpening opening = !verb || AsText(*verb) == kAskByDialog ? kWithDialog : kWithProgram;
     context.Form.Find<TRadioButton>(row.Controls[opening])->SetChecked(true);
-    EnableUnknown(context, opening);
 }
 
 std::wstring UnknownCommand(const TPageContext& context) {
@@ -145,12 +137,6 @@ void RecordUnknown(TPageContext& context, const TSpecialRow& row, TComponent& se
     } else {
         RecordText(context, sender.Name(), row.Places[0], kAskByDialog);
     }
-    EnableUnknown(context, opening);
-}
-
-void EnableNoEndExe(const TPageContext& context, TOpening opening) {
-    context.Form.Find(kNoEndExeEdit)->SetEnabled(opening == kWithProgram);
-    context.Form.Find(kNoEndExeChange)->SetEnabled(opening == kWithProgram);
 }
 
 /// The key of these files is deliberately not asked. The group starts from the policy of the Web service:
@@ -158,7 +144,6 @@ void EnableNoEndExe(const TPageContext& context, TOpening opening) {
 void LoadNoEndExe(TPageContext& context, const TSpecialRow& row) {
     const TOpening opening = Stored(context, kNoInternetOpenWith) ? kWithDialog : kWithProgram;
     context.Form.Find<TRadioButton>(row.Controls[opening])->SetChecked(true);
-    EnableNoEndExe(context, opening);
 }
 
 /// The command is that of the files of unknown type, so that both open alike; the Change button of the group
@@ -169,7 +154,6 @@ void RecordNoEndExe(TPageContext& context, const TSpecialRow& row, TComponent& s
         RecordText(context, sender.Name(), row.Places[1], UnknownCommand(context));
     else
         Record(context, sender.Name(), row.Places[0], kDeleteKey);
-    EnableNoEndExe(context, opening);
 }
 
 constexpr TRow kOpenFileRows[] = {
@@ -240,6 +224,15 @@ constexpr TPreset kPresets[] = {
     {L"Button_FileType_Advanced_Default", kAdvancedDefault},
 };
 
+constexpr const wchar_t* kNetControls[] = {kNet};
+constexpr const wchar_t* kUnknownProgram[] = {kUnknownEdit, kUnknownChange};
+constexpr const wchar_t* kNoEndExeProgram[] = {kNoEndExeEdit, kNoEndExeChange};
+constexpr TNeed kNeeds[] = {
+    {.Controls = kNetControls, .Of = kUnknownRadios[kWithDialog]},
+    {.Controls = kUnknownProgram, .Of = kUnknownRadios[kWithProgram]},
+    {.Controls = kNoEndExeProgram, .Of = kNoEndExeRadios[kWithProgram]},
+};
+
 constexpr TOffer kOffers[] = {{L"Checkbox_FileType_MenuOperation_Drive_OpenDrive", kUntilXp}};
 
 constexpr TPageDefinition kPage{.Tag = 2,
@@ -247,7 +240,8 @@ constexpr TPageDefinition kPage{.Tag = 2,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
                                 .Explanations = FileTypesExplanations,
-                                .Offers = kOffers};
+                                .Offers = kOffers,
+                                .Needs = kNeeds};
 
 }  // namespace
 

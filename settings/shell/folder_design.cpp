@@ -71,19 +71,18 @@ TControlDesign ChooseSheet() {
                        Row(Label(L"Label_Folder_Choose_Click", L"Color of the item under the pointer:"),
                            ColorSwatch(L"Ctrbar_Folder_Choose_Click_Color", kHotTrackingBlue),
                            Button(L"Button_Folder_Choose_Click_Change", L"&Change..."))),
-                 Group(L"GroupBox_Folder_Choose_AddCheckBox", L"Check boxes",
+                 Group(L"GroupBox_Folder_Choose_AddCheckBox", L"Selecting several items",
                        CheckBox(L"Checkbox_Folder_Choose_AddCheckBox", L"&Use check boxes to select items")));
 }
 
 TControlDesign AdvancedSheet() {
-    return Sheet(
-        L"TabSheet_Folder_Advanced", L"Advanced",
-        Group(L"GroupBox_Folder_Advanced_MyComputer", L"Computer",
-              Label(L"Label_Folder_Advanced_MyComputer", L"Choose the icons that this folder shows."),
-              Buttons(Button(L"Button_Folder_Advanced_MyComputer_Set", L"&Settings..."))),
-        Group(L"GroupBox_Folder_Advanced_Desktop", L"Desktop",
-              Label(L"Label_Folder_Advanced_Desktop", L"Choose the icons that the desktop shows."),
-              Buttons(Button(L"Button_Folder_Advanced_Desktop_Set", L"S&ettings..."))));
+    return Sheet(L"TabSheet_Folder_Advanced", L"Advanced",
+                 Group(L"GroupBox_Folder_Advanced_MyComputer", L"Computer",
+                       Label(L"Label_Folder_Advanced_MyComputer", L"Choose the icons that this folder shows"),
+                       Buttons(Button(L"Button_Folder_Advanced_MyComputer_Set", L"&Settings..."))),
+                 Group(L"GroupBox_Folder_Advanced_Desktop", L"Desktop",
+                       Label(L"Label_Folder_Advanced_Desktop", L"Choose the icons that the desktop shows"),
+                       Buttons(Button(L"Button_Folder_Advanced_Desktop_Set", L"S&ettings..."))));
 }
 
 }  // namespace

@@ -8,64 +8,64 @@ constexpr const char* kFolderThumbnailSize =
     "the size in each folder's view instead.";
 
 constexpr TExplanation kTexts[] = {
-    {L"Checkbox_Folder_View_Windows_Tree",
+    {"Checkbox_Folder_View_Windows_Tree",
      "A double-click opens a folder with the folder tree at its side, for all users. Made for Windows XP and "
      "earlier: since Vista folder windows have a navigation pane, so leave this alone there."},
-    {L"Checkbox_Folder_View_Windows_ShowMenuBar",
+    {"Checkbox_Folder_View_Windows_ShowMenuBar",
      "Since Vista folder windows hide their menu bar until you press Alt. With this it stays visible. "
      "Earlier versions always show it."},
-    {L"Checkbox_Folder_View_Windows_Details",
+    {"Checkbox_Folder_View_Windows_Details",
      "The pane with the properties of what is selected, at the lower edge of folder windows since Vista. "
      "Clearing hides it, and the menus of Windows cannot bring it back. Earlier versions do not have it."},
-    {L"Checkbox_Folder_View_Windows_Restore",
+    {"Checkbox_Folder_View_Windows_Restore",
      "Folder windows that were open when you logged off are opened again when you log on. Saves time if you "
      "work in the same folders every day; logging on takes a little longer."},
-    {L"Checkbox_Folder_View_BehaviorSet_SaveViewSet",
+    {"Checkbox_Folder_View_BehaviorSet_SaveViewSet",
      "Each folder opens with the view and sorting in which you left it; otherwise folders open in the view "
      "of their kind. Windows 7 always remembers and no longer offers this choice."},
-    {L"Trabar_Folder_View_BehaviorSet_SaveViewSetCount",
+    {"Trabar_Folder_View_BehaviorSet_SaveViewSetCount",
      "When the number is reached, Windows forgets the view of the folder that was not opened for the longest "
      "time. Windows XP keeps only about 400 by default. Since Vista Windows keeps the views of local folders "
      "elsewhere, and this does not change their number."},
-    {L"Button_Folder_View_BehaviorSet_Default",
+    {"Button_Folder_View_BehaviorSet_Default",
      "Opens folders without the tree, does not restore them at logon, allows the details pane and remembers "
      "the view of 5000 folders; the menus stay as they are."},
-    {L"Checkbox_Folder_List_Details_FileAndDesktopTip",
+    {"Checkbox_Folder_List_Details_FileAndDesktopTip",
      "A small window with type, size and date appears when the mouse pointer rests on a file. Clear it if "
      "the tips cover what you want to see."},
-    {L"Checkbox_Folder_List_Details_FolderTip",
+    {"Checkbox_Folder_List_Details_FolderTip",
      "The tip of a folder tells its size and some of the files in it. Windows has to look through the folder "
      "for this, which may take time on slow or network drives."},
-    {L"Radio_Folder_List_ArrangeIcons_WithNumber",
+    {"Radio_Folder_List_ArrangeIcons_WithNumber",
      "Numbers in names are compared by their value, as most people count. This is the default since Windows "
      "XP; Windows 2000 always compares single characters."},
-    {L"Radio_Folder_List_ArrangeIcons_WithLetter",
+    {"Radio_Folder_List_ArrangeIcons_WithLetter",
      "Names are compared character by character, digits as well, as Windows 2000 does. Useful for names with "
      "hexadecimal numbers or fixed numbers of digits. Applies to all users."},
-    {L"Checkbox_Folder_List_EAndCFileWithColor",
+    {"Checkbox_Folder_List_EAndCFileWithColor",
      "Compressed files show in blue and, since Windows XP, encrypted ones in green, unless you choose other "
      "colors below."},
-    {L"Button_Folder_List_CompressedFile_Change",
+    {"Button_Folder_List_CompressedFile_Change",
      "Windows shows the names of compressed files in this color, in blue as long as you choose none."},
-    {L"Button_Folder_List_EncryptedFile_Change",
+    {"Button_Folder_List_EncryptedFile_Change",
      "Since Windows XP the names of encrypted files show in this color, in green as long as you choose none. "
      "Windows 2000 does not mark them."},
-    {L"Button_Folder_List_Default",
+    {"Button_Folder_List_Default",
      "Shows tips and colors and sorts by the numbers in names; the colors chosen stay as they are."},
-    {L"Edit_Folder_Thumbnail_Size", kFolderThumbnailSize},
-    {L"UpDown_Folder_Thumbnail_Size", kFolderThumbnailSize},
-    {L"Trackbar_Folder_Thumbnail_Quality",
+    {"Edit_Folder_Thumbnail_Size", kFolderThumbnailSize},
+    {"UpDown_Folder_Thumbnail_Size", kFolderThumbnailSize},
+    {"Trackbar_Folder_Thumbnail_Quality",
      "How strongly Windows XP compresses the thumbnails that it stores: less quality saves space on the "
      "disk. Thumbnails that are stored already stay as they are. Later versions have no such choice."},
-    {L"Checkbox_Folder_Thumbnail_Cache",
+    {"Checkbox_Folder_Thumbnail_Cache",
      "Windows XP keeps the small pictures in a hidden file Thumbs.db in each folder, so that they show "
      "faster the next time. Clear it to avoid these files, for example on network drives; existing ones are "
      "not deleted."},
-    {L"Button_Folder_Thumbnail_Default", "Sets size 96, quality 90 and caching, as in a new Windows XP."},
-    {L"Button_Folder_Choose_Click_Change",
+    {"Button_Folder_Thumbnail_Default", "Sets size 96, quality 90 and caching, as in a new Windows XP."},
+    {"Button_Folder_Choose_Click_Change",
      "Windows uses this system color for links and, when folders open items with a single click, for the "
      "name under the pointer. It shows from the next logon; choosing a theme or color scheme sets it anew."},
-    {L"Checkbox_Folder_Choose_AddCheckBox",
+    {"Checkbox_Folder_Choose_AddCheckBox",
      "Since Vista a small box appears on each item when you point to it, so that you can select several "
      "without holding down Ctrl. Handy for pen and touch input. Earlier versions do not have it."},
 };

@@ -32,13 +32,12 @@ TControlDesign DisplaySheet() {
 
 TControlDesign FunctionSheet() {
     return Sheet(L"TabSheet_CommonSettings_Function", L"Function",
-                 Group(L"GroupBox_CommonSettings_Function_CursorWidth", L"Cursor",
-                       Row(Label(L"Label_CommonSettings_Function_CursorWidth_Width", L"&Width:"),
+                 Group(L"GroupBox_CommonSettings_Function_Keyboard", L"Keyboard",
+                       Row(Label(L"Label_CommonSettings_Function_CursorWidth_Width", L"Cursor &width:"),
                            Edit(L"MaskEdit_CommonSettings_Function_CursorWidth_Width").Width(4),
                            UpDown(L"UpDownCur_CommonSettings_Function_CursorWidth_Width",
                                   L"MaskEdit_CommonSettings_Function_CursorWidth_Width", 1, 10, 1),
-                           Label(L"Label_CommonSettings_Function_CursorWidth_Unit", L"pixels"))),
-                 Group(L"GroupBox_CommonSettings_Function_Keyboard", L"Keyboard",
+                           Label(L"Label_CommonSettings_Function_CursorWidth_Unit", L"pixels")),
                        CheckBox(L"Checkbox_CommonSettings_Function_Keyboard_WinKey",
                                 L"Use the Windows &key as a shortcut key")),
                  Group(L"GroupBox_CommonSettings_Function_Explorer", L"Windows Explorer",
@@ -68,7 +67,7 @@ TControlDesign SecuritySheet() {
                                        kAutoUpdateTypes))),
                  Group(L"GroupBox_CommonSettings_Security_Traces", L"Traces",
                        CheckBox(L"Checkbox_CommonSettings_Security_Traces_ClearLogoff",
-                                L"Clear history list at &logoff."),
+                                L"Clear history list at &logoff"),
                        CheckBox(L"Checkbox_CommonSettings_Security_Traces_Pagefile",
                                 L"Clear the &page file when Windows shuts down")));
 }
@@ -76,7 +75,7 @@ TControlDesign SecuritySheet() {
 TControlDesign OthersSheet() {
     return Sheet(
         L"TabSheet_CommonSettings_Others", L"Others",
-        Group(L"GroupBox_CommonSettings_Others_Font", L"Edges of screen fonts",
+        Group(L"GroupBox_CommonSettings_Others_Font", L"Font smoothing",
               Row(Label(L"Label_CommonSettings_Others_Font_SmoothType", L"&Method:"),
                   ComboBox(L"CB_CommonSettings_Others_Font_SmoothType", kFontSmoothingTypes))),
         Group(L"GroupBox_CommonSettings_Others_Message", L"Messages",
@@ -168,16 +167,21 @@ constexpr TRow kOthersRows[] = {
 constexpr TLoader kLoaders[] = {kDisplayRows, kFunctionRows, kSecurityRows, kOthersRows};
 
 // Windows 2000 knows neither the policy of the Windows key nor that of balloon tips.
-constexpr TOffer kOffers[] = {{L"GroupBox_CommonSettings_Function_Keyboard", kNotWindows2000},
+constexpr TOffer kOffers[] = {{L"Checkbox_CommonSettings_Function_Keyboard_WinKey", kNotWindows2000},
                               {L"Checkbox_CommonSettings_Others_Message_Balloons", kSinceXp}};
 
+constexpr const wchar_t* kSideAndEdge[] = {
+    L"Label_CommonSettings_Display_MinWindow_Left", L"CB_CommonSettings_Display_MinWindow_Left",
+    L"Label_CommonSettings_Display_MinWindow_Top", L"CB_CommonSettings_Display_MinWindow_Top"};
+constexpr TNeed kNeeds[] = {MinimizedNeed(kSideAndEdge, L"CB_CommonSettings_Display_MinWindow_Arrange")};
+
+bool HasFirefox(const TPageContext& context) { return context.Firefox.IsFirefoxInstalled(); }
+
+constexpr TLack kLacks[] = {{kHomePage, HasFirefox, TCaption::NoFirefox}, SecurityCenterLack(kActiveSC)};
+
 bool Prepare(TPageContext& context) {
-    const bool installed = context.Firefox.IsFirefoxInstalled();
-    context.Form.Find(kHomePage)->SetEnabled(installed);
-    if (installed) context.Firefox.LoadFirefoxPrefs();
-    const bool hasFirewall = HasFirewall(context);
-    if (!hasFirewall) context.Form.Find(kActiveSC)->SetEnabled(false);
-    context.Form.Find(kStartWF)->SetVisible(hasFirewall);
+    if (HasFirefox(context)) context.Firefox.LoadFirefoxPrefs();
+    context.Form.Find(kStartWF)->SetVisible(HasFirewall(context));
     return true;
 }
 
@@ -187,6 +191,8 @@ constexpr TPageDefinition kPage{.Tag = 19,
                                 .Presets = {},
                                 .Offers = kOffers,
                                 .Twins = kTwins,
+                                .Needs = kNeeds,
+                                .Lacks = kLacks,
                                 .Prepare = Prepare};
 
 }  // namespace

@@ -149,7 +149,8 @@ constexpr TOffer kOffers[] = {
     {L"Checkbox_Use_Keyboard_WinKey_Active", kNotWindows2000},
     {L"Checkbox_Use_MouseFunction_Pointer_Vanish", kSinceXp},
     {L"Checkbox_Use_MouseFunction_Pointer_Sonar", kSinceXp},
-    {L"GroupBox_Use_MouseFunction_Trails", kSinceXp},
+    {L"Checkbox_Use_MouseFunction_Trails_Show", kSinceXp},
+    {L"TrackBar_Use_MouseFunction_Trails_Length", kSinceXp},
 };
 
 constexpr TPageDefinition kPage{.Tag = 4,

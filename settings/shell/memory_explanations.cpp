@@ -4,26 +4,26 @@
 namespace {
 
 constexpr TExplanation kTexts[] = {
-    {L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Allways",
+    {"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Allways",
      "The code of Windows itself and of drivers is never moved to the disk. It helps developers of drivers; "
      "with plenty of memory there is little to gain, and with little memory programs lose some."},
-    {L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Page",
+    {"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Page",
      "Windows moves parts of itself that are not in use to the disk when programs need the memory. It is the "
      "default and right for nearly every computer."},
-    {L"Checkbox_MemoryAndCache_MemoryManage_Pagefile_Delete",
+    {"Checkbox_MemoryAndCache_MemoryManage_Pagefile_Delete",
      "Overwrites the contents with zeros, so that nobody can read parts of documents or passwords in the "
      "page file while Windows is not running. Shutting down takes considerably longer; the file itself "
      "stays."},
-    {L"Button_MemoryAndCache_MemoryManage_Default",
+    {"Button_MemoryAndCache_MemoryManage_Default",
      "Lets Windows move parts of itself to the page file, which is not cleared, as Windows does by default."},
-    {L"Radio_MemoryAndCache_MemoryUse_System",
+    {"Radio_MemoryAndCache_MemoryUse_System",
      "Gives copies of files that were read more memory than programs. It is meant for file servers: on "
      "desktop computers with Windows XP, Microsoft warns, drivers may run short of memory and slow "
      "everything down."},
-    {L"Radio_MemoryAndCache_MemoryUse_Program",
+    {"Radio_MemoryAndCache_MemoryUse_Program",
      "Gives programs more memory than copies of files that were read. It is the default of all versions for "
      "desktop computers."},
-    {L"Button_MemoryAndCache_MemoryUse_Default",
+    {"Button_MemoryAndCache_MemoryUse_Default",
      "Chooses programs, the default of Windows for desktop computers."},
 };
 

@@ -15,7 +15,7 @@ TControlDesign Design() {
                                     L"A&lways keep in physical memory"),
                         RadioButton(L"Radio_MemoryAndCache_MemoryManage_VirtualMemory_Page",
                                     L"Move to the page &file when memory runs short")),
-                  Group(L"GroupBox_MemoryAndCache_MemoryManage_Pagefile", L"Page file",
+                  Group(L"GroupBox_MemoryAndCache_MemoryManage_Pagefile", L"Traces",
                         CheckBox(L"Checkbox_MemoryAndCache_MemoryManage_Pagefile_Delete",
                                  L"&Clear the page file when Windows shuts down")),
                   Buttons(Button(L"Button_MemoryAndCache_MemoryManage_Default", L"&Default"))),

@@ -4,119 +4,119 @@
 namespace {
 
 constexpr TExplanation kTexts[] = {
-    {L"Checkbox_Use_StartMenu_Common_User_ShowUserName",
+    {"Checkbox_Use_StartMenu_Common_User_ShowUserName",
      "Windows XP shows the name at the top of the Start menu. Since Vista it is an entry that opens your "
      "personal folder. Has no effect on the classic Start menu."},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_Classic",
+    {"Checkbox_Use_StartMenu_Common_Behaviour_Classic",
      "The menu with a single column, as in Windows 2000. While it is chosen here, the properties of the "
      "Start menu cannot change it back, and most other settings of this page, which are for the menu with "
      "two columns, have no effect."},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade",
+    {"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade",
      "If you clear it, submenus of the Start menu open only when you click them, which helps when the mouse "
      "often opens the wrong one."},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop",
+    {"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop",
      "Lets you add and rearrange entries of the Start menu with the mouse. Clear it if they get moved by "
      "accident; since Vista this also takes away the menus of the right mouse button."},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_NewApps",
+    {"Checkbox_Use_StartMenu_Common_Behaviour_NewApps",
      "New programs stand out in color in the Start menu until you have used them. Clear it if the marks "
      "distract you."},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons",
+    {"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons",
      "Concerns the list of programs on the left side of the Start menu. Small icons leave room for more "
      "programs."},
-    {L"Checkbox_Use_StartMenu_Common_Behaviour_Personalized",
+    {"Checkbox_Use_StartMenu_Common_Behaviour_Personalized",
      "The classic Start menu and that of Windows 2000 hide what you have not used for some time, behind an "
      "arrow. Clear it if you want to find all entries in their places at all times."},
-    {L"UpDown_Use_StartMenu_Common_Menu_Delay",
+    {"UpDown_Use_StartMenu_Common_Menu_Delay",
      "How long the mouse pointer must rest on an entry until its submenu opens, in the menus of all "
      "programs. The default is 400; with less, menus feel quicker, with more, fewer open by mistake."},
-    {L"Checkbox_Use_StartMenu_Common_Classic_ControlPanel",
+    {"Checkbox_Use_StartMenu_Common_Classic_ControlPanel",
      "The tools of the Control Panel appear in a submenu instead of a window. Concerns the classic Start "
      "menu and that of Windows 2000."},
-    {L"Checkbox_Use_StartMenu_Common_Classic_MyDocuments",
+    {"Checkbox_Use_StartMenu_Common_Classic_MyDocuments",
      "Files and folders of your documents appear in a submenu instead of a window. It becomes long when "
      "there are many. Concerns the classic Start menu and that of Windows 2000."},
-    {L"Checkbox_Use_StartMenu_Common_Classic_Network",
+    {"Checkbox_Use_StartMenu_Common_Classic_Network",
      "Network and dial-up connections appear in a submenu, from which you can start them directly. Concerns "
      "the classic Start menu and that of Windows 2000."},
-    {L"Checkbox_Use_StartMenu_Common_Classic_Printers",
+    {"Checkbox_Use_StartMenu_Common_Classic_Printers",
      "Your printers appear in a submenu, from which you can open their queues directly. Concerns the classic "
      "Start menu and that of Windows 2000."},
-    {L"Button_Use_StartMenu_Common_Default",
+    {"Button_Use_StartMenu_Common_Default",
      "Chooses the Start menu as in a new Windows with its usual behavior and a delay of 400 milliseconds; "
      "what the classic menu opens as menus stays as it is."},
-    {L"CB_Use_StartMenu_Items_MyComputer",
+    {"CB_Use_StartMenu_Items_MyComputer",
      "The entry for drives and devices. As a link it opens a window, as a menu it unfolds the drives. Has no "
      "effect on the classic Start menu."},
-    {L"CB_Use_StartMenu_Items_MyDocuments",
+    {"CB_Use_StartMenu_Items_MyDocuments",
      "The entry for your documents. As a menu it shows all files and subfolders, which becomes long when "
      "there are many. Has no effect on the classic Start menu."},
-    {L"CB_Use_StartMenu_Items_MyPictures",
+    {"CB_Use_StartMenu_Items_MyPictures",
      "The entry for the folder in which cameras and scanners put their pictures by default. Has no effect on "
      "the classic Start menu."},
-    {L"CB_Use_StartMenu_Items_MyMusic",
+    {"CB_Use_StartMenu_Items_MyMusic",
      "The entry for the folder in which Windows Media Player puts music from CDs by default. Has no effect "
      "on the classic Start menu."},
-    {L"CB_Use_StartMenu_Items_Videos",
+    {"CB_Use_StartMenu_Items_Videos",
      "The entry for your videos, which the Start menu of Windows 7 does not show by default. As a menu it "
      "unfolds the files."},
-    {L"CB_Use_StartMenu_Items_Downloads",
+    {"CB_Use_StartMenu_Items_Downloads",
      "The entry for the folder in which browsers put downloads by default. The Start menu of Windows 7 does "
      "not show it by default."},
-    {L"CB_Use_StartMenu_Items_ControlPanel",
+    {"CB_Use_StartMenu_Items_ControlPanel",
      "As a menu it shows all tools at once, without categories, which saves a click or two. Has no effect on "
      "the classic Start menu."},
-    {L"CB_Use_StartMenu_Items_NetConn",
+    {"CB_Use_StartMenu_Items_NetConn",
      "As a menu Windows XP lists your connections, to start them directly; as a link it opens their folder. "
      "Has no effect on the classic Start menu."},
-    {L"Checkbox_Use_StartMenu_Items_Run",
+    {"Checkbox_Use_StartMenu_Items_Run",
      "Opens programs, folders and Web addresses by name. Since Vista Windows does not show the entry by "
      "default, as Windows key + R does the same. On Windows 2000 clearing also blocks these keys and New "
      "Task in Task Manager."},
-    {L"Checkbox_Use_StartMenu_Items_Search",
+    {"Checkbox_Use_StartMenu_Items_Search",
      "The entry that searches for files. The search box of Vista is another matter and stays. On Windows "
      "2000 clearing also blocks Windows key + F."},
-    {L"Checkbox_Use_StartMenu_Items_Help",
+    {"Checkbox_Use_StartMenu_Items_Help",
      "The entry that opens the help of Windows. Without it F1 still shows help on the desktop and in "
      "programs."},
-    {L"Checkbox_Use_StartMenu_Items_Favorites",
+    {"Checkbox_Use_StartMenu_Items_Favorites",
      "Shows the favorites of Internet Explorer in a submenu. Useful if you collect your Web pages there; "
      "other browsers keep bookmarks of their own."},
-    {L"Checkbox_Use_StartMenu_Items_NetConn",
+    {"Checkbox_Use_StartMenu_Items_NetConn",
      "The entry with which you connect to wireless networks, dial-up or a VPN. Windows 7 does not show it by "
      "default, because the network icon beside the clock does the same."},
-    {L"Checkbox_Use_StartMenu_Items_Printers",
+    {"Checkbox_Use_StartMenu_Items_Printers",
      "The entry for the folder in which printers are set up and print jobs are watched. Has no effect on the "
      "classic Start menu."},
-    {L"Checkbox_Use_StartMenu_Items_Programs",
+    {"Checkbox_Use_StartMenu_Items_Programs",
      "The entry with which you choose the programs for Web pages, mail, music and the like. Windows XP has "
      "it since Service Pack 1. You find it in the Control Panel, too."},
-    {L"Checkbox_Use_StartMenu_Items_AdminTools",
+    {"Checkbox_Use_StartMenu_Items_AdminTools",
      "Shows tools such as Services, Event Viewer and Computer Management among the programs of the Start "
      "menu, since Windows XP in its right column as well. They are in the Control Panel in any case."},
-    {L"Checkbox_Use_StartMenu_Items_LogOff",
+    {"Checkbox_Use_StartMenu_Items_LogOff",
      "If you clear it, the Start menu does not offer to log off, so that nobody does it by accident. "
      "Ctrl+Alt+Del still does."},
-    {L"Checkbox_Use_StartMenu_RecentlyUse_Document_Keep",
+    {"Checkbox_Use_StartMenu_RecentlyUse_Document_Keep",
      "Windows notes which documents you open. If you clear it, others cannot see what you worked on, and the "
      "Jump Lists of Windows 7 list no documents. Programs may keep lists of their own."},
-    {L"Checkbox_Use_StartMenu_RecentlyUse_Document_Show",
+    {"Checkbox_Use_StartMenu_RecentlyUse_Document_Show",
      "Only the menu is shown or hidden; what is remembered stays. Windows 7 does not show it by default, as "
      "its Jump Lists offer the documents of each program."},
-    {L"UpDown_Use_StartMenu_RecentlyUse_Document_FileCount",
+    {"UpDown_Use_StartMenu_RecentlyUse_Document_FileCount",
      "How many of the documents opened last the menu lists. The default is 15."},
-    {L"Checkbox_Use_StartMenu_RecentlyUse_Program_Keep",
+    {"Checkbox_Use_StartMenu_RecentlyUse_Program_Keep",
      "Windows counts how often you start each program. The list of frequently used programs and personalized "
      "menus need this; without it they do not adapt to you."},
-    {L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show",
+    {"Checkbox_Use_StartMenu_RecentlyUse_Program_Show",
      "The list below the pinned programs on the left side of the Start menu. If you clear it, only pinned "
      "programs remain there."},
-    {L"UpDown_Use_StartMenu_RecentlyUse_Program_Count",
+    {"UpDown_Use_StartMenu_RecentlyUse_Program_Count",
      "How many programs the list in the Start menu holds: 6 on a new Windows XP, 9 on Vista, 10 on Windows "
      "7. On a small screen fewer may fit."},
-    {L"UpDown_Use_StartMenu_RecentlyUse_JumpList_Count",
+    {"UpDown_Use_StartMenu_RecentlyUse_JumpList_Count",
      "How many recent items Windows 7 lists when you right-click a taskbar button or open a program's arrow "
      "in the Start menu. What you have pinned comes in addition."},
-    {L"Button_Use_StartMenu_RecentlyUse_Default",
+    {"Button_Use_StartMenu_RecentlyUse_Default",
      "Remembers documents and programs and lists as many of them as a new Windows does."},
 };
 

@@ -13,9 +13,8 @@ TControlDesign Design() {
         PageControl(
             L"PageControl_Use_StartMenu",
             Sheet(L"TabSheet_Use_StartMenu_Common", L"General",
-                  Group(L"GroupBox_Use_StartMenu_Common_User", L"User",
-                        CheckBox(L"Checkbox_Use_StartMenu_Common_User_ShowUserName", L"Show my &user name")),
-                  Group(L"GroupBox_Use_StartMenu_Common_Behaviour", L"Behavior",
+                  Group(L"GroupBox_Use_StartMenu_Common_Behaviour", L"Appearance and behavior",
+                        CheckBox(L"Checkbox_Use_StartMenu_Common_User_ShowUserName", L"Show my &user name"),
                         CheckBox(L"Checkbox_Use_StartMenu_Common_Behaviour_Classic",
                                  L"Use the &classic Start menu"),
                         CheckBox(L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade",
@@ -197,6 +196,7 @@ constexpr TRow kItemRows[] = {
 constexpr const wchar_t* kKeepDocuments = L"Checkbox_Use_StartMenu_RecentlyUse_Document_Keep";
 constexpr const wchar_t* kShowDocuments = L"Checkbox_Use_StartMenu_RecentlyUse_Document_Show";
 constexpr const wchar_t* kKeepPrograms = L"Checkbox_Use_StartMenu_RecentlyUse_Program_Keep";
+constexpr const wchar_t* kShowPrograms = L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show";
 constexpr const wchar_t* kProgramCount = L"UpDown_Use_StartMenu_RecentlyUse_Program_Count";
 constexpr const wchar_t* kJumpListCount = L"UpDown_Use_StartMenu_RecentlyUse_JumpList_Count";
 
@@ -229,7 +229,7 @@ constexpr TRow kRecentlyUsedRows[] = {
                .Restart = true},
     On(kUntilVista, PolicyRow(kKeepPrograms, L"NoInstrumentation")),
     On(kSinceWindows7, Option(kKeepPrograms, L"Start_TrackProgs")),
-    PolicyRow(L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show", L"NoStartMenuMFUprogramsList"),
+    PolicyRow(kShowPrograms, L"NoStartMenuMFUprogramsList"),
     ProgramCount(kOnlyXp, kProgramsOnXp),
     ProgramCount(kOnlyVista, kProgramsOnVista),
     ProgramCount(kSinceWindows7, kProgramsOnWindows7),
@@ -256,7 +256,7 @@ constexpr TPresetState kRecentlyUsedDefault[] = {
     {kShowDocuments, 0, kSinceWindows7},
     {L"UpDown_Use_StartMenu_RecentlyUse_Document_FileCount", 15},
     {kKeepPrograms, 1},
-    {L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show", 1, kSinceXp},
+    {kShowPrograms, 1, kSinceXp},
     {kProgramCount, kProgramsOnXp, kOnlyXp},
     {kProgramCount, kProgramsOnVista, kOnlyVista},
     {kProgramCount, kProgramsOnWindows7, kSinceWindows7},
@@ -269,7 +269,7 @@ constexpr TPreset kPresets[] = {
 
 // Windows XP brought the two-column Start menu, Windows 7 left the classic one behind.
 constexpr TOffer kOffers[] = {
-    {L"GroupBox_Use_StartMenu_Common_User", kSinceXp},
+    {kUserName, kSinceXp},
     {L"Checkbox_Use_StartMenu_Common_Behaviour_Classic", kXpAndVista},
     {L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade", kSinceXp},
     {L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", kSinceXp},
@@ -290,7 +290,7 @@ constexpr TOffer kOffers[] = {
     {kPrinters, kSinceXp},
     {L"Checkbox_Use_StartMenu_Items_Programs", kSinceXp},
     {L"Checkbox_Use_StartMenu_Items_LogOff", kSinceXp},
-    {L"Checkbox_Use_StartMenu_RecentlyUse_Program_Show", kSinceXp},
+    {kShowPrograms, kSinceXp},
     {L"Label_Use_StartMenu_RecentlyUse_Program_Count", kSinceXp},
     {L"Edit_Use_StartMenu_RecentlyUse_Program_Count", kSinceXp},
     {kProgramCount, kSinceXp},
@@ -313,13 +313,48 @@ constexpr TLevelCaption kLevelCaptions[] = {
     {L"Checkbox_Use_StartMenu_Items_Programs", kSinceVista, TCaption::StartMenuDefaultPrograms},
 };
 
+// Of the menu with two columns.
+constexpr const wchar_t* kTwoColumns[] = {kUserName,
+                                          L"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons",
+                                          L"Label_Use_StartMenu_Items_MyComputer",
+                                          L"CB_Use_StartMenu_Items_MyComputer",
+                                          L"Label_Use_StartMenu_Items_MyDocuments",
+                                          L"CB_Use_StartMenu_Items_MyDocuments",
+                                          L"Label_Use_StartMenu_Items_MyPictures",
+                                          L"CB_Use_StartMenu_Items_MyPictures",
+                                          L"Label_Use_StartMenu_Items_MyMusic",
+                                          L"CB_Use_StartMenu_Items_MyMusic",
+                                          L"Label_Use_StartMenu_Items_ControlPanel",
+                                          L"CB_Use_StartMenu_Items_ControlPanel",
+                                          L"Label_Use_StartMenu_Items_NetConn",
+                                          L"CB_Use_StartMenu_Items_NetConn",
+                                          kPrinters,
+                                          kShowPrograms,
+                                          L"Label_Use_StartMenu_RecentlyUse_Program_Count",
+                                          L"Edit_Use_StartMenu_RecentlyUse_Program_Count",
+                                          kProgramCount};
+constexpr const wchar_t* kProgramCountControls[] = {L"Label_Use_StartMenu_RecentlyUse_Program_Count",
+                                                    L"Edit_Use_StartMenu_RecentlyUse_Program_Count",
+                                                    kProgramCount};
+constexpr const wchar_t* kDocumentCount[] = {L"UpDown_Use_StartMenu_RecentlyUse_Document_FileCount"};
+constexpr TNeed kNeeds[] = {
+    {.Controls = kTwoColumns,
+     .Of = L"Checkbox_Use_StartMenu_Common_Behaviour_Classic",
+     .State = 0,
+     .Levels = kXpAndVista},
+    {.Controls = kProgramCountControls, .Of = kShowPrograms},
+    {.Controls = kDocumentCount, .Of = kKeepDocuments, .Disables = false},
+    {.Controls = kDocumentCount, .Of = kShowDocuments, .Disables = false},
+};
+
 constexpr TPageDefinition kPage{.Tag = 5,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
                                 .Explanations = StartMenuExplanations,
                                 .Offers = kOffers,
-                                .LevelCaptions = kLevelCaptions};
+                                .LevelCaptions = kLevelCaptions,
+                                .Needs = kNeeds};
 
 }  // namespace
 

@@ -8,19 +8,17 @@ constexpr const wchar_t* kDelayEdit = L"Edit_Startup_System_DelayTime_Time";
 constexpr const wchar_t* kWaitEdit = L"Edit_Startup_Exit_WaitTime_Time";
 
 TControlDesign SystemSheet() {
-    return Sheet(L"TabSheet_Startup_System", L"Startup",
-                 Group(L"GroupBox_Startup_System_Defrag", L"Boot files",
-                       CheckBox(L"Checkbox_Startup_System_Defrag_Enable",
-                                L"Defragment the &boot files automatically")),
-                 Group(L"GroupBox_Startup_System_ErrorMessage", L"Boot options",
-                       CheckBox(L"Checkbox_Startup_System_ErrorMessage_Enable",
-                                L"Start without the Windows &logo screen")),
-                 Group(L"GroupBox_Startup_System_DelayTime", L"Disk checking",
-                       Row(Label(L"Label_Startup_System_DelayTime_Time", L"&Wait before a disk is checked:"),
-                           Edit(kDelayEdit).Width(6),
-                           UpDown(L"Updown_Startup_System_DelayTime_Time", kDelayEdit, 0, 600, 10),
-                           Label(L"Label_Startup_System_DelayTime_Unit", L"seconds"))),
-                 Buttons(Button(L"Button_Startup_System_Default", L"&Default")));
+    return Sheet(
+        L"TabSheet_Startup_System", L"Startup",
+        Group(L"GroupBox_Startup_System_Defrag", L"When Windows starts",
+              CheckBox(L"Checkbox_Startup_System_Defrag_Enable", L"Defragment the &boot files automatically"),
+              CheckBox(L"Checkbox_Startup_System_ErrorMessage_Enable",
+                       L"Start without the Windows &logo screen"),
+              Row(Label(L"Label_Startup_System_DelayTime_Time", L"&Wait before a disk is checked:"),
+                  Edit(kDelayEdit).Width(6),
+                  UpDown(L"Updown_Startup_System_DelayTime_Time", kDelayEdit, 0, 600, 10),
+                  Label(L"Label_Startup_System_DelayTime_Unit", L"seconds"))),
+        Buttons(Button(L"Button_Startup_System_Default", L"&Default")));
 }
 
 TControlDesign ExitSheet() {
@@ -41,7 +39,7 @@ TControlDesign ExitSheet() {
 TControlDesign DesktopAndTaskbarSheet() {
     return Sheet(
         L"TabSheet_Startup_DesktopAndTaskbar", L"Desktop and Taskbar",
-        Group(L"GroupBox_Startup_DesktopAndTaskbar_AutoRestartExplorer", L"Windows Explorer",
+        Group(L"GroupBox_Startup_DesktopAndTaskbar_AutoRestartExplorer", L"For all users",
               CheckBox(L"Checkbox_Startup_DesktopAndTaskbar_AutoRestartExplorer_AutoRun",
                        L"&Restart Explorer automatically when it ends unexpectedly")),
         Group(L"GroupBox_Startup_DesktopAndTaskbar_DAndTSeparateProcess", L"Run the desktop and taskbar",
@@ -57,9 +55,8 @@ TControlDesign DesktopAndTaskbarSheet() {
 TControlDesign ErrorSheet() {
     return Sheet(
         L"TabSheet_Startup_Error", L"Errors",
-        Group(L"GroupBox_Startup_Error_Sound", L"Sound",
-              CheckBox(L"Checkbox_Startup_Error_Sound_beep", L"&Beep when an error occurs")),
-        Group(L"GroupBox_Startup_Error_SystemError", L"System failure",
+        Group(L"GroupBox_Startup_Error_SystemError", L"When something fails",
+              CheckBox(L"Checkbox_Startup_Error_Sound_beep", L"&Beep when an error occurs"),
               CheckBox(L"Checkbox_Startup_Error_SystemError_Log", L"&Write an event to the system log"),
               Row(Label(L"Label_Startup_Error_SystemError_Type", L"When Windows &crashes:"),
                   ComboBox(L"CB_Startup_Error_SystemError_Type",

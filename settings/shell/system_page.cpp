@@ -44,9 +44,8 @@ TControlDesign CommonDialogSheet() {
 TControlDesign SearchSheet() {
     return Sheet(
         L"TabSheet_System_Search", L"Search",
-        Group(L"GroupBox_System_Search_IndexService", L"Indexing Service",
-              CheckBox(L"Checkbox_System_Search_IndexService_Enabled", L"Disable &Indexing service.")),
-        Group(L"GroupBox_System_Search_IndexService_ClassicSearch", L"Windows Explorer",
+        Group(L"GroupBox_System_Search_IndexService", L"Searching for files",
+              CheckBox(L"Checkbox_System_Search_IndexService_Enabled", L"Disable &Indexing service."),
               CheckBox(L"Checkbox_System_Search_IndexService_ClassicSearch_InExplorer",
                        L"Use classic search in &Explorer."),
               Row(Button(L"Button_System_Search_IndexService_SearchFileType_Type", L"File &Type"))),

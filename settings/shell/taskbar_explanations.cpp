@@ -4,74 +4,74 @@
 namespace {
 
 constexpr TExplanation kTexts[] = {
-    {L"Checkbox_Taskbar_ButtonFlashes_Active",
+    {"Checkbox_Taskbar_ButtonFlashes_Active",
      "Programs in the background cannot take the keyboard away from you while you work; their taskbar "
      "buttons flash instead. If you clear it, any program may bring its window to the front at any time."},
-    {L"UpDown_Taskbar_ButtonFlashes_Common_Time",
+    {"UpDown_Taskbar_ButtonFlashes_Common_Time",
      "When you have used neither keyboard nor mouse for this time, a window may come to the front by itself. "
      "The default is 200 seconds."},
-    {L"UpDown_Taskbar_ButtonFlashes_Speed_Flash",
+    {"UpDown_Taskbar_ButtonFlashes_Speed_Flash",
      "How often the button flashes when a program was kept from coming to the front. Programs that make "
      "their button flash by themselves choose their own number."},
-    {L"Button_Taskbar_ButtonFlashes_Default",
+    {"Button_Taskbar_ButtonFlashes_Default",
      "Lets buttons flash three times and keeps windows back for 200 seconds, as Windows does by default."},
-    {L"Checkbox_Taskbar_ButtonAppearance_Bar_Lock",
+    {"Checkbox_Taskbar_ButtonAppearance_Bar_Lock",
      "Keeps the taskbar and its toolbars from being moved or resized by accident. Clear it to move the bar "
      "to another edge or to give it a second row."},
-    {L"Checkbox_Taskbar_ButtonAppearance_Bar_Peek",
+    {"Checkbox_Taskbar_ButtonAppearance_Bar_Peek",
      "Pointing to the right end of the taskbar makes all windows transparent, so that you see the desktop. "
      "Needs the Aero look; a click there shows the desktop in any case."},
-    {L"Checkbox_Taskbar_ButtonAppearance_Group_Active",
+    {"Checkbox_Taskbar_ButtonAppearance_Group_Active",
      "When the taskbar becomes full, the windows of one program share a button that opens a list. Clear it "
      "if you want to reach every window with one click."},
-    {L"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount",
+    {"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount",
      "A program with at least this number of windows gets one button, even when there is room. Without a "
      "number of your own Windows groups only when the taskbar is full. Has no effect while grouping is "
      "turned off."},
-    {L"CB_Taskbar_ButtonAppearance_Look_Combine",
+    {"CB_Taskbar_ButtonAppearance_Look_Combine",
      "Windows 7 shows one button without a label for each program. With labels you tell windows apart at a "
      "glance, but fewer fit on the taskbar."},
-    {L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons",
+    {"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons",
      "Makes the taskbar of Windows 7 about as low as in earlier versions and leaves more room for windows, "
      "which helps on small screens."},
-    {L"Button_Taskbar_ButtonAppearance_Default",
+    {"Button_Taskbar_ButtonAppearance_Default",
      "Locks the taskbar and chooses the buttons as in a new Windows; the number of windows that make a group "
      "stays as it is."},
-    {L"Checkbox_Taskbar_Notification_Icons_Show",
+    {"Checkbox_Taskbar_Notification_Icons_Show",
      "Clearing hides all icons beside the clock, also those through which programs are operated or report "
      "problems. The clock stays."},
-    {L"Checkbox_Taskbar_Notification_Icons_HideInactive",
+    {"Checkbox_Taskbar_Notification_Icons_HideInactive",
      "Windows shows only icons that you use or that have something to say; an arrow shows the others. If you "
      "clear it, all icons are visible at all times."},
-    {L"Checkbox_Taskbar_Notification_Icons_Clock",
+    {"Checkbox_Taskbar_Notification_Icons_Clock",
      "The time at the end of the taskbar. While it is hidden here, the properties of the taskbar cannot "
      "bring it back."},
-    {L"Checkbox_Taskbar_Notification_Icons_Volume",
+    {"Checkbox_Taskbar_Notification_Icons_Volume",
      "The loudspeaker with which you set the volume since Vista. While it is hidden here, Windows' own "
      "settings cannot bring it back."},
-    {L"Checkbox_Taskbar_Notification_Icons_Network",
+    {"Checkbox_Taskbar_Notification_Icons_Network",
      "The icon that tells since Vista whether you are connected, and offers wireless networks. While it is "
      "hidden here, Windows' own settings cannot bring it back."},
-    {L"Checkbox_Taskbar_Notification_Icons_Power",
+    {"Checkbox_Taskbar_Notification_Icons_Power",
      "The icon with the battery's charge and the power plans, on portable computers. While it is hidden "
      "here, Windows' own settings cannot bring it back."},
-    {L"Checkbox_Taskbar_Notification_Icons_ActionCenter",
+    {"Checkbox_Taskbar_Notification_Icons_ActionCenter",
      "The flag of Windows 7 that reports problems with security and maintenance. While it is hidden, look "
      "into the Action Center yourself from time to time."},
-    {L"Checkbox_Taskbar_Notification_Balloons_Show",
+    {"Checkbox_Taskbar_Notification_Balloons_Show",
      "The balloons beside the clock in which Windows and programs report news. Clearing also hides warnings, "
      "for example of low disk space."},
-    {L"Button_Taskbar_Notification_Default", "Checks all boxes of this sheet, as Windows does by default."},
-    {L"CB_Taskbar_MinWindow_Arrange",
+    {"Button_Taskbar_Notification_Default", "Checks all boxes of this sheet, as Windows does by default."},
+    {"CB_Taskbar_MinWindow_Arrange",
      "Where minimized windows go while no taskbar shows them: as small title bars on the desktop, or "
      "nowhere. The choice lasts until you log off, because the desktop sets it back at every logon."},
-    {L"CB_Taskbar_MinWindow_Left",
+    {"CB_Taskbar_MinWindow_Left",
      "The side of the desktop at which the small title bars of minimized windows begin. Has no effect while "
      "they are hidden."},
-    {L"CB_Taskbar_MinWindow_Top",
+    {"CB_Taskbar_MinWindow_Top",
      "The edge of the desktop at which the small title bars of minimized windows begin. Has no effect while "
      "they are hidden."},
-    {L"Button_Taskbar_MinWindow_Default", "Hides minimized windows, as the desktop does by itself."},
+    {"Button_Taskbar_MinWindow_Default", "Hides minimized windows, as the desktop does by itself."},
 };
 
 }  // namespace

@@ -27,16 +27,14 @@ TControlDesign Design() {
                   Group(L"GroupBox_Taskbar_ButtonAppearance_Bar", L"Taskbar",
                         CheckBox(L"Checkbox_Taskbar_ButtonAppearance_Bar_Lock", L"&Lock the taskbar"),
                         CheckBox(L"Checkbox_Taskbar_ButtonAppearance_Bar_Peek",
-                                 L"Use Aero &Peek to preview the desktop")),
-                  Group(L"GroupBox_Taskbar_ButtonAppearance_Group", L"Grouping",
+                                 L"Use Aero &Peek to preview the desktop"),
                         CheckBox(L"Checkbox_Taskbar_ButtonAppearance_Group_Active",
                                  L"&Group similar taskbar buttons"),
                         Row(Label(L"Label_Taskbar_ButtonAppearance_Group_AtLeastCount",
-                                  L"&Windows of a program that make a group:"),
+                                  L"Group from this many &windows:"),
                             Edit(L"Edit_Taskbar_ButtonAppearance_Group_AtLeastCount").Width(4),
                             UpDown(L"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount",
-                                   L"Edit_Taskbar_ButtonAppearance_Group_AtLeastCount", 2, 99, 3))),
-                  Group(L"GroupBox_Taskbar_ButtonAppearance_Look", L"Look",
+                                   L"Edit_Taskbar_ButtonAppearance_Group_AtLeastCount", 2, 99, 3)),
                         Row(Label(L"Label_Taskbar_ButtonAppearance_Look_Combine", L"&Taskbar buttons:"),
                             ComboBox(L"CB_Taskbar_ButtonAppearance_Look_Combine",
                                      {L"Always combine, hide labels", L"Combine when taskbar is full",
@@ -45,7 +43,7 @@ TControlDesign Design() {
                   Buttons(Button(L"Button_Taskbar_ButtonAppearance_Default", L"&Default"))),
             Sheet(
                 L"TabSheet_Taskbar_Notification", L"Notification Area",
-                Group(L"GroupBox_Taskbar_Notification_Icons", L"Icons",
+                Group(L"GroupBox_Taskbar_Notification_Icons", L"Icons and messages",
                       CheckBox(L"Checkbox_Taskbar_Notification_Icons_Show", L"Show the &notification area"),
                       CheckBox(L"Checkbox_Taskbar_Notification_Icons_HideInactive", L"&Hide inactive icons"),
                       CheckBox(L"Checkbox_Taskbar_Notification_Icons_Clock", L"Show the &clock"),
@@ -53,8 +51,7 @@ TControlDesign Design() {
                       CheckBox(L"Checkbox_Taskbar_Notification_Icons_Network", L"Show the net&work icon"),
                       CheckBox(L"Checkbox_Taskbar_Notification_Icons_Power", L"Show the &power icon"),
                       CheckBox(L"Checkbox_Taskbar_Notification_Icons_ActionCenter",
-                               L"Show the Ac&tion Center icon")),
-                Group(L"GroupBox_Taskbar_Notification_Balloons", L"Messages",
+                               L"Show the Ac&tion Center icon"),
                       CheckBox(L"Checkbox_Taskbar_Notification_Balloons_Show", L"Show &balloon tips")),
                 Buttons(Button(L"Button_Taskbar_Notification_Default", L"&Default"))),
             Sheet(L"TabSheet_Taskbar_MinWindow", L"Minimized Windows",
@@ -179,8 +176,13 @@ constexpr TPreset kPresets[] = {
 constexpr TOffer kOffers[] = {
     {L"TabSheet_Taskbar_ButtonAppearance", kSinceXp},
     {L"Checkbox_Taskbar_ButtonAppearance_Bar_Peek", kSinceWindows7},
-    {L"GroupBox_Taskbar_ButtonAppearance_Group", kXpAndVista},
-    {L"GroupBox_Taskbar_ButtonAppearance_Look", kSinceWindows7},
+    {L"Checkbox_Taskbar_ButtonAppearance_Group_Active", kXpAndVista},
+    {L"Label_Taskbar_ButtonAppearance_Group_AtLeastCount", kXpAndVista},
+    {L"Edit_Taskbar_ButtonAppearance_Group_AtLeastCount", kXpAndVista},
+    {L"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount", kXpAndVista},
+    {L"Label_Taskbar_ButtonAppearance_Look_Combine", kSinceWindows7},
+    {L"CB_Taskbar_ButtonAppearance_Look_Combine", kSinceWindows7},
+    {L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons", kSinceWindows7},
     {L"TabSheet_Taskbar_Notification", kSinceXp},
     {L"Checkbox_Taskbar_Notification_Icons_Volume", kSinceVista},
     {L"Checkbox_Taskbar_Notification_Icons_Network", kSinceVista},
@@ -188,12 +190,28 @@ constexpr TOffer kOffers[] = {
     {L"Checkbox_Taskbar_Notification_Icons_ActionCenter", kSinceWindows7},
 };
 
+constexpr const wchar_t* kSideAndEdge[] = {L"Label_Taskbar_MinWindow_Left", L"CB_Taskbar_MinWindow_Left",
+                                           L"Label_Taskbar_MinWindow_Top", L"CB_Taskbar_MinWindow_Top"};
+constexpr const wchar_t* kFlashCount[] = {L"UpDown_Taskbar_ButtonFlashes_Speed_Flash"};
+constexpr const wchar_t* kGroupCount[] = {L"UpDown_Taskbar_ButtonAppearance_Group_AtLeastCount"};
+constexpr const wchar_t* kTrayIcons[] = {
+    L"Checkbox_Taskbar_Notification_Icons_HideInactive", L"Checkbox_Taskbar_Notification_Icons_Volume",
+    L"Checkbox_Taskbar_Notification_Icons_Network", L"Checkbox_Taskbar_Notification_Icons_Power",
+    L"Checkbox_Taskbar_Notification_Icons_ActionCenter"};
+constexpr TNeed kNeeds[] = {
+    MinimizedNeed(kSideAndEdge, L"CB_Taskbar_MinWindow_Arrange"),
+    {.Controls = kFlashCount, .Of = L"Checkbox_Taskbar_ButtonFlashes_Active", .Disables = false},
+    {.Controls = kGroupCount, .Of = L"Checkbox_Taskbar_ButtonAppearance_Group_Active", .Disables = false},
+    {.Controls = kTrayIcons, .Of = L"Checkbox_Taskbar_Notification_Icons_Show"},
+};
+
 constexpr TPageDefinition kPage{.Tag = 6,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
                                 .Explanations = TaskbarExplanations,
-                                .Offers = kOffers};
+                                .Offers = kOffers,
+                                .Needs = kNeeds};
 
 }  // namespace
 

@@ -54,7 +54,7 @@ TTexts FolderFormTexts(const TForm& form) {
 
 void AddExplanations(TTexts& texts, const TPageDefinition& page) {
     for (const auto& [control, text] : page.Explanations())
-        texts[control + std::wstring(L".Hint")] = FromUtf8(text);
+        texts[FromUtf8(control) + L".Hint"] = FromUtf8(text);
 }
 
 TExtIniFile LoadDelivered(const std::string& language) {
@@ -202,6 +202,25 @@ TEST(TLanguageFiles, AccessKeysDifferOnEverySheetOfEveryWindows) {
             for (const TForm* form : forms) ExpectAccessKeysDiffer(*form, ofLevel, {});
         }
     }
+}
+
+/// The English ones that have one are fixed.
+TEST(TLanguageFiles, CaptionsEndWithoutAFullStop) {
+    TFakeSystem fake;
+    const TQuilltune_FormMain window(fake.System);
+    const TExtIniFile english = LoadDelivered("English");
+    const TExtIniFile german = LoadDelivered("German");
+    std::size_t stops = 0;
+    for (const auto& [key, text] : FormTexts(window)) {
+        const auto stopsIn = [&, &caption = key](const TExtIniFile& ini) {
+            const std::wstring read = ini.ReadString(L"Scanner_Quilltune_FormMain", caption, L"");
+            return read.ends_with(L'.') && !read.ends_with(L"...");
+        };
+        if (key == L"Label_Details_Text.Caption") continue;
+        EXPECT_FALSE(stopsIn(german)) << testing::PrintToString(key);
+        stops += stopsIn(english) ? 1U : 0U;
+    }
+    EXPECT_EQ(stops, 20U);
 }
 
 }  // namespace

@@ -199,6 +199,18 @@ TEST_F(TMainWindow, ExplainsTheSettingThatTheUserIsAt) {
         Window->OnFocus(Window->Find(control));
         EXPECT_EQ(said(L"Title"), L"Number of flashes") << testing::PrintToString(std::wstring(control));
     }
+
+    // What has no effect says why, and is enabled on both its pages once it has one.
+    constexpr const wchar_t* kSides[] = {L"CB_Taskbar_MinWindow_Left",
+                                         L"CB_CommonSettings_Display_MinWindow_Left"};
+    Get<TPageControl>(L"PageControl_Taskbar").SetActiveSheet(Get<TTabSheet>(L"TabSheet_Taskbar_MinWindow"));
+    Window->OnFocus(Window->Find(kSides[0]));
+    EXPECT_TRUE(said(L"Text").starts_with(L"Has no effect while \"Hidden\" is chosen. "));
+    for (const wchar_t* side : kSides) EXPECT_FALSE(Enabled(side));
+    Get<TComboBox>(L"CB_Taskbar_MinWindow_Arrange").SetItemIndex(1);
+    EXPECT_FALSE(said(L"Text").starts_with(L"Has no effect"));
+    for (const wchar_t* side : kSides) EXPECT_TRUE(Enabled(side));
+    EXPECT_TRUE(Enabled(L"Label_CommonSettings_Display_MinWindow_Left"));
 }
 
 TEST_F(TMainWindow, TheExplanationGivesWayToThePages) {

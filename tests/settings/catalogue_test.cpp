@@ -212,7 +212,7 @@ TEST(TCatalogueModel, EverySettingIsExplainedOnce) {
     for (const TCataloguedPage& page : catalogue.Pages()) {
         std::set<std::wstring> explained;
         for (const auto& [control, text] : page.Definition->Explanations()) {
-            EXPECT_TRUE(explained.insert(control).second) << testing::PrintToString(std::wstring(control));
+            EXPECT_TRUE(explained.insert(FromUtf8(control)).second) << control;
             EXPECT_TRUE(std::string_view(text).ends_with('.')) << text;
         }
         for (const TSetting* setting : catalogue.Settings()) {

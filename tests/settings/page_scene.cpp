@@ -94,6 +94,8 @@ void TScene::Expect(const TLine& control, const TLine& rest) {
         EXPECT_EQ(isSheet ? static_cast<TTabSheet&>(c).TabVisible() : c.Visible(), rest == L"visible");
     } else if (rest.starts_with(L"called ")) {
         EXPECT_EQ(c.Caption(), rest.substr(7));
+    } else if (rest.starts_with(L"because ")) {
+        EXPECT_EQ(ReasonsFor(FBench.Context, control), rest == L"because nothing" ? L"" : rest.substr(8));
     } else {
         FCovered.Shown.insert(control);
         EXPECT_EQ(FBench.State(control), rest);

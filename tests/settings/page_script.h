@@ -47,7 +47,8 @@
 //   leave EDIT                            the edit loses the focus
 //   apply                                 the pending changes are written
 // What comes of it:
-//   expect CONTROL STATE                  also enabled, disabled, visible, hidden, or: called CAPTION
+//   expect CONTROL STATE                  also enabled, disabled, visible, hidden, or: called CAPTION, or why it has no effect:
+//                                         because REASON, and `because nothing` when it has one
 //   records                               followed by all pending changes, a line each, set in; see TPageBench::Pending
 //   recorded 2                            how often the page told that it recorded something
 //   asked color 0x0000FF                  what the last dialog started from; also file FILTER, message TEXT
