@@ -7,7 +7,6 @@
 #include "base/decimal.h"
 #include "platform/app_frame.h"
 #include "platform/text.h"
-#include "settings/captioned.h"
 #include "settings/category_table.h"
 #include "settings/page_table.h"
 #include "settings/shell/desktop_icons.h"

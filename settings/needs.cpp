@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "settings/captioned.h"
 #include "settings/change_words.h"
 #include "settings/page_table.h"
 #include "ui/controls.h"
+#include "ui/spoken_name.h"
 #include "ui/state.h"
 
 namespace {

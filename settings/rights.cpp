@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "settings/captioned.h"
 #include "settings/page_model.h"
 #include "settings/row_places.h"
+#include "ui/spoken_name.h"
 
 namespace {
 

@@ -14,17 +14,22 @@ bool ShowsValue(const TControl& control) {
            caption[0] <= L'9';
 }
 
-}  // namespace
-
-const TControl& CaptionedBy(const TControl& control) {
+template <typename TAnyControl>
+TAnyControl& Captioned(TAnyControl& control) {
     if (ShowsCaption(control)) return control;
-    const TControl* captioned = control.Parent();
-    for (const TControl* sibling : control.Parent()->Children()) {
+    TControl* captioned = control.Parent();
+    for (TControl* sibling : control.Parent()->Children()) {
         if (sibling == &control) break;
         if (ShowsCaption(*sibling) && !ShowsValue(*sibling)) captioned = sibling;
     }
     return *captioned;
 }
+
+}  // namespace
+
+TControl& CaptionedBy(TControl& control) { return Captioned(control); }
+
+const TControl& CaptionedBy(const TControl& control) { return Captioned(control); }
 
 std::wstring PlainCaption(std::wstring caption) {
     std::erase(caption, L'&');

@@ -4,6 +4,7 @@
 #include "ui/component.h"
 
 /// The control whose caption a user reads beside this one: itself, the label or box before it, or what it lies in.
+[[nodiscard]] TControl& CaptionedBy(TControl& control);
 [[nodiscard]] const TControl& CaptionedBy(const TControl& control);
 
 /// A caption without its access key and the colon at its end.

@@ -65,8 +65,12 @@ TCategoryColors::TPanel TCategoryColors::Panel(TPanelLook look) const {
     const auto readable = [&](COLORREF color) {
         return std::abs(Lightness(color) - Lightness(ground)) >= kLeastContrast ? color : text;
     };
-    return {ground, text, readable(FHeaderText), readable(MixColors(text, ground, kQuietShade)),
-            MixColors(ground, kProductColor, kHeaderLineTint), readable(kAmber)};
+    return {ground,
+            text,
+            readable(FHeaderText),
+            readable(MixColors(text, ground, kQuietShade)),
+            MixColors(ground, kProductColor, kHeaderLineTint),
+            readable(kAmber)};
 }
 
 TCategoryColors::TItem TCategoryColors::Item(const TCategoryItem& item, bool hot, bool pressed) const {
