@@ -90,6 +90,9 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_RegFileNotRead", L"The file %1 cannot be read."},
     {L"D_RegFileNotWritten", L"The file %1 cannot be written."},
     {L"D_FindSetting", L"Find a setting (Ctrl+F)"},
+    {L"D_FoundSettings", L"Settings found"},
+    {L"D_NothingFound",
+     L"Nothing found. Try fewer or shorter words, or the name of a value in the registry."},
 }};
 
 TCaptions::TCaptions() {

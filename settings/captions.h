@@ -99,6 +99,8 @@ enum class TCaption {
     RegFileNotRead,
     RegFileNotWritten,
     FindSetting,
+    FoundSettings,
+    NothingFound,
     kCount,
 };
 
