@@ -3,6 +3,22 @@
 #include <algorithm>
 #include <vector>
 
+namespace {
+
+/// Where the part begins that is never cut.
+std::size_t EndOf(const std::wstring& text) {
+    if (text.starts_with(L"HKEY_")) return std::min(text.rfind(L'\\'), text.size());
+    std::size_t end = text.size();
+    while (end != 0 && text[end - 1] == L')') {
+        const std::size_t open = text.rfind(L" (", end - 1);
+        if (open == std::wstring::npos) break;
+        end = open;
+    }
+    return end;
+}
+
+}  // namespace
+
 std::wstring CutAtWord(const std::wstring& text, const std::function<bool(const std::wstring&)>& fits) {
     if (fits(text)) return text;
     std::vector<std::wstring> cuts;
@@ -12,15 +28,9 @@ std::wstring CutAtWord(const std::wstring& text, const std::function<bool(const 
     return first == cuts.begin() ? std::wstring(1, kEllipsis) : *(first - 1);
 }
 
-std::wstring CutBeforeBrackets(const std::wstring& text,
-                               const std::function<bool(const std::wstring&)>& fits) {
+std::wstring CutInside(const std::wstring& text, const std::function<bool(const std::wstring&)>& fits) {
     if (fits(text)) return text;
-    std::size_t end = text.size();
-    while (end != 0 && text[end - 1] == L')') {
-        const std::size_t open = text.rfind(L" (", end - 1);
-        if (open == std::wstring::npos) break;
-        end = open;
-    }
+    const std::size_t end = EndOf(text);
     const auto cut = [&](std::size_t length) {
         return text.substr(0, text.find_last_not_of(L' ', length - 1) + 1) + kEllipsis + text.substr(end);
     };

@@ -123,6 +123,24 @@ TEST_F(TablePeerTest, WhatIsCutIsStillToldWhole) {
     EXPECT_EQ(tip(7), L"");
 }
 
+TEST_F(TablePeerTest, WhatStandsInBracketsAtTheEndIsNotCut) {
+    const std::wstring caption(200, L'x');
+    List().SetRows({{{caption + L" (A)", L""}}, {{caption + L" (W)", L""}}, {{caption + L" (A)", L""}}});
+    UpdateWindow(Handle());
+    const HDC target = GetDC(Handle());
+    const auto pixels = [&](int row) {
+        RECT place{};
+        ListView_GetItemRect(Handle(), row, &place, LVIR_LABEL);
+        std::vector<COLORREF> shown;
+        for (LONG y = place.top; y < place.bottom; ++y)
+            for (LONG x = place.left; x < place.right; ++x) shown.push_back(GetPixel(target, x, y));
+        return shown;
+    };
+    EXPECT_NE(pixels(0), pixels(1));
+    EXPECT_EQ(pixels(0), pixels(2));
+    ReleaseDC(Handle(), target);
+}
+
 TEST_F(TablePeerTest, AnEmptyOneSaysSo) {
     const auto dark = [this] {
         RECT area{};

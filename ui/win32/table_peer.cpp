@@ -47,9 +47,8 @@ const std::wstring& TTablePeer::TextOf(std::size_t row, std::size_t cell) {
     const auto& rows = List().Rows();
     if (row >= rows.size() || cell >= rows[row].Cells.size()) return kNone;
     const std::wstring& text = rows[row].Cells[cell];
-    // What is in brackets says which of several settings of one name it is.
-    if (!FDraws || cell != 0) return text;
-    FDrawn = CutBeforeBrackets(text, [this](const std::wstring& each) { return Fits(each, 0); });
+    if (!FDraws) return text;
+    FDrawn = CutInside(text, [&](const std::wstring& each) { return Fits(each, cell); });
     return FDrawn;
 }
 
@@ -116,7 +115,11 @@ void TTablePeer::FitColumns() {
             if (i < row.Cells.size() && (longest == nullptr || row.Cells[i].size() > longest->size()))
                 longest = &row.Cells[i];
         }
-        widths.push_back(std::max(WidthOf(columns[i]), longest == nullptr ? 0 : WidthOf(*longest)));
+        int width = longest == nullptr ? 0 : WidthOf(*longest);
+        // What is cut of a place in the registry is missed least.
+        if (longest != nullptr && longest->starts_with(L"HKEY_") && columns.size() > 3)
+            width = std::min(width, Width() / static_cast<int>(columns.size()));
+        widths.push_back(std::max(WidthOf(columns[i]), width));
     }
     widths = FairShares(widths, Width());
     for (std::size_t i = 0; i < widths.size(); ++i) Send(LVM_SETCOLUMNWIDTH, i, MAKELPARAM(widths[i], 0));
@@ -179,11 +182,12 @@ LRESULT TTablePeer::OnNotify(NMHDR& header) {
 
 LRESULT TTablePeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     ++FDepth;
-    FDraws = message == WM_PAINT;
-    const bool isEmpty = FDraws && List().Rows().empty() && !List().EmptyText.empty();
+    const bool draws = message == WM_PAINT;
+    if (draws) FDraws = true;
+    const bool isEmpty = draws && List().Rows().empty() && !List().EmptyText.empty();
     if (isEmpty) InvalidateRect(Handle(), nullptr, TRUE);  // all of it, for the text is drawn over it
     const LRESULT result = OnKey(message, wParam) ? 0 : TWindowPeer::OnMessage(message, wParam, lParam);
-    FDraws = false;
+    if (draws) FDraws = false;
     if (isEmpty) DrawEmptyText();
     if (--FDepth == 0) FireEvents();
     if (message == WM_GETDLGCODE && lParam != 0 && Takes(*reinterpret_cast<const MSG*>(lParam)))
