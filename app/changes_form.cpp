@@ -23,7 +23,7 @@ TQuilltune_FormChanges::TQuilltune_FormChanges(const TCaptions& captions, const 
       FHost(std::move(host)),
       FList(BuildList(*this)) {
     SetCaption(L"Pending Changes");
-    ClientWidth = 680;
+    ClientWidth = 760;
     ClientHeight = 320;
     CanMaximise = true;
     OnShow = [this, &language](TComponent&) {

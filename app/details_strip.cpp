@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "settings/change_words.h"
-#include "settings/needs.h"
-#include "settings/rights.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 
@@ -23,8 +20,6 @@ constexpr int kPlaceLines = 2;
 constexpr int kRoomForAll = 520;
 constexpr int kRoomForTitle = 490;
 
-constexpr const wchar_t* kBetween = L" \u00B7 ";
-
 /// Null when it is on none.
 const TControl* PageOf(const TControl* control) {
     while (control != nullptr && control->Kind() != TComponentKind::NotebookPage) control = control->Parent();
@@ -37,41 +32,7 @@ bool IsOnShownSheet(const TControl& control) {
     return sheet == nullptr || static_cast<const TPageControl*>(sheet->Parent())->ActiveSheet() == sheet;
 }
 
-/// The controls that may stand for the setting that a user sees in this one.
-std::vector<const TControl*> StandIns(const TControl& control) {
-    std::vector<const TControl*> found{&control};
-    if (control.Parent() == nullptr) return found;
-    const auto& siblings = control.Parent()->Children();
-    const auto self = std::ranges::find(siblings, &control);
-    switch (control.Kind()) {
-        case TComponentKind::UpDown:
-        case TComponentKind::ColorSwatch:  // belongs to the button before it
-            if (self != siblings.begin()) found.push_back(*(self - 1));
-            break;
-        case TComponentKind::Edit:
-        case TComponentKind::Label:  // says what comes behind it
-            for (auto next = self + 1; next != siblings.end() && found.size() <= 2; ++next)
-                found.push_back(*next);
-            break;
-        default:
-            break;
-    }
-    if (control.Kind() == TComponentKind::Edit)
-        std::erase_if(found, [&](const TControl* each) {
-            return each != &control && (each->Kind() != TComponentKind::UpDown ||
-                                        static_cast<const TUpDown*>(each)->Associate() != &control);
-        });
-    return found;
-}
-
 }  // namespace
-
-std::wstring TDetails::Whole() const {
-    std::wstring whole = Title;
-    for (const std::wstring& part : {Text, Places})
-        if (!part.empty()) whole += L"\n\n" + part;
-    return whole;
-}
 
 TDetailsStrip::TDetailsStrip(TPageContext& context, const TPendingReview& review,
                              std::function<const TSettingNames*()> names)
@@ -91,51 +52,11 @@ const TSetting* TDetailsStrip::SettingOf(const TControl* control) const {
     const TControl* page = PageOf(control);
     const TSettingNames* names =
         page != nullptr && page->Visible() && IsOnShownSheet(*control) ? FNames() : nullptr;
-    if (names == nullptr) return nullptr;
-    for (const TControl* each : StandIns(*control))
-        if (const TSetting* setting = names->Catalogue().Find(each->Name())) return setting;
-    return nullptr;
-}
-
-std::wstring TDetailsStrip::PlacesOf(const TSetting& setting) const {
-    if (setting.Rows.empty()) return {};
-    std::vector<std::pair<std::wstring, TTarget>> places;
-    const auto add = [&](const TTarget& target) {
-        const std::wstring words = PlaceWords(target, FContext.Captions);
-        if (std::ranges::count(places, words, &std::pair<std::wstring, TTarget>::first) == 0)
-            places.emplace_back(words, target);
-    };
-    for (const TRow* row : setting.Rows)
-        if (LevelsOf(*row).Include(FContext.WindowsLevel)) std::ranges::for_each(TargetsOf(*row), add);
-    const std::vector<TChange> changes = FReview.Changes();
-    for (const TChange& change : changes)
-        if (change.Setting == setting.Id) add(change.Target);
-    std::wstring text;
-    for (const auto& [words, target] : places) {
-        const TContent now = ContentOf(FContext.System, target, &FContext.Firefox);
-        const auto change = std::ranges::find_if(changes, [&place = words, this](const TChange& each) {
-            return PlaceWords(each.Target, FContext.Captions) == place;
-        });
-        const bool isPending = change != changes.end();
-        text += (text.empty() ? L"" : L"\n") + words + L'\n' +
-                Formatted(FContext.Captions[TCaption::DetailsStored],
-                          {ContentWords(target, now, FContext.Captions)}) +
-                kBetween;
-        text += isPending ? Formatted(FContext.Captions[TCaption::DetailsPending],
-                                      {ContentWords(target, change->After, FContext.Captions)})
-                          : FContext.Captions[TCaption::DetailsNotChanged];
-        if (setting.Restart || (isPending && change->Restart))
-            text += kBetween + FContext.Captions[TCaption::DetailsRestart];
-        if (!MayChange(FContext.System, target))
-            text += kBetween + FContext.Captions[TCaption::DetailsRights];
-    }
-    return text;
+    return names == nullptr ? nullptr : SettingIn(*control, names->Catalogue());
 }
 
 TDetails TDetailsStrip::DetailsOf(const TSetting& setting) const {
-    std::wstring text = ReasonsFor(FContext, setting.Id);
-    if (!text.empty() && !setting.Explanation.empty()) text += L' ';
-    return {setting.Caption, text + setting.Explanation, PlacesOf(setting)};
+    return ::DetailsOf(setting, FContext, FReview.Changes());
 }
 
 void TDetailsStrip::FocusCame(TControl* control) {

@@ -2,19 +2,9 @@
 #pragma once
 
 #include "app/pending_review.h"
+#include "app/setting_details.h"
 #include "app/setting_names.h"
 #include "ui/design.h"
-
-/// What there is to say of a setting.
-struct TDetails {
-    std::wstring Title;
-    std::wstring Text;
-    std::wstring Places;  ///< each in two lines: where it is, and what is there
-
-    [[nodiscard]] std::wstring Whole() const;
-
-    bool operator==(const TDetails&) const = default;
-};
 
 class TDetailsStrip {
   public:
@@ -42,7 +32,6 @@ class TDetailsStrip {
   private:
     [[nodiscard]] const TSetting* SettingOf(const TControl* control) const;
     [[nodiscard]] TDetails DetailsOf(const TSetting& setting) const;
-    [[nodiscard]] std::wstring PlacesOf(const TSetting& setting) const;
     void Show(const TDetails& details);
     void ShowParts();
 

@@ -48,6 +48,12 @@ TFindBox::TFindBox(TForm& form, TFindHost host)
     FFlashTimer.OnTimer = [this](TComponent&) { FlashTimer(); };
 }
 
+void TFindBox::SetTexts(const TCaptions& captions) {
+    FField.SetCaption(captions[TCaption::FindSetting]);
+    FList.SetCaption(captions[TCaption::FoundSettings]);
+    FList.EmptyText = captions[TCaption::NothingFound];
+}
+
 void TFindBox::Start() {
     FField.SetEnabled(true);
     FPrepareTimer.SetEnabled(true);

@@ -3,6 +3,7 @@
 
 #include <set>
 
+#include "settings/captions.h"
 #include "settings/catalogue.h"
 #include "ui/controls.h"
 #include "ui/design.h"
@@ -25,6 +26,7 @@ class TFindBox {
     /// The form, which is built, outlives the object.
     TFindBox(TForm& form, TFindHost host);
 
+    void SetTexts(const TCaptions& captions);
     /// From now on it can be used. What can be found is prepared step by step, so that no key waits for it.
     void Start();
     /// Shows the page again.

@@ -14,6 +14,8 @@ class TQuilltune_FormFolder : public TForm {
     /// `owner` is the main window's; it and `language` outlive the dialog.
     TQuilltune_FormFolder(const TPageContext& owner, const TLanguage& language);
 
+    [[nodiscard]] const TPageContext& Context() const { return FContext; }
+
     void ChooseSheet(const wchar_t* name);
 
   private:

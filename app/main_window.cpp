@@ -128,7 +128,7 @@ void TQuilltune_FormMain::FormShow() {
             FContext.Captions.Load(*FLanguage);
             MarkText = FContext.Captions[TCaption::Changed];
             SelectedText = FContext.Captions[TCaption::Selected];
-            Find(L"Edit_Find")->SetCaption(FContext.Captions[TCaption::FindSetting]);
+            FFind->SetTexts(FContext.Captions);
             FLanguage->Translate(*this);
             Switches.front().Caption = FContext.Captions[TCaption::DetailsShow];
         },
@@ -247,6 +247,12 @@ void TQuilltune_FormMain::ShowFolderForm(const wchar_t* sheet, const std::wstrin
     if (!FLanguage) return;  // a fault kept it from being created
     TQuilltune_FormFolder dialog(FContext, *FLanguage);
     dialog.ChooseSheet(sheet);
+    dialog.OnHelp = [&](const TControl* control) {
+        const TSetting* at = control == nullptr ? nullptr : SettingIn(*control, Names().Catalogue());
+        if (at == nullptr) return;
+        const TPageContext& context = dialog.Context();
+        Tell(dialog, DetailsOf(*at, context, PendingChanges(FSystem, context.Changes, nullptr)).Whole());
+    };
     dialog.FirstFocus = dialog.Find(setting);
     if (dialog.FirstFocus != nullptr) dialog.Reveal(*dialog.FirstFocus);
     ShowModal(dialog);
@@ -294,7 +300,11 @@ void TQuilltune_FormMain::MakeDetails() {
 
 void TQuilltune_FormMain::ShowHelp(const TControl* control) {
     const std::wstring text = FDetails->WholeOf(control);
-    if (!text.empty()) FSystem.Dialogs.Message(*this, text, TMessageButtons::Ok, TMessageIcon::None);
+    if (!text.empty()) Tell(*this, text);
+}
+
+void TQuilltune_FormMain::Tell(const TForm& asker, const std::wstring& text) {
+    FSystem.Dialogs.Message(asker, text, TMessageButtons::Ok, TMessageIcon::None);
 }
 
 void TQuilltune_FormMain::Button_OKClick() {

@@ -77,6 +77,8 @@ class TQuilltune_FormMain : public TForm {
     void MakeDetails();
     /// What there is to say of the control, in full.
     void ShowHelp(const TControl* control);
+    /// Says it in a box over the form.
+    void Tell(const TForm& asker, const std::wstring& text);
 
     /// Opens the desktop-icons dialog with one of its sheets chosen, or one of its settings.
     void ShowFolderForm(const wchar_t* sheet, const std::wstring& setting = {});

@@ -117,6 +117,9 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
      L"The Security Center needs Windows XP with the service SharedAccess running, or a later Windows."},
     {L"D_NoRights", L"Without administrator rights, settings for all users (marked *) cannot be changed."},
     {L"D_DetailsRights", L"needs administrator rights"},
+    {L"D_FoundSettings", L"Settings found"},
+    {L"D_NothingFound",
+     L"Nothing found. Try fewer or shorter words, or the name of a value in the registry."},
 }};
 
 TCaptions::TCaptions() {

@@ -128,6 +128,8 @@ enum class TCaption {
     // What only administrators may change.
     NoRights,
     DetailsRights,
+    FoundSettings,
+    NothingFound,
     kCount,
 };
 

@@ -325,6 +325,32 @@ HWND TMainWindow::Focus() const {
     return info.hwndFocus;
 }
 
+void TMainWindow::SetFocus(const std::wstring& name) const {
+    const HWND window = FindUsable(name);
+    PostMessageW(FWindow, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window), TRUE);
+    if (!WaitUntil([&] { return Focus() == window; })) throw TAutomationError(L"takes no focus: " + name);
+}
+
+void TMainWindow::Strike(const std::wstring& key) const {
+    static const std::map<std::wstring, BYTE> kKeys{
+        {L"shift", VK_SHIFT}, {L"ctrl", VK_CONTROL}, {L"alt", VK_MENU},   {L"F1", VK_F1},
+        {L"F6", VK_F6},       {L"Tab", VK_TAB},      {L"Up", VK_UP},      {L"Down", VK_DOWN},
+        {L"Left", VK_LEFT},   {L"Right", VK_RIGHT},  {L"Home", VK_HOME},  {L"End", VK_END},
+        {L"PgUp", VK_PRIOR},  {L"PgDn", VK_NEXT},    {L"Esc", VK_ESCAPE}, {L"Enter", VK_RETURN},
+        {L"Space", VK_SPACE}, {L"Delete", VK_DELETE}};
+    std::vector<BYTE> codes;
+    for (std::size_t start = 0; start <= key.size();) {
+        const std::size_t end = std::min(key.find(L'+', start), key.size());
+        const std::wstring word = key.substr(start, end - start);
+        const auto known = kKeys.find(word);
+        if (known == kKeys.end() && word.size() != 1) throw TAutomationError(L"no such key: " + word);
+        codes.push_back(known == kKeys.end() ? static_cast<BYTE>(VkKeyScanW(word[0])) : known->second);
+        start = end + 1;
+    }
+    for (const BYTE code : codes) keybd_event(code, 0, 0, 0);
+    for (auto code = codes.rbegin(); code != codes.rend(); ++code) keybd_event(*code, 0, KEYEVENTF_KEYUP, 0);
+}
+
 std::wstring TMainWindow::FocusedControl() const {
     const HWND focus = Focus();
     return focus == nullptr ? std::wstring() : NameOf(focus);

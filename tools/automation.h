@@ -100,6 +100,10 @@ class TMainWindow {
     [[nodiscard]] std::wstring FocusedControl() const;
     /// Presses and releases a key in the control that has the focus, or in the given one. Does not wait.
     void Press(WORD key, HWND control = nullptr) const;
+    void SetFocus(const std::wstring& name) const;
+    /// Strikes a key as a user does, in whatever window of the program is in front: its name, after those of the keys that
+    /// are held down with it, as in shift+F6 or alt+Space. Does not wait.
+    void Strike(const std::wstring& key) const;
     void Close() const;
 
     /// The question or message that the program shows at the moment.

@@ -64,6 +64,14 @@ constexpr TVerb kVerbs[] = {
      [](const TMainWindow& window, const std::wstring& name, const std::wstring& text) {
          window.Type(name, text);
      }},
+    {"focus", 1, "gives a control the focus",
+     [](const TMainWindow& window, const std::wstring& name, const std::wstring&) { window.SetFocus(name); }},
+    {"focused", 0, "prints the name of the control with the focus",
+     [](const TMainWindow& window, const std::wstring&, const std::wstring&) {
+         Print(window.FocusedControl());
+     }},
+    {"key", 1, "presses a key as on the keyboard: F6, shift+F6, ctrl+PgDn, alt+Space, ...",
+     [](const TMainWindow& window, const std::wstring& name, const std::wstring&) { window.Strike(name); }},
     {"state", 1, "prints checked or clear, the chosen item, or the text",
      [](const TMainWindow& window, const std::wstring& name, const std::wstring&) {
          Print(window.State(name));

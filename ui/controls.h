@@ -239,7 +239,8 @@ class TImage : public TControl {
     int FFrame = 0;
 };
 
-/// A list with columns. Its rows have check boxes; or it is a table, whose rows can be selected, opened and deleted.
+/// A list with columns. Its rows have check boxes; or it is a table, whose rows can be selected, opened and deleted. Its
+/// caption is what screen readers call it.
 class TListView : public TControl {
   public:
     struct TRow {
@@ -255,6 +256,7 @@ class TListView : public TControl {
     [[nodiscard]] bool IsTable() const { return FIsTable; }
 
     bool SelectsOne = false;  ///< of a table: no more than one row can be selected
+    std::wstring EmptyText;   ///< of a table: stands there while it has no rows
     [[nodiscard]] const std::vector<std::wstring>& Columns() const { return FColumns; }
     void SetColumn(std::size_t index, const std::wstring& caption);
     [[nodiscard]] const std::vector<TRow>& Rows() const { return FRows; }

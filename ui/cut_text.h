@@ -10,3 +10,8 @@ inline constexpr wchar_t kEllipsis = L'\u2026';
 /// with words left out, too.
 [[nodiscard]] std::wstring CutAtWord(const std::wstring& text,
                                      const std::function<bool(const std::wstring& text)>& fits);
+
+/// The text, or when it does not fit, as much of its beginning as does with an ellipsis before its end that says most: of a
+/// place in the registry the value, of another text what stands there in brackets.
+[[nodiscard]] std::wstring CutInside(const std::wstring& text,
+                                     const std::function<bool(const std::wstring& text)>& fits);

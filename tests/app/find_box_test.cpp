@@ -122,6 +122,7 @@ TEST_F(TFind, TheKeysOfTheFieldAndTheList) {
     // Nothing found, nothing opened.
     Field().SetText(L"xyzzy");
     EXPECT_TRUE(Finds() && List().Rows().empty());
+    EXPECT_NE(List().EmptyText.find(L"Nothing found"), std::wstring::npos);
     EXPECT_FALSE(Field().OnKey(TKey::Down));
     EXPECT_TRUE(Field().OnKey(TKey::Enter));
     EXPECT_TRUE(Finds());

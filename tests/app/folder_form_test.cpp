@@ -75,6 +75,21 @@ TEST_F(TFolderForm, EachButtonOpensItTranslatedAtItsSheet) {
     }
 }
 
+TEST_F(TFolderForm, F1ExplainsItsSettings) {
+    Open(kDesktopButton, [&](TForm& dialog) {
+        dialog.OnHelp(dialog.Find(L"Button_OK"));
+        dialog.OnHelp(nullptr);
+        EXPECT_TRUE(Fake.Dialogs.Questions().empty());
+        dialog.Find<TCheckBox>(kRecycleBin)->SetChecked(false);
+        dialog.OnHelp(dialog.Find(kRecycleBin));
+        ASSERT_EQ(Fake.Dialogs.Questions().size(), 1U);
+        const std::wstring help = Fake.Dialogs.Questions()[0].Text;
+        for (const wchar_t* part :
+             {L"Recycle Bin\n\n", L"HideDesktopIcons", L"stored: (not set)", L"0x00000001"})
+            EXPECT_NE(help.find(part), std::wstring::npos) << testing::PrintToString(help);
+    });
+}
+
 TEST_F(TFolderForm, OkWritesAndTellsTheShellAndNothingElseDoes) {
     const auto clear = [](TForm& dialog) {
         EXPECT_TRUE(dialog.Find<TCheckBox>(kRecycleBin)->Checked()) << "loaded at each showing";

@@ -142,7 +142,8 @@ TEST_F(TAccessibility, ChangedAndSelectedAreSaid) {
     Form.Build(
         Form,
         Column(CategoryBar(L"Bar", {CategoryGroup(L"G", L"G", {CategoryItem(L"A", L"A", 1, L"general")})}),
-               CheckBox(L"Box", L"Box"), Card(L"Card", Label(L"Text", L"Text"))));
+               CheckBox(L"Box", L"Box"), Table(L"Table", {L"A"}), Card(L"Card", Label(L"Text", L"Text"))));
+    Get<TListView>(L"Table").EmptyText = L"Nothing here";
     auto& item = Get<TCategoryItem>(L"A");
     Show();
     item.SetSelected(true);
@@ -155,6 +156,9 @@ TEST_F(TAccessibility, ChangedAndSelectedAreSaid) {
     EXPECT_EQ((Service.Told[{Window(L"A"), kDescription}]), L"changed");
     for (TControl* control : {static_cast<TControl*>(&item), Form.Find(L"Box")}) control->SetMarked(false);
     for (const wchar_t* control : {L"A", L"Box"}) EXPECT_EQ(Asked(control, kDescription), L"");
+    EXPECT_EQ(Asked(L"Table", kDescription), L"Nothing here");
+    Get<TListView>(L"Table").SetRows({{{L"row"}}});
+    EXPECT_EQ(Asked(L"Table", kDescription), L"");
     EXPECT_EQ(Asked(L"Card", kRole), std::to_wstring(ROLE_SYSTEM_ALERT));
 }
 

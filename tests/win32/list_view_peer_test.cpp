@@ -103,6 +103,70 @@ class TablePeerTest : public TPeerBench {
     std::vector<int> Opened;
 };
 
+TEST_F(TablePeerTest, WhatIsCutIsStillToldWhole) {
+    const std::wstring setting = std::wstring(200, L'x') + L" (Page, Sheet)";
+    List().SetRows({{{setting, L"place"}}, {{L"a", L"b"}}});
+    HandleMessages();
+    EXPECT_EQ(Cell(0, 0), setting);
+    const auto tip = [this](int row) {
+        wchar_t text[300] = L"";
+        NMLVGETINFOTIPW asked{};
+        asked.hdr = {Handle(), 0, static_cast<UINT>(LVN_GETINFOTIPW)};
+        asked.pszText = text;
+        asked.cchTextMax = 300;
+        asked.iItem = row;
+        SendMessageW(GetParent(Handle()), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&asked));
+        return std::wstring(text);
+    };
+    EXPECT_EQ(tip(0), setting + L"\nplace");
+    EXPECT_EQ(tip(1), L"");
+    EXPECT_EQ(tip(7), L"");
+}
+
+TEST_F(TablePeerTest, WhatStandsInBracketsAtTheEndIsNotCut) {
+    const std::wstring caption(200, L'x');
+    List().SetRows({{{caption + L" (A)", L""}}, {{caption + L" (W)", L""}}, {{caption + L" (A)", L""}}});
+    UpdateWindow(Handle());
+    const HDC target = GetDC(Handle());
+    const auto pixels = [&](int row) {
+        RECT place{};
+        ListView_GetItemRect(Handle(), row, &place, LVIR_LABEL);
+        std::vector<COLORREF> shown;
+        for (LONG y = place.top; y < place.bottom; ++y)
+            for (LONG x = place.left; x < place.right; ++x) shown.push_back(GetPixel(target, x, y));
+        return shown;
+    };
+    EXPECT_NE(pixels(0), pixels(1));
+    EXPECT_EQ(pixels(0), pixels(2));
+    ReleaseDC(Handle(), target);
+}
+
+TEST_F(TablePeerTest, AnEmptyOneSaysSo) {
+    const auto dark = [this] {
+        RECT area{};
+        GetClientRect(Handle(), &area);
+        UpdateWindow(Handle());
+        const HDC target = GetDC(Handle());
+        int count = 0;
+        for (int y = 30; y < area.bottom; ++y)
+            for (int x = 0; x < area.right; ++x)
+                if (GetPixel(target, x, y) != GetSysColor(COLOR_WINDOW)) ++count;
+        ReleaseDC(Handle(), target);
+        return count;
+    };
+    List().EmptyText = L"Nothing";
+    SetRows(0);
+    const int text = dark();
+    EXPECT_GT(text, 20);
+    EXPECT_EQ(ListView_GetItemCount(Handle()), 0);
+    const RECT part{0, 0, 60, 60};
+    InvalidateRect(Handle(), &part, TRUE);
+    EXPECT_EQ(dark(), text) << "as if it were drawn for the first time";
+    List().EmptyText.clear();
+    SetRows(0);
+    EXPECT_EQ(dark(), 0);
+}
+
 TEST_F(TablePeerTest, RowsAreSelectedByMouseKeysAndFromOutsideWithOneEventEach) {
     EXPECT_EQ(Cell(2, 0), L"row2");
     EXPECT_EQ(Cell(3, 1).size(), 300u) << "longer than a cell of Windows' own";

@@ -3,9 +3,14 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/cut_text.h"
 #include "ui/win32/form_window.h"
 
 namespace {
+
+// At 96 dots per inch.
+constexpr int kEmptyMargin = 16;
+constexpr int kTipWidth = 480;
 
 constexpr WPARAM kSelectAll = 1;  // Ctrl+A as a character
 
@@ -18,6 +23,8 @@ TTablePeer::TTablePeer(TFormWindow& form, TListView& list, HWND parent) : TListV
 void TTablePeer::ShowItems() {
     SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP | LVS_EX_INFOTIP);
     ShowColumns();
+    if (const auto tips = reinterpret_cast<HWND>(Send(LVM_GETTOOLTIPS)))  // of more lines than one
+        SendMessageW(tips, TTM_SETMAXTIPWIDTH, 0, FForm.Screen().Scale(kTipWidth));
     FShowing = true;
     Send(WM_SETREDRAW, FALSE);
     Send(LVM_SETITEMCOUNT, 0);  // Windows would keep the selection and the scrolling of the former rows
@@ -26,6 +33,58 @@ void TTablePeer::ShowItems() {
     InvalidateRect(Handle(), nullptr, TRUE);
     FShowing = false;
     FitColumns();
+    ShowSpoken();
+}
+
+TSpoken TTablePeer::Spoken() const {
+    TSpoken spoken = TListViewPeer::Spoken();
+    if (List().Rows().empty()) spoken.Description = List().EmptyText;
+    return spoken;
+}
+
+const std::wstring& TTablePeer::TextOf(std::size_t row, std::size_t cell) {
+    static const std::wstring kNone;
+    const auto& rows = List().Rows();
+    if (row >= rows.size() || cell >= rows[row].Cells.size()) return kNone;
+    const std::wstring& text = rows[row].Cells[cell];
+    if (!FDraws) return text;
+    FDrawn = CutInside(text, [&](const std::wstring& each) { return Fits(each, cell); });
+    return FDrawn;
+}
+
+bool TTablePeer::Fits(const std::wstring& text, std::size_t cell) const {
+    return WidthOf(text) <= Send(LVM_GETCOLUMNWIDTH, cell);
+}
+
+std::wstring TTablePeer::TipOf(std::size_t row) const {
+    const auto& rows = List().Rows();
+    std::wstring tip;
+    bool isCut = false;
+    for (std::size_t cell = 0; row < rows.size() && cell < rows[row].Cells.size(); ++cell) {
+        const std::wstring& text = rows[row].Cells[cell];
+        isCut |= !Fits(text, cell);
+        tip += (tip.empty() ? L"" : L"\n") + text;
+    }
+    return isCut ? tip : std::wstring();
+}
+
+void TTablePeer::DrawEmptyText() const {
+    const std::wstring& text = List().EmptyText;
+    RECT area{};
+    RECT header{};
+    GetClientRect(Handle(), &area);
+    GetWindowRect(reinterpret_cast<HWND>(Send(LVM_GETHEADER)), &header);
+    const int margin = FForm.Screen().Scale(kEmptyMargin);
+    area.top += header.bottom - header.top;
+    InflateRect(&area, -margin, -margin);
+    const HDC target = GetDC(Handle());
+    const HGDIOBJ former = SelectObject(target, FForm.Screen().Font());
+    SetBkMode(target, TRANSPARENT);
+    SetTextColor(target, GetSysColor(COLOR_WINDOWTEXT));
+    DrawTextW(target, text.c_str(), static_cast<int>(text.size()), &area,
+              DT_WORDBREAK | DT_CENTER | DT_NOPREFIX);
+    SelectObject(target, former);
+    ReleaseDC(Handle(), target);
 }
 
 void TTablePeer::ShowState() {
@@ -56,7 +115,11 @@ void TTablePeer::FitColumns() {
             if (i < row.Cells.size() && (longest == nullptr || row.Cells[i].size() > longest->size()))
                 longest = &row.Cells[i];
         }
-        widths.push_back(std::max(WidthOf(columns[i]), longest == nullptr ? 0 : WidthOf(*longest)));
+        int width = longest == nullptr ? 0 : WidthOf(*longest);
+        // What is cut of a place in the registry is missed least.
+        if (longest != nullptr && longest->starts_with(L"HKEY_") && columns.size() > 3)
+            width = std::min(width, Width() / static_cast<int>(columns.size()));
+        widths.push_back(std::max(WidthOf(columns[i]), width));
     }
     widths = FairShares(widths, Width());
     for (std::size_t i = 0; i < widths.size(); ++i) Send(LVM_SETCOLUMNWIDTH, i, MAKELPARAM(widths[i], 0));
@@ -91,13 +154,16 @@ LRESULT TTablePeer::OnNotify(NMHDR& header) {
     switch (header.code) {
         case LVN_GETDISPINFOW: {
             auto& item = reinterpret_cast<NMLVDISPINFOW&>(header).item;
-            const auto& rows = List().Rows();
-            const auto row = static_cast<std::size_t>(item.iItem);
-            const auto cell = static_cast<std::size_t>(item.iSubItem);
-            static const std::wstring kNone;
             if ((item.mask & LVIF_TEXT) != 0)
                 item.pszText = MessageText(
-                    row < rows.size() && cell < rows[row].Cells.size() ? rows[row].Cells[cell] : kNone);
+                    TextOf(static_cast<std::size_t>(item.iItem), static_cast<std::size_t>(item.iSubItem)));
+            return 0;
+        }
+        case LVN_GETINFOTIPW: {
+            const auto& asked = reinterpret_cast<const NMLVGETINFOTIPW&>(header);
+            const std::wstring tip = TipOf(static_cast<std::size_t>(asked.iItem));
+            const auto most = static_cast<std::size_t>(std::max(1, asked.cchTextMax)) - 1;
+            asked.pszText[tip.copy(asked.pszText, most)] = L'\0';
             return 0;
         }
         case LVN_ODFINDITEMW:
@@ -116,7 +182,13 @@ LRESULT TTablePeer::OnNotify(NMHDR& header) {
 
 LRESULT TTablePeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     ++FDepth;
+    const bool draws = message == WM_PAINT;
+    if (draws) FDraws = true;
+    const bool isEmpty = draws && List().Rows().empty() && !List().EmptyText.empty();
+    if (isEmpty) InvalidateRect(Handle(), nullptr, TRUE);  // all of it, for the text is drawn over it
     const LRESULT result = OnKey(message, wParam) ? 0 : TWindowPeer::OnMessage(message, wParam, lParam);
+    if (draws) FDraws = false;
+    if (isEmpty) DrawEmptyText();
     if (--FDepth == 0) FireEvents();
     if (message == WM_GETDLGCODE && lParam != 0 && Takes(*reinterpret_cast<const MSG*>(lParam)))
         return result | DLGC_WANTMESSAGE;

@@ -9,6 +9,7 @@ class TTablePeer : public TListViewPeer {
     TTablePeer(TFormWindow& form, TListView& list, HWND parent);
 
     LRESULT OnNotify(NMHDR& header) override;
+    [[nodiscard]] TSpoken Spoken() const override;
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -21,6 +22,12 @@ class TTablePeer : public TListViewPeer {
     void FitColumns() override;
     /// False when the list itself is to handle the message.
     bool OnKey(UINT message, WPARAM key);
+    /// A cell's text as Windows asks for it: to draw it, when it is too long for its column, or to tell it.
+    [[nodiscard]] const std::wstring& TextOf(std::size_t row, std::size_t cell);
+    [[nodiscard]] bool Fits(const std::wstring& text, std::size_t cell) const;
+    /// The whole of a row of which a text is too long for its column, a line for each text.
+    [[nodiscard]] std::wstring TipOf(std::size_t row) const;
+    void DrawEmptyText() const;
     /// Whether the message is a key that the list has a use for though the form has one, too.
     [[nodiscard]] bool Takes(const MSG& message) const;
     /// Whether Enter opens a row; else it presses the default button.
@@ -40,4 +47,6 @@ class TTablePeer : public TListViewPeer {
     bool FEscapes = false;     ///< … Escape
     int FOpened = -1;          ///< the row that the user has opened
     bool FHasOwnWidths = false;
+    bool FDraws = false;
+    std::wstring FDrawn;  ///< the text that Windows was told last to draw
 };
