@@ -34,6 +34,7 @@ struct TControlDesign {
     bool IsSender = false;
     bool IsTable = false;
     bool IsCard = false;
+    bool IsLate = false;
     int Lines = 0;  ///< of a label; 0 = what its text needs
     TTextLook Look = TTextLook::Plain;
     int Share = 1;
@@ -57,6 +58,8 @@ struct TControlDesign {
 
     TControlDesign&& Hidden() &&;
     TControlDesign&& Disabled() &&;
+    /// Of what the form itself holds: its window is created as soon as the form has appeared; its place is kept.
+    TControlDesign&& Late() &&;
     TControlDesign&& Checked() &&;
     // Of the edit of an up-down: see TEdit.
     TControlDesign&& FilteringKeys() &&;
