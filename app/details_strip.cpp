@@ -44,7 +44,8 @@ TControlDesign TDetailsStrip::Design() {
                                         L"Rest the pointer on a setting or choose it, and read here what it "
                                         L"is for and what is stored.",
                                         kTextLines, TTextLook::Plain),
-                              CardLabel(kPlace, L"F1 shows the whole text", kPlaceLines, TTextLook::Quiet)));
+                              CardLabel(kPlace, L"F1 shows the whole text", kPlaceLines, TTextLook::Quiet)))
+        .Late();
 }
 
 const TSetting* TDetailsStrip::SettingOf(const TControl* control) const {

@@ -17,7 +17,7 @@ constexpr int kFlashTurns = 6;
 TControlDesign TFindBox::FieldDesign() { return Edit(L"Edit_Find"); }
 
 TControlDesign TFindBox::ListDesign() {
-    return Table(L"ListView_Find", {L"Setting", L"Page and sheet"}).Hidden();
+    return Table(L"ListView_Find", {L"Setting", L"Page and sheet"}).Hidden().Late();
 }
 
 TControlDesign TFindBox::TimersDesign() {

@@ -113,6 +113,8 @@ class TControl : public TComponent {
     void SetPeer(std::unique_ptr<TPeer> peer) { FPeer = std::move(peer); }
     [[nodiscard]] TPeer* Peer() const { return FPeer.get(); }
 
+    bool IsLate = false;  ///< of what lies in the form itself: the window appears before it has a peer
+
   protected:
     void UpdatePeer(TControlAspect aspect) {
         if (FPeer) FPeer->Update(aspect);

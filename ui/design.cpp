@@ -36,6 +36,11 @@ TControlDesign&& TControlDesign::Disabled() && {
     return std::move(*this);
 }
 
+TControlDesign&& TControlDesign::Late() && {
+    IsLate = true;
+    return std::move(*this);
+}
+
 TControlDesign&& TControlDesign::Checked() && {
     IsChecked = true;
     return std::move(*this);

@@ -33,6 +33,7 @@ struct TControlDesign {
     bool IsPositive = false;
     bool IsSender = false;
     bool IsTable = false;
+    bool IsLate = false;
     int Lines = 0;  ///< of a label; 0 = what its text needs
     TTextLook Look = TTextLook::Plain;
     TPanelLook PanelLook = TPanelLook::Plain;
@@ -57,6 +58,8 @@ struct TControlDesign {
 
     TControlDesign&& Hidden() &&;
     TControlDesign&& Disabled() &&;
+    /// Of what the form itself holds: its window is created as soon as the form has appeared; its place is kept.
+    TControlDesign&& Late() &&;
     TControlDesign&& Checked() &&;
     // Of the edit of an up-down: see TEdit.
     TControlDesign&& FilteringKeys() &&;

@@ -122,6 +122,7 @@ TControl& TForm::Create(TControl& parent, const TControlDesign& design) {
     SetDesignState(*this, control, design);
     if (!design.IsVisible) control.SetVisible(false);
     if (!design.IsEnabled) control.SetEnabled(false);
+    control.IsLate = design.IsLate;
     if (!design.Children.empty()) {
         TLayoutBox box;
         Populate(control, design.Children, box);

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <bit>
 
 namespace {
@@ -10,8 +11,15 @@ SC_HANDLE NativeHandle(TServiceHandle handle) { return std::bit_cast<SC_HANDLE>(
 
 }  // namespace
 
+TWin32ServiceManager::~TWin32ServiceManager() {
+    for (const auto& [access, manager] : FManagers) CloseServiceHandle(NativeHandle(manager));
+}
+
 TServiceHandle TWin32ServiceManager::OpenManager(std::uint32_t access) {
-    return std::bit_cast<TServiceHandle>(OpenSCManagerW(nullptr, nullptr, access));
+    if (const auto open = FManagers.find(access); open != FManagers.end()) return open->second;
+    const auto manager = std::bit_cast<TServiceHandle>(OpenSCManagerW(nullptr, nullptr, access));
+    if (manager != TServiceHandle::None) FManagers.emplace(access, manager);
+    return manager;
 }
 
 TServiceHandle TWin32ServiceManager::OpenNamedService(TServiceHandle manager, const std::wstring& name,
@@ -20,7 +28,9 @@ TServiceHandle TWin32ServiceManager::OpenNamedService(TServiceHandle manager, co
 }
 
 void TWin32ServiceManager::Close(TServiceHandle handle) {
-    if (handle != TServiceHandle::None) CloseServiceHandle(NativeHandle(handle));
+    const auto isHandle = [handle](const auto& open) { return open.second == handle; };
+    if (handle != TServiceHandle::None && std::ranges::none_of(FManagers, isHandle))
+        CloseServiceHandle(NativeHandle(handle));
 }
 
 bool TWin32ServiceManager::QueryState(TServiceHandle service, TServiceState& state) {

@@ -35,6 +35,17 @@ TEST_F(TServicesContract, UnknownServicesAndWrongHandlesFail) {
     Services.Close(TServiceHandle::None);
 }
 
+TEST_F(TServicesContract, TheManagerCanBeOpenedByManyAtATime) {
+    Services.Close(Services.OpenManager(kManagerConnect));
+    const TServiceHandle another = Services.OpenManager(kManagerConnect);
+    for (const TServiceHandle manager : {Manager, another}) {
+        const TServiceHandle service = Services.OpenNamedService(manager, InstalledService(), kQueryAndAsk);
+        EXPECT_NE(service, TServiceHandle::None);
+        Services.Close(service);
+    }
+    Services.Close(another);
+}
+
 TEST_F(TServicesContract, AnInstalledServiceAnswersUnlessItIsStopped) {
     std::wstring name = InstalledService();
     for (wchar_t& c : name) c |= 0x20;  // small letters

@@ -223,7 +223,7 @@ TEST_F(PeersTest, HiddenPagesComeIntoBeingWhileThereIsNothingElseToDo) {
 
 using TStartTest = TPeerBench;
 
-TEST_F(TStartTest, TimersWaitForTheFirstPageAndNotForItsDrawingAndAShownPageIsComplete) {
+TEST_F(TStartTest, TimersWaitForTheFirstPageAndNotForItsDrawingAndAShownPageIsCompleteLikeWhatComesLate) {
     const auto page = [](int tag) {
         const auto sheet = [tag](std::wstring name) {
             name += std::to_wstring(tag);
@@ -237,12 +237,21 @@ TEST_F(TStartTest, TimersWaitForTheFirstPageAndNotForItsDrawingAndAShownPageIsCo
                             PageControl((L"Tabs" + std::to_wstring(tag)).c_str(), sheet(L"A"), sheet(L"B")));
     };
     Form.Build(Form, Timer(L"Timer", 1));
+    Form.Build(Form, Edit(L"Field"));
+    Form.Build(Form, Table(L"Found", {L"Column"}).Hidden().Late());
+    Form.Build(Form, Card(L"Card", CardLabel(L"Said", L"Text", 1, TTextLook::Plain)).Late());
     Form.Build(Form, Notebook(L"Notebook", {page(1), page(2), page(3)}));
     const auto exists = [this](const wchar_t* name) { return Form.Find(name)->Peer() != nullptr; };
     int ticks = 0;
     Get<TTimer>(L"Timer").OnTimer = [&](TComponent&) {
         if (++ticks == 1) {
             EXPECT_TRUE(exists(L"LastB1"));
+            HWND next = Window(L"Field");
+            for (const wchar_t* name : {L"Found", L"Card", L"Notebook"})
+                EXPECT_EQ(next = GetWindow(next, GW_HWNDNEXT), Window(name)) << "the order of the design";
+            EXPECT_EQ(std::pair(IsShown(L"Said"), IsShown(L"Found")), std::pair(true, false));
+            EXPECT_EQ(Place(L"Card").left, Place(L"Field").left);
+            EXPECT_GT(Place(L"Said").right, Place(L"Said").left);
             Get<TNotebook>(L"Notebook").ShowPage(L"3");
             EXPECT_TRUE(exists(L"LastA3") && exists(L"LastB3"));
         }
@@ -253,6 +262,7 @@ TEST_F(TStartTest, TimersWaitForTheFirstPageAndNotForItsDrawingAndAShownPageIsCo
     };
     Get<TTimer>(L"Timer").SetEnabled(true);
     Show();
+    EXPECT_FALSE(exists(L"Card") || exists(L"Found"));
     static_cast<TFormWindow*>(Form.Peer())->Run();
     EXPECT_LT(ticks, 500);
 }

@@ -156,10 +156,25 @@ bool TContainerPeer::CreateNext() {
         TControl* control = ContentAt(Control(), index);
         if (control == nullptr) return false;
         ++FNextControl;  // a control that a fault keeps from being created is not tried again
-        if (control->Peer() != nullptr) continue;
+        if (control->Peer() != nullptr || control->IsLate) continue;
         CreatePeer(FForm, *control, Handle());
         return true;
     }
+}
+
+void TContainerPeer::CreateLate(TControl& control) {
+    CreatePeer(FForm, control, Handle());
+    const TWindowPeer* created = PeerOf(control);
+    if (created == nullptr) return;
+    const TWindowPeer* before = nullptr;
+    for (const TControl* sibling : Control().Children()) {
+        if (sibling == &control) break;
+        if (const TWindowPeer* peer = PeerOf(*sibling)) before = peer;
+    }
+    if (before != nullptr)
+        SetWindowPos(created->Handle(), before->Handle(), 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    LayOut();
 }
 
 void TContainerPeer::Update(TControlAspect aspect) {

@@ -29,10 +29,12 @@ class TContainerPeer : public TWindowPeer {
     /// Does at once what waits until the container is shown.
     void CatchUp();
 
-    /// Creates the peers of the controls in the container, as far as they do not exist yet.
+    /// Creates the peers of the controls in the container, as far as they do not exist yet and do not come late.
     void CreateContent();
     /// Creates and places what the container is still without.
     void Fill();
+    /// Creates the peer of a control that comes late, where it would be had it not.
+    void CreateLate(TControl& control);
     /// Creates one more peer, or when all of them exist, places one; false when nothing waits any more.
     bool FillNext();
 

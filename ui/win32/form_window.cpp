@@ -27,12 +27,6 @@ class TDisabledWindow {
     HWND& FFocus;
 };
 
-/// For the sake of whoever waits for an answer, while there is more to do.
-void HandleSentMessages() {
-    MSG message;
-    PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
-}
-
 }  // namespace
 
 TFormWindow::TFormWindow(TForm& form, HINSTANCE instance, TFaultHandler faultHandler, HWND owner)
@@ -61,10 +55,7 @@ void TFormWindow::Show(int showCommand) {
     // The form shows itself first: its windows are then created with their final captions.
     attempt([this] { FForm.Show(); });
     attempt([this] { FWindow.Open(); });
-    ShowWindow(Handle(), showCommand);
-    HandleSentMessages();  // one of them may close the window
-    // All at once: the inner windows would otherwise come one after the other.
-    if (Handle() != nullptr) RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    FWindow.Appear(showCommand);
 }
 
 int TFormWindow::Run() {

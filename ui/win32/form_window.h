@@ -73,6 +73,8 @@ class TFormWindow : public TFormPeer {
     void Fault(std::exception_ptr fault) const;
     /// Commits the edit that has the focus: a button can be pressed without taking the focus from it.
     void CommitFocus() const;
+    /// See TContainerPeer.
+    void CreateLate(TControl& control) { FWindow.CreateLate(control); }
     /// See TPageFiller.
     void CreatePage(TControl& page) { FFiller.CreatePage(page); }
     /// Lets the timer tick until StopTimer; the answer identifies it.
@@ -85,6 +87,7 @@ class TFormWindow : public TFormPeer {
       public:
         TWindow(TFormWindow& formWindow, TForm& form);
         void Open();
+        void Appear(int showCommand);
         LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
         void Restyle() override;

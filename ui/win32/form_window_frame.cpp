@@ -15,6 +15,15 @@ RECT WorkArea(HWND owner) {
     return screen.rcWork;
 }
 
+/// Draws a window, and before that handles what was sent, for the sake of whoever waits for an answer. That may close
+/// the window.
+void DrawNow(const TWindowPeer& peer, UINT inner) {
+    MSG message;
+    PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+    if (const HWND window = peer.Handle(); window != nullptr)
+        RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | inner);
+}
+
 }  // namespace
 
 TFormWindow::TWindow::TWindow(TFormWindow& formWindow, TForm& form)
@@ -32,6 +41,20 @@ void TFormWindow::TWindow::Open() {
     SetWindowTextW(Handle(), WindowText().c_str());
     FMenu.Add(Handle());
     SetInitialSize();
+}
+
+void TFormWindow::TWindow::Appear(int showCommand) {
+    // ShowWindow would draw the backgrounds of all windows before it returns.
+    constexpr UINT kAppear = SWP_SHOWWINDOW | SWP_DEFERERASE | SWP_NOMOVE | SWP_NOSIZE;
+    if (showCommand == SW_SHOWNORMAL || showCommand == SW_SHOW || showCommand == SW_SHOWDEFAULT)
+        SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0, kAppear);
+    else
+        ShowWindow(Handle(), showCommand);
+    // At once, piece by piece: the inner windows would otherwise wait for whatever else there is to do.
+    DrawNow(*this, RDW_NOCHILDREN);
+    for (const TControl* control : Control().Children()) {
+        if (const TWindowPeer* peer = ::PeerOf(*control)) DrawNow(*peer, RDW_ALLCHILDREN);
+    }
 }
 
 SIZE TFormWindow::TWindow::DesignedSize(const RECT& work) const {

@@ -26,11 +26,16 @@ void TPageFiller::FillSheets(const TControl& container) {
 }
 
 void TPageFiller::Start() {
-    for (const auto& component : FForm.Form().Components()) {
-        const TComponentKind kind = component->Kind();
-        if (kind == TComponentKind::NotebookPage || kind == TComponentKind::TabSheet)
-            FUnfilled.push_back(static_cast<TControl*>(component.get()));
-    }
+    const auto add = [this](const auto& isNext) {
+        for (const auto& component : FForm.Form().Components())
+            if (auto& control = static_cast<TControl&>(*component); isNext(control))
+                FUnfilled.push_back(&control);
+    };
+    add([](const TControl& control) { return control.IsLate && control.Visible(); });
+    add([](const TControl& control) { return control.IsLate && !control.Visible(); });
+    add([](const TControl& control) {
+        return control.Kind() == TComponentKind::NotebookPage || control.Kind() == TComponentKind::TabSheet;
+    });
 }
 
 void TPageFiller::CreatePage(TControl& page) {
@@ -46,6 +51,7 @@ void TPageFiller::CreatePage(TControl& page) {
 
 bool TPageFiller::CreatesFirstPage() const {
     if (FUnfilled.empty()) return false;
+    if (FUnfilled.front()->IsLate) return true;
     const TControl* page = PageOf(*FUnfilled.front());
     return page != nullptr && page == page->Parent()->Children().front();
 }
@@ -55,7 +61,9 @@ bool TPageFiller::CreateNext() {
     TControl* control = FUnfilled.front();
     bool isFilled = true;  // what a fault keeps from being created is not tried again
     try {
-        if (TContainerPeer* peer = ContainerOf(*control)) {
+        if (control->IsLate) {
+            FForm.CreateLate(*control);
+        } else if (TContainerPeer* peer = ContainerOf(*control)) {
             isFilled = !peer->FillNext();
         } else if (auto* notebook = dynamic_cast<TNotebookPeer*>(control->Parent()->Peer())) {
             notebook->CreatePage(*control);

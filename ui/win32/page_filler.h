@@ -1,4 +1,5 @@
-// Creates the windows of notebook pages and of sheets: at once when they are shown, else while nothing else is to do.
+// Creates the windows of notebook pages and of sheets, at once when they are shown, else while nothing else is to do; before
+// that, what the form itself still lacks.
 #pragma once
 
 #include <deque>
@@ -17,13 +18,13 @@ class TPageFiller {
     void CreatePage(TControl& page);
     /// Creates the content of the sheets in a container.
     static void FillSheets(const TControl& container);
-    /// Creates or places one more control of the pages and sheets; false when there is nothing left to do.
+    /// Creates or places one more control; false when there is nothing left to do.
     bool CreateNext();
-    /// Whether the notebook's first page is still being created.
+    /// Whether the notebook's first page, or what comes before it, is still being created.
     [[nodiscard]] bool CreatesFirstPage() const;
 
   private:
     TFormWindow& FForm;
-    std::deque<TControl*>
-        FUnfilled;  ///< pages and sheets that may lack content, in the order of its creation
+    /// What comes late, then pages and sheets that may lack content; in the order of its creation.
+    std::deque<TControl*> FUnfilled;
 };
