@@ -97,6 +97,10 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_NoFirefoxProfile", L"Firefox has no profile yet that could keep it; start Firefox once."},
     {L"D_NoSecurityCenter",
      L"The Security Center needs Windows XP with the service SharedAccess running, or a later Windows."},
+    {L"D_DriveFixed", L"Hard disk"},
+    {L"D_DriveRemovable", L"Removable drive"},
+    {L"D_DriveNetwork", L"Network drive"},
+    {L"D_DriveDisc", L"CD or DVD drive"},
     {L"D_NoRights", L"Without administrator rights, settings for all users (marked *) cannot be changed."},
     {L"D_DetailsRights", L"needs administrator rights"},
 }};
