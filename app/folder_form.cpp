@@ -3,10 +3,18 @@
 #include "app/history.h"
 #include "app/take_all.h"
 #include "engine/carry_out.h"
+#include "settings/rights.h"
 #include "settings/shell/desktop_icons.h"
 #include "settings/tell_explorer.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
+
+namespace {
+
+constexpr const wchar_t* kNote = L"Label_Folder_Note";
+constexpr int kLinesOfRights = 3;
+
+}  // namespace
 
 TQuilltune_FormFolder::TQuilltune_FormFolder(const TPageContext& owner, const TLanguage& language)
     : TForm(L"Quilltune_FormFolder", L"TQuilltune_FormFolder"),
@@ -20,8 +28,10 @@ TQuilltune_FormFolder::TQuilltune_FormFolder(const TPageContext& owner, const TL
                .WindowsLevel = owner.WindowsLevel},
       FPage(DesktopIcons(), FContext, *this, [](TComponent&) {}) {
     ClientWidth = 360;
-    ClientHeight = 330;
+    ClientHeight = 350;
     SetCaption(kDesktopIconsCaption);
+    Build(*this, CardLabel(kNote, L"OK takes effect at once, without Apply",
+                           HasAdministratorRights(owner.System) ? 1 : kLinesOfRights, TTextLook::Quiet));
     Build(*this, Buttons(Button(L"Button_OK", L"OK"), Button(L"Button_Cancel", L"Cancel")));
     auto* ok = Find<TButton>(L"Button_OK");
     ok->Default = true;
@@ -39,6 +49,9 @@ void TQuilltune_FormFolder::ChooseSheet(const wchar_t* name) {
 void TQuilltune_FormFolder::FormShow() {
     FLanguage.Translate(*this);
     FPage.Load();
+    const std::wstring rights = RightsLine(FContext, FPage.Definition());
+    if (rights.empty()) return;
+    Find(kNote)->SetCaption(Find(kNote)->Caption() + L".\n" + rights);
 }
 
 void TQuilltune_FormFolder::Button_OKClick() {

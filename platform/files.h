@@ -6,6 +6,21 @@
 #include <string>
 #include <vector>
 
+enum class TDriveKind : std::uint8_t {
+    Fixed,
+    Removable,
+    Network,
+    Disc,  ///< a CD or DVD drive
+};
+
+struct TDrive {
+    wchar_t Letter;  ///< in upper case
+    TDriveKind Kind;
+    std::wstring Label;  ///< of a fixed drive; asking others could mean waiting for them
+
+    bool operator==(const TDrive&) const = default;
+};
+
 /// Nothing throws. Paths are Windows paths in UTF-16 (UTF-32 on other hosts).
 class TFiles {
   public:
@@ -53,4 +68,7 @@ class TFiles {
     [[nodiscard]] virtual std::wstring ProfileString(const std::wstring& path, const std::wstring& section,
                                                      const std::wstring& key,
                                                      const std::wstring& fallback) const = 0;
+
+    /// The drives that there are, in the order of their letters.
+    [[nodiscard]] virtual std::vector<TDrive> Drives() const = 0;
 };

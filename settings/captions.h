@@ -125,6 +125,11 @@ enum class TCaption {
     NoFirefox,
     NoFirefoxProfile,
     NoSecurityCenter,
+    // Drives without a label.
+    DriveFixed,
+    DriveRemovable,
+    DriveNetwork,
+    DriveDisc,
     // What only administrators may change.
     NoRights,
     DetailsRights,

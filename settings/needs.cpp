@@ -32,6 +32,32 @@ bool IsPreference(const TRow& row) {
                                [](const TPlace& place) { return place.Kind == TPlaceKind::Preference; });
 }
 
+/// Collects why a control has no effect, each reason once.
+struct TReasons {
+    const TPageContext& Context;
+    const std::wstring& Control;
+    std::wstring Sentences{};
+
+    void Say(const std::wstring& sentence) {
+        if (Sentences.find(sentence) == std::wstring::npos)
+            Sentences += (Sentences.empty() ? L"" : L" ") + sentence;
+    }
+    void Look(const TLack& lack) {
+        if (Control == lack.Control && !lack.IsThere(Context)) Say(Context.Captions[lack.Reason]);
+    }
+    void Look(const TNeed& need) {
+        if (need.Levels.Include(Context.WindowsLevel) && Concerns(need, Control) && !IsMet(Context, need))
+            Say(Words(Context, need));
+    }
+    void Look(const TRow& row) {
+        if (!LevelsOf(row).Include(Context.WindowsLevel)) return;
+        for (const TNeed& need : NeedsOf(row)) Look(need);
+        if (!IsPreference(row) || std::ranges::count(ControlsOf(row), Control) == 0) return;
+        if (Context.Firefox.IsFirefoxInstalled() && Context.Firefox.FirefoxProfileFolder().empty())
+            Say(Context.Captions[TCaption::NoFirefoxProfile]);
+    }
+};
+
 }  // namespace
 
 std::vector<TNeed> NeedsOf(const TRow& row) {
@@ -76,28 +102,12 @@ void ApplyLacks(const TPageContext& context, const TPageDefinition& page) {
 }
 
 std::wstring ReasonsFor(const TPageContext& context, const std::wstring& control) {
-    std::wstring reasons;
-    const auto say = [&](const std::wstring& sentence) {
-        if (reasons.find(sentence) == std::wstring::npos)
-            reasons += (reasons.empty() ? L"" : L" ") + sentence;
-    };
-    const auto look = [&](const TNeed& need) {
-        if (need.Levels.Include(context.WindowsLevel) && Concerns(need, control) && !IsMet(context, need))
-            say(Words(context, need));
-    };
+    TReasons reasons{context, control};
     for (const TPageDefinition* page : PageDefinitions()) {
-        for (const TLack& lack : page->Lacks)
-            if (control == lack.Control && !lack.IsThere(context)) say(context.Captions[lack.Reason]);
-        std::ranges::for_each(page->Needs, look);
-        for (const TLoader& loader : page->Loaders) {
-            for (const TRow& row : loader) {
-                if (!LevelsOf(row).Include(context.WindowsLevel)) continue;
-                std::ranges::for_each(NeedsOf(row), look);
-                if (!IsPreference(row) || std::ranges::count(ControlsOf(row), control) == 0) continue;
-                if (context.Firefox.IsFirefoxInstalled() && context.Firefox.FirefoxProfileFolder().empty())
-                    say(context.Captions[TCaption::NoFirefoxProfile]);
-            }
-        }
+        for (const TLack& lack : page->Lacks) reasons.Look(lack);
+        for (const TNeed& need : page->Needs) reasons.Look(need);
+        for (const TLoader& loader : page->Loaders)
+            for (const TRow& row : loader) reasons.Look(row);
     }
-    return reasons;
+    return reasons.Sentences;
 }

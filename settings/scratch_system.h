@@ -64,6 +64,7 @@ class TReadOnlyFiles : public TFiles {
                                              const std::wstring& fallback) const override {
         return FFiles.ProfileString(path, section, key, fallback);
     }
+    [[nodiscard]] std::vector<TDrive> Drives() const override { return FFiles.Drives(); }
 
   private:
     const TFiles& FFiles;

@@ -233,3 +233,26 @@ std::wstring TWin32Files::ProfileString(const std::wstring& path, const std::wst
         value.resize(value.size() * 2);
     }
 }
+
+std::vector<TDrive> TWin32Files::Drives() const {
+    std::vector<TDrive> drives;
+    const DWORD letters = GetLogicalDrives();
+    for (int i = 0; i < 26; ++i) {
+        if ((letters >> i & 1) == 0) continue;
+        TDrive drive{static_cast<wchar_t>(L'A' + i), TDriveKind::Fixed, {}};
+        const std::wstring root{drive.Letter, L':', L'\\'};
+        const UINT type = GetDriveTypeW(root.c_str());
+        std::wstring label(MAX_PATH + 1, L'\0');
+        if (type == DRIVE_REMOVABLE)
+            drive.Kind = TDriveKind::Removable;
+        else if (type == DRIVE_REMOTE)
+            drive.Kind = TDriveKind::Network;
+        else if (type == DRIVE_CDROM)
+            drive.Kind = TDriveKind::Disc;
+        else if (GetVolumeInformationW(root.c_str(), label.data(), static_cast<DWORD>(label.size()), nullptr,
+                                       nullptr, nullptr, nullptr, 0))
+            drive.Label = label.c_str();
+        drives.push_back(std::move(drive));
+    }
+    return drives;
+}

@@ -21,4 +21,5 @@ class TWin32Files : public TFiles {
     [[nodiscard]] std::wstring ProfileString(const std::wstring& path, const std::wstring& section,
                                              const std::wstring& key,
                                              const std::wstring& fallback) const override;
+    [[nodiscard]] std::vector<TDrive> Drives() const override;
 };

@@ -20,9 +20,9 @@ constexpr TExplanation kTexts[] = {
     {"Button_Firefox_Common_Default",
      "Lets text blink and chooses the message box for errors; the home page stays as it is."},
     {"Checkbox_Firefox_Use_AddressBar_AutoFill",
-     "Adds the rest of a known address behind the cursor while you type. Firefox 14 and later do so even if "
-     "nothing is stored, although the box is clear then; to turn it off there, check the box and clear it "
-     "again."},
+     "Adds the rest of a known address behind the cursor while you type. Newer versions of Firefox do so "
+     "even if nothing is stored, although the box is clear then; to turn it off there, check the box and "
+     "clear it again."},
     {"Checkbox_Firefox_Use_AddressBar_ShowLoadAddressButton",
      "The button at the end of the address bar that loads the typed address. Firefox 2 uses this option; "
      "since Firefox 3 the button shows by itself while you type."},
@@ -69,16 +69,14 @@ constexpr TExplanation kTexts[] = {
      "where the script leaves them out. Firefox 78 and later do not read this option."},
     {"Button_Firefox_Popup_Default", "Opens links in a new tab and clears all boxes of the lower group."},
     {"CB_Firefox_Tab_CloseButton_Pos",
-     "Where the button stands that closes a tab. Firefox 2 to 30 use this; later versions always show it on "
-     "every tab, as long as the tabs are wide enough."},
+     "Where the button stands that closes a tab. This choice came with Firefox 2; newer versions no longer "
+     "offer it and show the button on every tab that is wide enough."},
     {"Updown_Firefox_Tab_MinWidth_Min",
-     "Tabs do not get narrower than this; if more are open, the tab bar scrolls. Firefox 2 to 3.6 read it, "
-     "and recent versions again. At 125 the preference is removed, so that the default of Firefox itself "
-     "applies."},
+     "Tabs do not get narrower than this; if more are open, the tab bar scrolls. Not every version of "
+     "Firefox reads it. At 125 the preference is removed, so that the default of Firefox itself applies."},
     {"Edit_Firefox_Tab_MinWidth_Min",
-     "Tabs do not get narrower than this; if more are open, the tab bar scrolls. Firefox 2 to 3.6 read it, "
-     "and recent versions again. At 125 the preference is removed, so that the default of Firefox itself "
-     "applies."},
+     "Tabs do not get narrower than this; if more are open, the tab bar scrolls. Not every version of "
+     "Firefox reads it. At 125 the preference is removed, so that the default of Firefox itself applies."},
 };
 
 }  // namespace

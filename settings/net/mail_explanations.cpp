@@ -5,8 +5,8 @@ namespace {
 
 constexpr TExplanation kTexts[] = {
     {"Checkbox_Mail_OutlookExpress_Messenger",
-     "Outlook Express can show the contacts of Windows Messenger and starts it for that. Clear it if you do "
-     "not use the messenger. Outlook Express exists up to Windows XP only."},
+     "Outlook Express can log on to Windows Messenger and show its contacts. Clearing this is to keep it "
+     "from that; Microsoft does not document the value. Outlook Express exists up to Windows XP only."},
     {"Checkbox_Mail_Outlook_Tray",
      "Minimized, Outlook leaves the taskbar and can be opened by its icon in the notification area, whose "
      "menu has the same choice since Outlook 2003. It is stored for every version from Outlook 2002 to 2010 "

@@ -7,10 +7,11 @@ constexpr TExplanation kTexts[] = {
     {"Radio_UserLogin_Common_LoginInterface_XP",
      "Shows the accounts of Windows XP with their pictures to click on; fast user switching needs it. "
      "Computers in a domain always have the logon box. Windows 2000 has no Welcome screen, and Windows Vista "
-     "and later do not read this."},
+     "and later have a logon screen of their own."},
     {"Radio_UserLogin_Common_LoginInterface_2k",
      "Asks for user name and password, as Windows 2000 does, and shows strangers no list of accounts. On "
-     "Windows XP there is then no fast user switching. Windows Vista and later do not read this."},
+     "Windows XP there is then no fast user switching. Windows Vista and later have a logon screen of their "
+     "own."},
     {"Checkbox_UserLogin_Common_Set_UserName",
      "Whoever logs on must enter the user name as well, so that strangers do not learn it from the screen. "
      "The Welcome screen of Windows XP shows the names nevertheless."},

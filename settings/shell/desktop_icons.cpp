@@ -43,7 +43,7 @@ TControlDesign Design() {
                     CheckBox(L"Checkbox_Folder_MyComputer_RecycleBin", L"Recycle &Bin"))),
         Sheet(L"TabSheet_Folder_Drivers", L"Drivers",
               Label(L"Label_Folder_Drivers", L"&Hide the checked drives in Windows Explorer:"),
-              ListView(L"ListView_Folder_Drivers", {L"Drive"})));
+              ListView(L"ListView_Folder_Drivers", {L"Drive", L"In this computer"})));
 }
 
 /// An icon on the desktop; 0 shows it. As delivered, Windows shows the Recycle Bin alone.
@@ -117,13 +117,31 @@ constexpr TRow kMyComputerRows[] = {
 constexpr int kDriveCount = 26;
 constexpr std::uint32_t kAllDrives = (1U << kDriveCount) - 1;
 
+/// What a user knows the drive by.
+const std::wstring& NameOf(const TPageContext& context, const TDrive& drive) {
+    if (!drive.Label.empty()) return drive.Label;
+    switch (drive.Kind) {
+        case TDriveKind::Removable:
+            return context.Captions[TCaption::DriveRemovable];
+        case TDriveKind::Network:
+            return context.Captions[TCaption::DriveNetwork];
+        case TDriveKind::Disc:
+            return context.Captions[TCaption::DriveDisc];
+        case TDriveKind::Fixed:
+            break;
+    }
+    return context.Captions[TCaption::DriveFixed];
+}
+
 void LoadDrives(TPageContext& context, const TSpecialRow& row) {
     const std::uint32_t mask = StoredBits(context, row.Places[0]).value_or(0);
     std::vector<TListView::TRow> drives;
     drives.reserve(kDriveCount);
     for (int i = 0; i < kDriveCount; ++i)
         drives.push_back(
-            {.Cells = {{static_cast<wchar_t>(L'A' + i), L':'}}, .Checked = (mask >> i & 1) != 0});
+            {.Cells = {{static_cast<wchar_t>(L'A' + i), L':'}, L""}, .Checked = (mask >> i & 1) != 0});
+    for (const TDrive& drive : context.System.Files.Drives())
+        drives[static_cast<std::size_t>(drive.Letter - L'A')].Cells[1] = NameOf(context, drive);
     context.Form.Find<TListView>(row.Controls[0])->SetRows(std::move(drives));
 }
 

@@ -25,8 +25,8 @@ constexpr TExplanation kTexts[] = {
      "of their kind. Windows 7 always remembers and no longer offers this choice."},
     {"Trabar_Folder_View_BehaviorSet_SaveViewSetCount",
      "When the number is reached, Windows forgets the view of the folder that was not opened for the longest "
-     "time. Windows XP keeps only about 400 by default. Since Vista Windows keeps the views of local folders "
-     "elsewhere, and this does not change their number."},
+     "time. By default Windows XP keeps some hundred. The value is meant for Windows 2000 and XP; later "
+     "versions keep their views at other places as well."},
     {"Button_Folder_View_BehaviorSet_Default",
      "Opens folders without the tree, does not restore them at logon, allows the details pane and remembers "
      "the view of 5000 folders; the menus stay as they are."},

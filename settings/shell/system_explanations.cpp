@@ -11,11 +11,11 @@ constexpr TExplanation kTexts[] = {
      "Company, school or the like that About Windows (winver) shows below the owner; it may be empty. Setup "
      "programs suggest it as long as the group below holds no other."},
     {"Edit_System_Common_Installer_Name",
-     "User name that Setup programs of Windows Installer suggest to you. While nothing is stored, they take "
-     "the registered owner, which is also shown here."},
+     "User name that older Setup programs of Microsoft can suggest; others may take the registered owner. "
+     "While nothing is stored, the registered owner is shown here."},
     {"Edit_System_Common_Installer_Company",
-     "Company that Setup programs of Windows Installer suggest to you. While nothing is stored, they take "
-     "the registered organization, which is also shown here."},
+     "Company that older Setup programs of Microsoft can suggest; others may take the registered "
+     "organization. While nothing is stored, the registered organization is shown here."},
     {"Checkbox_System_CommonDialog_FileName_Recent",
      "Lets the list at the File name field of the Open dialog offer the files used last; clear it if others "
      "should not see them. Dialogs in the style of Windows Vista and later ignore it."},

@@ -36,6 +36,7 @@ class TFolderForm : public testing::Test {
     TFolderForm() {
         Fake.Windows.SetVersion({.PlatformId = 2, .Major = 6, .Minor = 1});
         Fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\AppData");
+        Fake.Files.PutDrives({{L'C', TDriveKind::Fixed, L"System"}, {L'Z', TDriveKind::Disc, L""}});
         Fake.Files.PutText(L"C:\\Program Files\\Quilltune\\Toolbox_Language\\English.lng",
                            "[Quilltune_M]\nD_Drivers=Drives!\n"
                            "[Scanner_Quilltune_FormFolder]\nQuilltune_FormFolder.Caption=Title\n");
@@ -87,6 +88,24 @@ TEST_F(TFolderForm, F1ExplainsItsSettings) {
         for (const wchar_t* part :
              {L"Recycle Bin\n\n", L"HideDesktopIcons", L"stored: (not set)", L"0x00000001"})
             EXPECT_NE(help.find(part), std::wstring::npos) << testing::PrintToString(help);
+    });
+}
+
+TEST_F(TFolderForm, DrivesAreNamedAndWhatIsForAllUsersIsMarked) {
+    const auto said = [](TForm& dialog) { return dialog.Find(L"Label_Folder_Note")->Caption(); };
+    Open(kDesktopButton, [&](TForm& dialog) {
+        EXPECT_EQ(said(dialog), L"OK takes effect at once, without Apply");
+        const auto& drives = dialog.Find<TListView>(L"ListView_Folder_Drivers")->Rows();
+        ASSERT_EQ(drives.size(), 26U);
+        EXPECT_EQ(drives[1].Cells, (std::vector<std::wstring>{L"B:", L""}));
+        EXPECT_EQ(drives[2].Cells, (std::vector<std::wstring>{L"C:", L"System"}));
+        EXPECT_EQ(drives[25].Cells, (std::vector<std::wstring>{L"Z:", L"CD or DVD drive"}));
+    });
+    Fake.Registry.DenyAccess(TRootKey::LocalMachine, L"");
+    Open(kDesktopButton, [&](TForm& dialog) {
+        EXPECT_TRUE(said(dialog).ends_with(L"(marked *) cannot be changed."));
+        EXPECT_EQ(dialog.Find(L"Checkbox_Folder_MyComputer_Printers")->Caption(), L"P&rinters *");
+        EXPECT_EQ(dialog.Find(kRecycleBin)->Caption(), L"&Recycle Bin");
     });
 }
 

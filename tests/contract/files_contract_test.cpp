@@ -123,4 +123,11 @@ TEST_F(TFilesContract, ProfileStrings) {
     EXPECT_EQ(Files().ProfileString(Path(L"none.ini"), L"General", L"x", L""), L"");
 }
 
+TEST_F(TFilesContract, DrivesHaveLettersInTheirOrder) {
+    const auto drives = Files().Drives();
+    EXPECT_EQ(std::ranges::count(drives, L'C', &TDrive::Letter), 1);
+    EXPECT_TRUE(std::ranges::is_sorted(drives, std::less_equal(), &TDrive::Letter));
+    for (const TDrive& drive : drives) EXPECT_TRUE(drive.Kind == TDriveKind::Fixed || drive.Label.empty());
+}
+
 }  // namespace

@@ -29,6 +29,8 @@ class TFakeFiles : public TFiles {
         return file == nullptr ? std::string() : std::string(file->second.begin(), file->second.end());
     }
 
+    void PutDrives(std::vector<TDrive> drives) { FDrives = std::move(drives); }
+
     /// Paths given to Replace, with or without success.
     [[nodiscard]] const std::vector<std::wstring>& Replaced() const { return FReplaced; }
     /// The n-th Replace, Append or CreateNew from now fails; 1 is the next one.
@@ -113,6 +115,8 @@ class TFakeFiles : public TFiles {
         return fallback;
     }
 
+    [[nodiscard]] std::vector<TDrive> Drives() const override { return FDrives; }
+
   private:
     using TFile = std::pair<std::wstring, std::vector<std::uint8_t>>;
 
@@ -140,6 +144,7 @@ class TFakeFiles : public TFiles {
         });
     }
 
+    std::vector<TDrive> FDrives{{L'C', TDriveKind::Fixed, L"System"}};
     std::vector<TFile> FFiles;
     std::vector<std::wstring> FFolders;  ///< each with a backslash at its end
     std::vector<std::wstring> FLocked;
