@@ -113,6 +113,7 @@ enum class TCaption {
     DriveDisc,
     // What only administrators may change.
     NoRights,
+    MarkedNeedRights,
     DetailsRights,
     kCount,
 };
