@@ -11,8 +11,7 @@
 
 namespace {
 
-constexpr const wchar_t* kNote = L"Label_Folder_Note";
-constexpr int kLinesOfRights = 3;
+constexpr const wchar_t* kRights = L"Label_Folder_Rights";
 
 }  // namespace
 
@@ -30,8 +29,8 @@ TQuilltune_FormFolder::TQuilltune_FormFolder(const TPageContext& owner, const TL
     ClientWidth = 360;
     ClientHeight = 350;
     SetCaption(kDesktopIconsCaption);
-    Build(*this, CardLabel(kNote, L"OK takes effect at once, without Apply",
-                           HasAdministratorRights(owner.System) ? 1 : kLinesOfRights, TTextLook::Quiet));
+    if (!HasAdministratorRights(owner.System)) Build(*this, Label(kRights, L""));
+    Build(*this, Label(L"Label_Folder_Note", L"OK takes effect at once, without Apply"));
     Build(*this, Buttons(Button(L"Button_OK", L"OK"), Button(L"Button_Cancel", L"Cancel")));
     auto* ok = Find<TButton>(L"Button_OK");
     ok->Default = true;
@@ -49,9 +48,7 @@ void TQuilltune_FormFolder::ChooseSheet(const wchar_t* name) {
 void TQuilltune_FormFolder::FormShow() {
     FLanguage.Translate(*this);
     FPage.Load();
-    const std::wstring rights = RightsLine(FContext, FPage.Definition());
-    if (rights.empty()) return;
-    Find(kNote)->SetCaption(Find(kNote)->Caption() + L".\n" + rights);
+    if (TControl* rights = Find(kRights)) rights->SetCaption(FContext.Captions[TCaption::MarkedNeedRights]);
 }
 
 void TQuilltune_FormFolder::Button_OKClick() {

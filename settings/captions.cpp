@@ -120,6 +120,7 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_DriveNetwork", L"Network drive"},
     {L"D_DriveDisc", L"CD or DVD drive"},
     {L"D_NoRights", L"Without administrator rights, settings for all users (marked *) cannot be changed."},
+    {L"D_MarkedNeedRights", L"What is marked * needs administrator rights"},
     {L"D_DetailsRights", L"needs administrator rights"},
     {L"D_FoundSettings", L"Settings found"},
     {L"D_NothingFound",

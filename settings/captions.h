@@ -132,6 +132,7 @@ enum class TCaption {
     DriveDisc,
     // What only administrators may change.
     NoRights,
+    MarkedNeedRights,
     DetailsRights,
     FoundSettings,
     NothingFound,

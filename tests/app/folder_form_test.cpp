@@ -92,9 +92,8 @@ TEST_F(TFolderForm, F1ExplainsItsSettings) {
 }
 
 TEST_F(TFolderForm, DrivesAreNamedAndWhatIsForAllUsersIsMarked) {
-    const auto said = [](TForm& dialog) { return dialog.Find(L"Label_Folder_Note")->Caption(); };
     Open(kDesktopButton, [&](TForm& dialog) {
-        EXPECT_EQ(said(dialog), L"OK takes effect at once, without Apply");
+        EXPECT_EQ(dialog.Find(L"Label_Folder_Rights"), nullptr);
         const auto& drives = dialog.Find<TListView>(L"ListView_Folder_Drivers")->Rows();
         ASSERT_EQ(drives.size(), 26U);
         EXPECT_EQ(drives[1].Cells, (std::vector<std::wstring>{L"B:", L""}));
@@ -103,7 +102,8 @@ TEST_F(TFolderForm, DrivesAreNamedAndWhatIsForAllUsersIsMarked) {
     });
     Fake.Registry.DenyAccess(TRootKey::LocalMachine, L"");
     Open(kDesktopButton, [&](TForm& dialog) {
-        EXPECT_TRUE(said(dialog).ends_with(L"(marked *) cannot be changed."));
+        EXPECT_EQ(dialog.Find(L"Label_Folder_Rights")->Caption(),
+                  L"What is marked * needs administrator rights");
         EXPECT_EQ(dialog.Find(L"Checkbox_Folder_MyComputer_Printers")->Caption(), L"P&rinters *");
         EXPECT_EQ(dialog.Find(kRecycleBin)->Caption(), L"&Recycle Bin");
     });

@@ -211,6 +211,11 @@ TEST_F(TMainWindow, ExplainsTheSettingThatTheUserIsAt) {
     EXPECT_FALSE(said(L"Text").starts_with(L"Has no effect"));
     for (const wchar_t* side : kSides) EXPECT_TRUE(Enabled(side));
     EXPECT_TRUE(Enabled(L"Label_CommonSettings_Display_MinWindow_Left"));
+
+    Fake.Registry.DenyAccess(TRootKey::LocalMachine, L"");
+    Click(kDriverItem);
+    Window->OnFocus(Window->Find(kLastAccess));
+    EXPECT_TRUE(said(L"Place").ends_with(L"not changed \u00B7 needs administrator rights"));
 }
 
 TEST_F(TMainWindow, TheExplanationGivesWayToThePages) {

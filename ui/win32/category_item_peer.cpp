@@ -22,8 +22,8 @@ std::vector<HWND> ItemWindows(const TControl& item) {
 }
 
 void SetTabStop(HWND window, bool isStop) {
-    const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE) & ~static_cast<LONG_PTR>(WS_TABSTOP);
-    SetWindowLongPtrW(window, GWL_STYLE, isStop ? style | WS_TABSTOP : style);
+    const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE);
+    if (((style & WS_TABSTOP) != 0) != isStop) SetWindowLongPtrW(window, GWL_STYLE, style ^ WS_TABSTOP);
 }
 
 }  // namespace

@@ -208,7 +208,13 @@ void TWindowPeer::Update(TControlAspect aspect) {
             EnableWindow(FHandle, FControl.Enabled());
             break;
         case TControlAspect::Visible:
-            ShowWindow(FHandle, IsShown() ? SW_SHOWNA : SW_HIDE);
+            // ShowWindow would draw the backgrounds of all inner windows at once, and below what is hidden only then.
+            if (IsShown())
+                SetWindowPos(FHandle, nullptr, 0, 0, 0, 0,
+                             SWP_SHOWWINDOW | SWP_DEFERERASE | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER |
+                                 SWP_NOACTIVATE);
+            else
+                ShowWindow(FHandle, SW_HIDE);
             if (FControl.Kind() == TComponentKind::GroupBox)
                 for (const TControl* child : FControl.Children())
                     if (child->Peer() != nullptr) child->Peer()->Update(aspect);
