@@ -101,6 +101,8 @@ enum class TCaption {
     FindSetting,
     FoundSettings,
     NothingFound,
+    About,
+    NoSuiteFolder,
     kCount,
 };
 
