@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/about_form.h"
 #include "app/folder_form.h"
 #include "app/take_all.h"
 #include "app/timing_log.h"
@@ -131,6 +132,7 @@ void TQuilltune_FormMain::FormShow() {
             FFind->SetTexts(FContext.Captions);
             FLanguage->Translate(*this);
             Switches.front().Caption = FContext.Captions[TCaption::DetailsShow];
+            Switches.back().Caption = FContext.Captions[TCaption::About];
         },
         [&] { ReinitialiseLists(log); },
         [&] {
@@ -258,6 +260,13 @@ void TQuilltune_FormMain::ShowFolderForm(const wchar_t* sheet, const std::wstrin
     ShowModal(dialog);
 }
 
+void TQuilltune_FormMain::ShowAbout() {
+    if (!FLanguage) return;
+    const std::wstring notices = Notices ? Notices() : std::wstring();
+    TQuilltune_FormAbout about(FSystem, FContext.Captions, *FLanguage, notices);
+    ShowModal(about);
+}
+
 void TQuilltune_FormMain::PageChanged(TComponent& sender) {
     FTwins->Changed(static_cast<TControl&>(sender));
     EnableApply();
@@ -290,7 +299,10 @@ void TQuilltune_FormMain::MakeDetails() {
     };
     Switches = {{.Caption = FContext.Captions[TCaption::DetailsShow],
                  .IsOn = true,
-                 .OnClick = [this](bool isOn) { FDetails->SetShown(isOn); }}};
+                 .OnClick = [this](bool isOn) { FDetails->SetShown(isOn); }},
+                {.Caption = FContext.Captions[TCaption::About], .Stays = false, .OnClick = [this](bool) {
+                     ShowAbout();
+                 }}};
     // The settings are known before the first of them is asked for.
     Find<TTimer>(L"Timer_Details")->OnTimer = [this](TComponent& timer) {
         static_cast<TTimer&>(timer).SetEnabled(false);

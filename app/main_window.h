@@ -31,6 +31,8 @@ class TQuilltune_FormMain : public TForm {
     /// it is ready.
     void OpenFile(const std::wstring& path);
 
+    std::function<std::wstring()> Notices;  ///< of the libraries in the program
+
   private:
     void FormCreate();
     void FormShow();
@@ -79,6 +81,8 @@ class TQuilltune_FormMain : public TForm {
     void ShowHelp(const TControl* control);
     /// Says it in a box over the form.
     void Tell(const TForm& asker, const std::wstring& text);
+
+    void ShowAbout();
 
     /// Opens the desktop-icons dialog with one of its sheets chosen, or one of its settings.
     void ShowFolderForm(const wchar_t* sheet, const std::wstring& setting = {});

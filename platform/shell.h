@@ -30,6 +30,9 @@ class TShell {
     /// Path of a shell folder without trailing delimiter and without creating it; empty when unknown.
     [[nodiscard]] virtual std::wstring FolderPath(TSpecialFolder folder) const = 0;
 
+    /// Shows a folder to the user. False, and nothing is shown, when there is no such folder.
+    [[nodiscard]] virtual bool OpenFolder(const std::wstring& path) = 0;
+
     /// Enables SeShutdownPrivilege and asks Windows to reboot. A refusal is not reported.
     virtual void RestartWindows() = 0;
 

@@ -2,7 +2,10 @@
 
 #include "platform/app_frame.h"
 
+std::wstring SuiteFolder(const TSystem& system) {
+    return TAppFrame(system).AppDataPath + L"\\Vandrel\\Orbicare V4";
+}
+
 std::wstring GetSuiteLanguage(const TSystem& system) {
-    const std::wstring file = TAppFrame(system).AppDataPath + L"\\Vandrel\\Orbicare V4\\Main.ini";
-    return system.Files.ProfileString(file, L"Main", L"Language", L"English");
+    return system.Files.ProfileString(SuiteFolder(system) + L"\\Main.ini", L"Main", L"Language", L"English");
 }

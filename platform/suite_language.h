@@ -6,6 +6,9 @@
 #include "platform/app_frame.h"
 #include "platform/language.h"
 
+/// The folder with the suite's settings of the user.
+[[nodiscard]] std::wstring SuiteFolder(const TSystem& system);
+
 /// The identifier of the language in the suite's configuration file; "English" when it names none.
 [[nodiscard]] std::wstring GetSuiteLanguage(const TSystem& system);
 

@@ -125,6 +125,8 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_FoundSettings", L"Settings found"},
     {L"D_NothingFound",
      L"Nothing found. Try fewer or shorter words, or the name of a value in the registry."},
+    {L"D_About", L"&About Quilltune\u2026"},
+    {L"D_NoSuiteFolder", L"Nothing has been saved yet."},
 }};
 
 TCaptions::TCaptions() {

@@ -136,6 +136,8 @@ enum class TCaption {
     DetailsRights,
     FoundSettings,
     NothingFound,
+    About,
+    NoSuiteFolder,
     kCount,
 };
 

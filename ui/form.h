@@ -87,10 +87,11 @@ class TForm : public TControl {
     /// The client area has another height than before; in dots of 96 per inch.
     std::function<void(int height)> OnHeight;
 
-    /// A command of the window's menu that switches something on and off.
+    /// A command of the window's menu that switches something on and off, or only does something.
     struct TSwitch {
         std::wstring Caption;
         bool IsOn = false;
+        bool Stays = true;  ///< as it is switched
         std::function<void(bool isOn)> OnClick;
     };
     std::vector<TSwitch> Switches;  ///< fixed once the window is shown

@@ -7,6 +7,7 @@
 #include "base/win32/late_bound.h"
 #include "platform/win32/win32_system.h"
 #include "ui/win32/form_window.h"
+#include "ui/win32/png_decoder.h"
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR commandLine, int showCommand) {
     SearchSystemFolderOnly();  // before anything else: most of Windows' own libraries are loaded at their first call
@@ -27,6 +28,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR commandLin
     TFaultLog faultLog(system);
     const TFaultHooks hooks(faultLog);
     TQuilltune_FormMain form(system);
+    form.Notices = PngNotices;
     // Faults show no dialog and do not end the program.
     TFormWindow& window = TFormWindow::Attach(
         form, instance, [&faultLog](const std::exception_ptr& fault) { faultLog.Add(fault); });

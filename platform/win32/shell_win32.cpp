@@ -40,6 +40,22 @@ std::wstring TWin32Shell::FolderPath(TSpecialFolder folder) const {
     return path;
 }
 
+bool TWin32Shell::OpenFolder(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return false;
+    const std::wstring folder = path + L'\\';  // Windows would run a program of that name
+    SHELLEXECUTEINFOW what{};
+    what.cbSize = sizeof what;
+    what.fMask = SEE_MASK_FLAG_NO_UI;
+    what.lpVerb = L"open";
+    what.lpFile = folder.c_str();
+    what.nShow = SW_SHOWNORMAL;
+    const HRESULT initialised = CoInitialize(nullptr);
+    const bool isOpen = ShellExecuteExW(&what) != FALSE;
+    if (SUCCEEDED(initialised)) CoUninitialize();
+    return isOpen;
+}
+
 void TWin32Shell::RestartWindows() {
     EnableShutdownPrivilege();
     ExitWindowsEx(EWX_REBOOT, 0);

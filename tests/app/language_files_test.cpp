@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/about_form.h"
 #include "app/changes_form.h"
 #include "app/folder_form.h"
 #include "app/history_form.h"
@@ -87,14 +88,16 @@ struct TPlainDialogs {
     TQuilltune_FormChanges Changes;
     TQuilltune_FormHistory History;
     TQuilltune_FormPreview Preview;
+    TQuilltune_FormAbout About;
 
     TPlainDialogs(TSystem& system, const TQuilltune_FormMain& window, const TLanguage& language)
         : Names(system, language, 0),
           Changes(window.Context().Captions, language, Names, {}),
           History(system, window.Context().Captions, language, Names, {}),
-          Preview(language, {}) {}
+          Preview(language, {}),
+          About(system, window.Context().Captions, language, {}) {}
 
-    [[nodiscard]] std::vector<TForm*> All() { return {&Changes, &History, &Preview}; }
+    [[nodiscard]] std::vector<TForm*> All() { return {&Changes, &History, &Preview, &About}; }
 };
 
 TEST(TLanguageFiles, HoldEveryTextAndNoOther) {

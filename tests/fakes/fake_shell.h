@@ -20,6 +20,9 @@ class TFakeShell : public TShell {
     [[nodiscard]] const std::vector<TShellNotification>& Notifications() const { return FNotifications; }
     /// The areas of the broadcasts.
     [[nodiscard]] const std::vector<std::wstring>& SettingChanges() const { return FSettingChanges; }
+    std::vector<std::wstring> OpenedFolders;
+    std::wstring MissingFolder;
+
     [[nodiscard]] int Restarts() const { return FRestarts; }
     [[nodiscard]] int HistoryClearings() const { return FHistoryClearings; }
     [[nodiscard]] const std::vector<std::wstring>& DebugTexts() const { return FDebugTexts; }
@@ -31,6 +34,10 @@ class TFakeShell : public TShell {
     [[nodiscard]] std::wstring FolderPath(TSpecialFolder folder) const override {
         const auto path = FFolders.find(folder);
         return path == FFolders.end() ? std::wstring() : path->second;
+    }
+    [[nodiscard]] bool OpenFolder(const std::wstring& path) override {
+        OpenedFolders.push_back(path);
+        return path != MissingFolder;
     }
     void RestartWindows() override { ++FRestarts; }
     void ClearBrowsingHistory() override { ++FHistoryClearings; }

@@ -1,6 +1,9 @@
 #include "ui/win32/png_decoder.h"
 
+#include <zlib.h>
+
 #include <algorithm>
+#include <string>
 
 #include <png.h>
 
@@ -33,4 +36,11 @@ std::optional<TPixels> DecodePng(std::span<const std::byte> file) {
     if (png_image_finish_read(&image, nullptr, result.Pixels.data(), 0, nullptr) == 0) return std::nullopt;
     std::transform(result.Pixels.begin(), result.Pixels.end(), result.Pixels.begin(), Premultiply);
     return result;
+}
+
+std::wstring PngNotices() {
+    const std::string notices = png_get_copyright(nullptr) +
+                                (std::string("\nzlib version ") + zlibVersion()) +
+                                "\nCopyright (c) 1995-2022 Jean-loup Gailly and Mark Adler";
+    return {notices.begin() + (notices[0] == '\n' ? 1 : 0), notices.end()};
 }

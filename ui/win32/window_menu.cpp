@@ -32,7 +32,7 @@ bool TWindowMenu::Press(HWND window, WPARAM command) {
     const std::size_t index = (command - kFirstSwitch) / kSwitchStep;
     if (command < kFirstSwitch || index >= switches.size()) return false;
     TForm::TSwitch& pressed = switches[index];
-    pressed.IsOn = !pressed.IsOn;
+    pressed.IsOn = pressed.Stays && !pressed.IsOn;
     Show(window);
     pressed.OnClick(pressed.IsOn);
     return true;

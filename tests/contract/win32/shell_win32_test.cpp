@@ -62,4 +62,17 @@ TEST(TWin32Shell, ABroadcastReachesEveryWindowAndDoesNotWaitForAHungOne) {
     EXPECT_LT(GetTickCount() - before, 3'000U);
 }
 
+TEST(TWin32Shell, OpensNothingThatIsNoFolder) {
+    wchar_t file[MAX_PATH]{};
+    GetModuleFileNameW(nullptr, file, MAX_PATH);
+    const std::wstring program = file;
+    const DWORD before = GetTickCount();
+    TWin32Shell shell;
+    // The last is what Windows would take for the program.
+    for (const std::wstring& path : {std::wstring(), std::wstring(L"C:\\no such folder"), program,
+                                     program.substr(0, program.size() - 4)})
+        EXPECT_FALSE(shell.OpenFolder(path));
+    EXPECT_LT(GetTickCount() - before, 2000U) << "nobody is asked";
+}
+
 }  // namespace
