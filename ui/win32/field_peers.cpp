@@ -1,7 +1,6 @@
 #include "ui/win32/field_peers.h"
 
 #include "ui/win32/form_window.h"
-#include "ui/win32/wheel_guard.h"
 
 namespace {
 
@@ -109,7 +108,7 @@ LRESULT TEditPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 TComboBoxPeer::TComboBoxPeer(TFormWindow& form, TComboBox& box, HWND parent) : TWindowPeer(form, box) {
     Create(parent, WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP);
     Subclass();
-    PassWheelOn(Handle());
+    PassWheelOn();
 }
 
 void TComboBoxPeer::OnCommand(WORD code) {

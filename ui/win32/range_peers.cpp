@@ -1,7 +1,6 @@
 #include "ui/win32/range_peers.h"
 
 #include "ui/win32/form_window.h"
-#include "ui/win32/wheel_guard.h"
 
 TTrackBarPeer::TTrackBarPeer(TFormWindow& form, TTrackBar& bar, HWND parent) : TWindowPeer(form, bar) {
     constexpr int kTicks = 10;
@@ -12,7 +11,7 @@ TTrackBarPeer::TTrackBarPeer(TFormWindow& form, TTrackBar& bar, HWND parent) : T
     Send(TBM_SETRANGEMAX, FALSE, bar.Max());
     Send(TBM_SETTICFREQ, static_cast<WPARAM>(step));
     Send(TBM_SETPAGESIZE, 0, step);
-    PassWheelOn(Handle());
+    PassWheelOn();
     ShowState();  // once more: the first time the range was still the default one
 }
 
@@ -29,10 +28,10 @@ TUpDownPeer::TUpDownPeer(TFormWindow& form, TUpDown& upDown, HWND parent) : TWin
     if (upDown.Associate() != nullptr) {
         if (auto* edit = dynamic_cast<TWindowPeer*>(upDown.Associate()->Peer())) {
             Send(UDM_SETBUDDY, reinterpret_cast<WPARAM>(edit->Handle()));  // for the arrow keys in the edit
-            PassWheelOn(edit->Handle());
+            edit->PassWheelOn();
         }
     }
-    PassWheelOn(Handle());
+    PassWheelOn();
     ShowState();
 }
 

@@ -11,6 +11,11 @@ namespace {
 
 constexpr int kFrameWidth = 2;  // at 96 dots per inch
 
+/// Of a window that is subclassed.
+TWindowPeer* PeerFrom(HWND window) {
+    return reinterpret_cast<TWindowPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+}
+
 }  // namespace
 
 std::optional<TKey> KeyDown(UINT message, WPARAM wParam) {
@@ -64,8 +69,21 @@ void TWindowPeer::Subclass() {
         SetWindowLongPtrW(FHandle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(SubclassProc)));
 }
 
+void TWindowPeer::PassWheelOn() {
+    FProcBelowWheel = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(FHandle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WheelProc)));
+}
+
+LRESULT CALLBACK TWindowPeer::WheelProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const WNDPROC below = PeerFrom(window)->FProcBelowWheel;
+    // Only a drop-down list says that it is open.
+    if (message == WM_MOUSEWHEEL && !CallWindowProcW(below, window, CB_GETDROPPEDSTATE, 0, 0))
+        return SendMessageW(GetParent(window), message, wParam, lParam);
+    return CallWindowProcW(below, window, message, wParam, lParam);
+}
+
 LRESULT CALLBACK TWindowPeer::SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* peer = reinterpret_cast<TWindowPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    TWindowPeer* const peer = PeerFrom(window);
     if (peer->FHandle == nullptr) return CallWindowProcW(peer->FBaseProc, window, message, wParam, lParam);
     return peer->HandleMessage(message, wParam, lParam);
 }

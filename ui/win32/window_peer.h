@@ -38,6 +38,11 @@ class TWindowPeer : public TPeer {
     /// Moves the window to its place in the parent; nothing happens when it is there.
     virtual void Place(const TRect& place);
 
+    /// Hands the mouse wheel on to the parent, but for a drop-down list while it is open: a user who scrolls a sheet comes
+    /// across its controls, and is not to change them. Subclass() comes before, and whatever else subclasses the window, or
+    /// the wheel never comes here.
+    void PassWheelOn();
+
     /// What a screen reader is to say of the control besides what it shows.
     [[nodiscard]] virtual TSpoken Spoken() const;
 
@@ -91,10 +96,12 @@ class TWindowPeer : public TPeer {
   private:
     void ShowMark();
     static LRESULT CALLBACK SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK WheelProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     TControl& FControl;
     HWND FHandle = nullptr;
     WNDPROC FBaseProc = nullptr;  ///< of the window's class, once it is subclassed
+    WNDPROC FProcBelowWheel = nullptr;  ///< what gets all but the wheel, once that is passed on
     TRect FPlace;
 };
 
