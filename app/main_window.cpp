@@ -16,7 +16,7 @@ namespace {
 constexpr TColor kPlainItemColor = 0xC56A31;
 constexpr TColor kSelectedItemColor = 0xC65D21;
 constexpr int kWidth = 764;
-constexpr int kHeight = 566;
+constexpr int kHeight = 600;
 constexpr int kFrameCount = 7;
 constexpr int kTimerInterval = 100;
 constexpr int kIdleInterval = 300;
@@ -27,7 +27,7 @@ TControlDesign WindowDesign() {
                       Overlay(Notebook(L"Notebook_Main", {}), TFindBox::ListDesign(),
                               Panel(L"Panel_Loading",
                                     Center(Row(Image(L"ImageNote_Animate", L"loading", kFrameCount),
-                                               Label(L"Label_Wait", L"Loading system settings......."))))
+                                               Label(L"Label_Wait", L"Loading system settings..."))))
                                   .Hidden()),
                       TDetailsStrip::Design(),
                       Ends(Row(Button(L"Button_Changes", L"Changes\u2026").Disabled(),

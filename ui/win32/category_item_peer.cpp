@@ -91,6 +91,7 @@ bool TCategoryItemPeer::MoveFocus(WPARAM key) {
         default:
             return false;
     }
+    SendMessageW(FForm.Handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
     if (target != here) SetFocus(*target);
     return true;
 }
@@ -114,6 +115,9 @@ LRESULT TCategoryItemPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
             return base(message) | DLGC_WANTARROWS;
         case WM_KEYDOWN:
             if (MoveFocus(wParam)) return 0;
+            break;
+        case WM_UPDATEUISTATE:
+            InvalidateRect(Handle(), nullptr, FALSE);
             break;
         case WM_SETFOCUS:
             TakeTabStop();
@@ -164,7 +168,7 @@ void TCategoryItemPeer::OnDraw(const DRAWITEMSTRUCT& drawing) {
                       item.Enabled() ? kOpaque : kDisabledOpacity);
     }
 
-    SelectObject(target, FForm.Screen().Font());
+    SelectObject(target, item.Selected() ? FForm.Screen().BoldFont() : FForm.Screen().Font());
     SetBkMode(target, TRANSPARENT);
     SetTextColor(target, colors.Text);
     RECT text{area.left + metrics.TextLeft, area.top, area.right - metrics.TextRight, area.bottom};
@@ -178,7 +182,9 @@ void TCategoryItemPeer::OnDraw(const DRAWITEMSTRUCT& drawing) {
     if ((drawing.itemState & ODS_NOACCEL) != 0) format |= DT_HIDEPREFIX;
     DrawTextW(target, item.Caption().c_str(), static_cast<int>(item.Caption().size()), &text, format);
 
-    if ((drawing.itemState & ODS_FOCUS) == 0 || (drawing.itemState & ODS_NOFOCUSRECT) != 0) return;
+    // Not every window inherits the state when it is created, so the form's counts.
+    const auto hidden = static_cast<UINT>(SendMessageW(FForm.Handle(), WM_QUERYUISTATE, 0, 0));
+    if ((drawing.itemState & ODS_FOCUS) == 0 || (hidden & UISF_HIDEFOCUS) != 0) return;
     SetBkColor(target, RGB(255, 255, 255));
     SetTextColor(target, RGB(0, 0, 0));
     DrawFocusRect(target, &inner);

@@ -30,7 +30,7 @@ class TCategoryGroupPeer : public TContainerPeer {
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     /// The height of the header and the visible items.
-    [[nodiscard]] static int Height(const TControl& group, const TCategoryMetrics& metrics);
+    [[nodiscard]] static int Height(const TControl& group, const TCategoryMetrics& metrics, int itemHeight);
 
   private:
     void PlaceItems();
