@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ui/win32/category_look.h"
+#include "ui/win32/category_peers.h"
 #include "ui/win32/form_window.h"
 #include "ui/win32/paint_buffer.h"
 
@@ -51,8 +52,11 @@ void TCategoryItemPeer::TakeTabStop() {
 void TCategoryItemPeer::ScrollIntoSight() {
     // An item must not move away from the pointer that is about to click it.
     if (GetKeyState(VK_LBUTTON) < 0) return;
-    if (auto* bar = dynamic_cast<TContainerPeer*>(Control().Parent()->Parent()->Peer()))
-        bar->ScrollTo(Handle());
+    if (TCategoryBarPeer* bar = Bar()) bar->ScrollTo(Handle());
+}
+
+TCategoryBarPeer* TCategoryItemPeer::Bar() const {
+    return static_cast<TCategoryBarPeer*>(Control().Parent()->Parent()->Peer());
 }
 
 void TCategoryItemPeer::SetHot(bool hot) {
@@ -91,7 +95,7 @@ bool TCategoryItemPeer::MoveFocus(WPARAM key) {
         default:
             return false;
     }
-    SendMessageW(FForm.Handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    if (TCategoryBarPeer* bar = Bar()) bar->ShowFocus();
     if (target != here) SetFocus(*target);
     return true;
 }
@@ -117,9 +121,10 @@ LRESULT TCategoryItemPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
             if (MoveFocus(wParam)) return 0;
             break;
         case WM_UPDATEUISTATE:
-            InvalidateRect(Handle(), nullptr, FALSE);
+            if (wParam == MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS) && Bar() != nullptr) Bar()->ShowFocus();
             break;
         case WM_SETFOCUS:
+            if (GetKeyState(VK_TAB) < 0 && Bar() != nullptr) Bar()->ShowFocus();
             TakeTabStop();
             ScrollIntoSight();
             break;
@@ -182,9 +187,8 @@ void TCategoryItemPeer::OnDraw(const DRAWITEMSTRUCT& drawing) {
     if ((drawing.itemState & ODS_NOACCEL) != 0) format |= DT_HIDEPREFIX;
     DrawTextW(target, item.Caption().c_str(), static_cast<int>(item.Caption().size()), &text, format);
 
-    // Not every window inherits the state when it is created, so the form's counts.
-    const auto hidden = static_cast<UINT>(SendMessageW(FForm.Handle(), WM_QUERYUISTATE, 0, 0));
-    if ((drawing.itemState & ODS_FOCUS) == 0 || (hidden & UISF_HIDEFOCUS) != 0) return;
+    const TCategoryBarPeer* bar = Bar();
+    if ((drawing.itemState & ODS_FOCUS) == 0 || bar == nullptr || !bar->ShowsFocus()) return;
     SetBkColor(target, RGB(255, 255, 255));
     SetTextColor(target, RGB(0, 0, 0));
     DrawFocusRect(target, &inner);

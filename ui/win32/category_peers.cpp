@@ -1,6 +1,7 @@
 #include "ui/win32/category_peers.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ui/win32/form_window.h"
 #include "ui/win32/paint_buffer.h"
@@ -23,8 +24,6 @@ TCategoryBarPeer::TCategoryBarPeer(TFormWindow& form, TCategoryBar& bar, HWND pa
     CreateContainer(parent, kContainerClass, kContainerStyle, 0);
     // Windows takes the border from a dialog that is a control; it comes with the first size.
     SetWindowLongPtrW(Handle(), GWL_STYLE, GetWindowLongPtrW(Handle(), GWL_STYLE) | WS_BORDER);
-    // Until a key is used nobody looks for the focus.
-    SendMessageW(form.Handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS), 0);
 }
 
 int TCategoryBarPeer::ContentHeight(int /*width*/) const {
@@ -71,6 +70,11 @@ LRESULT TCategoryBarPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) 
         default:
             return TContainerPeer::OnMessage(message, wParam, lParam);
     }
+}
+
+void TCategoryBarPeer::ShowFocus() {
+    if (std::exchange(FShowsFocus, true)) return;
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
 /// Draws over the black line that Windows draws.
