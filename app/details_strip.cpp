@@ -17,8 +17,8 @@ constexpr int kTextLines = 2;
 constexpr int kPlaceLines = 2;
 
 // The least heights of the window, in dots of 96 per inch, that leave the pages enough room beside the strip.
-constexpr int kRoomForAll = 520;
-constexpr int kRoomForTitle = 490;
+constexpr int kRoomForAll = 580;
+constexpr int kRoomForTitle = 510;
 
 /// Null when it is on none.
 const TControl* PageOf(const TControl* control) {

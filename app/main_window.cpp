@@ -26,7 +26,7 @@ TControlDesign WindowDesign() {
                       Overlay(Notebook(L"Notebook_Main", {}), TFindBox::ListDesign(),
                               Panel(L"Panel_Loading",
                                     Center(Row(Image(L"ImageNote_Animate", L"loading", kFrameCount),
-                                               Label(L"Label_Wait", L"Loading system settings......."))))
+                                               Label(L"Label_Wait", L"Loading system settings..."))))
                                   .Hidden()),
                       TDetailsStrip::Design(),
                       Ends(Row(Button(L"Button_Changes", L"Changes\u2026").Disabled(),

@@ -10,8 +10,8 @@ constexpr const wchar_t* kTitle = L"Label_Header_Title";
 constexpr const wchar_t* kText = L"Label_Header_Text";
 
 // The least heights of the window, in dots of 96 per inch, that leave the pages enough room below the header.
-constexpr int kRoomForAll = 500;
-constexpr int kRoomForTitle = 480;
+constexpr int kRoomForAll = 490;
+constexpr int kRoomForTitle = 470;
 
 }  // namespace
 

@@ -94,6 +94,9 @@ class TEdit : public TControl {
     /// An up-down paired with the edit follows a text that is a number within its bounds, without firing.
     void SetText(const std::wstring& text);
 
+    /// Whether an up-down stands within its frame.
+    [[nodiscard]] bool HasUpDown() const { return FUpDown != nullptr; }
+
     [[nodiscard]] bool Focused() const { return FFocused; }
     /// Called by the peer when the input focus comes or goes; losing it fires OnExit.
     void SetFocused(bool focused);

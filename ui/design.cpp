@@ -91,6 +91,18 @@ TControlDesign Container(TComponentKind kind, const wchar_t* name, const wchar_t
     return design;
 }
 
+TControlDesign SheetOf(const wchar_t* name, const wchar_t* caption, TDesigns content) {
+    if (!content.empty() && content.back().Layout == TLayoutKind::Buttons)
+        content.back().Layout = TLayoutKind::Foot;
+    return Container(TComponentKind::TabSheet, name, caption, std::move(content));
+}
+
+TControlDesign GroupOf(const wchar_t* name, const wchar_t* caption, TDesigns content) {
+    if (!content.empty() && content.back().Layout == TLayoutKind::Buttons)
+        content.back().Layout = TLayoutKind::Row;
+    return Container(TComponentKind::GroupBox, name, caption, std::move(content));
+}
+
 TControlDesign Label(const wchar_t* name, const wchar_t* caption) {
     return Control(TComponentKind::Label, name, caption);
 }

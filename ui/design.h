@@ -132,13 +132,17 @@ template <typename... TSheets>
 TControlDesign PageControl(const wchar_t* name, TSheets&&... sheets) {
     return Container(TComponentKind::PageControl, name, L"", Designs(sheets...));
 }
+/// Buttons below its other content stand at its lower left.
+TControlDesign SheetOf(const wchar_t* name, const wchar_t* caption, TDesigns content);
 template <typename... TContent>
 TControlDesign Sheet(const wchar_t* name, const wchar_t* caption, TContent&&... content) {
-    return Container(TComponentKind::TabSheet, name, caption, Designs(content...));
+    return SheetOf(name, caption, Designs(content...));
 }
+/// Buttons below its other content stand at its left.
+TControlDesign GroupOf(const wchar_t* name, const wchar_t* caption, TDesigns content);
 template <typename... TContent>
 TControlDesign Group(const wchar_t* name, const wchar_t* caption, TContent&&... content) {
-    return Container(TComponentKind::GroupBox, name, caption, Designs(content...));
+    return GroupOf(name, caption, Designs(content...));
 }
 template <typename... TContent>
 TControlDesign Panel(const wchar_t* name, TContent&&... content) {

@@ -10,26 +10,27 @@
 namespace {
 
 // Distances at 96 dots per inch.
-constexpr int kGap = 7;            // between controls that stand together
-constexpr int kGroupGap = 11;      // before and after a group box
-constexpr int kGroupPadding = 11;  // between a group box's frame and its controls
-constexpr int kLineGap = 2;        // between what stands as close as lines of a text
-constexpr int kIndent = 18;        // below the text of a check box
-constexpr int kGlyph = 18;         // a check mark or radio circle with the space before its text
-constexpr int kBoxHeight = 17;     // the least height of a check box or radio button
+constexpr int kGap = 7;           // between controls that stand together
+constexpr int kGroupGap = 14;     // before and after a group box
+constexpr int kGroupIndent = 14;  // of the controls below the title of a group box
+constexpr int kTitleGap = 6;      // between that title and them
+constexpr int kLineGap = 2;       // between what stands as close as lines of a text
+constexpr int kIndent = 18;       // below the text of a check box
+constexpr int kGlyph = 18;        // a check mark or radio circle with the space before its text
+constexpr int kBoxHeight = 17;    // the least height of a check box or radio button
 constexpr int kButtonWidth = 75;
 constexpr int kButtonHeight = 23;
 constexpr int kButtonPadding = 12;  // at each side of a button's text
 constexpr int kFieldPadding = 4;    // above and below the text of an edit or combo box
-constexpr int kArrowWidth = 17;     // the arrow of a combo box or an up-down
 constexpr int kTrackBarWidth = 150;
 constexpr int kTrackBarHeight = 30;
 constexpr int kEditWidth = 120;
 constexpr int kSwatchWidth = 40;
 constexpr int kListHeight = 140;
 constexpr int kTableHeight = 80;
-constexpr int kCategoryBarFrame = 60;   // what a category item needs beside its text: picture, margins
-constexpr int kCategoryBarWidth = 240;  // the most it takes
+constexpr int kCategoryBarFrame = 60;  // what a category item needs beside its text: picture, margins
+constexpr int kLeastBarWidth = 190;
+constexpr int kMostBarWidth = 240;
 constexpr int kUnlimited = 1 << 20;
 
 /// Kinds that take the space that the others of their row or column leave.
@@ -77,6 +78,25 @@ bool IsAbsent(const TLayoutBox& box) {
     return std::all_of(box.Boxes.begin(), box.Boxes.end(), IsAbsent);
 }
 
+bool IsField(const TLayoutBox& box) {
+    if (box.Kind != TLayoutKind::Control) return false;
+    switch (box.Control->Kind()) {
+        case TComponentKind::Edit:
+        case TComponentKind::ComboBox:
+        case TComponentKind::TrackBar:
+        case TComponentKind::ColorSwatch:
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// Something with a text, and the field behind it.
+bool IsFieldRow(const TLayoutBox& box) {
+    return box.Kind == TLayoutKind::Row && box.Boxes.size() > 1 &&
+           box.Boxes[0].Kind == TLayoutKind::Control && !IsField(box.Boxes[0]) && IsField(box.Boxes[1]);
+}
+
 /// Of a text that is half as large again as others.
 int HeadingHeight(int line) { return 3 * line / 2 + 1; }
 
@@ -99,12 +119,54 @@ std::vector<int> FairShares(std::vector<int> wanted, int total) {
     return wanted;
 }
 
-TSize TLayout::ContentSize(const TControl& container, int width) const {
+TSize TLayout::ContentSize(const TControl& container, int width) {
+    AlignFields(FForm.Layout(container), width);
     return Measure(FForm.Layout(container), width);
 }
 
-void TLayout::Arrange(const TControl& container, const TRect& area, const TPlace& place) const {
+void TLayout::Arrange(const TControl& container, const TRect& area, const TPlace& place) {
+    AlignFields(FForm.Layout(container), area.Width);
     Put(FForm.Layout(container), area, place);
+}
+
+void TLayout::AlignFields(const TLayoutBox& content, int width) {
+    TFieldNeeds needs;
+    AddFieldNeeds(content, 0, false, needs);
+    // Where there is too little room the texts before the fields are wrapped, as long as they are not too narrow.
+    FFieldRoom = std::max(width - needs.Before, std::min(needs.Behind, 2 * width / 3));
+}
+
+void TLayout::AddFieldNeeds(const TLayoutBox& box, int offset, bool isField, TFieldNeeds& needs) const {
+    if (IsAbsent(box)) return;
+    switch (box.Kind) {
+        case TLayoutKind::Control:
+            if (box.Control->Kind() == TComponentKind::GroupBox)
+                AddFieldNeeds(FForm.Layout(*box.Control), offset + FMetrics.Scale(kGroupIndent), false,
+                              needs);
+            return;
+        case TLayoutKind::Row: {
+            if (!isField && !IsFieldRow(box)) return;
+            const int first = Measure(box.Boxes[0], kUnlimited).Width;
+            const int gap = FMetrics.Scale(kGap);
+            needs.Before = std::max(needs.Before, offset + first + gap);
+            needs.Behind = std::max(needs.Behind, MeasureRow(box, kUnlimited, {}).Width - first - gap);
+            return;
+        }
+        case TLayoutKind::Column:
+        case TLayoutKind::Stack:
+        case TLayoutKind::Fields:
+        case TLayoutKind::Indent:
+            if (box.Kind == TLayoutKind::Indent) offset += FMetrics.Scale(kIndent);
+            for (const TLayoutBox& inner : box.Boxes)
+                AddFieldNeeds(inner, offset, box.Kind == TLayoutKind::Fields, needs);
+            return;
+        default:
+            return;
+    }
+}
+
+TLayout::TFieldWidths TLayout::FirstWidth(int width) const {
+    return {.First = std::max(1, width - FFieldRoom - FMetrics.Scale(kGap))};
 }
 
 /// The distance between a box and the one before it in the same column or row.
@@ -115,7 +177,8 @@ int TLayout::GapBefore(const TLayoutBox& box, std::size_t index) const {
     const TLayoutBox& before = box.Boxes[index - 1];
     if (IsKind(here, TComponentKind::UpDown)) return 0;  // it clings to its edit
     const bool grouped = IsKind(here, TComponentKind::GroupBox) || IsKind(before, TComponentKind::GroupBox) ||
-                         here.Kind == TLayoutKind::Buttons || here.Kind == TLayoutKind::Ends;
+                         here.Kind == TLayoutKind::Buttons || here.Kind == TLayoutKind::Foot ||
+                         here.Kind == TLayoutKind::Ends;
     return FMetrics.Scale(grouped && box.Kind == TLayoutKind::Column ? kGroupGap : kGap);
 }
 
@@ -125,7 +188,9 @@ TSize TLayout::Measure(const TLayoutBox& box, int width) const {
         case TLayoutKind::Control:
             return MeasureControl(*box.Control, width);
         case TLayoutKind::Row:
+            return MeasureRow(box, width, IsFieldRow(box) ? FirstWidth(width) : TFieldWidths{});
         case TLayoutKind::Buttons:
+        case TLayoutKind::Foot:
             return MeasureRow(box, width, {});
         case TLayoutKind::Ends:
             return MeasureEnds(box, width);
@@ -171,10 +236,18 @@ TSize TLayout::MeasureRow(const TLayoutBox& box, int width, const TFieldWidths& 
     for (std::size_t i = 0; i < box.Boxes.size(); ++i) {
         if (IsAbsent(box.Boxes[i])) continue;
         if (std::exchange(any, true)) size.Width += GapBefore(box, i);
-        const TSize part = Measure(box.Boxes[i], std::max(width - size.Width, 0));
-        size.Width += widths.WidthOf(box.Boxes[i], i, part.Width);
+        const TSize part = PartSize(box, i, std::max(width - size.Width, 0), widths);
+        size.Width += part.Width;
         size.Height = std::max(size.Height, part.Height);
     }
+    return size;
+}
+
+TSize TLayout::PartSize(const TLayoutBox& row, std::size_t index, int width,
+                        const TFieldWidths& widths) const {
+    const TLayoutBox& part = row.Boxes[index];
+    TSize size = Measure(part, index == 0 && widths.First > 0 ? widths.First : width);
+    size.Width = widths.WidthOf(part, index, size.Width);
     return size;
 }
 
@@ -185,15 +258,14 @@ TSize TLayout::MeasureEnds(const TLayoutBox& box, int width) const {
 }
 
 int TLayout::TFieldWidths::WidthOf(const TLayoutBox& part, std::size_t index, int width) const {
-    if (index == 0) return std::max(width, First);
+    if (index == 0) return First > 0 ? First : width;
     return IsKind(part, TComponentKind::ComboBox) ? std::max(width, Lists) : width;
 }
 
 TLayout::TFieldWidths TLayout::FieldWidths(const TLayoutBox& fields, int width) const {
-    TFieldWidths widths;
+    TFieldWidths widths = FirstWidth(width);
     for (const TLayoutBox& row : fields.Boxes) {
-        if (row.Boxes.empty() || IsAbsent(row)) continue;
-        widths.First = std::max(widths.First, Measure(row.Boxes[0], width).Width);
+        if (IsAbsent(row)) continue;
         for (const TLayoutBox& part : row.Boxes)
             if (IsKind(part, TComponentKind::ComboBox))
                 widths.Lists = std::max(widths.Lists, Measure(part, width).Width);
@@ -237,7 +309,7 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
         case TComponentKind::Button: {
             const TSize text = FMetrics.TextSize(control.Caption(), kUnlimited);
             return {std::max(text.Width + 2 * scale(kButtonPadding), scale(kButtonWidth)),
-                    std::max(line + 2 * scale(kFieldPadding + 1), scale(kButtonHeight))};
+                    std::max(line + 2 * scale(kFieldPadding), scale(kButtonHeight))};
         }
         case TComponentKind::Edit: {
             const int characters = static_cast<const TEdit&>(control).WidthInCharacters;
@@ -265,16 +337,16 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
             return {width,
                     scale(static_cast<const TListView&>(control).IsTable() ? kTableHeight : kListHeight)};
         case TComponentKind::GroupBox: {
-            const int padding = scale(kGroupPadding);
-            const TSize content = ContentSize(control, width - 2 * padding);
+            const int indent = scale(kGroupIndent);
+            const TSize content = Measure(FForm.Layout(control), width - indent);
             const int caption = FMetrics.TextSize(control.Caption(), kUnlimited).Width;
-            return {std::max(content.Width, caption) + 2 * padding, line + content.Height + 3 * padding / 2};
+            return {std::max(content.Width + indent, caption), line + scale(kTitleGap) + content.Height};
         }
         case TComponentKind::Panel: {
             const TPanelLook look = static_cast<const TPanel&>(control).Look;
             const int padding = look == TPanelLook::Card ? scale(kCardPadding) : 0;
             const int foot = look == TPanelLook::Header ? scale(kHeaderFoot) : padding;
-            const TSize content = ContentSize(control, width - 2 * padding);
+            const TSize content = TLayout(FForm, FMetrics).ContentSize(control, width - 2 * padding);
             return {content.Width + 2 * padding, content.Height + padding + foot};
         }
         case TComponentKind::CategoryBar: {
@@ -284,7 +356,9 @@ TSize TLayout::MeasureControl(const TControl& control, int width) const {
                 for (const TControl* item : group->Children())
                     text = std::max(text, FMetrics.TextSize(item->Caption(), kUnlimited).Width);
             }
-            return {std::min(text + scale(kCategoryBarFrame), scale(kCategoryBarWidth)), 0};
+            const int bold = text * 9 / 8;  // as the selected one is
+            return {std::clamp(bold + scale(kCategoryBarFrame), scale(kLeastBarWidth), scale(kMostBarWidth)),
+                    0};
         }
         default:
             return {};
@@ -298,6 +372,9 @@ void TLayout::Put(const TLayoutBox& box, const TRect& area, const TPlace& place)
             PutControl(*box.Control, area, place);
             return;
         case TLayoutKind::Row:
+            PutRow(box, area, IsFieldRow(box) ? FirstWidth(area.Width) : TFieldWidths{}, place);
+            return;
+        case TLayoutKind::Foot:
             PutRow(box, area, {}, place);
             return;
         case TLayoutKind::Buttons: {
@@ -337,12 +414,10 @@ void TLayout::Put(const TLayoutBox& box, const TRect& area, const TPlace& place)
 void TLayout::PutControl(TControl& control, const TRect& area, const TPlace& place) const {
     place(control, area);
     if (control.Kind() != TComponentKind::GroupBox) return;
-    const int padding = FMetrics.Scale(kGroupPadding);
-    const int line = FMetrics.TextSize(L"0", kUnlimited).Height;
-    const int top = line + padding / 2;
-    Arrange(control,
-            {area.Left + padding, area.Top + top, area.Width - 2 * padding, area.Height - top - padding},
-            place);
+    const int indent = FMetrics.Scale(kGroupIndent);
+    const int top = FMetrics.TextSize(L"0", kUnlimited).Height + FMetrics.Scale(kTitleGap);
+    Put(FForm.Layout(control), {area.Left + indent, area.Top + top, area.Width - indent, area.Height - top},
+        place);
 }
 
 void TLayout::PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& place) const {
@@ -377,7 +452,9 @@ void TLayout::PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& 
             shared -= height;
             shares -= inner.Share;
         }
-        const TRect part{area.Left, top, area.Width, height};
+        if (inner.Kind == TLayoutKind::Foot) top = std::max(top, area.Top + area.Height - height);
+        TRect part{area.Left, top, area.Width, height};
+        if (IsKind(inner, TComponentKind::ComboBox)) part.Width = Measure(inner, area.Width).Width;
         if (box.Kind == TLayoutKind::Fields)
             PutRow(inner, part, widths, place);
         else
@@ -395,12 +472,18 @@ void TLayout::PutRow(const TLayoutBox& box, const TRect& area, const TFieldWidth
         const TLayoutBox& inner = box.Boxes[i];
         if (IsAbsent(inner)) continue;
         if (std::exchange(any, true)) left += GapBefore(box, i);
-        TSize size = Measure(inner, std::max(area.Left + area.Width - left, 0));
-        size.Width = widths.WidthOf(inner, i, size.Width);
+        TSize size = PartSize(box, i, std::max(area.Left + area.Width - left, 0), widths);
         if (StretchesInRow(inner)) size.Width += std::exchange(spare, 0);
         // Containers fill the height of their row; everything else is centred on its line.
         const int height = StretchesInColumn(inner) ? area.Height : std::min(size.Height, area.Height);
-        Put(inner, {left, area.Top + (area.Height - height) / 2, size.Width, height}, place);
+        TRect part{left, area.Top + (area.Height - height) / 2, size.Width, height};
+        // The arrows lie within the frame of their edit.
+        if (i + 1 < box.Boxes.size() && IsKind(box.Boxes[i + 1], TComponentKind::UpDown))
+            part.Width += FMetrics.Scale(kArrowWidth);
+        if (IsKind(inner, TComponentKind::UpDown))
+            part = {part.Left - kFieldFrame, part.Top + kFieldFrame, part.Width,
+                    part.Height - 2 * kFieldFrame};
+        Put(inner, part, place);
         left += size.Width;
     }
 }

@@ -23,6 +23,11 @@ inline constexpr int kCardPadding = 4;
 /// Below the content of a header, with its line.
 inline constexpr int kHeaderFoot = 8;
 
+/// The arrows of an up-down, or of a combo box, at 96 dots per inch.
+inline constexpr int kArrowWidth = 17;
+/// What Windows draws around a field: pixels, at every resolution.
+inline constexpr int kFieldFrame = 2;
+
 /// What each of those who want these widths gets of a total: what it wants, or where that is too much, none more than a
 /// fair share. The last one gets what is left over.
 [[nodiscard]] std::vector<int> FairShares(std::vector<int> wanted, int total);
@@ -51,20 +56,34 @@ class TLayout {
 
     /// The size that the content of `container` needs when no more than `width` is there, without any margin.
     /// The width may come out larger when a control cannot be that narrow.
-    [[nodiscard]] TSize ContentSize(const TControl& container, int width) const;
+    [[nodiscard]] TSize ContentSize(const TControl& container, int width);
 
     /// Places the content of `container` into `area`.
-    void Arrange(const TControl& container, const TRect& area, const TPlace& place) const;
+    void Arrange(const TControl& container, const TRect& area, const TPlace& place);
 
   private:
-    /// What the rows of fields share.
+    /// What rows of fields share.
     struct TFieldWidths {
-        int First = 0;  ///< of their first controls
+        int First = 0;  ///< of the first control of each; 0 = its own
         int Lists = 0;  ///< of their drop-down lists
 
         /// The width of a row's part that would be `width` wide on its own.
         [[nodiscard]] int WidthOf(const TLayoutBox& part, std::size_t index, int width) const;
     };
+    /// What the rows of a container need before and behind the left edge of their fields.
+    struct TFieldNeeds {
+        int Before = 0;
+        int Behind = 0;
+    };
+
+    /// Finds the column in which all fields of a container begin.
+    void AlignFields(const TLayoutBox& content, int width);
+    void AddFieldNeeds(const TLayoutBox& box, int offset, bool isField, TFieldNeeds& needs) const;
+    /// Of a row that is `width` wide.
+    [[nodiscard]] TFieldWidths FirstWidth(int width) const;
+    /// The size of a row's part, of which the others leave `width`.
+    [[nodiscard]] TSize PartSize(const TLayoutBox& row, std::size_t index, int width,
+                                 const TFieldWidths& widths) const;
 
     [[nodiscard]] TSize Measure(const TLayoutBox& box, int width) const;
     [[nodiscard]] TSize MeasureControl(const TControl& control, int width) const;
@@ -83,4 +102,5 @@ class TLayout {
 
     const TForm& FForm;
     const TLayoutMetrics& FMetrics;
+    int FFieldRoom = 0;  ///< between the column of the fields and the right edge
 };

@@ -10,6 +10,7 @@ enum class TLayoutKind {
     Column,   ///< one below the other, as wide as the container
     Row,      ///< side by side, in one line
     Buttons,  ///< side by side, at the right end of the line
+    Foot,     ///< side by side, at the lower left of the container
     Ends,     ///< a row at the left end of the line and buttons at its right end
     Stack,    ///< one below the other, as close as the lines of a text
     Fields,   ///< rows whose first controls share one width, so that the second ones line up

@@ -28,9 +28,9 @@ TControlDesign EffectSheet() {
                        L"&Highlight what the mouse pointer is on"),
               CheckBox(L"Checkbox_Display_Effect_BehaviorSettings_DesktopWinVersion",
                        L"Show the Windows &version on the desktop")),
-        Buttons(Button(L"Button_Display_Effect_BestAppearance", L"B&est Appearance"),
-                Button(L"Button_Display_Effect_HighestPerformance", L"Best &Performance"),
-                Button(L"Button_Display_Effect_Default", L"&Default")));
+        Buttons(Button(L"Button_Display_Effect_Default", L"&Default"),
+                Button(L"Button_Display_Effect_BestAppearance", L"B&est Appearance"),
+                Button(L"Button_Display_Effect_HighestPerformance", L"Best &Performance")));
 }
 
 TControlDesign AnimationSheet() {
@@ -49,8 +49,8 @@ TControlDesign AnimationSheet() {
               CheckBox(L"Checkbox_Display_Animation_DynamicElements_ComboBox", L"&Slide open combo boxes"),
               CheckBox(L"Checkbox_Display_Animation_DynamicElements_SmoothListBox",
                        L"Smooth-scroll &list boxes")),
-        Buttons(Button(L"Button_Display_Animation_HighestPerformance", L"Best &Performance"),
-                Button(L"Button_Display_Animation_Default", L"&Default")));
+        Buttons(Button(L"Button_Display_Animation_Default", L"&Default"),
+                Button(L"Button_Display_Animation_HighestPerformance", L"Best &Performance")));
 }
 
 TControlDesign MenuSheet() {
@@ -68,8 +68,8 @@ TControlDesign MenuSheet() {
               CheckBox(L"Checkbox_Display_MenuAppearance_DynamicElements_GraphicMenu", L"Show flat &menus"),
               CheckBox(L"Checkbox_Display_MenuAppearance_DynamicElements_MenuShadow",
                        L"Show &shadows under menus")),
-        Buttons(Button(L"Button_Display_MenuAppearance_HighestPerformance", L"Best &Performance"),
-                Button(L"Button_Display_MenuAppearance_Default", L"&Default")));
+        Buttons(Button(L"Button_Display_MenuAppearance_Default", L"&Default"),
+                Button(L"Button_Display_MenuAppearance_HighestPerformance", L"Best &Performance")));
 }
 
 TControlDesign FontSheet() {

@@ -4,25 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/ui/fixed_metrics.h"
+#include "ui/controls.h"
 #include "ui/design.h"
 
 namespace {
-
-/// Letters of 6 by 13 pixels at 96 dots per inch, wrapped anywhere.
-class TFixedMetrics : public TLayoutMetrics {
-  public:
-    explicit TFixedMetrics(int dotsPerInch) : FDotsPerInch(dotsPerInch) {}
-
-    TSize TextSize(const std::wstring& caption, int maxWidth) const override {
-        const int width = static_cast<int>(caption.size()) * Scale(6);
-        const int lines = maxWidth > 0 ? (width + maxWidth - 1) / maxWidth : 1;
-        return {std::min(width, maxWidth), std::max(1, lines) * Scale(13)};
-    }
-    int Scale(int distance) const override { return distance * FDotsPerInch / 96; }
-
-  private:
-    int FDotsPerInch;
-};
 
 class TLaidOut {
   public:
@@ -40,18 +26,19 @@ class TLaidOut {
     static int Right(const TRect& rect) { return rect.Left + rect.Width; }
     static int Bottom(const TRect& rect) { return rect.Top + rect.Height; }
 
-    /// No control may touch another one, but for a group box, which contains its own.
+    /// No control may touch another one, but for what contains others: a group box, and the edit of an up-down.
     void ExpectNoOverlap() const {
         for (const auto& [name, a] : FPlaces)
             for (const auto& [other, b] : FPlaces)
-                EXPECT_TRUE(name >= other || IsGroup(name) || IsGroup(other) || Right(a) <= b.Left ||
+                EXPECT_TRUE(name >= other || Contains(name) || Contains(other) || Right(a) <= b.Left ||
                             Right(b) <= a.Left || Bottom(a) <= b.Top || Bottom(b) <= a.Top)
                     << testing::PrintToString(name) << " and " << testing::PrintToString(other);
     }
 
   private:
-    bool IsGroup(const std::wstring& name) const {
-        return FForm.Find(name)->Kind() == TComponentKind::GroupBox;
+    bool Contains(const std::wstring& name) const {
+        const auto* edit = FForm.Find<TEdit>(name);
+        return FForm.Find(name)->Kind() == TComponentKind::GroupBox || (edit != nullptr && edit->HasUpDown());
     }
 
     TForm FForm;
@@ -83,8 +70,8 @@ TEST(TLayoutTest, KeepsControlsApartAndInside) {
             EXPECT_EQ(group.Width, area.Width);
             for (const wchar_t* name : {L"Short", L"Long", L"Inner", L"LabelA", L"UpDownA", L"ComboB"})
                 EXPECT_TRUE(laidOut[name].Left > group.Left &&
-                            TLaidOut::Right(laidOut[name]) < TLaidOut::Right(group) &&
-                            TLaidOut::Bottom(laidOut[name]) < TLaidOut::Bottom(group))
+                            TLaidOut::Right(laidOut[name]) <= TLaidOut::Right(group) &&
+                            TLaidOut::Bottom(laidOut[name]) <= TLaidOut::Bottom(group))
                     << testing::PrintToString(name);
             EXPECT_FALSE(laidOut.Has(L"Hidden"));
         }
@@ -95,7 +82,9 @@ TEST(TLayoutTest, LinesUpWhatBelongsTogether) {
     const TLaidOut laidOut(SettingsSheet(), {0, 0, 400, 400});
     EXPECT_EQ(laidOut[L"EditA"].Left, laidOut[L"ComboB"].Left) << "fields begin in one column";
     EXPECT_EQ(laidOut[L"ComboB"].Width, laidOut[L"ComboC"].Width) << "lists are equally wide";
-    EXPECT_EQ(laidOut[L"UpDownA"].Left, TLaidOut::Right(laidOut[L"EditA"])) << "arrows cling to their edit";
+    EXPECT_EQ(TLaidOut::Right(laidOut[L"UpDownA"]) + kFieldFrame, TLaidOut::Right(laidOut[L"EditA"]))
+        << "arrows stand within the frame of their edit";
+    EXPECT_EQ(laidOut[L"UpDownA"].Top - kFieldFrame, laidOut[L"EditA"].Top);
     EXPECT_GT(laidOut[L"Inner"].Left, laidOut[L"Long"].Left) << "what depends on a box is set in";
     EXPECT_EQ(TLaidOut::Right(laidOut[L"Default"]), 400) << "buttons stand at the right";
     EXPECT_GT(laidOut[L"Long"].Height, laidOut[L"Short"].Height) << "long captions wrap";

@@ -239,6 +239,18 @@ TEST_F(PaintTest, MarksComeAndGoAndFollowTheirControls) {
     ExpectLikeNew("no marks");
 }
 
+TEST_F(PaintTest, TheFocusOfTheCategoryBarIsShownFromTheFirstKeyOn) {
+    const auto focused = [this](const wchar_t* name) {
+        SetFocus(Window(name));
+        HandleMessages();
+        return PixelsOf(Window(L"Bar"));
+    };
+    const std::vector<COLORREF> plain = focused(L"Box");
+    EXPECT_EQ(Difference(plain, focused(L"A0")), 0);
+    Send(L"A0", WM_KEYDOWN, VK_HOME);
+    EXPECT_GT(Difference(plain, focused(L"A0")), 50);
+}
+
 TEST_F(PaintTest, TheThemeCanGoAndComeBack) {
     const TTheme theme;
     ASSERT_TRUE(theme.IsActive());

@@ -7,6 +7,7 @@ namespace {
 class PeersTest : public TPeerBench {
   protected:
     PeersTest() {
+        Form.ClientWidth = 500;  // the content of sheets grows to 560
         Form.Build(Form, Timer(L"Timer", 10));
         Form.Build(
             Form,

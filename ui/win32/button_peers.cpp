@@ -2,9 +2,13 @@
 
 #include <algorithm>
 
+#include "ui/win32/category_look.h"
 #include "ui/win32/form_window.h"
+#include "ui/win32/paint_buffer.h"
 
 namespace {
+
+constexpr int kTitleGap = 12;  // between a group's title and the line behind it, at 96 dots per inch
 
 /// The radio buttons of one parent, of which one can be checked, whatever stands between them.
 std::vector<TRadioButton*> GroupOf(const TControl& button) {
@@ -115,23 +119,78 @@ bool TRadioButtonPeer::Choose(WPARAM key) {
 
 TGroupBoxPeer::TGroupBoxPeer(TFormWindow& form, TGroupBox& group, HWND parent) : TWindowPeer(form, group) {
     Create(parent, WC_BUTTONW, BS_GROUPBOX | WS_GROUP, WS_EX_TRANSPARENT);
+    Subclass();
 }
 
-/// Windows takes the whole area of the window for covered, but a group box draws its frame only: the parent draws what
-/// is below that, before and after the move.
+/// Windows takes the whole area of the window for covered, but only the title is: the parent draws what is below that,
+/// before and after the move.
 void TGroupBoxPeer::Place(const TRect& place) {
     if (place == Placed()) return;
-    RedrawFrame();
+    RedrawTitle();
     Move(place, SWP_NOREDRAW);
-    RedrawFrame();
+    RedrawTitle();
 }
 
-void TGroupBoxPeer::RedrawFrame() const {
-    constexpr int kFrameWidth = 5;  // at 96 dots per inch; the controls in the box keep a greater distance
-    const TScreen& screen = FForm.Screen();
-    const int edge = screen.Scale(kFrameWidth);
-    const int caption = screen.TextSize(L"0", 1 << 20).Height;
+int TGroupBoxPeer::TitleHeight() const { return FForm.Screen().TextSize(L"0", 1 << 20).Height; }
+
+void TGroupBoxPeer::RedrawTitle() const {
     const TRect& place = Placed();
-    RedrawBelow({place.Left + edge, place.Top + caption, place.Left + place.Width - edge,
-                 place.Top + place.Height - edge});
+    RedrawBelow({place.Left, place.Top + TitleHeight(), place.Left + place.Width, place.Top + place.Height});
+}
+
+LRESULT TGroupBoxPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_PAINT: {
+            PAINTSTRUCT paint;
+            Paint(BeginPaint(Handle(), &paint));
+            EndPaint(Handle(), &paint);
+            return 0;
+        }
+        case WM_PRINTCLIENT:
+            Paint(reinterpret_cast<HDC>(wParam));
+            return 0;
+        case WM_ERASEBKGND:
+            return TRUE;
+        // A group box of Windows would draw itself at once.
+        case WM_SETTEXT:
+        case WM_ENABLE:
+        case WM_UPDATEUISTATE: {
+            const LRESULT result = DefWindowProcW(Handle(), message, wParam, lParam);
+            RedrawTitle();
+            return result;
+        }
+        default:
+            return TWindowPeer::OnMessage(message, wParam, lParam);
+    }
+}
+
+void TGroupBoxPeer::Paint(HDC target) const {
+    const TScreen& screen = FForm.Screen();
+    RECT area{};
+    GetClientRect(Handle(), &area);
+    area.bottom = std::min<LONG>(area.bottom, TitleHeight());
+    if (IsRectEmpty(&area)) return;
+    const TPaintBuffer buffer(target, area);
+    const HDC memory = buffer.Handle();
+    // The ground is the parent's.
+    const RECT place = PlaceInParent();
+    POINT origin{};
+    OffsetViewportOrgEx(memory, -place.left, -place.top, &origin);
+    SendMessageW(GetParent(Handle()), WM_ERASEBKGND, reinterpret_cast<WPARAM>(memory), 0);
+    SetViewportOrgEx(memory, origin.x, origin.y, nullptr);
+
+    const TCategoryColors::TPanel colors = TCategoryColors().Panel(TPanelLook::Plain);
+    const std::wstring& caption = Control().Caption();
+    const auto length = static_cast<int>(caption.size());
+    const HGDIOBJ font = SelectObject(memory, screen.BoldFont());
+    SetBkMode(memory, TRANSPARENT);
+    SetTextColor(memory, IsWindowEnabled(Handle()) ? colors.Title : GetSysColor(COLOR_GRAYTEXT));
+    RECT text = area;
+    DrawTextW(memory, caption.c_str(), length, &text, DT_SINGLELINE | DT_CALCRECT);
+    const LONG left = text.right + screen.Scale(kTitleGap);
+    text.right = std::min(text.right, area.right);
+    DrawTextW(memory, caption.c_str(), length, &text, DT_SINGLELINE | DT_END_ELLIPSIS);
+    const LONG middle = (area.top + area.bottom) / 2;
+    if (left < area.right) FillArea(memory, {left, middle, area.right, middle + 1}, colors.Line);
+    SelectObject(memory, font);
 }

@@ -35,11 +35,17 @@ class TRadioButtonPeer : public TWindowPeer {
     bool Choose(WPARAM key);
 };
 
+/// A title and a line behind it. To other programs it is a group box around its controls.
 class TGroupBoxPeer : public TWindowPeer {
   public:
     TGroupBoxPeer(TFormWindow& form, TGroupBox& group, HWND parent);
     void Place(const TRect& place) override;
 
+  protected:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
   private:
-    void RedrawFrame() const;
+    [[nodiscard]] int TitleHeight() const;
+    void RedrawTitle() const;
+    void Paint(HDC target) const;
 };

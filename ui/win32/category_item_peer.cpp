@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ui/win32/category_look.h"
+#include "ui/win32/category_peers.h"
 #include "ui/win32/form_window.h"
 #include "ui/win32/paint_buffer.h"
 
@@ -60,8 +61,11 @@ void TCategoryItemPeer::TakeTabStop() {
 void TCategoryItemPeer::ScrollIntoSight() {
     // An item must not move away from the pointer that is about to click it.
     if (GetKeyState(VK_LBUTTON) < 0) return;
-    if (auto* bar = dynamic_cast<TContainerPeer*>(Control().Parent()->Parent()->Peer()))
-        bar->ScrollTo(Handle());
+    if (TCategoryBarPeer* bar = Bar()) bar->ScrollTo(Handle());
+}
+
+TCategoryBarPeer* TCategoryItemPeer::Bar() const {
+    return static_cast<TCategoryBarPeer*>(Control().Parent()->Parent()->Peer());
 }
 
 void TCategoryItemPeer::SetHot(bool hot) {
@@ -100,6 +104,7 @@ bool TCategoryItemPeer::MoveFocus(WPARAM key) {
         default:
             return false;
     }
+    if (TCategoryBarPeer* bar = Bar()) bar->ShowFocus();
     if (target != here) SetFocus(*target);
     return true;
 }
@@ -124,7 +129,11 @@ LRESULT TCategoryItemPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_KEYDOWN:
             if (MoveFocus(wParam)) return 0;
             break;
+        case WM_UPDATEUISTATE:
+            if (wParam == MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS) && Bar() != nullptr) Bar()->ShowFocus();
+            break;
         case WM_SETFOCUS:
+            if (GetKeyState(VK_TAB) < 0 && Bar() != nullptr) Bar()->ShowFocus();
             TakeTabStop();
             ScrollIntoSight();
             break;
@@ -173,7 +182,7 @@ void TCategoryItemPeer::OnDraw(const DRAWITEMSTRUCT& drawing) {
                       item.Enabled() ? kOpaque : kDisabledOpacity);
     }
 
-    SelectObject(target, FForm.Screen().Font());
+    SelectObject(target, item.Selected() ? FForm.Screen().BoldFont() : FForm.Screen().Font());
     SetBkMode(target, TRANSPARENT);
     SetTextColor(target, colors.Text);
     RECT text{area.left + metrics.TextLeft, area.top, area.right - metrics.TextRight, area.bottom};
@@ -187,7 +196,8 @@ void TCategoryItemPeer::OnDraw(const DRAWITEMSTRUCT& drawing) {
     if ((drawing.itemState & ODS_NOACCEL) != 0) format |= DT_HIDEPREFIX;
     DrawTextW(target, item.Caption().c_str(), static_cast<int>(item.Caption().size()), &text, format);
 
-    if ((drawing.itemState & ODS_FOCUS) == 0 || (drawing.itemState & ODS_NOFOCUSRECT) != 0) return;
+    const TCategoryBarPeer* bar = Bar();
+    if ((drawing.itemState & ODS_FOCUS) == 0 || bar == nullptr || !bar->ShowsFocus()) return;
     SetBkColor(target, RGB(255, 255, 255));
     SetTextColor(target, RGB(0, 0, 0));
     DrawFocusRect(target, &inner);

@@ -4,6 +4,8 @@
 #include "ui/containers.h"
 #include "ui/win32/window_peer.h"
 
+class TCategoryBarPeer;
+
 class TCategoryItemPeer : public TWindowPeer {
   public:
     TCategoryItemPeer(TFormWindow& form, TCategoryItem& item, HWND parent);
@@ -25,6 +27,7 @@ class TCategoryItemPeer : public TWindowPeer {
     void TakeTabStop();
     void ScrollIntoSight();
     void SetHot(bool hot);
+    [[nodiscard]] TCategoryBarPeer* Bar() const;
 
     bool FHot = false;  ///< the pointer is on the item
 };

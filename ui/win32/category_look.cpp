@@ -13,6 +13,7 @@ constexpr COLORREF kAmber = RGB(0x92, 0x66, 0x14);
 // How much of the product's colour is in a tint of the window colour.
 constexpr int kHeaderTint = 9;
 constexpr int kHeaderLineTint = 30;
+constexpr int kLineTint = 18;
 constexpr int kHotTint = 7;
 constexpr int kHotFrameTint = 22;
 constexpr int kSelectedTint = 18;
@@ -69,7 +70,7 @@ TCategoryColors::TPanel TCategoryColors::Panel(TPanelLook look) const {
             text,
             readable(FHeaderText),
             readable(MixColors(text, ground, kQuietShade)),
-            MixColors(ground, kProductColor, kHeaderLineTint),
+            MixColors(ground, kProductColor, kLineTint),
             readable(kAmber)};
 }
 
@@ -93,10 +94,11 @@ TCategoryMetrics::TCategoryMetrics(const TScreen& screen) {
     const int line = screen.TextSize(L"0", 1 << 20).Height;
     GroupGap = screen.Scale(1);
     MostGroupGap = screen.Scale(10);
-    HeaderHeight = line + screen.Scale(5);
+    HeaderHeight = line + screen.Scale(7);
     HeaderIndent = screen.Scale(6);
     PictureSize = screen.Scale(16);
-    ItemHeight = std::max(PictureSize, line) + screen.Scale(4);
+    ItemHeight = std::max(PictureSize, line) + screen.Scale(6);
+    LeastItemHeight = std::max(PictureSize, line) + screen.Scale(2);
     MarkWidth = screen.Scale(3);
     PictureLeft = screen.Scale(8);
     TextLeft = PictureLeft + PictureSize + screen.Scale(6);

@@ -58,6 +58,7 @@ struct TCategoryMetrics {
     int HeaderHeight;
     int HeaderIndent;  ///< of the caption
     int ItemHeight;
+    int LeastItemHeight;  ///< where the bar is low
     int PictureSize;
     int PictureLeft;
     int TextLeft;

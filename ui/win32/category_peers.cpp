@@ -1,6 +1,7 @@
 #include "ui/win32/category_peers.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ui/win32/form_window.h"
 #include "ui/win32/paint_buffer.h"
@@ -29,20 +30,25 @@ int TCategoryBarPeer::ContentHeight(int /*width*/) const {
     const TCategoryMetrics metrics(FForm.Screen());
     int height = 0;
     for (const TControl* group : VisibleChildren(Control()))
-        height += (height > 0 ? metrics.GroupGap : 0) + TCategoryGroupPeer::Height(*group, metrics);
+        height += (height > 0 ? metrics.GroupGap : 0) +
+                  TCategoryGroupPeer::Height(*group, metrics, metrics.LeastItemHeight);
     return height;
 }
 
 void TCategoryBarPeer::PlaceContent(const TRect& area) {
     const TCategoryMetrics metrics(FForm.Screen());
     const std::vector<TControl*> groups = VisibleChildren(Control());
-    // Groups stand further apart where the bar is taller than it must be.
+    // Items are higher, and then groups stand further apart, where the bar is taller than it must be.
+    int items = 0;
+    for (const TControl* group : groups) items += static_cast<int>(VisibleChildren(*group).size());
+    int spare = std::max(0, area.Height - ContentHeight(area.Width));
+    const int growth = std::min(spare / std::max(1, items), metrics.ItemHeight - metrics.LeastItemHeight);
+    spare -= growth * items;
     const int gaps = std::max(1, static_cast<int>(groups.size()) - 1);
-    const int gap = std::min(metrics.GroupGap + std::max(0, area.Height - ContentHeight(area.Width)) / gaps,
-                             metrics.MostGroupGap);
+    const int gap = std::min(metrics.GroupGap + spare / gaps, metrics.MostGroupGap);
     int top = area.Top;
     for (const TControl* group : groups) {
-        const int height = TCategoryGroupPeer::Height(*group, metrics);
+        const int height = TCategoryGroupPeer::Height(*group, metrics, metrics.LeastItemHeight + growth);
         if (TWindowPeer* peer = PeerOf(*group)) peer->Place({area.Left, top, area.Width, height});
         top += height + gap;
     }
@@ -66,6 +72,11 @@ LRESULT TCategoryBarPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) 
     }
 }
 
+void TCategoryBarPeer::ShowFocus() {
+    if (std::exchange(FShowsFocus, true)) return;
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
 /// Draws over the black line that Windows draws.
 void TCategoryBarPeer::PaintFrame() const {
     RECT frame{};
@@ -83,8 +94,8 @@ TCategoryGroupPeer::TCategoryGroupPeer(TFormWindow& form, TCategoryGroup& group,
     CreateContainer(parent, kContainerClass, kContainerStyle, 0);
 }
 
-int TCategoryGroupPeer::Height(const TControl& group, const TCategoryMetrics& metrics) {
-    return metrics.HeaderHeight + static_cast<int>(VisibleChildren(group).size()) * metrics.ItemHeight;
+int TCategoryGroupPeer::Height(const TControl& group, const TCategoryMetrics& metrics, int itemHeight) {
+    return metrics.HeaderHeight + static_cast<int>(VisibleChildren(group).size()) * itemHeight;
 }
 
 /// An item came or went: the whole bar must follow.
@@ -97,11 +108,13 @@ void TCategoryGroupPeer::PlaceItems() {
     const TCategoryMetrics metrics(FForm.Screen());
     RECT area{};
     GetClientRect(Handle(), &area);
+    const std::vector<TControl*> items = VisibleChildren(Control());
+    const int room = static_cast<int>(area.bottom) - metrics.HeaderHeight;
+    const int height = std::max(room / std::max(1, static_cast<int>(items.size())), metrics.LeastItemHeight);
     int top = metrics.HeaderHeight;
-    for (const TControl* item : VisibleChildren(Control())) {
-        if (TWindowPeer* peer = PeerOf(*item))
-            peer->Place({0, top, static_cast<int>(area.right), metrics.ItemHeight});
-        top += metrics.ItemHeight;
+    for (const TControl* item : items) {
+        if (TWindowPeer* peer = PeerOf(*item)) peer->Place({0, top, static_cast<int>(area.right), height});
+        top += height;
     }
 }
 

@@ -13,12 +13,18 @@ class TCategoryBarPeer : public TContainerPeer {
     TCategoryBarPeer(TFormWindow& form, TCategoryBar& bar, HWND parent);
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    /// Until a key is used nobody looks for the focus.
+    [[nodiscard]] bool ShowsFocus() const { return FShowsFocus; }
+    void ShowFocus();
+
   protected:
     [[nodiscard]] int ContentHeight(int width) const override;
     void PlaceContent(const TRect& area) override;
 
   private:
     void PaintFrame() const;
+
+    bool FShowsFocus = false;
 };
 
 /// A header with the group's caption, and the items below it.
@@ -30,7 +36,7 @@ class TCategoryGroupPeer : public TContainerPeer {
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     /// The height of the header and the visible items.
-    [[nodiscard]] static int Height(const TControl& group, const TCategoryMetrics& metrics);
+    [[nodiscard]] static int Height(const TControl& group, const TCategoryMetrics& metrics, int itemHeight);
 
   private:
     void PlaceItems();

@@ -69,6 +69,48 @@ void TEditPeer::ShowState() {
     FShowing = false;
 }
 
+/// The edit has a hole where its up-down is, which stands behind it in the order of the tab key.
+void TEditPeer::Place(const TRect& place) {
+    if (place == Placed()) return;
+    Move(place, SWP_NOCOPYBITS | SWP_FRAMECHANGED);
+    if (!Edit().HasUpDown()) return;
+    const int right = place.Width - kFieldFrame;
+    const HRGN shape = CreateRectRgn(0, 0, place.Width, place.Height);
+    const HRGN hole = CreateRectRgn(right - FForm.Screen().Scale(kArrowWidth), kFieldFrame, right,
+                                    place.Height - kFieldFrame);
+    CombineRgn(shape, shape, hole, RGN_DIFF);
+    DeleteObject(hole);
+    SetWindowRgn(Handle(), shape, TRUE);  // which Windows then owns
+}
+
+void TEditPeer::ShrinkClient(RECT& area) const {
+    const LONG spare = area.bottom - area.top - FForm.Screen().TextSize(L"0", 1 << 20).Height;
+    if (spare > 0) {
+        area.top += spare / 2;
+        area.bottom -= spare - spare / 2;
+    }
+    if (static_cast<const TEdit&>(Control()).HasUpDown())
+        area.right = std::max(area.left, area.right - FForm.Screen().Scale(kArrowWidth));
+}
+
+void TEditPeer::PaintAroundText() const {
+    RECT frame{};
+    RECT text{};
+    GetWindowRect(Handle(), &frame);
+    GetClientRect(Handle(), &text);
+    MapWindowPoints(Handle(), nullptr, reinterpret_cast<POINT*>(&text), 2);
+    OffsetRect(&text, -frame.left, -frame.top);
+    OffsetRect(&frame, -frame.left, -frame.top);
+    InflateRect(&frame, -kFieldFrame, -kFieldFrame);
+    const HDC target = GetWindowDC(Handle());
+    ExcludeClipRect(target, text.left, text.top, text.right, text.bottom);
+    const UINT asks = IsWindowEnabled(Handle()) ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC;
+    const LRESULT brush = SendMessageW(GetParent(Handle()), asks, reinterpret_cast<WPARAM>(target),
+                                       reinterpret_cast<LPARAM>(Handle()));
+    FillRect(target, &frame, reinterpret_cast<HBRUSH>(brush));
+    ReleaseDC(Handle(), target);
+}
+
 void TEditPeer::PaintCue() const {
     const std::wstring& cue = Control().Caption();
     if (cue.empty() || GetFocus() == Handle() || GetWindowTextLengthW(Handle()) != 0) return;
@@ -85,6 +127,25 @@ void TEditPeer::PaintCue() const {
 }
 
 LRESULT TEditPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = OnEditMessage(message, wParam, lParam);
+    switch (message) {
+        case WM_NCCALCSIZE:
+            ShrinkClient(*reinterpret_cast<RECT*>(lParam));
+            return result;
+        case WM_NCPAINT:
+            PaintAroundText();
+            return result;
+        case WM_ENABLE:
+            RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+            return result;
+        case WM_NCHITTEST:
+            return HTCLIENT;
+        default:
+            return result;
+    }
+}
+
+LRESULT TEditPeer::OnEditMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     TEdit& edit = Edit();
     if (message == WM_CHAR && !edit.AcceptsKey(static_cast<wchar_t>(wParam))) return 0;
     if (edit.OnKey) {

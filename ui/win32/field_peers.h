@@ -13,6 +13,7 @@ class TEditPeer : public TWindowPeer {
   public:
     TEditPeer(TFormWindow& form, TEdit& edit, HWND parent);
     void OnCommand(WORD code) override;
+    void Place(const TRect& place) override;
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -20,6 +21,10 @@ class TEditPeer : public TWindowPeer {
     [[nodiscard]] std::wstring WindowText() const override;
 
   private:
+    LRESULT OnEditMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    /// Leaves the text no more than its line, in the middle of the frame, and the up-down its place.
+    void ShrinkClient(RECT& area) const;
+    void PaintAroundText() const;
     [[nodiscard]] TEdit& Edit() const { return static_cast<TEdit&>(Control()); }
     /// Draws the caption into an edit that is empty. Windows could do that since XP, and only with a theme.
     void PaintCue() const;

@@ -1,12 +1,17 @@
 #include "ui/win32/page_peers.h"
 
+#include <algorithm>
+
 #include "base/win32/late_bound.h"
 #include "ui/win32/form_window.h"
 #include "ui/win32/peer_factory.h"
 
 namespace {
 
-constexpr int kSheetMargin = 11;
+// At 96 dots per inch.
+constexpr int kSheetMargin = 12;
+constexpr int kSheetSideMargin = 16;
+constexpr int kMostWidth = 560;  // of the content, whose fields would else be far from their texts
 
 }  // namespace
 
@@ -99,6 +104,14 @@ TTabSheetPeer::TTabSheetPeer(TFormWindow& form, TTabSheet& sheet, HWND parent)
     : TContainerPeer(form, sheet, kSheetMargin) {
     CreateContainer(parent, kContainerClass, WS_CHILD | DS_CONTROL, 0);
     EnableThemeTabTexture(Handle());
+}
+
+RECT TTabSheetPeer::ContentArea() const {
+    const TScreen& screen = FForm.Screen();
+    RECT area = TContainerPeer::ContentArea();
+    InflateRect(&area, screen.Scale(kSheetMargin) - screen.Scale(kSheetSideMargin), 0);
+    area.right = std::min(area.right, area.left + screen.Scale(kMostWidth));
+    return area;
 }
 
 bool TTabSheetPeer::IsShown() const {

@@ -42,4 +42,5 @@ class TTabSheetPeer : public TContainerPeer {
 
   protected:
     [[nodiscard]] bool IsShown() const override;
+    [[nodiscard]] RECT ContentArea() const override;
 };
