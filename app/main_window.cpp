@@ -16,7 +16,7 @@ namespace {
 constexpr TColor kPlainItemColor = 0xC56A31;
 constexpr TColor kSelectedItemColor = 0xC65D21;
 constexpr int kWidth = 764;
-constexpr int kHeight = 566;
+constexpr int kHeight = 572;  // with its frame no more than 600
 constexpr int kFrameCount = 7;
 constexpr int kTimerInterval = 100;
 constexpr int kIdleInterval = 300;
