@@ -17,7 +17,7 @@ constexpr int kTextLines = 2;
 constexpr int kPlaceLines = 2;
 
 // The least heights of the window, in dots of 96 per inch, that leave the pages enough room beside the strip.
-constexpr int kRoomForAll = 580;
+constexpr int kRoomForAll = 560;
 constexpr int kRoomForTitle = 510;
 
 /// Null when it is on none.

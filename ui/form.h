@@ -60,7 +60,7 @@ class TForm : public TControl {
     /// Size of the client area at 96 dots per inch, of which no user can make it smaller. These are the main window's,
     /// which leave room for the frame on a screen of 800 by 600.
     int ClientWidth = 764;
-    int ClientHeight = 600;
+    int ClientHeight = 572;
     bool CanMaximise = false;  ///< of a dialog; the main window always can
 
     std::wstring MarkText = L"changed";       ///< what a screen reader says of a marked control …

@@ -12,6 +12,7 @@ namespace {
 // Distances at 96 dots per inch.
 constexpr int kGap = 7;           // between controls that stand together
 constexpr int kGroupGap = 14;     // before and after a group box
+constexpr int kButtonGap = 11;    // before the buttons of a window or sheet
 constexpr int kGroupIndent = 14;  // of the controls below the title of a group box
 constexpr int kTitleGap = 6;      // between that title and them
 constexpr int kLineGap = 2;       // between what stands as close as lines of a text
@@ -176,10 +177,11 @@ int TLayout::GapBefore(const TLayoutBox& box, std::size_t index) const {
     const TLayoutBox& here = box.Boxes[index];
     const TLayoutBox& before = box.Boxes[index - 1];
     if (IsKind(here, TComponentKind::UpDown)) return 0;  // it clings to its edit
-    const bool grouped = IsKind(here, TComponentKind::GroupBox) || IsKind(before, TComponentKind::GroupBox) ||
-                         here.Kind == TLayoutKind::Buttons || here.Kind == TLayoutKind::Foot ||
-                         here.Kind == TLayoutKind::Ends;
-    return FMetrics.Scale(grouped && box.Kind == TLayoutKind::Column ? kGroupGap : kGap);
+    if (box.Kind != TLayoutKind::Column) return FMetrics.Scale(kGap);
+    if (here.Kind == TLayoutKind::Buttons || here.Kind == TLayoutKind::Foot || here.Kind == TLayoutKind::Ends)
+        return FMetrics.Scale(kButtonGap);
+    const bool grouped = IsKind(here, TComponentKind::GroupBox) || IsKind(before, TComponentKind::GroupBox);
+    return FMetrics.Scale(grouped ? kGroupGap : kGap);
 }
 
 TSize TLayout::Measure(const TLayoutBox& box, int width) const {

@@ -120,7 +120,7 @@ TEST_F(TMainWindow, TheHeaderSaysWhichPageIsShownAndWhatItIsFor) {
         EXPECT_EQ(Window->Find(L"Panel_Header")->Caption(), item->Caption() + L"\n" + text);
         EXPECT_TRUE(said.insert(text).second && !text.ends_with(L'.')) << testing::PrintToString(text);
     }
-    EXPECT_EQ(said.size(), 17u);
+    EXPECT_EQ(said.size(), 17U);
 }
 
 TEST_F(TMainWindow, APageIsLoadedOnItsFirstVisitOnly) {

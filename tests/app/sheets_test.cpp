@@ -37,7 +37,7 @@ class TSheets : public testing::Test {
   protected:
     TSheets() : Dialog(Window.Context(), None) {}
 
-    void Expect(const TForm& form, const TTabSheet& sheet, const TLayoutMetrics& metrics) {
+    static void Expect(const TForm& form, const TTabSheet& sheet, const TLayoutMetrics& metrics) {
         SCOPED_TRACE(testing::PrintToString(sheet.Name()));
         const TRect area{16, 12, metrics.Scale(516), metrics.Scale(900)};
         TPlaces places;
@@ -58,7 +58,7 @@ class TSheets : public testing::Test {
                 EXPECT_EQ(std::tuple(place.Left, Bottom(place), isInGroup),
                           std::tuple(area.Left, Bottom(area), false));
         }
-        EXPECT_LE(columns.size(), 1u) << "all fields begin in one column";
+        EXPECT_LE(columns.size(), 1U) << "all fields begin in one column";
     }
     void ExpectAll(const TLayoutMetrics& metrics) {
         for (const TForm* form : {static_cast<TForm*>(&Window), static_cast<TForm*>(&Dialog)})

@@ -11,12 +11,12 @@ class TFixedMetrics : public TLayoutMetrics {
     explicit TFixedMetrics(int dotsPerInch, int percent = 100)
         : FDotsPerInch(dotsPerInch), FPercent(percent) {}
 
-    TSize TextSize(const std::wstring& caption, int maxWidth) const override {
+    [[nodiscard]] TSize TextSize(const std::wstring& caption, int maxWidth) const override {
         const int width = static_cast<int>(caption.size()) * Scale(6) * FPercent / 100;
         const int lines = maxWidth > 0 ? (width + maxWidth - 1) / maxWidth : 1;
         return {std::min(width, maxWidth), std::max(1, lines) * Scale(13)};
     }
-    int Scale(int distance) const override { return distance * FDotsPerInch / 96; }
+    [[nodiscard]] int Scale(int distance) const override { return distance * FDotsPerInch / 96; }
 
   private:
     int FDotsPerInch;

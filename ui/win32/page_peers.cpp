@@ -9,7 +9,7 @@
 namespace {
 
 // At 96 dots per inch.
-constexpr int kSheetMargin = 12;
+constexpr int kSheetMargin = 11;
 constexpr int kSheetSideMargin = 16;
 constexpr int kMostWidth = 560;  // of the content, whose fields would else be far from their texts
 
