@@ -28,7 +28,7 @@ TQuilltune_FormAbout::TQuilltune_FormAbout(TSystem& system, const TCaptions& cap
     OnShow = [this, &language, &notices](TComponent&) { FormShow(language, notices); };
     Find<TButton>(L"Button_About_Folder")->OnClick = [this](TComponent&) { Button_About_FolderClick(); };
     auto* close = Find<TButton>(L"Button_About_Close");
-    close->Default = close->Cancel = true;
+    close->Cancel = true;
     close->OnClick = [this](TComponent&) { Close(); };
     FirstFocus = close;
 }

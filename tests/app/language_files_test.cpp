@@ -42,6 +42,7 @@ TTexts FormTexts(const TForm& form) {
                                     kind) > 0)
             texts[control.Name() + L".Caption"] = control.Caption();
     }
+    std::erase_if(texts, [](const auto& text) { return text.second.empty(); });  // those come later
     return texts;
 }
 
