@@ -58,9 +58,10 @@ TControlDesign ErrorSheet() {
         Group(L"GroupBox_Startup_Error_SystemError", L"When something fails",
               CheckBox(L"Checkbox_Startup_Error_Sound_beep", L"&Beep when an error occurs"),
               CheckBox(L"Checkbox_Startup_Error_SystemError_Log", L"&Write an event to the system log"),
-              Row(Label(L"Label_Startup_Error_SystemError_Type", L"When Windows &crashes:"),
-                  ComboBox(L"CB_Startup_Error_SystemError_Type",
-                           {L"Show an error message in blue screen", L"Restart system automatically"}))),
+              // Beside the label the long texts of the list would be cut.
+              Label(L"Label_Startup_Error_SystemError_Type", L"When Windows &crashes:"),
+              ComboBox(L"CB_Startup_Error_SystemError_Type",
+                       {L"Show an error message in blue screen", L"Restart system automatically"})),
         Buttons(Button(L"Button_Startup_Error_Default", L"&Default")));
 }
 

@@ -248,6 +248,7 @@ TEST_F(TAccessibility, EveryFieldOfTheProgramHasAName) {
     TFormWindow::Attach(window, GetModuleHandleW(nullptr), [this](const std::exception_ptr&) {
         ++Faults;
     }).Show(SW_SHOW);
+    HandleMessages();
     for (const wchar_t* timer : {L"Timer_Click", L"Timer_Loading"}) window.Find<TTimer>(timer)->Tick();
     for (const auto& component : window.Components())
         if (component->Kind() == TComponentKind::CategoryItem)
