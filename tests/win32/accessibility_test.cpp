@@ -245,10 +245,11 @@ TEST_F(TAccessibility, EveryFieldOfTheProgramHasAName) {
     TFakeSystem fake;
     fake.Windows.SetVersion({.PlatformId = 2, .Major = 6, .Minor = 1});
     TQuilltune_FormMain window(fake.System);
-    TFormWindow::Attach(window, GetModuleHandleW(nullptr), [this](const std::exception_ptr&) {
-        ++Faults;
-    }).Show(SW_SHOW);
-    HandleMessages();
+    TFormWindow& peer = TFormWindow::Attach(window, GetModuleHandleW(nullptr),
+                                            [this](const std::exception_ptr&) { ++Faults; });
+    peer.Show(SW_SHOW);
+    for (const auto& component : window.Components())
+        if (auto& control = static_cast<TControl&>(*component); control.IsLate) peer.CreateLate(control);
     for (const wchar_t* timer : {L"Timer_Click", L"Timer_Loading"}) window.Find<TTimer>(timer)->Tick();
     for (const auto& component : window.Components())
         if (component->Kind() == TComponentKind::CategoryItem)

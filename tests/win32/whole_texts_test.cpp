@@ -203,7 +203,10 @@ TEST_F(TWholeTexts, AreShownInEveryLanguageAndInLongerOnes) {
         const std::string file{std::istreambuf_iterator<char>(stream), {}};
         const std::string name = path.stem().string();
         CheckLanguage(path.stem().wstring(), file, name);
-        if (name == "English") CheckLanguage(path.stem().wstring(), Lengthened(file), "longer English");
+        // On a screen that is too small for the window, not everything can be.
+        const bool isWhole = GetSystemMetrics(SM_CXSCREEN) >= Scale(800);
+        if (name == "English" && isWhole)
+            CheckLanguage(path.stem().wstring(), Lengthened(file), "longer English");
     }
     EXPECT_GT(Checked, 1000);
 }
