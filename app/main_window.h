@@ -97,7 +97,7 @@ class TQuilltune_FormMain : public TForm {
     std::unique_ptr<TTwinControls> FTwins;
     std::unique_ptr<TPendingReview> FReview;
     std::unique_ptr<TSettingNames> FNames;
-    TPageHeader FHeader{*this, FContext.Captions};
+    TPageHeader FHeader{FContext};
     std::unique_ptr<TDetailsStrip> FDetails;
     std::unique_ptr<TFindBox> FFind;
     std::wstring FFileToOpen;     ///< once the window is ready

@@ -1,5 +1,7 @@
 #include "app/page_header.h"
 
+#include "settings/page_table.h"
+#include "settings/rights.h"
 #include "ui/controls.h"
 
 namespace {
@@ -23,15 +25,20 @@ TControlDesign TPageHeader::Design() {
 }
 
 void TPageHeader::Show(const TCategoryItem& item) {
-    FForm.Find<TImage>(kImage)->SetPicture(item.Picture());
-    FForm.Find(kTitle)->SetCaption(item.Caption());
+    const TForm& form = FContext.Form;
+    form.Find<TImage>(kImage)->SetPicture(item.Picture());
+    form.Find(kTitle)->SetCaption(item.Caption());
+    std::wstring text;
+    for (const TPageDefinition* page : PageDefinitions())
+        if (page->Tag == item.Tag()) text = RightsLine(FContext, *page);
     for (const TCategoryGroupRow& group : CategoryTable())
         for (const TCategoryItemRow& row : group.Items)
-            if (row.Tag == item.Tag()) FForm.Find(kText)->SetCaption(FCaptions[row.About]);
-    FForm.Find(kPanel)->SetCaption(FForm.Find(kTitle)->Caption() + L"\n" + FForm.Find(kText)->Caption());
+            if (text.empty() && row.Tag == item.Tag()) text = FContext.Captions[row.About];
+    form.Find(kText)->SetCaption(text);
+    form.Find(kPanel)->SetCaption(item.Caption() + L"\n" + text);
 }
 
 void TPageHeader::HeightChanged(int height) {
-    FForm.Find(kText)->SetVisible(height >= kRoomForAll);
-    FForm.Find(kPanel)->SetVisible(height >= kRoomForTitle);
+    FContext.Form.Find(kText)->SetVisible(height >= kRoomForAll);
+    FContext.Form.Find(kPanel)->SetVisible(height >= kRoomForTitle);
 }

@@ -121,6 +121,15 @@ TEST_F(TMainWindow, TheHeaderSaysWhichPageIsShownAndWhatItIsFor) {
         EXPECT_TRUE(said.insert(text).second && !text.ends_with(L'.')) << testing::PrintToString(text);
     }
     EXPECT_EQ(said.size(), 17U);
+    const auto says = [&](const wchar_t* item) {
+        Click(item);
+        return Window->Find(L"Label_Header_Text")->Caption();
+    };
+    const std::wstring about = says(kDriverItem);
+    Fake.Registry.DenyAccess(TRootKey::LocalMachine, L"");
+    EXPECT_TRUE(says(kDriverItem).starts_with(L"Without administrator rights"));
+    EXPECT_TRUE(said.contains(says(L"RzGroup_Use.Items[1]"))) << "nothing there is for all users";
+    EXPECT_NE(about, says(kDriverItem));
 }
 
 TEST_F(TMainWindow, APageIsLoadedOnItsFirstVisitOnly) {
