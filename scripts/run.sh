@@ -8,7 +8,7 @@ set -euo pipefail
 . "$(dirname "$0")/lib.sh"
 . "$(dirname "$0")/wine.sh"
 
-RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" imagemagick fonts-wine  # whose Tahoma looks like Windows' own
+RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" imagemagick fonts-dejavu-extra
 "$Root/scripts/build.sh"
 
 Program="$Root/dist/win64/Quilltune.exe"
@@ -66,6 +66,11 @@ StoredValue() {
 [ -d "$Prefix" ] || { mkdir -p "$Root/build" && MakePrefix "$Prefix"; }
 export WINEPREFIX=$Prefix
 
+# In a font that looks like Windows' own Tahoma.
+for Name in 'MS Shell Dlg' 'MS Shell Dlg 2' Tahoma; do
+    wine reg add 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontSubstitutes' /v "$Name" /d 'DejaVu Sans Condensed' /f
+done >/dev/null 2>&1
+
 if [ -n "${DISPLAY:-}" ]; then
     exec wine "$Program"
 fi
@@ -73,6 +78,9 @@ fi
 BuildPreset win64 --target drive
 StartXvfb
 trap 'EndPrefix; kill "$XvfbId"' EXIT
+# Nobody else draws the frames of windows here.
+wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+wineserver -w
 rm -rf "$Screenshots"
 mkdir -p "$Screenshots"
 
@@ -94,7 +102,7 @@ Photograph readme_changes TQuilltune_FormChanges
 Drive --form TQuilltune_FormChanges click Button_Changes_Close
 Drive type Edit_Find 'recent doc'
 Photograph readme_find
-Drive key Escape
+Drive key Esc
 Drive click Button_Apply
 After=$(StoredValue)
 Drive close
