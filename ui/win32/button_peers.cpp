@@ -140,14 +140,9 @@ void TGroupBoxPeer::RedrawTitle() const {
 
 LRESULT TGroupBoxPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_PAINT: {
-            PAINTSTRUCT paint;
-            Paint(BeginPaint(Handle(), &paint));
-            EndPaint(Handle(), &paint);
-            return 0;
-        }
+        case WM_PAINT:
         case WM_PRINTCLIENT:
-            Paint(reinterpret_cast<HDC>(wParam));
+            PaintWindow(Handle(), message, wParam, [this](HDC target) { Paint(target); });
             return 0;
         case WM_ERASEBKGND:
             return TRUE;

@@ -132,14 +132,9 @@ LRESULT TCategoryGroupPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam
             return SendMessageW(GetParent(Handle()), message, wParam, lParam);  // the bar scrolls
         case WM_ERASEBKGND:
             return TRUE;
-        case WM_PAINT: {
-            PAINTSTRUCT paint;
-            Paint(BeginPaint(Handle(), &paint));
-            EndPaint(Handle(), &paint);
-            return 0;
-        }
+        case WM_PAINT:
         case WM_PRINTCLIENT:
-            Paint(reinterpret_cast<HDC>(wParam));
+            PaintWindow(Handle(), message, wParam, [this](HDC target) { Paint(target); });
             return 0;
         default:
             return TContainerPeer::OnMessage(message, wParam, lParam);

@@ -118,9 +118,13 @@ LRESULT TContainerPeer::Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_NOTIFY:
             return peer->OnNotify(*reinterpret_cast<NMHDR*>(lParam));
-        case WM_DRAWITEM:
-            peer->OnDraw(*reinterpret_cast<DRAWITEMSTRUCT*>(lParam));
+        case WM_DRAWITEM: {
+            // An owner-drawn window may be asked though all of it is valid.
+            const auto& item = *reinterpret_cast<DRAWITEMSTRUCT*>(lParam);
+            RECT clip{};
+            if (GetClipBox(item.hDC, &clip) != NULLREGION) peer->OnDraw(item);
             return TRUE;
+        }
         default:
             peer->OnScroll();
             return 0;

@@ -65,7 +65,7 @@ int TFormWindow::Run() {
         if (!NextMessage(message)) {
             // Looking for a message has handled those that were sent; one of them may have closed the dialog.
             FAttention.FollowFocus();
-            if (!IsOver() && !FFiller.CreateNext()) WaitMessage();
+            if (!IsOver() && !FFiller.CreateSome()) WaitMessage();
             continue;
         }
         FAttention.FollowPointer(message);

@@ -5,6 +5,9 @@
 
 namespace {
 
+/// So few that no key waits for them, and so many that looking for one costs little beside them.
+constexpr int kControlsAtATime = 4;
+
 /// Null when a fault kept it from being created.
 TContainerPeer* ContainerOf(const TControl& control) { return static_cast<TContainerPeer*>(control.Peer()); }
 
@@ -54,6 +57,12 @@ bool TPageFiller::CreatesFirstPage() const {
     if (FUnfilled.front()->IsLate) return true;
     const TControl* page = PageOf(*FUnfilled.front());
     return page != nullptr && page == page->Parent()->Children().front();
+}
+
+bool TPageFiller::CreateSome() {
+    for (int i = 0; i < kControlsAtATime; ++i)
+        if (!CreateNext()) return i > 0;
+    return true;
 }
 
 bool TPageFiller::CreateNext() {

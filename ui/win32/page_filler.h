@@ -18,12 +18,14 @@ class TPageFiller {
     void CreatePage(TControl& page);
     /// Creates the content of the sheets in a container.
     static void FillSheets(const TControl& container);
-    /// Creates or places one more control; false when there is nothing left to do.
-    bool CreateNext();
+    /// Creates or places some more controls; false when there is nothing left to do.
+    bool CreateSome();
     /// Whether the notebook's first page, or what comes before it, is still being created.
     [[nodiscard]] bool CreatesFirstPage() const;
 
   private:
+    bool CreateNext();
+
     TFormWindow& FForm;
     /// What comes late, then pages and sheets that may lack content; in the order of its creation.
     std::deque<TControl*> FUnfilled;

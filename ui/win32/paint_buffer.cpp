@@ -6,6 +6,14 @@ void FillArea(HDC target, const RECT& area, COLORREF color) {
     DeleteObject(brush);
 }
 
+void PaintWindow(HWND window, UINT message, WPARAM wParam, const std::function<void(HDC)>& draw) {
+    if (message == WM_PRINTCLIENT) return draw(reinterpret_cast<HDC>(wParam));
+    PAINTSTRUCT paint{};
+    BeginPaint(window, &paint);
+    if (!IsRectEmpty(&paint.rcPaint)) draw(paint.hdc);
+    EndPaint(window, &paint);
+}
+
 TPaintBuffer::TPaintBuffer(HDC target, const RECT& area) : FTarget(target), FArea(area) {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;

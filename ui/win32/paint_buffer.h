@@ -4,10 +4,14 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <functional>
 #include <span>
 
 /// Fills an area with one colour.
 void FillArea(HDC target, const RECT& area, COLORREF color);
+
+/// Handles WM_PAINT or WM_PRINTCLIENT of a window by `draw`, which is not called where nothing is to be drawn.
+void PaintWindow(HWND window, UINT message, WPARAM wParam, const std::function<void(HDC)>& draw);
 
 class TPaintBuffer {
   public:

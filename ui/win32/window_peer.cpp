@@ -111,11 +111,12 @@ void TWindowPeer::Restyle() {
 // Drawn anew: a copy of what the window showed would bring along what lay over it or what its parent cut off.
 void TWindowPeer::Place(const TRect& place) { Move(place, SWP_NOCOPYBITS); }
 
+// Backgrounds are drawn once, when everything has its place, and not anew after each window of a container.
 void TWindowPeer::Move(const TRect& place, UINT flags) {
     if (place == FPlace) return;
     FPlace = place;
     SetWindowPos(FHandle, nullptr, place.Left, place.Top, place.Width, place.Height,
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER | flags);
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_DEFERERASE | flags);
 }
 
 void TWindowPeer::RedrawBelow(const RECT& hole) const {
@@ -212,6 +213,16 @@ bool TWindowPeer::IsShown() const {
     return control->Visible();
 }
 
+/// ShowWindow would draw the backgrounds of all windows that come to light at once, before what is below them is hidden.
+void TWindowPeer::ShowOrHide() {
+    const bool isShown = IsShown();
+    SetWindowPos(FHandle, nullptr, 0, 0, 0, 0,
+                 (isShown ? SWP_SHOWWINDOW : SWP_HIDEWINDOW) | SWP_DEFERERASE | SWP_NOMOVE | SWP_NOSIZE |
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+    const HWND focus = GetFocus();
+    if (!isShown && (focus == FHandle || IsChild(FHandle, focus))) SetFocus(GetParent(FHandle));
+}
+
 void TWindowPeer::Update(TControlAspect aspect) {
     if (FHandle == nullptr) return;
     switch (aspect) {
@@ -226,13 +237,7 @@ void TWindowPeer::Update(TControlAspect aspect) {
             EnableWindow(FHandle, FControl.Enabled());
             break;
         case TControlAspect::Visible:
-            // ShowWindow would draw the backgrounds of all inner windows at once, and below what is hidden only then.
-            if (IsShown())
-                SetWindowPos(FHandle, nullptr, 0, 0, 0, 0,
-                             SWP_SHOWWINDOW | SWP_DEFERERASE | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER |
-                                 SWP_NOACTIVATE);
-            else
-                ShowWindow(FHandle, SW_HIDE);
+            ShowOrHide();
             if (FControl.Kind() == TComponentKind::GroupBox)
                 for (const TControl* child : FControl.Children())
                     if (child->Peer() != nullptr) child->Peer()->Update(aspect);

@@ -95,6 +95,7 @@ class TWindowPeer : public TPeer {
 
   private:
     void ShowMark();
+    void ShowOrHide();
     static LRESULT CALLBACK SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     static LRESULT CALLBACK WheelProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
