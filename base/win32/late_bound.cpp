@@ -2,7 +2,9 @@
 
 #include <delayimp.h>
 
+#include <algorithm>
 #include <bit>
+#include <cwchar>
 #include <string>
 
 #include "base/win32/handle.h"
@@ -11,11 +13,12 @@ namespace {
 
 /// Loads a library of the system folder, and what it imports from there as well; null when there is none.
 HMODULE LoadSystemLibrary(const wchar_t* name) {
-    wchar_t folder[MAX_PATH];
-    const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
+    wchar_t path[2 * MAX_PATH];  // asks for no memory, which could fail
+    const UINT length = GetSystemDirectoryW(path, MAX_PATH);
     if (length == 0 || length >= MAX_PATH) return nullptr;
-    const std::wstring path = std::wstring(folder, length) + L'\\' + name;
-    return LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    path[length] = L'\\';
+    std::copy_n(name, std::wcslen(name) + 1, path + length + 1);
+    return LoadLibraryExW(path, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 }
 
 /// A library of the system folder, loaded as long as the object lives.
@@ -81,6 +84,37 @@ void EnableThemeTabTexture(HWND dialog) {
     const TSystemLibrary theme(L"uxtheme.dll");
     const auto enableTexture = theme.Find<HRESULT WINAPI(HWND, DWORD)>("EnableThemeDialogTexture");
     if (enableTexture != nullptr) enableTexture(dialog, kEnableTab);
+}
+
+int DotsPerInchOf(HWND window) {
+    const TSystemLibrary user(L"user32.dll");
+    const auto getDpi = user.Find<UINT WINAPI(HWND)>("GetDpiForWindow");
+    const UINT dotsPerInch = getDpi != nullptr && window != nullptr ? getDpi(window) : 0;
+    if (dotsPerInch != 0) return static_cast<int>(dotsPerInch);
+    const HDC screen = GetDC(nullptr);
+    const int ofAll = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    return ofAll;
+}
+
+NONCLIENTMETRICSW WindowMetricsFor(int dotsPerInch) {
+    const TSystemLibrary user(L"user32.dll");
+    const auto getFor = user.Find<BOOL WINAPI(UINT, UINT, PVOID, UINT, UINT)>("SystemParametersInfoForDpi");
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    const bool known = getFor != nullptr && getFor(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0,
+                                                   static_cast<UINT>(dotsPerInch));
+    if (!known) SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    return metrics;
+}
+
+void AddFrame(RECT& area, HWND window, int dotsPerInch) {
+    const TSystemLibrary user(L"user32.dll");
+    const auto adjust = user.Find<BOOL WINAPI(RECT*, DWORD, BOOL, DWORD, UINT)>("AdjustWindowRectExForDpi");
+    const auto style = static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE));
+    const auto extendedStyle = static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE));
+    if (adjust == nullptr || !adjust(&area, style, FALSE, extendedStyle, static_cast<UINT>(dotsPerInch)))
+        AdjustWindowRectEx(&area, style, FALSE, extendedStyle);
 }
 
 std::wstring FinalPathOf(HANDLE file) {

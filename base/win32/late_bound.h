@@ -26,6 +26,16 @@ void LoadForCommonDialogs();
 /// themes does nothing.
 void EnableThemeTabTexture(HWND dialog);
 
+/// GetDpiForWindow: the dots per inch in which a window is drawn, of its screen where each has its own (since Windows 10).
+/// Without that function those of all screens.
+[[nodiscard]] int DotsPerInchOf(HWND window);
+/// SystemParametersInfoForDpi: the fonts and measures that the user has chosen, for that many dots per inch. Without that
+/// function as they are.
+[[nodiscard]] NONCLIENTMETRICSW WindowMetricsFor(int dotsPerInch);
+/// AdjustWindowRectExForDpi: makes a client area the window around it, by its styles. Without that function by those
+/// measures that all windows have.
+void AddFrame(RECT& area, HWND window, int dotsPerInch);
+
 /// GetFinalPathNameByHandleW: the path of an open file behind all symbolic links, empty when it cannot be told. So it is
 /// before Vista, which has no symbolic links to files either.
 [[nodiscard]] std::wstring FinalPathOf(HANDLE file);

@@ -281,6 +281,33 @@ TEST_F(PaintTest, FontsFollow) {
     }
 }
 
+TEST_F(PaintTest, TheResolutionOfAnotherScreenIsFollowed) {
+    const auto tell = [this](int dotsPerInch, const RECT& place) {
+        SendMessageW(FormWindow(), 0x02E0 /* WM_DPICHANGED */, MAKEWPARAM(dotsPerInch, dotsPerInch),
+                     reinterpret_cast<LPARAM>(&place));
+        HandleMessages();
+    };
+    const auto placeOf = [](HWND window) {
+        RECT place{};
+        GetWindowRect(window, &place);
+        return place;
+    };
+    const RECT before = placeOf(FormWindow());
+    const RECT field = placeOf(Window(L"Number"));
+    const RECT larger{20, 30, 20 + (before.right - before.left) * 3 / 2,
+                      30 + (before.bottom - before.top) * 3 / 2};
+    for (int round = 0; round < 2; ++round) {
+        tell(144, larger);
+        const RECT form = placeOf(FormWindow());
+        EXPECT_TRUE(EqualRect(&form, &larger));
+        const RECT number = placeOf(Window(L"Number"));
+        EXPECT_NEAR(number.bottom - number.top, (field.bottom - field.top) * 3 / 2, 3);
+        EXPECT_NEAR(number.right - number.left, (field.right - field.left) * 3 / 2, 6);
+        tell(96, before);
+        ExpectLikeNew("back in the former resolution");
+    }
+}
+
 WNDPROC g_trackBar = nullptr;
 bool g_toldTrackBar = false;
 LRESULT CALLBACK WatchTrackBar(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

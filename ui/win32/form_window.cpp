@@ -54,6 +54,9 @@ void TFormWindow::Show(int showCommand) {
     };
     // The form shows itself first: its windows are then created with their final captions.
     attempt([this] { FForm.Show(); });
+    attempt([this] {
+        if (const int own = DotsPerInchOf(Handle()); own != FScreen->DotsPerInch()) Restyle(own);
+    });
     attempt([this] { FWindow.Open(); });
     FWindow.Appear(showCommand);
 }
@@ -196,10 +199,10 @@ void TFormWindow::RestyleLater() {
     if (!std::exchange(FRestyles, true)) PostMessageW(Handle(), kRestyleMessage, 0, 0);
 }
 
-void TFormWindow::Restyle() {
+void TFormWindow::Restyle(int dotsPerInch) {
     FRestyles = false;
     // The former fonts live until no window has them.
-    const auto former = std::exchange(FScreen, std::make_unique<TScreen>());
+    const auto former = std::exchange(FScreen, std::make_unique<TScreen>(dotsPerInch));
     for (const auto& [window, peer] : FPeers) peer->Restyle();
     FWindow.LayOut();
     // Every container comes after those around it.

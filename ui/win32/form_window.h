@@ -5,6 +5,7 @@
 #include <set>
 #include <unordered_map>
 
+#include "base/win32/late_bound.h"
 #include "ui/form.h"
 #include "ui/win32/accessible_description.h"
 #include "ui/win32/attention.h"
@@ -35,7 +36,7 @@ class TFormWindow : public TFormPeer {
     /// Runs the form's OnShow, then creates its controls and shows the window.
     void Show(int showCommand);
     /// Handles messages until the program is to end; a dialog's, until the dialog is closed. Creates what is hidden,
-    /// a control at a time, while there is nothing else to do. The answer is the program's exit code.
+    /// some controls at a time, while there is nothing else to do. The answer is the program's exit code.
     int Run();
     /// Restores the window when it is minimised, and brings it to the front.
     void ComeForward();
@@ -113,14 +114,14 @@ class TFormWindow : public TFormPeer {
     void LayOutChanged();
     /// Follows a change of the look of Windows once the present message is handled.
     void RestyleLater();
-    void Restyle();
+    void Restyle(int dotsPerInch);
     void Destroyed();
 
     TForm& FForm;
     HINSTANCE FInstance;
     HWND FOwner;  ///< of a dialog: the window that waits for it
     TFaultHandler FFaultHandler;
-    std::unique_ptr<TScreen> FScreen = std::make_unique<TScreen>();
+    std::unique_ptr<TScreen> FScreen = std::make_unique<TScreen>(DotsPerInchOf(nullptr));
     TPictureStore FPictures;
     TAccessibleDescriptions FAccessible;
     TMarks FMarks;

@@ -7,6 +7,9 @@ namespace {
 
 constexpr int kFormMargin = 8;
 
+/// WM_DPICHANGED, since Windows 8.1: the window has come to a screen of another resolution.
+constexpr UINT kResolutionChanged = 0x02E0;
+
 /// The part of the screen that the task bar leaves to a window of the owner's screen, or of the main one.
 RECT WorkArea(HWND owner) {
     MONITORINFO screen{};
@@ -61,8 +64,7 @@ SIZE TFormWindow::TWindow::DesignedSize(const RECT& work) const {
     const TScreen& screen = FFormWindow.Screen();
     const TForm& form = FFormWindow.FForm;
     RECT frame{0, 0, screen.Scale(form.ClientWidth), screen.Scale(form.ClientHeight)};
-    AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongPtrW(Handle(), GWL_STYLE)), FALSE,
-                       static_cast<DWORD>(GetWindowLongPtrW(Handle(), GWL_EXSTYLE)));
+    AddFrame(frame, Handle(), screen.DotsPerInch());
     return {std::min(frame.right - frame.left, work.right - work.left),
             std::min(frame.bottom - frame.top, work.bottom - work.top)};
 }
@@ -132,11 +134,18 @@ LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lPar
         case WM_THEMECHANGED:
             FFormWindow.RestyleLater();
             break;
+        case kResolutionChanged: {
+            FFormWindow.Restyle(HIWORD(wParam));
+            const RECT& place = *reinterpret_cast<const RECT*>(lParam);  // as Windows suggests it
+            SetWindowPos(Handle(), nullptr, place.left, place.top, place.right - place.left,
+                         place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+            return 0;
+        }
         case WM_ACTIVATEAPP:
             if (wParam != FALSE) PostMessageW(Handle(), kComeBackMessage, 0, 0);
             break;
         case kRestyleMessage:
-            FFormWindow.Restyle();
+            FFormWindow.Restyle(FFormWindow.Screen().DotsPerInch());
             return 0;
         case kComeBackMessage:
             if (IsWindowEnabled(Handle())) FFormWindow.FForm.ComeBack();

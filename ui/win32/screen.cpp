@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "base/win32/late_bound.h"
+
 namespace {
 
 constexpr int kUnlimited = 1 << 20;
@@ -16,18 +18,13 @@ HBITMAP ScreenBitmap() {
     return bitmap;
 }
 
-NONCLIENTMETRICSW ReadMetrics() {
-    NONCLIENTMETRICSW metrics{};
-    metrics.cbSize = sizeof metrics;
-    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    return metrics;
-}
-
 }  // namespace
 
-TScreen::TScreen()
-    : FMetrics(ReadMetrics()), FMeasured(ScreenBitmap()), FMeasure(CreateCompatibleDC(nullptr)) {
-    FDotsPerInch = GetDeviceCaps(FMeasure, LOGPIXELSY);
+TScreen::TScreen(int dotsPerInch)
+    : FDotsPerInch(dotsPerInch),
+      FMetrics(WindowMetricsFor(dotsPerInch)),
+      FMeasured(ScreenBitmap()),
+      FMeasure(CreateCompatibleDC(nullptr)) {
     LOGFONTW font = FMetrics.lfMessageFont;
     FFont = CreateFontIndirectW(&font);
     font.lfWeight = FW_BOLD;
@@ -47,7 +44,7 @@ TScreen::~TScreen() {
 }
 
 bool TScreen::IsCurrent() const {
-    const NONCLIENTMETRICSW now = ReadMetrics();
+    const NONCLIENTMETRICSW now = WindowMetricsFor(FDotsPerInch);
     return std::memcmp(&now, &FMetrics, sizeof now) == 0;
 }
 

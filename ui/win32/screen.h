@@ -9,8 +9,8 @@
 
 class TScreen : public TLayoutMetrics {
   public:
-    /// Takes the message font that the user has chosen in Windows.
-    TScreen();
+    /// Takes the message font that the user has chosen in Windows, for a screen of that many dots per inch.
+    explicit TScreen(int dotsPerInch);
     ~TScreen() override;
     TScreen(const TScreen&) = delete;
     TScreen& operator=(const TScreen&) = delete;
@@ -20,6 +20,8 @@ class TScreen : public TLayoutMetrics {
 
     /// A number of pixels in dots of 96 per inch.
     [[nodiscard]] int Unscale(int pixels) const { return MulDiv(pixels, 96, FDotsPerInch); }
+
+    [[nodiscard]] int DotsPerInch() const { return FDotsPerInch; }
 
     /// Whether the fonts and measures are still those that Windows has.
     [[nodiscard]] bool IsCurrent() const;
@@ -32,8 +34,8 @@ class TScreen : public TLayoutMetrics {
   private:
     [[nodiscard]] TSize Measure(const std::wstring& caption, int maxWidth) const;
 
-    NONCLIENTMETRICSW FMetrics;
     int FDotsPerInch;
+    NONCLIENTMETRICSW FMetrics;
     HFONT FFont;
     HFONT FBoldFont;
     HFONT FHeadingFont;
