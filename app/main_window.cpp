@@ -107,10 +107,10 @@ void TQuilltune_FormMain::FormCreate() {
     std::wstring osName;
     GetOSName(FSystem, osName);
     FSystem.Shell.DebugOutput(L"OsName:" + osName);
-    FContext.WindowsLevel = WindowsLevel(osName);
+    FContext.Release = RunningRelease(FSystem);
     for (const TCategoryGroupRow& group : CategoryTable())
         for (std::size_t i = 0; i < group.Items.size(); ++i)
-            if (!group.Items[i].Levels.Include(FContext.WindowsLevel))
+            if (!group.Items[i].Levels.Include(FContext.Release))
                 Find(group.Name)->Children()[i]->SetVisible(false);
     for (const wchar_t* group : {L"RzGroup_CommonSettings", L"RzGroup_Display", L"RzGroup_Use",
                                  L"RzGroup_Communication", L"RzGroup_Manage"}) {

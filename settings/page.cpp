@@ -90,7 +90,7 @@ void TPage::Changed(TComponent& sender) {
 void TPage::HideWhatIsNotOffered() const {
     for (const TOffer& offer : FDefinition.Offers) {
         TControl& control = *FContext.Form.Find(offer.Control);
-        if (offer.Levels.Include(FContext.WindowsLevel)) continue;
+        if (offer.Levels.Include(FContext.Release)) continue;
         control.SetVisible(false);
         if (control.Kind() == TComponentKind::TabSheet)
             static_cast<TPageControl&>(*control.Parent())
@@ -100,14 +100,14 @@ void TPage::HideWhatIsNotOffered() const {
 
 void TPage::NameAsThisWindowsDoes() const {
     for (const TLevelCaption& name : FDefinition.LevelCaptions)
-        if (name.Levels.Include(FContext.WindowsLevel))
+        if (name.Levels.Include(FContext.Release))
             FContext.Form.Find(name.Control)->SetCaption(FContext.Captions[name.Caption]);
 }
 
 bool TPage::IsOffered(const TRow& row) const {
     const auto isHidden = [this](const TControl& control) {
         return std::any_of(FDefinition.Offers.begin(), FDefinition.Offers.end(), [&](const TOffer& offer) {
-            return control.Name() == offer.Control && !offer.Levels.Include(FContext.WindowsLevel);
+            return control.Name() == offer.Control && !offer.Levels.Include(FContext.Release);
         });
     };
     const auto names = ControlsOf(row);
@@ -157,7 +157,7 @@ void TPage::Listen(TControl& container) {
 void TPage::ApplyPreset(const TPreset& preset) const {
     for (const TPresetState& state : preset.States) {
         TControl* control = FContext.Form.Find(state.Control);
-        if (control == nullptr || !state.Levels.Include(FContext.WindowsLevel)) continue;
+        if (control == nullptr || !state.Levels.Include(FContext.Release)) continue;
         SetState(*control, StateFromNumber(*control, state.State));
     }
 }

@@ -300,16 +300,3 @@ std::wstring Words(const TPlace& place) {
 TRowWords WordsOf(const TRow& row) {
     return std::visit([](const auto& kind) { return Entry(kind); }, row);
 }
-
-std::wstring WordsOf(const TLevels& levels) {
-    const auto name = [](int level) -> std::wstring {
-        constexpr const wchar_t* kNames[] = {L"2000", L"XP", L"Vista", L"7"};
-        return level < 4 || level > 7 ? DecimalText(level) : kNames[level - 4];
-    };
-    if (levels.First == kEveryLevel.First && levels.Last == kEveryLevel.Last)
-        return levels.Except < 0 ? L"all" : L"all but " + name(levels.Except);
-    if (levels.First == levels.Last) return name(levels.First);
-    if (levels.First == kEveryLevel.First) return L"up to " + name(levels.Last);
-    if (levels.Last == kEveryLevel.Last) return name(levels.First) + L" and later";
-    return name(levels.First) + L" to " + name(levels.Last);
-}

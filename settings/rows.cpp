@@ -119,16 +119,16 @@ bool RestartOf(const TRow& row) {
 }
 
 void LoadRow(TPageContext& context, const TRow& row) {
-    if (!LevelsOf(row).Include(context.WindowsLevel)) return;
+    if (!LevelsOf(row).Include(context.Release)) return;
     std::visit(
         [&](const auto& kind) {
-            if (kind.LoadedOn.Include(context.WindowsLevel)) Load(context, kind);
+            if (kind.LoadedOn.Include(context.Release)) Load(context, kind);
         },
         row);
 }
 
 void RecordRow(TPageContext& context, const TRow& row, TComponent& sender) {
-    if (!LevelsOf(row).Include(context.WindowsLevel)) return;
+    if (!LevelsOf(row).Include(context.Release)) return;
     const auto names = ControlsOf(row);
     if (std::find(names.begin(), names.end(), sender.Name()) == names.end()) return;
     std::visit(

@@ -16,34 +16,13 @@
 #include <vector>
 
 #include "settings/datum.h"
+#include "settings/levels.h"
 
 class TComponent;
 struct TPageContext;
 
 /// Names of controls, in an array beside the rows.
 using TControlNames = std::span<const wchar_t* const>;
-
-/// A range of Windows levels: 7 Windows 7, 6 Vista, 5 XP, 4 Windows 2000, 0 any other (Server 2003 is one).
-struct TLevels {
-    int First = 0;
-    int Last = 99;
-    int Except = -1;  ///< a level of the range that does not belong to it
-
-    [[nodiscard]] constexpr bool Include(int level) const {
-        return First <= level && level <= Last && level != Except;
-    }
-};
-inline constexpr TLevels kEveryLevel{};
-inline constexpr TLevels kUntil2000{.Last = 4};
-inline constexpr TLevels kNotWindows2000{.Except = 4};
-inline constexpr TLevels kUntilXp{.Last = 5};
-inline constexpr TLevels kOnlyXp{.First = 5, .Last = 5};
-inline constexpr TLevels kSinceXp{.First = 5};
-inline constexpr TLevels kXpAndVista{.First = 5, .Last = 6};
-inline constexpr TLevels kUntilVista{.Last = 6};
-inline constexpr TLevels kOnlyVista{.First = 6, .Last = 6};
-inline constexpr TLevels kSinceVista{.First = 6};
-inline constexpr TLevels kSinceWindows7{.First = 7};
 
 /// What a stored value makes of a check box.
 enum class TBoxState : std::uint8_t {

@@ -80,7 +80,7 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
 /// The switch "Administrative Tools in the Start menu" of Windows 2000, and that of the later ones, whose second column has
 /// a number of its own: 2 shows them in both.
 [[nodiscard]] constexpr TCheckBoxRow AdminToolsRow(const wchar_t* control, TLevels levels) {
-    const bool isText = levels.Last == kUntil2000.Last;
+    const bool isText = levels == kUntil2000;
     TCheckBoxRow row{
         .Control = control,
         .Value = {kCurrentUser, kExplorerAdvanced, L"StartMenuAdminTools"},

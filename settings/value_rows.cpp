@@ -19,7 +19,7 @@ bool IsWhatWrites(const TDatum& datum, const TRegValue& value) {
 namespace {
 
 bool HasFurther(const TPageContext& context, const TChoiceRow& row) {
-    return row.Further && row.Further->Levels.Include(context.WindowsLevel);
+    return row.Further && row.Further->Levels.Include(context.Release);
 }
 
 }  // namespace

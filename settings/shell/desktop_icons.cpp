@@ -174,7 +174,7 @@ constexpr TOffer kOffers[] = {
     {L"Checkbox_Folder_Desktop_ControlPanel", kSinceVista},
     {L"Checkbox_Folder_Desktop_RecycleBin", kSinceXp},
     // Windows 2000 has no list of hidden icons: what its desktop shows are keys.
-    {L"Checkbox_Folder_Desktop_RecycleBinKey", {.Last = 4}},
+    {L"Checkbox_Folder_Desktop_RecycleBinKey", kUntil2000},
     {L"Checkbox_Folder_MyComputer_ShowControlPanel", kOnlyXp},
     {L"Checkbox_Folder_MyComputer_ControlPanel", kSinceVista},
     {L"Checkbox_Folder_MyComputer_ScheduledTasks", kUntilXp},

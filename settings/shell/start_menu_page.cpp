@@ -298,7 +298,6 @@ constexpr TOffer kOffers[] = {
 };
 
 // Printers share their folder with faxes on Windows XP and Server 2003, and with all devices since Windows 7.
-constexpr TLevels kOnlyWindows2000{.First = 4, .Last = 4};
 constexpr TLevelCaption kLevelCaptions[] = {
     {L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", kSinceVista, TCaption::StartMenuDragDrop},
     {L"Checkbox_Use_StartMenu_Common_Classic_MyDocuments", kUntilXp, TCaption::StartMenuClassicMyDocuments},

@@ -191,7 +191,7 @@ TEST(TLanguageFiles, AccessKeysDifferOnEverySheetOfEveryWindows) {
     forms.insert(forms.end(), {&window, &dialog});
     for (const char* language : {"English", "German"}) {
         const TExtIniFile ini = LoadDelivered(language);
-        for (const int level : {4, 5, 6, 7}) {
+        for (const int level : {4, 5, 6, 7, 8, 9, 10, 11}) {
             SCOPED_TRACE(testing::Message() << language << " on level " << level);
             TLevelForms ofLevel{level, ini};
             for (TForm* form : forms) {
