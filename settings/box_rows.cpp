@@ -48,9 +48,11 @@ void RecordFrom(TPageContext& context, const TCheckBoxRow& row, TComponent& send
     const std::wstring name = NameOf(row.ChangeName, row.Control);
     const bool isMissing = row.RecordsWhenMissing && !Stored(context, row.Value);
     Record(context, name, row.Value, isMissing ? *row.RecordsWhenMissing : DatumOf(row.Records, checked));
-    if (row.Further)
-        Record(context, name + row.Further->Suffix, row.Further->Value,
-               DatumOf(row.Further->Records, checked));
+    const auto recordFurther = [&](const TBoxFurther& further) {
+        Record(context, name + further.Suffix, further.Value, DatumOf(further.Records, checked));
+    };
+    if (row.Further) recordFurther(*row.Further);
+    std::ranges::for_each(row.More, recordFurther);
     if (SaysNo(context, row.Policy)) {
         context.RestartNeeded = true;
         RecordNumber(context, name + L"1", *row.Policy, checked ? 0 : 1);

@@ -125,6 +125,7 @@ inline constexpr TLevels kXpToWindows7 = kSinceXp & kUntilWindows7;
 inline constexpr TLevels kOnlyVista = kSinceVista & kUntilVista;
 inline constexpr TLevels kVistaAndWindows7 = kSinceVista & kUntilWindows7;
 inline constexpr TLevels kOnlyWindows7 = kSinceWindows7 & kUntilWindows7;
+inline constexpr TLevels kWindows8And81 = kSinceWindows8 & kUntilWindows8;
 inline constexpr TLevels kOnlyWindows10 = kSinceWindows10 & kUntilWindows10;
 
 /// The releases of the set in words, those that follow each other as one: "2000 to XP", "11 since build 22621".

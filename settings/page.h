@@ -23,7 +23,8 @@ struct TPreset {
 };
 
 /// A control, or a group or sheet with all that lies in it, that is offered on some Windows levels only. Elsewhere it is
-/// hidden, and what lies in it is not loaded.
+/// hidden, and what lies in it is not loaded. Controls whose rows hold on some levels only are hidden elsewhere without it,
+/// and so are groups and sheets in which no setting is left.
 struct TOffer {
     const wchar_t* Control;
     TLevels Levels;
@@ -105,6 +106,7 @@ class TPage {
     void Listen(TControl& container);
     void ListenToRow(const TRow& row);
     void HideWhatIsNotOffered() const;
+    void HideWhatHasNoRow() const;
     void NameAsThisWindowsDoes() const;
     [[nodiscard]] bool IsOffered(const TRow& row) const;
     void ApplyPreset(const TPreset& preset) const;

@@ -12,6 +12,9 @@ inline constexpr const wchar_t* kLogonKeyboard = L"\\.DEFAULT\\Control Panel\\Ke
 inline constexpr const wchar_t* kMouse = L"\\Control Panel\\Mouse\\";
 inline constexpr const wchar_t* kShell = L"\\Software\\Microsoft\\Windows\\Shell\\";
 inline constexpr const wchar_t* kShellNoRoam = L"\\Software\\Microsoft\\Windows\\ShellNoRoam\\";
+/// Where Windows 8 keeps the views of all folders.
+inline constexpr const wchar_t* kShellOfUser =
+    L"\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\";
 
 // Windows Explorer
 
@@ -58,6 +61,10 @@ inline constexpr const wchar_t* kInternetExplorerMain = L"\\Software\\Microsoft\
 inline constexpr const wchar_t* kNewWindows = L"\\Software\\Microsoft\\Internet Explorer\\New Windows\\";
 inline constexpr const wchar_t* kTabbedBrowsing =
     L"\\Software\\Microsoft\\Internet Explorer\\TabbedBrowsing\\";
+inline constexpr const wchar_t* kMaxConnections =
+    L"\\Software\\Microsoft\\Internet Explorer\\MAIN\\FeatureControl\\FEATURE_MAXCONNECTIONSPERSERVER\\";
+inline constexpr const wchar_t* kMaxConnections10 =
+    L"\\Software\\Microsoft\\Internet Explorer\\MAIN\\FeatureControl\\FEATURE_MAXCONNECTIONSPER1_0SERVER\\";
 inline constexpr const wchar_t* kTypedUrls = L"\\Software\\Microsoft\\Internet Explorer\\TypedURLs\\";
 inline constexpr const wchar_t* kInternetSettings =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\";
@@ -83,6 +90,9 @@ inline constexpr const wchar_t* kPacketScheduler = L"\\SOFTWARE\\Policies\\Micro
 inline constexpr const wchar_t* kSecurityCenter = L"\\SOFTWARE\\Microsoft\\Security Center\\";
 inline constexpr const wchar_t* kAutoUpdate =
     L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\WindowsUpdate\\Auto Update\\";
+/// Group policies of updates.
+inline constexpr const wchar_t* kAutoUpdatePolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\WindowsUpdate\\AU\\";
 inline constexpr const wchar_t* kBootOptimize = L"\\SOFTWARE\\Microsoft\\Dfrg\\BootOptimizeFunction\\";
 inline constexpr const wchar_t* kSystemControl = L"\\SYSTEM\\CurrentControlSet\\Control\\";
 inline constexpr const wchar_t* kCrashControl = L"\\SYSTEM\\CurrentControlSet\\Control\\CrashControl\\";
@@ -106,3 +116,7 @@ inline constexpr const wchar_t* kDiscoveryService = L"\\SYSTEM\\CurrentControlSe
 inline constexpr const wchar_t* kDeviceHostService = L"\\SYSTEM\\CurrentControlSet\\Services\\upnphost\\";
 inline constexpr const wchar_t* kFirewallProfile =
     L"\\SYSTEM\\CurrentControlSet\\Services\\SharedAccess\\Parameters\\FirewallPolicy\\StandardProfile\\";
+inline constexpr const wchar_t* kFirewallPublicProfile =
+    L"\\SYSTEM\\CurrentControlSet\\Services\\SharedAccess\\Parameters\\FirewallPolicy\\PublicProfile\\";
+inline constexpr const wchar_t* kFirewallDomainProfile =
+    L"\\SYSTEM\\CurrentControlSet\\Services\\SharedAccess\\Parameters\\FirewallPolicy\\DomainProfile\\";

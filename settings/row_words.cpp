@@ -1,5 +1,6 @@
 #include "settings/row_words.h"
 
+#include <algorithm>
 #include <bit>
 
 #include "base/decimal.h"
@@ -175,9 +176,11 @@ TRowWords Entry(const TCheckBoxRow& row) {
         shows += L"; clear while the policy " + Code(row.Policy->ValueName) + L" is 1";
         writes += L". Checking it also turns that policy off";
     }
-    if (row.Further)
-        writes +=
-            L". Also " + Words(row.Further->Value) + L": " + Words(row.Further->Value, row.Further->Records);
+    const auto addFurther = [&](const TBoxFurther& further) {
+        writes += L". Also " + Words(further.Value) + L": " + Words(further.Value, further.Records);
+    };
+    if (row.Further) addFurther(*row.Further);
+    std::ranges::for_each(row.More, addFurther);
     return {Words(row.Value), shows, writes};
 }
 

@@ -70,6 +70,8 @@ TPlaces Places(const T& row) {
     TPlaces places{row.Value};
     if constexpr (requires { row.Further; })
         if (row.Further) places.push_back(row.Further->Value);
+    if constexpr (requires { row.More; })
+        for (const TBoxFurther& more : row.More) places.push_back(more.Value);
     if constexpr (requires { row.Policy; })
         if (row.Policy) places.push_back(*row.Policy);
     return places;
@@ -106,12 +108,7 @@ std::set<std::wstring> TouchedBy(const TRow& row) {
 }
 
 TLevels LevelsOf(const TRow& row) {
-    return std::visit(
-        [](const auto& kind) {
-            if constexpr (requires { kind.Levels; }) return kind.Levels;
-            return kEveryLevel;
-        },
-        row);
+    return std::visit([](const auto& kind) { return kind.Levels; }, row);
 }
 
 bool RestartOf(const TRow& row) {

@@ -73,11 +73,12 @@ struct TCheckBoxRow {
     TBoxRecord Records;
     std::optional<TDatum> RecordsWhenMissing = std::nullopt;  ///< by either state, while there is no value
     std::optional<TBoxFurther> Further = std::nullopt;
-    const wchar_t* ChangeName = nullptr;  ///< null = the control's name
-    bool Restart = false;                 ///< Windows must restart before the change takes effect
-    TLevels LoadedOn = kEveryLevel;       ///< elsewhere the box keeps its state; it records everywhere
-    TControlNames Enables = {};           ///< of use only while the box is checked
-    TControlNames EnablesOnClick = {};    ///< the same, but left alone by the loader
+    std::span<const TBoxFurther> More = {};  ///< when one is not enough
+    const wchar_t* ChangeName = nullptr;     ///< null = the control's name
+    bool Restart = false;                    ///< Windows must restart before the change takes effect
+    TLevels LoadedOn = kEveryLevel;          ///< elsewhere the box keeps its state; it records everywhere
+    TControlNames Enables = {};              ///< of use only while the box is checked
+    TControlNames EnablesOnClick = {};       ///< the same, but left alone by the loader
     /// A control that the loader enables or disables with the box. A click turns it over, whatever it was.
     const wchar_t* Toggles = nullptr;
     std::optional<TDigits> Refreshes = std::nullopt;  ///< brought up to date by a click, too
@@ -85,7 +86,8 @@ struct TCheckBoxRow {
     /// A policy that takes away what the box stands for while it is 1: the box is clear then, and a click turns
     /// the policy off or on as well, under the suffix 1.
     std::optional<TPlace> Policy = std::nullopt;
-    TLevels Levels = kEveryLevel;  ///< elsewhere another row of the control holds
+    /// Elsewhere another row of the control holds, or it is hidden with its label. So it is with the rows of all kinds.
+    TLevels Levels = kEveryLevel;
 };
 
 /// A key that exists while the box is checked, with an empty text as its default value.
@@ -94,6 +96,7 @@ struct TKeyRow {
     TPlace Value;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// An edit whose text is kept at a place of its own while a box is checked.
@@ -115,6 +118,7 @@ struct TFieldsRow {
     std::span<const TBoxField> Fields;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A Windows service that runs while the box is checked.
@@ -149,6 +153,7 @@ struct TRadioPairRow {
     TLevels LoadedOn = kEveryLevel;
     const wchar_t* FirstShows = nullptr;   ///< a picture that is visible while the first button is checked
     const wchar_t* SecondShows = nullptr;  ///< one that is visible while the second is
+    TLevels Levels = kEveryLevel;
 };
 
 /// A second change of the same choice, recorded under the first one's name with `Suffix` behind it.
@@ -171,6 +176,7 @@ struct TChoiceRow {
     const wchar_t* ChangeName = nullptr;  ///< null = the control's name
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A second place of the same number.
@@ -203,7 +209,7 @@ struct TNumberRow {
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
     std::optional<TPlace> LoadedFrom = std::nullopt;  ///< what shows, where it is not `Value`
-    TLevels Levels = kEveryLevel;                     ///< elsewhere another row of the control holds
+    TLevels Levels = kEveryLevel;
 };
 
 /// An edit whose text is the value, recorded whenever it changes.
@@ -214,6 +220,7 @@ struct TTextRow {
     bool MissingClears = false;             ///< nothing shows then
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A switch and an amount that share one value: the amount while the switch is on, and what stands for off.
@@ -233,6 +240,7 @@ struct TSwitchRow {
     const wchar_t* ChangeName = nullptr;  ///< null = the name of `On`
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A list that stands for some bits of a number.
@@ -253,6 +261,7 @@ struct TListsRow {
     const wchar_t* ChangeName;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A button that lets the user pick a colour, and the swatch that shows it. What is no colour leaves the swatch alone.
@@ -262,6 +271,7 @@ struct TColorRow {
     TPlace Value;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A button that lets the user choose a program, and the edit that shows the command line. What he types there is recorded
@@ -272,6 +282,7 @@ struct TProgramRow {
     TPlace Value;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A setting that no other kind of row describes: functions beside the table do its work.
@@ -282,6 +293,7 @@ struct TSpecialRow {
     void (*Record)(TPageContext& context, const TSpecialRow& row, TComponent& sender);
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 using TRow = std::variant<TCheckBoxRow, TKeyRow, TFieldsRow, TServiceRow, TRadioPairRow, TChoiceRow,
@@ -299,7 +311,8 @@ using TLoader = std::span<const TRow>;
 /// The places that the row writes.
 [[nodiscard]] std::vector<TPlace> PlacesOf(const TRow& row);
 
-/// Where the row holds. A setting whose place differs from one Windows to another has a row for each.
+/// Where the row holds. A setting whose place differs from one Windows to another has a row for each; where none holds, it
+/// is not offered.
 [[nodiscard]] TLevels LevelsOf(const TRow& row);
 
 /// Whether Windows must restart before a change takes effect.

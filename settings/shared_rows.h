@@ -78,7 +78,7 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
 // Start menu and taskbar
 
 /// The switch "Administrative Tools in the Start menu" of Windows 2000, and that of the later ones, whose second column has
-/// a number of its own: 2 shows them in both.
+/// a number of its own: 2 shows them in both; Windows 8 has no such column, and shows them on its Start screen.
 [[nodiscard]] constexpr TCheckBoxRow AdminToolsRow(const wchar_t* control, TLevels levels) {
     const bool isText = levels == kUntil2000;
     TCheckBoxRow row{
@@ -88,7 +88,7 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
         .Records = {.Checked = isText ? Text(L"YES") : Dword(1), .Clear = isText ? Text(L"NO") : Dword(0)},
         .ChangeName = L"CHKmantools",
         .Levels = levels};
-    if (!isText)
+    if (levels == kXpToWindows7)
         row.Further = TBoxFurther{.Suffix = L"1",
                                   .Value = {kCurrentUser, kExplorerAdvanced, L"Start_AdminToolsRoot"},
                                   .Records = {.Checked = Dword(2), .Clear = Dword(0)}};
@@ -100,7 +100,8 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
             .Value = {kCurrentUser, kExplorerAdvanced, L"EnableBalloonTips"},
             .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
             .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-            .Restart = true};
+            .Restart = true,
+            .Levels = kUntilWindows10};
 }
 
 // Input and Explorer
@@ -151,7 +152,19 @@ inline constexpr TBoxRule kShowsWhileRegistered{.Missing = kClear, .Otherwise = 
     return {.Control = control,
             .Value = {kLocalMachine, kFileSystem, L"NtfsDisableLastAccessUpdate"},
             .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-            .Records = {.Checked = Dword(0), .Clear = Dword(1)}};
+            .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+            .Levels = UntilBuild(17133)};
+}
+
+/// Then Windows began to decide itself, as the second bit says, unless the highest one is set without it ("fsutil behavior
+/// set disablelastaccess").
+[[nodiscard]] constexpr TCheckBoxRow ManagedLastAccessRow(const wchar_t* control) {
+    constexpr std::int32_t kUserDecides = std::numeric_limits<std::int32_t>::min();
+    TCheckBoxRow row = LastAccessRow(control);
+    row.LoadedFrom = Bits(1, row.Value);
+    row.Records = {.Checked = Dword(kUserDecides), .Clear = Dword(kUserDecides | 1)};
+    row.Levels = SinceBuild(17134);
+    return row;
 }
 
 [[nodiscard]] constexpr TCheckBoxRow DiskSpaceRow(const wchar_t* control) {

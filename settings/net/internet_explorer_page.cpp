@@ -190,7 +190,17 @@ constexpr TRow kAdvancedRows[] = {
         .Records = {.Checked = Dword(10), .Clear = kDeleteValue},
         .Further = TBoxFurther{.Suffix = L"1",
                                .Value = {kCurrentUser, kInternetSettings, L"MaxConnectionsPer1_0Server"},
-                               .Records = {.Checked = Dword(10), .Clear = kDeleteValue}}},
+                               .Records = {.Checked = Dword(10), .Clear = kDeleteValue}},
+        .Levels = kUntilWindows7},
+    // Since Internet Explorer 8 they are its own (KB 282402).
+    TCheckBoxRow{.Control = L"Checkbox_IE_Advanced_Connection_Count",
+                 .Value = {kCurrentUser, kMaxConnections, L"iexplore.exe"},
+                 .Shows = {.Missing = kClear, .When = {{10, kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Dword(10), .Clear = kDeleteValue},
+                 .Further = TBoxFurther{.Suffix = L"1",
+                                        .Value = {kCurrentUser, kMaxConnections10, L"iexplore.exe"},
+                                        .Records = {.Checked = Dword(10), .Clear = kDeleteValue}},
+                 .Levels = kSinceWindows8},
     OneOrZero(L"Checkbox_IE_Advanced_Warning_Certificate", kInternetSettings, L"WarnonBadCertRecving",
               kChecked),
     OneOrZero(L"Checkbox_IE_Advanced_Warning_Zone", kInternetSettings, L"WarnonZoneCrossing", kClear),
@@ -205,7 +215,8 @@ constexpr TRow kAdvancedRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_IE_Advanced_Warning_Update",
                  .Value = {kCurrentUser, kInternetExplorerMain, L"NoUpdateCheck"},
                  .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
 };
 
 constexpr TLoader kLoaders[] = {kCommonRows, kTabRows, kAutoCompleteRows, kAdvancedRows};

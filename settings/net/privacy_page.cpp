@@ -35,6 +35,8 @@ constexpr const wchar_t* kAutoUpdateType[] = {L"CB_Privacy_Common_AutoUpdate_Typ
 
 constexpr TRow kCommonRows[] = {
     AutoUpdateRow(L"Checkbox_Privacy_Common_AutoUpdate_Active", kAutoUpdateType),
+    AutoUpdatePolicyRow(L"Checkbox_Privacy_Common_AutoUpdate_Active", kAutoUpdateType),
+    AutoUpdateTypePolicyRow(kAutoUpdateType[0]),
 };
 
 constexpr TRow kCleanTracesRows[] = {
@@ -42,7 +44,8 @@ constexpr TRow kCleanTracesRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_CleanTraces_ClearIECache_ClearOnExit",
                  .Value = {kCurrentUser, kInternetCache, L"Persistent"},
                  .Shows = {.When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows10},
 };
 
 constexpr TRow kInternetExplorerRows[] = {
@@ -50,11 +53,13 @@ constexpr TRow kInternetExplorerRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Privacy_IE_Authentication_Enable",
                  .Value = {kCurrentUser, kInternetSettings, L"EnableNegotiate"},
                  .Shows = {.When = {{0, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows10},
     TCheckBoxRow{.Control = L"Checkbox_Privacy_IE_Update_Stop",
                  .Value = {kCurrentUser, kWebcheck, L"NoScheduledUpdates"},
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Levels = kUntilWindows7},
 };
 
 constexpr TLoader kLoaders[] = {kCommonRows, kCleanTracesRows, kInternetExplorerRows};

@@ -38,12 +38,21 @@ constexpr TRow kCommonRows[] = {
                  .Value = {kLocalMachine, kIdeController, L"EnableUDMA66"},
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Restart = true},
+                 .Restart = true,
+                 .Levels = kUntilWindows7},
     LastAccessRow(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData"),
+    ManagedLastAccessRow(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData"),
     TCheckBoxRow{.Control = L"Checkbox_Drives_Common_NTFS_SaveShortName",
                  .Value = {kLocalMachine, kFileSystem, L"NtfsDisable8dot3NameCreation"},
                  .Shows = {.When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
+    // From Windows 8 on 2 leaves it to each volume, as Windows does by itself.
+    TCheckBoxRow{.Control = L"Checkbox_Drives_Common_NTFS_SaveShortName",
+                 .Value = {kLocalMachine, kFileSystem, L"NtfsDisable8dot3NameCreation"},
+                 .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = Dword(2), .Clear = Dword(1)},
+                 .Levels = kSinceWindows8},
 };
 
 constexpr TRow kDiskSpaceRows[] = {DiskSpaceRow(L"Checkbox_Drives_DiskSpace_SpaceWarn_ShowWarn")};

@@ -123,8 +123,10 @@ void LoadUnknown(TPageContext& context, const TSpecialRow& row) {
     context.Form.Find<TRadioButton>(row.Controls[opening])->SetChecked(true);
 }
 
+/// Of the files of unknown type; where there is no choice for them, the group's own.
 std::wstring UnknownCommand(const TPageContext& context) {
-    return std::wstring(Trim(context.Form.Find<TEdit>(kUnknownEdit)->Text()));
+    const wchar_t* edit = kUntilWindows7.Include(context.Release) ? kUnknownEdit : kNoEndExeEdit;
+    return std::wstring(Trim(context.Form.Find<TEdit>(edit)->Text()));
 }
 
 /// The program needs two entries, the verb and its command, of which none may share its name with the
@@ -156,17 +158,23 @@ void RecordNoEndExe(TPageContext& context, const TSpecialRow& row, TComponent& s
         Record(context, sender.Name(), row.Places[0], kDeleteKey);
 }
 
+// From Windows 8 on the classes of unknown files belong to Windows itself, which refuses changes, and the Web service is gone.
 constexpr TRow kOpenFileRows[] = {
     // Special because the verb and its command are two entries, of which none may share its name with the dialog's.
-    TSpecialRow{
-        .Controls = kUnknownRadios, .Places = kUnknownPlaces, .Load = LoadUnknown, .Record = RecordUnknown},
+    TSpecialRow{.Controls = kUnknownRadios,
+                .Places = kUnknownPlaces,
+                .Load = LoadUnknown,
+                .Record = RecordUnknown,
+                .Levels = kUntilWindows7},
     TProgramRow{.Button = kUnknownChange,
                 .Edit = kUnknownEdit,
-                .Value = DefaultOf(L"\\Unknown\\shell\\open\\command\\")},
+                .Value = DefaultOf(L"\\Unknown\\shell\\open\\command\\"),
+                .Levels = kUntilWindows7},
     TCheckBoxRow{.Control = kNet,
                  .Value = kNoInternetOpenWith,
                  .Shows = {.When = {{L"0", kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
     // Special because it shows the value of another setting and takes its command from another edit.
     TSpecialRow{.Controls = kNoEndExeRadios,
                 .Places = kNoEndExePlaces,
@@ -200,7 +208,8 @@ constexpr TRow kAdvancedRows[] = {
                                         .Value = DefaultOf(L"\\CLSID\\{e84fda7c-1d6a-45f6-b725-cb260c236066}"
                                                            L"\\shellex\\MayChangeDefaultMenu"),
                                         .Records = {.Checked = Text(L""), .Clear = kDeleteKey}},
-                 .LoadedFrom = kLink},
+                 .LoadedFrom = kLink,
+                 .Levels = kUntilWindows7},
 };
 
 constexpr TLoader kLoaders[] = {kMenuOperationRows, kOpenFileRows, kAdvancedRows};
@@ -228,8 +237,8 @@ constexpr const wchar_t* kNetControls[] = {kNet};
 constexpr const wchar_t* kUnknownProgram[] = {kUnknownEdit, kUnknownChange};
 constexpr const wchar_t* kNoEndExeProgram[] = {kNoEndExeEdit, kNoEndExeChange};
 constexpr TNeed kNeeds[] = {
-    {.Controls = kNetControls, .Of = kUnknownRadios[kWithDialog]},
-    {.Controls = kUnknownProgram, .Of = kUnknownRadios[kWithProgram]},
+    {.Controls = kNetControls, .Of = kUnknownRadios[kWithDialog], .Levels = kUntilWindows7},
+    {.Controls = kUnknownProgram, .Of = kUnknownRadios[kWithProgram], .Levels = kUntilWindows7},
     {.Controls = kNoEndExeProgram, .Of = kNoEndExeRadios[kWithProgram]},
 };
 

@@ -46,12 +46,14 @@ constexpr TRow kViewRows[] = {
                 .Places = kTreePlaces,
                 .Load = LoadTree,
                 .Record = RecordTree,
-                .LoadedOn = kUntilXp},
+                .LoadedOn = kUntilXp,
+                .Levels = kUntilWindows7},
     TCheckBoxRow{.Control = L"Checkbox_Folder_View_Windows_ShowMenuBar",
                  .Value = {kCurrentUser, kExplorerAdvancedUpper, L"AlwaysShowMenus"},
                  .Shows = {.Missing = kChecked, .When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .LoadedOn = kSinceVista},
+                 .LoadedOn = kSinceVista,
+                 .Levels = kUntilWindows7},
     // The policy's mere presence counts, whatever its value.
     TCheckBoxRow{.Control = L"Checkbox_Folder_View_Windows_Details",
                  .Value = {kCurrentUser, kExplorerPoliciesUpper, L"NoPreviewPane"},
@@ -64,14 +66,20 @@ constexpr TRow kViewRows[] = {
                  .Value = {kCurrentUser, kExplorerAdvancedUpper, L"ClassicViewState"},
                  .Shows = {.Missing = kChecked, .When = {{0, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-                 .Enables = kCountControls},
+                 .Enables = kCountControls,
+                 .Levels = kUntilWindows7},
     // Windows keeps the views of network folders (Shell) and of local ones (ShellNoRoam) apart.
     TNumberRow{
         .Control = kCount,
         .Value = {kCurrentUser, kShell, L"BagMRU Size"},
         .Further = TNumberFurther{.Suffix = L"2", .Value = {kCurrentUser, kShellNoRoam, L"BagMRU Size"}},
         .Suffix = L"1",
-        .Digits = kCountShow},
+        .Digits = kCountShow,
+        .Levels = kUntilWindows7},
+    TNumberRow{.Control = kCount,
+               .Value = {kCurrentUser, kShellOfUser, L"BagMRU Size"},
+               .Digits = kCountShow,
+               .Levels = kSinceWindows8},
 };
 
 constexpr const wchar_t* kFileTipEnables[] = {L"Checkbox_Folder_List_Details_FolderTip"};
@@ -79,6 +87,23 @@ constexpr const wchar_t* kColorButtons[] = {L"Button_Folder_List_CompressedFile_
                                             L"Button_Folder_List_EncryptedFile_Change"};
 constexpr const wchar_t* kColorLabels[] = {L"Label_Folder_List_CompressedFile",
                                            L"Label_Folder_List_EncryptedFile"};
+/// Windows 8 gave encrypted files a value of their own beside that of all.
+constexpr TCheckBoxRow ColorRow(TLevels levels) {
+    TCheckBoxRow row{.Control = L"Checkbox_Folder_List_EAndCFileWithColor",
+                     .Value = {kCurrentUser, kExplorerAdvancedUpper, L"ShowCompColor"},
+                     .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
+                     .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                     .Enables = kColorButtons,
+                     .EnablesOnClick = kColorLabels,
+                     .Levels = levels};
+    if (levels == kSinceWindows8)
+        row.Further =
+            TBoxFurther{.Suffix = L"1",
+                        .Value = {kCurrentUser, kExplorerAdvancedUpper, L"ShowEncryptCompressedColor"},
+                        .Records = row.Records};
+    return row;
+}
+
 constexpr TRow kListRows[] = {
     TCheckBoxRow{.Control = kFileTip,
                  .Value = {kCurrentUser, kExplorerAdvancedUpper, L"ShowInfoTip"},
@@ -98,12 +123,8 @@ constexpr TRow kListRows[] = {
                   .FirstWhen = 0,
                   .FirstRecords = Dword(0),
                   .SecondRecords = Dword(1)},
-    TCheckBoxRow{.Control = L"Checkbox_Folder_List_EAndCFileWithColor",
-                 .Value = {kCurrentUser, kExplorerAdvancedUpper, L"ShowCompColor"},
-                 .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Enables = kColorButtons,
-                 .EnablesOnClick = kColorLabels},
+    ColorRow(kUntilWindows7),
+    ColorRow(kSinceWindows8),
     TColorRow{.Button = L"Button_Folder_List_CompressedFile_Change",
               .Swatch = L"Ctrbar_Folder_List_CompressedFile_Color",
               .Value = As(TCoding::ColorBytes, {kCurrentUser, kExplorerUpper, L"AltColor"})},
@@ -117,13 +138,16 @@ constexpr TRow kThumbnailRows[] = {
                .Value = {kCurrentUser, kExplorerUpper, L"ThumbnailSize"},
                .Source = TNumberSource::Typed,
                .Edit = L"Edit_Folder_Thumbnail_Size",
-               .ChangeName = L"Edit_Folder_Thumbnail_Size"},
+               .ChangeName = L"Edit_Folder_Thumbnail_Size",
+               .Levels = kUntilWindows7},
     TNumberRow{.Control = L"Trackbar_Folder_Thumbnail_Quality",
-               .Value = {kCurrentUser, kExplorerUpper, L"ThumbnailQuality"}},
+               .Value = {kCurrentUser, kExplorerUpper, L"ThumbnailQuality"},
+               .Levels = kUntilWindows7},
     TCheckBoxRow{.Control = L"Checkbox_Folder_Thumbnail_Cache",
                  .Value = {kCurrentUser, kExplorerAdvancedUpper, L"DisableThumbnailCache"},
                  .Shows = {.When = {{0, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
 };
 
 constexpr TRow kChooseRows[] = {

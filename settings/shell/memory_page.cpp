@@ -46,7 +46,8 @@ constexpr TRow kMemoryUseRows[] = {
                   .FirstWhen = 1,
                   .FirstRecords = Dword(1),
                   .SecondRecords = Dword(0),
-                  .Restart = true},
+                  .Restart = true,
+                  .Levels = kUntilWindows7},
 };
 
 constexpr TLoader kLoaders[] = {kMemoryManageRows, kMemoryUseRows};

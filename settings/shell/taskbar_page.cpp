@@ -85,6 +85,8 @@ constexpr TRow kFlashRows[] = {
 };
 
 constexpr TDatum kCombineValues[] = {Dword(0), Dword(1), Dword(2)};
+/// Windows 11 learned in its third year to show buttons that are not combined.
+constexpr TLevels kNotFirstWindows11 = UntilBuild(21999) | SinceBuild(22631);
 
 constexpr TRow kButtonRows[] = {
     // Windows calls it "size and move".
@@ -92,11 +94,13 @@ constexpr TRow kButtonRows[] = {
                  .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarSizeMove"},
                  .Shows = {.Missing = kChecked, .When = {{0, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-                 .Restart = true},
+                 .Restart = true,
+                 .Levels = kUntilWindows10},
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Bar_Peek",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"DisablePreviewDesktop"},
                  .Shows = {.Missing = kChecked, .When = {{0, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows10},
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Group_Active",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarGlomming"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
@@ -109,11 +113,13 @@ constexpr TRow kButtonRows[] = {
     TChoiceRow{.Control = L"CB_Taskbar_ButtonAppearance_Look_Combine",
                .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarGlomLevel"},
                .Items = kCombineValues,
-               .Missing = 0},
+               .Missing = 0,
+               .Levels = kNotFirstWindows11},
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarSmallIcons"},
                  .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Levels = kUntilWindows10},
 };
 
 constexpr TRow kNotificationRows[] = {
@@ -122,12 +128,13 @@ constexpr TRow kNotificationRows[] = {
                  .Value = {kCurrentUser, kExplorer, L"EnableAutoTray"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Restart = true},
+                 .Restart = true,
+                 .Levels = kUntilWindows10},
     PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Clock", L"HideClock"),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Volume", L"HideSCAVolume"),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Network", L"HideSCANetwork"),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Power", L"HideSCAPower"),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_ActionCenter", L"HideSCAHealth"),
+    On(kUntilWindows10, PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Volume", L"HideSCAVolume")),
+    On(kUntilWindows10, PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Network", L"HideSCANetwork")),
+    On(kUntilWindows10, PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Power", L"HideSCAPower")),
+    On(kUntilWindows10, PolicyRow(L"Checkbox_Taskbar_Notification_Icons_ActionCenter", L"HideSCAHealth")),
     BalloonTipsRow(L"Checkbox_Taskbar_Notification_Balloons_Show"),
 };
 
