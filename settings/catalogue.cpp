@@ -329,7 +329,9 @@ std::vector<std::pair<const TSetting*, TControlState>> TCatalogue::PresetStates(
     const TPageContext& context = FOwners.at(&preset)->Context();
     for (const TPresetState& state : preset.Preset->States)
         if (const TSetting* setting = Find(state.Control);
-            setting != nullptr && state.Levels.Include(context.Release))
+            setting != nullptr && state.Levels.Include(context.Release) &&
+            std::ranges::any_of(setting->Rows,
+                                [&](const TRow* row) { return LevelsOf(*row).Include(context.Release); }))
             states.emplace_back(setting, StateFromNumber(ControlOf(*setting), state.State));
     return states;
 }

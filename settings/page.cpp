@@ -162,6 +162,18 @@ bool TPage::IsOffered(const TRow& row) const {
     return true;
 }
 
+bool TPage::IsHeld(const std::wstring& control) const {
+    bool isOwn = false;
+    for (const TLoader& loader : FDefinition.Loaders) {
+        for (const TRow& row : loader) {
+            if (std::ranges::count(ControlsOf(row), control) == 0) continue;
+            if (LevelsOf(row).Include(FContext.Release)) return true;
+            isOwn = true;
+        }
+    }
+    return !isOwn;
+}
+
 /// Buttons, lists and edits are of many kinds; those that stand for a setting are named by its row.
 void TPage::ListenToRow(const TRow& row) {
     const TNotifyEvent changed = [this](TComponent& sender) { Changed(sender); };
@@ -203,7 +215,8 @@ void TPage::Listen(TControl& container) {
 void TPage::ApplyPreset(const TPreset& preset) const {
     for (const TPresetState& state : preset.States) {
         TControl* control = FContext.Form.Find(state.Control);
-        if (control == nullptr || !state.Levels.Include(FContext.Release)) continue;
+        if (control == nullptr || !state.Levels.Include(FContext.Release) || !IsHeld(control->Name()))
+            continue;
         SetState(*control, StateFromNumber(*control, state.State));
     }
 }

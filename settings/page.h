@@ -16,7 +16,8 @@ struct TPresetState {
     TLevels Levels = kEveryLevel;
 };
 
-/// A Default or preset button. It only sets control states; the controls' own events record the changes.
+/// A Default or preset button. It only sets control states, of settings that this Windows has; the controls' own events record
+/// the changes.
 struct TPreset {
     const wchar_t* Button;
     std::span<const TPresetState> States;
@@ -109,6 +110,8 @@ class TPage {
     void HideWhatHasNoRow() const;
     void NameAsThisWindowsDoes() const;
     [[nodiscard]] bool IsOffered(const TRow& row) const;
+    /// Whether a row of the control holds on this Windows. So it is for controls of other pages.
+    [[nodiscard]] bool IsHeld(const std::wstring& control) const;
     void ApplyPreset(const TPreset& preset) const;
 
     const TPageDefinition& FDefinition;

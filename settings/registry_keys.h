@@ -33,6 +33,16 @@ inline constexpr const wchar_t* kExplorerPoliciesUpper =
     L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\policies\\Explorer\\";
 inline constexpr const wchar_t* kExplorerAutoComplete =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\AutoComplete\\";
+/// What later Windows' policies of the shell are.
+inline constexpr const wchar_t* kUserShellPolicies = L"\\Software\\Policies\\Microsoft\\Windows\\Explorer\\";
+inline constexpr const wchar_t* kTaskbarDeveloper =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\TaskbarDeveloperSettings\\";
+inline constexpr const wchar_t* kSearch = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Search\\";
+inline constexpr const wchar_t* kSearchPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\Windows Search\\";
+inline constexpr const wchar_t* kWidgetPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Dsh\\";
+inline constexpr const wchar_t* kFeedPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\Windows Feeds\\";
+inline constexpr const wchar_t* kChatPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\Windows Chat\\";
 inline constexpr const wchar_t* kCabinetState =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\CabinetState\\";
 inline constexpr const wchar_t* kCommonDialogPolicies =

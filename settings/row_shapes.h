@@ -22,6 +22,24 @@
             .Restart = true};
 }
 
+/// Something that is there unless a policy, of this number, forbids it. Checking takes the policy away, and with it the hold
+/// over what the user chooses in Windows.
+[[nodiscard]] constexpr TCheckBoxRow AllowedBox(const wchar_t* control, TPlace policy, std::int32_t forbids) {
+    return {.Control = control,
+            .Value = policy,
+            .Shows = {.Missing = kChecked, .When = {{forbids, kClear}}, .Otherwise = kChecked},
+            .Records = {.Checked = kDeleteValue, .Clear = Dword(forbids)}};
+}
+
+/// A choice in one of Explorer's own dialogs.
+[[nodiscard]] constexpr TCheckBoxRow ExplorerOption(const wchar_t* control, const wchar_t* valueName,
+                                                    TBoxState missing = kChecked) {
+    return {.Control = control,
+            .Value = {kCurrentUser, kExplorerAdvanced, valueName},
+            .Shows = {.Missing = missing, .When = {{0, kClear}}, .Otherwise = kChecked},
+            .Records = {.Checked = Dword(1), .Clear = Dword(0)}};
+}
+
 /// The row of a preference that a policy can overrule.
 [[nodiscard]] constexpr TCheckBoxRow Unless(const wchar_t* policy, TCheckBoxRow row) {
     row.Policy = ExplorerPolicy(policy);

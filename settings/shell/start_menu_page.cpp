@@ -94,15 +94,6 @@ TControlDesign Design() {
                   Buttons(Button(L"Button_Use_StartMenu_RecentlyUse_Default", L"&Default")))));
 }
 
-/// A choice in the Start menu's own dialog.
-constexpr TCheckBoxRow Option(const wchar_t* control, const wchar_t* valueName,
-                              TBoxState missing = kChecked) {
-    return {.Control = control,
-            .Value = {kCurrentUser, kExplorerAdvanced, valueName},
-            .Shows = {.Missing = missing, .When = {{0, kClear}}, .Otherwise = kChecked},
-            .Records = {.Checked = Dword(1), .Clear = Dword(0)}};
-}
-
 /// Choices of the classic Start menu are texts.
 constexpr TCheckBoxRow Cascading(const wchar_t* control, const wchar_t* valueName) {
     return {.Control = control,
@@ -117,16 +108,20 @@ constexpr const wchar_t* kClassicPrinters = L"Checkbox_Use_StartMenu_Common_Clas
 
 constexpr TRow kCommonRows[] = {
     On(kOnlyXp, PolicyRow(kUserName, L"NoUserNameInStartMenu")),
-    On(kVistaAndWindows7, Option(kUserName, L"Start_ShowUser")),
+    On(kVistaAndWindows7, ExplorerOption(kUserName, L"Start_ShowUser")),
     TCheckBoxRow{.Control = L"Checkbox_Use_StartMenu_Common_Behaviour_Classic",
                  .Value = {kCurrentUser, kExplorerPolicies, L"NoSimpleStartMenu"},
                  .Shows = {.Missing = kClear, .When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Restart = true},
-    On(kUntilWindows7, Option(L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade", L"Start_AutoCascade")),
-    On(kUntilWindows7, Option(L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", L"Start_EnableDragDrop")),
-    On(kUntilWindows7, Option(L"Checkbox_Use_StartMenu_Common_Behaviour_NewApps", L"Start_NotifyNewApps")),
-    On(kUntilWindows7, Option(L"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons", L"Start_LargeMFUIcons")),
+    On(kUntilWindows7,
+       ExplorerOption(L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade", L"Start_AutoCascade")),
+    On(kUntilWindows7,
+       ExplorerOption(L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", L"Start_EnableDragDrop")),
+    On(kUntilWindows7,
+       ExplorerOption(L"Checkbox_Use_StartMenu_Common_Behaviour_NewApps", L"Start_NotifyNewApps")),
+    On(kUntilWindows7,
+       ExplorerOption(L"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons", L"Start_LargeMFUIcons")),
     On(kUntil2000, PolicyRow(kPersonalized, L"Intellimenus")),
     TCheckBoxRow{.Control = kPersonalized,
                  .Value = {kCurrentUser, kExplorerAdvanced, L"IntelliMenus"},
@@ -158,7 +153,7 @@ constexpr TChoiceRow Folder(const wchar_t* control, const wchar_t* valueName, in
 }
 
 constexpr const wchar_t* kRun = L"Checkbox_Use_StartMenu_Items_Run";
-constexpr const wchar_t* kSearch = L"Checkbox_Use_StartMenu_Items_Search";
+constexpr const wchar_t* kSearchItem = L"Checkbox_Use_StartMenu_Items_Search";
 constexpr const wchar_t* kHelp = L"Checkbox_Use_StartMenu_Items_Help";
 constexpr const wchar_t* kNetConn = L"Checkbox_Use_StartMenu_Items_NetConn";
 constexpr const wchar_t* kPrinters = L"Checkbox_Use_StartMenu_Items_Printers";
@@ -175,21 +170,22 @@ constexpr TRow kItemRows[] = {
     Folder(L"CB_Use_StartMenu_Items_ControlPanel", L"Start_ShowControlPanel"),
     Folder(L"CB_Use_StartMenu_Items_NetConn", L"Start_ShowNetConn", kMenu),
     On(kUntil2000, PolicyRow(kRun, L"NoRun")),
-    On(kOnlyXp, Unless(L"NoRun", Option(kRun, L"Start_ShowRun"))),
-    On(kVistaAndWindows7, Unless(L"NoRun", Option(kRun, L"Start_ShowRun", kClear))),
-    On(kUntil2000, PolicyRow(kSearch, L"NoFind")),
-    On(kOnlyXp, Unless(L"NoFind", Option(kSearch, L"Start_ShowSearch"))),
-    On(kOnlyVista, Option(kSearch, L"Start_ShowSearch")),
+    On(kOnlyXp, Unless(L"NoRun", ExplorerOption(kRun, L"Start_ShowRun"))),
+    On(kVistaAndWindows7, Unless(L"NoRun", ExplorerOption(kRun, L"Start_ShowRun", kClear))),
+    On(kUntil2000, PolicyRow(kSearchItem, L"NoFind")),
+    On(kOnlyXp, Unless(L"NoFind", ExplorerOption(kSearchItem, L"Start_ShowSearch"))),
+    On(kOnlyVista, ExplorerOption(kSearchItem, L"Start_ShowSearch")),
     On(kUntil2000, PolicyRow(kHelp, L"NoSMHelp")),
-    On(kXpToWindows7, Unless(L"NoSMHelp", Option(kHelp, L"Start_ShowHelp"))),
-    On(kUntilWindows7, Option(L"Checkbox_Use_StartMenu_Items_Favorites", L"StartMenuFavorites", kClear)),
-    On(kOnlyVista, Option(kNetConn, L"Start_ShowNetConn")),
-    On(kOnlyWindows7, Option(kNetConn, L"Start_ShowNetConn", kClear)),
-    On(kOnlyXp, Option(kPrinters, L"Start_ShowPrinters")),
-    On(kOnlyVista, Option(kPrinters, L"Start_ShowPrinters", kClear)),
-    On(kOnlyWindows7, Option(kPrinters, L"Start_ShowPrinters")),
+    On(kXpToWindows7, Unless(L"NoSMHelp", ExplorerOption(kHelp, L"Start_ShowHelp"))),
     On(kUntilWindows7,
-       Option(L"Checkbox_Use_StartMenu_Items_Programs", L"Start_ShowSetProgramAccessAndDefaults")),
+       ExplorerOption(L"Checkbox_Use_StartMenu_Items_Favorites", L"StartMenuFavorites", kClear)),
+    On(kOnlyVista, ExplorerOption(kNetConn, L"Start_ShowNetConn")),
+    On(kOnlyWindows7, ExplorerOption(kNetConn, L"Start_ShowNetConn", kClear)),
+    On(kOnlyXp, ExplorerOption(kPrinters, L"Start_ShowPrinters")),
+    On(kOnlyVista, ExplorerOption(kPrinters, L"Start_ShowPrinters", kClear)),
+    On(kOnlyWindows7, ExplorerOption(kPrinters, L"Start_ShowPrinters")),
+    On(kUntilWindows7,
+       ExplorerOption(L"Checkbox_Use_StartMenu_Items_Programs", L"Start_ShowSetProgramAccessAndDefaults")),
     AdminToolsRow(kAdminTools, kUntil2000),
     AdminToolsRow(kAdminTools, kXpToWindows7),
     AdminToolsRow(kAdminTools, kWindows8And81),
@@ -205,7 +201,8 @@ constexpr const wchar_t* kJumpListCount = L"UpDown_Use_StartMenu_RecentlyUse_Jum
 
 /// Recent documents appear as a menu, the only way there is.
 constexpr TCheckBoxRow RecentDocuments(TBoxState missing) {
-    TCheckBoxRow row = Unless(L"NoRecentDocsMenu", Option(kShowDocuments, L"Start_ShowRecentDocs", missing));
+    TCheckBoxRow row =
+        Unless(L"NoRecentDocsMenu", ExplorerOption(kShowDocuments, L"Start_ShowRecentDocs", missing));
     row.Records.Checked = Dword(kMenu);
     return row;
 }
@@ -223,7 +220,7 @@ constexpr int kJumpListItems = 10;
 
 constexpr TRow kRecentlyUsedRows[] = {
     On(kUntilXp, PolicyRow(kKeepDocuments, L"NoRecentDocsHistory")),
-    On(kSinceVista, Unless(L"NoRecentDocsHistory", Option(kKeepDocuments, L"Start_TrackDocs"))),
+    On(kSinceVista, Unless(L"NoRecentDocsHistory", ExplorerOption(kKeepDocuments, L"Start_TrackDocs"))),
     On(kUntil2000, PolicyRow(kShowDocuments, L"NoRecentDocsMenu")),
     On(kXpAndVista, RecentDocuments(kChecked)),
     On(kOnlyWindows7, RecentDocuments(kClear)),
@@ -232,7 +229,7 @@ constexpr TRow kRecentlyUsedRows[] = {
                .Restart = true,
                .Levels = kUntilWindows7},
     On(kUntilVista, PolicyRow(kKeepPrograms, L"NoInstrumentation")),
-    On(kSinceWindows7, Option(kKeepPrograms, L"Start_TrackProgs")),
+    On(kSinceWindows7, ExplorerOption(kKeepPrograms, L"Start_TrackProgs")),
     // The Start screen of Windows 8 has no such list.
     On(~kWindows8And81, PolicyRow(kShowPrograms, L"NoStartMenuMFUprogramsList")),
     ProgramCount(kOnlyXp, kProgramsOnXp),
@@ -294,7 +291,7 @@ constexpr TOffer kOffers[] = {
     {L"CB_Use_StartMenu_Items_Downloads", kSinceWindows7},
     {L"Label_Use_StartMenu_Items_NetConn", kOnlyXp},
     {L"CB_Use_StartMenu_Items_NetConn", kOnlyXp},
-    {kSearch, kUntilVista},
+    {kSearchItem, kUntilVista},
     {L"Checkbox_Use_StartMenu_Items_Favorites", kSinceXp},
     {kNetConn, kSinceVista},
     {kPrinters, kSinceXp},

@@ -72,6 +72,70 @@ constexpr TExplanation kTexts[] = {
      "The edge of the desktop at which the small title bars of minimized windows begin. Has no effect while "
      "they are hidden."},
     {"Button_Taskbar_MinWindow_Default", "Hides minimized windows, as the desktop does by itself."},
+    {"CB_Taskbar_Modern_Alignment",
+     "In the center the icons move when programs are added; at the left the Start button stays in its "
+     "corner, as in earlier versions."},
+    {"CB_Taskbar_Modern_Search",
+     "A box takes much room; the icon, or simply typing in the Start menu, searches just as well."},
+    {"Checkbox_Taskbar_Modern_SearchHighlights",
+     "Drawings and news of the day in the search box and its window, fetched from Microsoft. Clearing leaves "
+     "the plain search, for all users."},
+    {"Checkbox_Taskbar_Modern_TaskView",
+     "The button that shows all windows and further desktops. Windows key + Tab does the same without it."},
+    {"Checkbox_Taskbar_Modern_Widgets",
+     "Weather, news and other small displays at the end of the taskbar. Clearing turns them off for all "
+     "users of this computer."},
+    {"Checkbox_Taskbar_Modern_LockScreenWidgets",
+     "Weather, traffic and the like below the clock of the lock screen, which anybody can see who passes. "
+     "For all users."},
+    {"Checkbox_Taskbar_Modern_News",
+     "Weather and headlines on the taskbar of Windows 10, which open when the pointer passes over them. "
+     "Clearing removes them for all users."},
+    {"Checkbox_Taskbar_Modern_Chat",
+     "The icon of Teams for private users, which the first versions of Windows 11 bring along. For all "
+     "users."},
+    {"Checkbox_Taskbar_Modern_People",
+     "The button of Windows 10 to which you can pin people. Few programs ever used it."},
+    {"Checkbox_Taskbar_Modern_Badges",
+     "Small marks such as the number of unread messages on the icons of programs. With small icons Windows "
+     "10 shows none."},
+    {"Checkbox_Taskbar_Modern_Flashing",
+     "Icons turn red and blink when a program wants something. Without this they only get a mark."},
+    {"Checkbox_Taskbar_Modern_Sharing",
+     "Offers to show a window to the others during a call, when you point at its taskbar button. Clear it if "
+     "you share one by accident."},
+    {"Checkbox_Taskbar_Modern_Corner",
+     "A click at the very end of the taskbar minimizes all windows. Windows key + D does the same."},
+    {"Checkbox_Taskbar_Modern_EndTask",
+     "Ends a program that no longer answers without Task Manager. Unsaved work in it is lost, and it is not "
+     "asked."},
+    {"Checkbox_Taskbar_Modern_LastActive",
+     "Otherwise the click shows small pictures of all its windows first. Holding down Ctrl does the same for "
+     "one click."},
+    {"Checkbox_Taskbar_Modern_RemoteJumpLists",
+     "Jump Lists then also name files on servers. Clear it if opening the list waits for a slow network."},
+    {"Button_Taskbar_Modern_Default",
+     "Chooses buttons and search as in a new Windows, and takes the policies of this sheet away."},
+    {"Checkbox_Taskbar_Screens_All",
+     "With more than one screen each gets a taskbar of its own. The clock may be missing on the others."},
+    {"CB_Taskbar_Screens_Buttons",
+     "With several taskbars you choose whether each shows all windows or only those of its own screen. Has "
+     "no effect with one taskbar."},
+    {"CB_Taskbar_Screens_Combine",
+     "Holds for the taskbars of the further screens; that of the main screen has its own choice."},
+    {"Checkbox_Taskbar_Messages_Seconds",
+     "The clock counts the seconds. It takes a little more power, which matters on battery only."},
+    {"Checkbox_Taskbar_Messages_Center",
+     "The pane with past notifications, on Windows 10 also with the quick settings. Messages still pop up "
+     "without it, but cannot be read later."},
+    {"Checkbox_Taskbar_Messages_Promotion",
+     "Windows brings icons out of the overflow when you use them often. Clear it if the order is to stay as "
+     "you made it."},
+    {"Checkbox_Taskbar_Messages_MeetNow",
+     "The camera beside the clock of Windows 10 that starts a video call with Skype. Skype is no longer run "
+     "by Microsoft."},
+    {"Button_Taskbar_Screens_Default",
+     "Chooses the taskbars, the clock and the messages as in a new Windows."},
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "settings/shell/taskbar_page.h"
 
 #include "settings/shared_rows.h"
+#include "settings/shell/taskbar_modern.h"
 
 namespace {
 
@@ -63,7 +64,8 @@ TControlDesign Design() {
                                Row(Label(L"Label_Taskbar_MinWindow_Top", L"&Edge:"),
                                    ComboBox(L"CB_Taskbar_MinWindow_Top", kMinimizedEdges))),
                         Label(L"Label_Taskbar_MinWindow_Note", kMinimizedNote)),
-                  Buttons(Button(L"Button_Taskbar_MinWindow_Default", L"&Default")))));
+                  Buttons(Button(L"Button_Taskbar_MinWindow_Default", L"&Default"))),
+            TaskbarModernSheet(), TaskbarScreensSheet()));
 }
 
 constexpr const wchar_t* kTime[] = {L"UpDown_Taskbar_ButtonFlashes_Common_Time"};
@@ -85,8 +87,6 @@ constexpr TRow kFlashRows[] = {
 };
 
 constexpr TDatum kCombineValues[] = {Dword(0), Dword(1), Dword(2)};
-/// Windows 11 learned in its third year to show buttons that are not combined.
-constexpr TLevels kNotFirstWindows11 = UntilBuild(21999) | SinceBuild(22631);
 
 constexpr TRow kButtonRows[] = {
     // Windows calls it "size and move".
@@ -114,7 +114,7 @@ constexpr TRow kButtonRows[] = {
                .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarGlomLevel"},
                .Items = kCombineValues,
                .Missing = 0,
-               .Levels = kNotFirstWindows11},
+               .Levels = kUncombinedButtons},
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarSmallIcons"},
                  .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
@@ -142,7 +142,8 @@ constexpr auto kMinimizedLists = MinimizedLists(L"CB_Taskbar_MinWindow_Arrange",
                                                 L"CB_Taskbar_MinWindow_Top");
 constexpr TRow kMinimizedRows[] = {MinimizedWindowsRow(kMinimizedLists)};
 
-constexpr TLoader kLoaders[] = {kFlashRows, kButtonRows, kNotificationRows, kMinimizedRows};
+constexpr TLoader kLoaders[] = {kFlashRows,     kButtonRows,        kNotificationRows,
+                                kMinimizedRows, kTaskbarModernRows, kTaskbarScreensRows};
 
 constexpr TPresetState kFlashDefault[] = {
     {L"Checkbox_Taskbar_ButtonFlashes_Active", 1},
@@ -177,6 +178,8 @@ constexpr TPreset kPresets[] = {
     {L"Button_Taskbar_ButtonAppearance_Default", kButtonDefault},
     {L"Button_Taskbar_Notification_Default", kNotificationDefault},
     {L"Button_Taskbar_MinWindow_Default", kMinimizedDefault},
+    {L"Button_Taskbar_Modern_Default", kTaskbarModernDefault},
+    {L"Button_Taskbar_Screens_Default", kTaskbarScreensDefault},
 };
 
 // Windows 2000 has no options for its buttons and its notification area.
@@ -210,6 +213,7 @@ constexpr TNeed kNeeds[] = {
     {.Controls = kFlashCount, .Of = L"Checkbox_Taskbar_ButtonFlashes_Active", .Disables = false},
     {.Controls = kGroupCount, .Of = L"Checkbox_Taskbar_ButtonAppearance_Group_Active", .Disables = false},
     {.Controls = kTrayIcons, .Of = L"Checkbox_Taskbar_Notification_Icons_Show"},
+    kOtherTaskbarsNeed,
 };
 
 constexpr TPageDefinition kPage{.Tag = 6,

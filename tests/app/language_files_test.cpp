@@ -18,6 +18,7 @@
 #include "platform/text.h"
 #include "settings/shell/desktop_icons.h"
 #include "tests/fakes/fake_system.h"
+#include "ui/spoken_name.h"
 
 namespace {
 
@@ -145,6 +146,13 @@ struct TLevelForms {
     void Apply(const TForm& form, const TPageDefinition& page) {
         for (const TOffer& offer : page.Offers)
             if (!offer.Levels.Include(Level)) Absent.insert(offer.Control);
+        std::map<std::wstring, bool> settings;
+        for (const TLoader& loader : page.Loaders)
+            for (const TRow& row : loader)
+                for (const std::wstring& name : ControlsOf(row))
+                    settings[name] |= LevelsOf(row).Include(Level);
+        for (const auto& [name, isHeld] : settings)
+            if (!isHeld) Absent.insert({name, CaptionedBy(*form.Find(name)).Name()});
         for (const TLevelCaption& name : page.LevelCaptions) {
             const TCaptionKey& key = kCaptionKeys[static_cast<std::size_t>(name.Caption)];
             if (name.Levels.Include(Level))
