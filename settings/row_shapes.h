@@ -9,10 +9,6 @@
 #include "settings/registry_keys.h"
 #include "settings/rows.h"
 
-[[nodiscard]] constexpr TPlace ExplorerPolicy(const wchar_t* policy) {
-    return {kCurrentUser, kExplorerPolicies, policy};
-}
-
 /// A policy that takes away what the box stands for.
 [[nodiscard]] constexpr TCheckBoxRow PolicyRow(const wchar_t* control, const wchar_t* policy) {
     return {.Control = control,
@@ -42,7 +38,7 @@
 
 /// The row of a preference that a policy can overrule.
 [[nodiscard]] constexpr TCheckBoxRow Unless(const wchar_t* policy, TCheckBoxRow row) {
-    row.Policy = ExplorerPolicy(policy);
+    row.Policy = policy;
     return row;
 }
 

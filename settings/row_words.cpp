@@ -147,9 +147,10 @@ TText Words(const TBoxRule& rule) {
 
 /// Names where the value is read when that is not the place. Spellings of one place differ in case and in the last backslash
 /// at most.
-TText From(const std::optional<TPlace>& loadedFrom, const TPlace& place) {
-    const bool isElsewhere = loadedFrom && (loadedFrom->Kind != place.Kind ||
-                                            !SameText(TText(loadedFrom->ValueName), place.ValueName));
+TText From(const TPlace* loadedFrom, const TPlace& place) {
+    const bool isElsewhere =
+        loadedFrom != nullptr &&
+        (loadedFrom->Kind != place.Kind || !SameText(TText(loadedFrom->ValueName), place.ValueName));
     return isElsewhere ? L"from " + Words(*loadedFrom) + L": " : TText();
 }
 
@@ -170,10 +171,10 @@ TText Items(const TPlace& place, std::span<const TDatum> items) {
 TRowWords Entry(const TCheckBoxRow& row) {
     TText shows = From(row.LoadedFrom, row.Value) + Shown(row.Value) + Words(row.Shows);
     TText writes = Words(row.Value, row.Records);
-    if (row.RecordsWhenMissing)
+    if (row.RecordsWhenMissing != nullptr)
         writes += L"; either, while there is no value: " + Words(row.Value, *row.RecordsWhenMissing);
-    if (row.Policy) {
-        shows += L"; clear while the policy " + Code(row.Policy->ValueName) + L" is 1";
+    if (row.Policy != nullptr) {
+        shows += L"; clear while the policy " + Code(row.Policy) + L" is 1";
         writes += L". Checking it also turns that policy off";
     }
     const auto addFurther = [&](const TBoxFurther& further) {
@@ -227,7 +228,7 @@ TRowWords Entry(const TNumberRow& row) {
     if (row.RemovedAt) writes += L"; " + DecimalText(*row.RemovedAt) + L" removes it";
     if (row.Further) writes += L". Also " + Words(row.Further->Value);
     return {Words(row.Value),
-            From(row.LoadedFrom, row.Value) + L"the number" +
+            From(row.LoadedFrom ? &*row.LoadedFrom : nullptr, row.Value) + L"the number" +
                 Missing(row.LoadedFrom.value_or(row.Value), row.Missing) +
                 (row.NoNumberIsFault ? L"; no number: a fault" : L""),
             writes};

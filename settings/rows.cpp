@@ -73,7 +73,7 @@ TPlaces Places(const T& row) {
     if constexpr (requires { row.More; })
         for (const TBoxFurther& more : row.More) places.push_back(more.Value);
     if constexpr (requires { row.Policy; })
-        if (row.Policy) places.push_back(*row.Policy);
+        if (row.Policy != nullptr) places.push_back(ExplorerPolicy(row.Policy));
     return places;
 }
 

@@ -17,6 +17,7 @@
 
 #include "settings/datum.h"
 #include "settings/levels.h"
+#include "settings/registry_keys.h"
 
 class TComponent;
 struct TPageContext;
@@ -66,12 +67,18 @@ struct TDigits {
     const wchar_t* Number;
 };
 
+/// A policy of Explorer's.
+[[nodiscard]] constexpr TPlace ExplorerPolicy(const wchar_t* policy) {
+    return {kCurrentUser, kExplorerPolicies, policy};
+}
+
+/// There are many of them: what few have is in constants beside the rows.
 struct TCheckBoxRow {
     const wchar_t* Control;
     TPlace Value;
     TBoxRule Shows;
     TBoxRecord Records;
-    std::optional<TDatum> RecordsWhenMissing = std::nullopt;  ///< by either state, while there is no value
+    const TDatum* RecordsWhenMissing = nullptr;  ///< by either state, while there is no value
     std::optional<TBoxFurther> Further = std::nullopt;
     std::span<const TBoxFurther> More = {};  ///< when one is not enough
     const wchar_t* ChangeName = nullptr;     ///< null = the control's name
@@ -81,11 +88,11 @@ struct TCheckBoxRow {
     TControlNames EnablesOnClick = {};       ///< the same, but left alone by the loader
     /// A control that the loader enables or disables with the box. A click turns it over, whatever it was.
     const wchar_t* Toggles = nullptr;
-    std::optional<TDigits> Refreshes = std::nullopt;  ///< brought up to date by a click, too
-    std::optional<TPlace> LoadedFrom = std::nullopt;  ///< what shows, where it is not `Value`
-    /// A policy that takes away what the box stands for while it is 1: the box is clear then, and a click turns
-    /// the policy off or on as well, under the suffix 1.
-    std::optional<TPlace> Policy = std::nullopt;
+    const TDigits* Refreshes = nullptr;  ///< brought up to date by a click, too
+    const TPlace* LoadedFrom = nullptr;  ///< what shows, where it is not `Value`
+    /// A policy of Explorer's that takes away what the box stands for while it is 1: the box is clear then, and a click
+    /// turns the policy off or on as well, under the suffix 1.
+    const wchar_t* Policy = nullptr;
     /// Elsewhere another row of the control holds, or it is hidden with its label. So it is with the rows of all kinds.
     TLevels Levels = kEveryLevel;
 };

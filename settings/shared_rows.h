@@ -126,6 +126,8 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
 /// are read and written differ in case and in the last backslash only.
 inline constexpr TBoxRule kShowsWhileRegistered{.Missing = kClear, .Otherwise = kChecked};
 
+inline constexpr TPlace kOpenCmd{kClassesRoot, L"\\Directory\\shell\\Menu_Cmd", L""};
+
 [[nodiscard]] constexpr TCheckBoxRow OpenCmdRow(const wchar_t* control) {
     return {.Control = control,
             .Value = {kClassesRoot, L"\\Directory\\shell\\Menu_CMD\\", L""},
@@ -134,7 +136,7 @@ inline constexpr TBoxRule kShowsWhileRegistered{.Missing = kClear, .Otherwise = 
             .Further = TBoxFurther{.Suffix = L"1",
                                    .Value = {kClassesRoot, L"\\Directory\\shell\\Menu_CMD\\Command\\", L""},
                                    .Records = {.Checked = Text(L"cmd.exe /k \"cd %L\""), .Clear = kNothing}},
-            .LoadedFrom = TPlace{kClassesRoot, L"\\Directory\\shell\\Menu_Cmd", L""}};
+            .LoadedFrom = &kOpenCmd};
 }
 
 [[nodiscard]] constexpr TCheckBoxRow AutoRestartExplorerRow(const wchar_t* control) {
@@ -147,10 +149,13 @@ inline constexpr TBoxRule kShowsWhileRegistered{.Missing = kClear, .Otherwise = 
 
 // Drives, memory, errors
 
+inline constexpr TPlace kLastAccess{kLocalMachine, kFileSystem, L"NtfsDisableLastAccessUpdate"};
+inline constexpr TPlace kNoLastAccess = Bits(1, kLastAccess);
+
 /// NTFS stamps every file it touches unless this value is 1.
 [[nodiscard]] constexpr TCheckBoxRow LastAccessRow(const wchar_t* control) {
     return {.Control = control,
-            .Value = {kLocalMachine, kFileSystem, L"NtfsDisableLastAccessUpdate"},
+            .Value = kLastAccess,
             .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
             .Records = {.Checked = Dword(0), .Clear = Dword(1)},
             .Levels = UntilBuild(17133)};
@@ -161,7 +166,7 @@ inline constexpr TBoxRule kShowsWhileRegistered{.Missing = kClear, .Otherwise = 
 [[nodiscard]] constexpr TCheckBoxRow ManagedLastAccessRow(const wchar_t* control) {
     constexpr std::int32_t kUserDecides = std::numeric_limits<std::int32_t>::min();
     TCheckBoxRow row = LastAccessRow(control);
-    row.LoadedFrom = Bits(1, row.Value);
+    row.LoadedFrom = &kNoLastAccess;
     row.Records = {.Checked = Dword(kUserDecides), .Clear = Dword(kUserDecides | 1)};
     row.Levels = SinceBuild(17134);
     return row;

@@ -62,12 +62,14 @@ constexpr TRow kDiskSpaceRows[] = {DiskSpaceRow(L"Checkbox_Drives_DiskSpace_Spac
 constexpr std::uint32_t kRemovableDrives = 0x04;
 constexpr std::uint32_t kCdDrives = 0x20;
 
+constexpr TDatum kOff = Dword(1);
+
 constexpr TCheckBoxRow AutoPlay(const wchar_t* control, std::uint32_t driveType) {
     return {.Control = control,
             .Value = Bits(driveType, ExplorerPolicy(L"NoDriveTypeAutoRun")),
             .Shows = {.When = {{0, kChecked}}, .Otherwise = kClear},
             .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-            .RecordsWhenMissing = Dword(1)};
+            .RecordsWhenMissing = &kOff};
 }
 
 constexpr TRow kAutoPlayRows[] = {

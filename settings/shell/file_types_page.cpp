@@ -63,6 +63,11 @@ TControlDesign Design() {
 /// The default value of a key in the classes of files.
 constexpr TPlace DefaultOf(const wchar_t* key) { return {kClassesRoot, key, L""}; }
 
+constexpr TPlace kOpenExplorer = DefaultOf(L"\\Folder\\shell\\Menu_root");
+constexpr TPlace kSendTo = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Send To");
+constexpr TPlace kCopyTo = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Copy To");
+constexpr TPlace kMoveTo = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Move To");
+
 constexpr TRow kMenuOperationRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_Drive_OpenDrive",
                  .Value = DefaultOf(L"\\Folder\\shell\\Menu_root\\"),
@@ -72,23 +77,23 @@ constexpr TRow kMenuOperationRows[] = {
                                         .Value = DefaultOf(L"\\Folder\\shell\\Menu_root\\Command\\"),
                                         .Records = {.Checked = Text(L"Explorer.exe /e,/root,/idlist,%I"),
                                                     .Clear = kNothing}},
-                 .LoadedFrom = DefaultOf(L"\\Folder\\shell\\Menu_root")},
+                 .LoadedFrom = &kOpenExplorer},
     OpenCmdRow(L"Checkbox_FileType_MenuOperation_Drive_OpenCmd"),
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_SendTo",
                  .Value = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Send To\\"),
                  .Shows = kShowsWhileRegistered,
                  .Records = {.Checked = Text(L"{7BA4C740-9E81-11CF-99D3-00AA004AE837}"), .Clear = kDeleteKey},
-                 .LoadedFrom = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Send To")},
+                 .LoadedFrom = &kSendTo},
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_CopyTo",
                  .Value = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Copy To\\"),
                  .Shows = kShowsWhileRegistered,
                  .Records = {.Checked = Text(L"{C2FBB630-2971-11D1-A18C-00C04FD75D13}"), .Clear = kDeleteKey},
-                 .LoadedFrom = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Copy To")},
+                 .LoadedFrom = &kCopyTo},
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_MoveTo",
                  .Value = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Move To\\"),
                  .Shows = kShowsWhileRegistered,
                  .Records = {.Checked = Text(L"{C2FBB631-2971-11D1-A18C-00C04FD75D13}"), .Clear = kDeleteKey},
-                 .LoadedFrom = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Move To")},
+                 .LoadedFrom = &kMoveTo},
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_Encryption",
                  .Value = {kLocalMachine, kExplorerAdvancedUpper, L"EncryptionContextMenu"},
                  .Shows = {.When = {{L"1", kChecked}}, .Otherwise = kClear},
@@ -208,7 +213,7 @@ constexpr TRow kAdvancedRows[] = {
                                         .Value = DefaultOf(L"\\CLSID\\{e84fda7c-1d6a-45f6-b725-cb260c236066}"
                                                            L"\\shellex\\MayChangeDefaultMenu"),
                                         .Records = {.Checked = Text(L""), .Clear = kDeleteKey}},
-                 .LoadedFrom = kLink,
+                 .LoadedFrom = &kLink,
                  .Levels = kUntilWindows7},
 };
 

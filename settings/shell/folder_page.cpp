@@ -82,6 +82,7 @@ constexpr TRow kViewRows[] = {
                .Levels = kSinceWindows8},
 };
 
+constexpr TDigits kFolderCount{kCountShow, kCount};
 constexpr const wchar_t* kFileTipEnables[] = {L"Checkbox_Folder_List_Details_FolderTip"};
 constexpr const wchar_t* kColorButtons[] = {L"Button_Folder_List_CompressedFile_Change",
                                             L"Button_Folder_List_EncryptedFile_Change"};
@@ -110,7 +111,7 @@ constexpr TRow kListRows[] = {
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Enables = kFileTipEnables,
-                 .Refreshes = TDigits{kCountShow, kCount}},
+                 .Refreshes = &kFolderCount},
     TCheckBoxRow{.Control = L"Checkbox_Folder_List_Details_FolderTip",
                  .Value = {kCurrentUser, kExplorerAdvancedUpper, L"FolderContentsInfoTip"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},

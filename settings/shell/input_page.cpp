@@ -48,13 +48,15 @@ constexpr const wchar_t* kWheelControls[] = {L"Edit_Use_MouseFunction_Wheel_Coun
                                              L"UpDown_Use_MouseFunction_Wheel_Count"};
 constexpr const wchar_t* kTrailLength[] = {L"TrackBar_Use_MouseFunction_Trails_Length"};
 
+constexpr TPlace kSwapped = As(TCoding::Number, {kCurrentUser, kMouse, L"SwapMouseButtons"});
+
 // Where no other name is said, the parameters are SPI_GET… and SPI_SET….
 constexpr TRow kFunctionRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Use_MouseFunction_ChangeKey_Change",
                  .Value = NumberParameter(kSystemMetric + 23, 0x21),  // SM_SWAPBUTTON, SPI_SETMOUSEBUTTONSWAP
                  .Shows = {.When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .LoadedFrom = As(TCoding::Number, {kCurrentUser, kMouse, L"SwapMouseButtons"})},
+                 .LoadedFrom = &kSwapped},
     TSwitchRow{.On = L"Radio_Use_MouseFunction_Wheel_RollRow",
                .Off = L"Radio_Use_MouseFunction_Wheel_RollPage",
                .Amount = kWheelCount,

@@ -128,7 +128,7 @@ constexpr TRow kCommonRows[] = {
                  .Shows = {.Missing = kChecked, .When = {{kNo, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Text(L"Yes"), .Clear = Text(L"No")},
                  .Restart = true,
-                 .Policy = ExplorerPolicy(L"Intellimenus"),
+                 .Policy = L"Intellimenus",
                  .Levels = kXpAndVista},
     TNumberRow{.Control = L"UpDown_Use_StartMenu_Common_Menu_Delay",
                .Value = NumberParameter(0x6A, 0x6B)},  // …MENUSHOWDELAY
