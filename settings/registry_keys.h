@@ -35,6 +35,12 @@ inline constexpr const wchar_t* kExplorerAutoComplete =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\AutoComplete\\";
 /// What later Windows' policies of the shell are.
 inline constexpr const wchar_t* kUserShellPolicies = L"\\Software\\Policies\\Microsoft\\Windows\\Explorer\\";
+inline constexpr const wchar_t* kShellPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\Explorer\\";
+inline constexpr const wchar_t* kAccountPolicies =
+    L"\\Software\\Policies\\Microsoft\\Windows\\CurrentVersion\\AccountNotifications\\";
+inline constexpr const wchar_t* kStart = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Start\\";
+inline constexpr const wchar_t* kContentDelivery =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager\\";
 inline constexpr const wchar_t* kTaskbarDeveloper =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\TaskbarDeveloperSettings\\";
 inline constexpr const wchar_t* kSearch = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Search\\";

@@ -36,6 +36,18 @@
             .Records = {.Checked = Dword(1), .Clear = Dword(0)}};
 }
 
+inline constexpr TDatum kFirstNumbers[] = {Dword(0), Dword(1), Dword(2), Dword(3)};
+
+/// A list of Explorer's whose items are numbered.
+[[nodiscard]] constexpr TChoiceRow ExplorerList(const wchar_t* control, const wchar_t* valueName,
+                                                std::size_t count, int missing, TLevels levels) {
+    return {.Control = control,
+            .Value = {kCurrentUser, kExplorerAdvanced, valueName},
+            .Items = std::span(kFirstNumbers).first(count),
+            .Missing = missing,
+            .Levels = levels};
+}
+
 /// The row of a preference that a policy can overrule.
 [[nodiscard]] constexpr TCheckBoxRow Unless(const wchar_t* policy, TCheckBoxRow row) {
     row.Policy = policy;

@@ -118,6 +118,48 @@ constexpr TExplanation kTexts[] = {
      "in the Start menu. What you have pinned comes in addition."},
     {"Button_Use_StartMenu_RecentlyUse_Default",
      "Remembers documents and programs and lists as many of them as a new Windows does."},
+    {"CB_Use_StartMenu_Modern_AllPrograms",
+     "The alphabetical list. \"Collapsed\" hides it behind a button, \"removed\" leaves only what is "
+     "pinned."},
+    {"CB_Use_StartMenu_Modern_MostUsed",
+     "The list grows from what you start often. If others look at your screen, it tells them what that is."},
+    {"CB_Use_StartMenu_Modern_Layout", "Which of the two halves of the Start menu gets more rows."},
+    {"CB_Use_StartMenu_Modern_Size",
+     "Windows 10 can fill the whole screen with Start, as Windows 8 does; good for touch."},
+    {"Checkbox_Use_StartMenu_Modern_RecentlyAdded",
+     "Programs that you have just installed stand at the top for a while. On Windows 10 clearing it also "
+     "locks the switch in Settings."},
+    {"Checkbox_Use_StartMenu_Modern_Recommendations",
+     "The lower half of the Start menu of Windows 11 names files, tips and programs from the Store. Clearing "
+     "takes away the advertising part; recent files stay."},
+    {"Checkbox_Use_StartMenu_Modern_Suggestions",
+     "Windows 10 puts programs from the Store, which are not installed, between your own. Clear it to keep "
+     "the menu free of them."},
+    {"Checkbox_Use_StartMenu_Modern_Websites",
+     "Windows 11 also recommends web pages, from what you have looked at in Edge. Clear it if this tells "
+     "others too much."},
+    {"Checkbox_Use_StartMenu_Modern_WebSearch",
+     "What you type into the search also goes to Bing. Clearing keeps it on this computer; two of the three "
+     "values are read by the editions for companies only."},
+    {"Checkbox_Use_StartMenu_Modern_Account",
+     "Marks at your picture that remind you of a backup, a missing address or an offer for your Microsoft "
+     "account."},
+    {"Checkbox_Use_StartMenu_Modern_Menus",
+     "Without the menus nobody unpins or uninstalls programs by accident, which helps on computers that many "
+     "people use."},
+    {"Checkbox_Use_StartMenu_Modern_RunAs",
+     "Starts a program under another account, from the menu of the right mouse button. Useful with a "
+     "separate account for administration."},
+    {"Checkbox_Use_StartMenu_Modern_Lock",
+     "The entry in the menu of your picture. Windows key + L locks the computer in any case. For all users."},
+    {"Checkbox_Use_StartMenu_Modern_Sleep",
+     "The entry of the power menu. Clear it on computers that must not fall asleep, such as servers at home. "
+     "For all users."},
+    {"Checkbox_Use_StartMenu_Modern_Hibernate",
+     "Stores everything on the disk and turns the computer off, so that it goes on later without using "
+     "power. Needs hibernation to be turned on; for all users."},
+    {"Button_Use_StartMenu_Modern_Default",
+     "Shows and offers what a new Windows does, and takes the policies of this sheet away."},
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "settings/shell/start_menu_page.h"
 
 #include "settings/shared_rows.h"
+#include "settings/shell/start_menu_modern.h"
 
 namespace {
 
@@ -91,7 +92,8 @@ TControlDesign Design() {
                             Edit(L"Edit_Use_StartMenu_RecentlyUse_JumpList_Count").Width(4),
                             UpDown(L"UpDown_Use_StartMenu_RecentlyUse_JumpList_Count",
                                    L"Edit_Use_StartMenu_RecentlyUse_JumpList_Count", 0, 60, 10))),
-                  Buttons(Button(L"Button_Use_StartMenu_RecentlyUse_Default", L"&Default")))));
+                  Buttons(Button(L"Button_Use_StartMenu_RecentlyUse_Default", L"&Default"))),
+            StartMenuModernSheet()));
 }
 
 /// Choices of the classic Start menu are texts.
@@ -245,7 +247,7 @@ constexpr TRow kRecentlyUsedRows[] = {
                .Levels = kSinceWindows10},
 };
 
-constexpr TLoader kLoaders[] = {kCommonRows, kItemRows, kRecentlyUsedRows};
+constexpr TLoader kLoaders[] = {kCommonRows, kItemRows, kRecentlyUsedRows, kStartMenuModernRows};
 
 constexpr TPresetState kCommonDefault[] = {
     {kUserName, 1, kSinceXp},
@@ -272,6 +274,7 @@ constexpr TPresetState kRecentlyUsedDefault[] = {
 constexpr TPreset kPresets[] = {
     {L"Button_Use_StartMenu_Common_Default", kCommonDefault},
     {L"Button_Use_StartMenu_RecentlyUse_Default", kRecentlyUsedDefault},
+    {L"Button_Use_StartMenu_Modern_Default", kStartMenuModernDefault},
 };
 
 // Windows XP brought the two-column Start menu, Windows 7 left the classic one behind.

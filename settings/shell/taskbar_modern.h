@@ -9,18 +9,6 @@
 
 // Windows' Settings and policy templates name the values; of those marked "not documented" the settings alone.
 
-inline constexpr TDatum kFirstNumbers[] = {Dword(0), Dword(1), Dword(2), Dword(3)};
-
-/// A list of Explorer's whose items are numbered.
-[[nodiscard]] constexpr TChoiceRow ExplorerList(const wchar_t* control, const wchar_t* valueName,
-                                                std::size_t count, int missing, TLevels levels) {
-    return {.Control = control,
-            .Value = {kCurrentUser, kExplorerAdvanced, valueName},
-            .Items = std::span(kFirstNumbers).first(count),
-            .Missing = missing,
-            .Levels = levels};
-}
-
 inline constexpr TRow kTaskbarModernRows[] = {
     ExplorerList(L"CB_Taskbar_Modern_Alignment", L"TaskbarAl", 2, 1, kSinceWindows11),
     TChoiceRow{.Control = L"CB_Taskbar_Modern_Search",
