@@ -60,7 +60,7 @@ TVersionNumbers TWin32WindowsInfo::Version() const {
                             .Minor = info.dwMinorVersion,
                             .Build = info.dwBuildNumber};
     const bool isSinceWindows8 = version.Major > 6 || (version.Major == 6 && version.Minor >= 2);
-    if (OSVERSIONINFOEXW actual; isSinceWindows8 && GetTrueVersion(actual)) {
+    if (OSVERSIONINFOEXW actual{}; isSinceWindows8 && GetTrueVersion(actual)) {
         version.Major = actual.dwMajorVersion;
         version.Minor = actual.dwMinorVersion;
         version.Build = actual.dwBuildNumber;
