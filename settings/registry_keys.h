@@ -41,6 +41,12 @@ inline constexpr const wchar_t* kAccountPolicies =
 inline constexpr const wchar_t* kStart = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Start\\";
 inline constexpr const wchar_t* kContentDelivery =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager\\";
+inline constexpr const wchar_t* kShortMenuHandler =
+    L"\\Software\\Classes\\CLSID\\{86ca1aa0-34aa-4e8b-a509-50c905bae2a2}\\InprocServer32";
+inline constexpr const wchar_t* kGalleryFolder =
+    L"\\Software\\Classes\\CLSID\\{e88865ea-0e1c-4e20-9aa6-edcd0212c87c}\\";
+inline constexpr const wchar_t* kHomeFolder =
+    L"\\Software\\Classes\\CLSID\\{f874310e-b6b7-47dc-bc84-b9e6b38f5903}\\";
 inline constexpr const wchar_t* kTaskbarDeveloper =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\TaskbarDeveloperSettings\\";
 inline constexpr const wchar_t* kSearch = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Search\\";

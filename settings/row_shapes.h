@@ -18,6 +18,14 @@
             .Restart = true};
 }
 
+/// A policy of the shell of later Windows.
+[[nodiscard]] constexpr TPlace UserShellPolicy(const wchar_t* policy) {
+    return {kCurrentUser, kUserShellPolicies, policy};
+}
+[[nodiscard]] constexpr TPlace ShellPolicyForAll(const wchar_t* policy) {
+    return {kLocalMachine, kShellPolicies, policy};
+}
+
 /// Something that is there unless a policy, of this number, forbids it. Checking takes the policy away, and with it the hold
 /// over what the user chooses in Windows.
 [[nodiscard]] constexpr TCheckBoxRow AllowedBox(const wchar_t* control, TPlace policy, std::int32_t forbids) {

@@ -68,6 +68,56 @@ constexpr TExplanation kTexts[] = {
     {"Checkbox_Folder_Choose_AddCheckBox",
      "Since Vista a small box appears on each item when you point to it, so that you can select several "
      "without holding down Ctrl. Handy for pen and touch input. Earlier versions do not have it."},
+    {"Checkbox_Folder_Files_Extensions",
+     "Shows \"letter.docx\" where Windows shows \"letter\". It protects you from files such as "
+     "\"invoice.pdf.exe\", which pretend to be something else."},
+    {"Checkbox_Folder_Files_Hidden",
+     "Programs keep their settings in hidden folders such as AppData. They show paler than others; delete "
+     "nothing there that you do not know."},
+    {"Checkbox_Folder_Files_System",
+     "Files of Windows itself, which it needs to start. Only for those who look for a fault; best turned off "
+     "again afterwards."},
+    {"Checkbox_Folder_Files_IconsOnly",
+     "Folders with many pictures and films open faster, because nothing has to be read from them. You see "
+     "only their symbols."},
+    {"Checkbox_Folder_Files_NetworkThumbnails",
+     "Explorer leaves a hidden file thumbs.db in folders of other computers, which sometimes keeps them from "
+     "being deleted. Clear it to avoid that."},
+    {"Checkbox_Folder_Files_AskDelete",
+     "Since Windows 8 files go to the Recycle Bin without a question. Check it if a slip of the finger "
+     "worries you."},
+    {"Checkbox_Folder_Files_RecycleBin",
+     "If you clear it, deleted files are gone at once and cannot be brought back."},
+    {"Button_Folder_Files_Default", "Shows and deletes files as a new Windows does."},
+    {"CB_Folder_Explorer_LaunchTo",
+     "What a new Explorer window shows: the drives, or what you used last and have pinned."},
+    {"CB_Folder_Explorer_Ribbon",
+     "The broad bar of commands in Explorer up to Windows 10. Small, it shows only its titles until you "
+     "click one."},
+    {"Checkbox_Folder_Explorer_Compact",
+     "Windows 11 leaves room for fingers between the lines. With less of it more files fit into the window."},
+    {"Checkbox_Folder_Explorer_FullPath",
+     "Title and taskbar name the whole way to the folder, which tells folders of the same name apart."},
+    {"Checkbox_Folder_Explorer_FullMenu",
+     "Windows 11 shows a short menu first and all commands only after \"Show more options\". With this the "
+     "full menu comes at once, for your account; Windows 11 may stop reading it in a later version."},
+    {"Checkbox_Folder_Explorer_ItemCount",
+     "The bar that says how many items there are, how many are selected and how large they are."},
+    {"Checkbox_Folder_Explorer_SyncNotices",
+     "Storage services may show messages at the top of the window. Some of them are advertising for more "
+     "space."},
+    {"Checkbox_Folder_Explorer_Recent",
+     "Home or Quick access then lists the files opened last. Clear it if others should not see them there."},
+    {"Checkbox_Folder_Explorer_Frequent",
+     "Folders that you open often appear there by themselves; pinned ones stay in any case."},
+    {"Checkbox_Folder_Explorer_Cloud",
+     "Home also names files in OneDrive and Microsoft 365, which it asks for at Microsoft. For all users."},
+    {"Checkbox_Folder_Explorer_Home",
+     "The entry at the top with what you used last. If you clear it, let Explorer open with This PC."},
+    {"Checkbox_Folder_Explorer_Gallery",
+     "The entry with all your pictures in order of time. The pictures stay where they are."},
+    {"Button_Folder_Explorer_Default",
+     "Brings windows, lists and the navigation pane into the state of a new Windows."},
 };
 
 }  // namespace

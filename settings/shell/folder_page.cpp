@@ -3,6 +3,7 @@
 #include "settings/page_context.h"
 #include "settings/shared_rows.h"
 #include "settings/shell/folder_design.h"
+#include "settings/shell/folder_modern.h"
 #include "settings/store.h"
 #include "ui/controls.h"
 
@@ -162,7 +163,8 @@ constexpr TRow kChooseRows[] = {
                  .LoadedOn = kSinceVista},
 };
 
-constexpr TLoader kLoaders[] = {kViewRows, kListRows, kThumbnailRows, kChooseRows};
+constexpr TLoader kLoaders[] = {kViewRows,   kListRows,        kThumbnailRows,
+                                kChooseRows, kFolderFilesRows, kFolderExplorerRows};
 
 constexpr TPresetState kViewDefault[] = {
     {kTree, 0},
@@ -186,6 +188,8 @@ constexpr TPreset kPresets[] = {
     {L"Button_Folder_View_BehaviorSet_Default", kViewDefault},
     {L"Button_Folder_List_Default", kListDefault},
     {L"Button_Folder_Thumbnail_Default", kThumbnailDefault},
+    {L"Button_Folder_Files_Default", kFolderFilesDefault},
+    {L"Button_Folder_Explorer_Default", kFolderExplorerDefault},
 };
 
 constexpr TLevelCaption kLevelCaptions[] = {

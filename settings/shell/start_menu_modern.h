@@ -22,13 +22,6 @@ inline constexpr TBoxFurther kWebSearchPolicies[] = {
      {.Checked = kDeleteValue, .Clear = Dword(0)}},
 };
 
-[[nodiscard]] constexpr TPlace UserShellPolicy(const wchar_t* policy) {
-    return {kCurrentUser, kUserShellPolicies, policy};
-}
-[[nodiscard]] constexpr TPlace ShellPolicyForAll(const wchar_t* policy) {
-    return {kLocalMachine, kShellPolicies, policy};
-}
-
 [[nodiscard]] constexpr TCheckBoxRow WebSearchRow() {
     TCheckBoxRow row = AllowedBox(L"Checkbox_Use_StartMenu_Modern_WebSearch",
                                   UserShellPolicy(L"DisableSearchBoxSuggestions"), 1);
