@@ -77,6 +77,31 @@ inline constexpr const wchar_t* kRemotePrinters =
     L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RemoteComputer\\NameSpace\\"
     L"{2227A280-3AEA-1069-A2DE-08002B30309D}";
 
+// Privacy, from Windows 8 on
+
+inline constexpr const wchar_t* kInputPersonalization = L"\\Software\\Microsoft\\InputPersonalization\\";
+inline constexpr const wchar_t* kTrainedData =
+    L"\\Software\\Microsoft\\InputPersonalization\\TrainedDataStore\\";
+inline constexpr const wchar_t* kPersonalization = L"\\Software\\Microsoft\\Personalization\\Settings\\";
+inline constexpr const wchar_t* kAdvertisingPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\AdvertisingInfo\\";
+inline constexpr const wchar_t* kCloudContent = L"\\Software\\Policies\\Microsoft\\Windows\\CloudContent\\";
+inline constexpr const wchar_t* kUserProfile = L"\\Control Panel\\International\\User Profile\\";
+inline constexpr const wchar_t* kDataCollection =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\DataCollection\\";
+inline constexpr const wchar_t* kWindowsPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\System\\";
+inline constexpr const wchar_t* kFeedbackRules = L"\\Software\\Microsoft\\Siuf\\Rules\\";
+inline constexpr const wchar_t* kOnlineSpeech =
+    L"\\Software\\Microsoft\\Speech_OneCore\\Settings\\OnlineSpeechPrivacy\\";
+inline constexpr const wchar_t* kAppPrivacy = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppPrivacy\\";
+inline constexpr const wchar_t* kLocationPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\LocationAndSensors\\";
+inline constexpr const wchar_t* kProfileEngagement =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\UserProfileEngagement\\";
+inline constexpr const wchar_t* kCopilotPolicies =
+    L"\\Software\\Policies\\Microsoft\\Windows\\WindowsCopilot\\";
+inline constexpr const wchar_t* kAiPolicies = L"\\Software\\Policies\\Microsoft\\Windows\\WindowsAI\\";
+
 // Internet Explorer and other programs
 
 inline constexpr const wchar_t* kInternetExplorerMain = L"\\Software\\Microsoft\\Internet Explorer\\Main\\";

@@ -1,5 +1,6 @@
 #include "settings/net/privacy_page.h"
 
+#include "settings/net/privacy_modern.h"
 #include "settings/net/security_switches.h"
 #include "settings/shared_rows.h"
 
@@ -28,7 +29,8 @@ TControlDesign Design() {
                         CheckBox(L"Checkbox_Privacy_IE_Authentication_Enable",
                                  L"Disable integrated &Windows authentication."),
                         CheckBox(L"Checkbox_Privacy_IE_Update_Stop", L"&Prevent checking for updates.")),
-                  Buttons(Button(L"Button_Privacy_IE_Default", L"&Default")))));
+                  Buttons(Button(L"Button_Privacy_IE_Default", L"&Default"))),
+            PrivacyDataSheet(), PrivacyProgramsSheet(), PrivacySuggestionsSheet()));
 }
 
 constexpr const wchar_t* kAutoUpdateType[] = {L"CB_Privacy_Common_AutoUpdate_Type"};
@@ -62,7 +64,8 @@ constexpr TRow kInternetExplorerRows[] = {
                  .Levels = kUntilWindows7},
 };
 
-constexpr TLoader kLoaders[] = {kCommonRows, kCleanTracesRows, kInternetExplorerRows};
+constexpr TLoader kLoaders[] = {kCommonRows,      kCleanTracesRows,     kInternetExplorerRows,
+                                kPrivacyDataRows, kPrivacyProgramsRows, kPrivacySuggestionsRows};
 
 constexpr TPresetState kCommonDefault[] = {
     {L"Checkbox_Privacy_Common_AutoUpdate_Active", 1},
@@ -80,13 +83,19 @@ constexpr TPreset kPresets[] = {
     {L"Button_Privacy_Common_Default", kCommonDefault},
     {L"Button_CleanTraces_Default", kCleanTracesDefault},
     {L"Button_Privacy_IE_Default", kInternetExplorerDefault},
+    {L"Button_Privacy_Data_Default", kPrivacyDataDefault},
+    {L"Button_Privacy_Programs_Default", kPrivacyProgramsDefault},
+    {L"Button_Privacy_Suggestions_Default", kPrivacySuggestionsDefault},
 };
+
+constexpr TNeed kNeeds[] = {kLocationNeed};
 
 constexpr TPageDefinition kPage{.Tag = 12,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
                                 .Explanations = PrivacyExplanations,
+                                .Needs = kNeeds,
                                 .ShowsPending = true};
 
 }  // namespace
