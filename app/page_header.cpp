@@ -38,7 +38,7 @@ void TPageHeader::Show(const TCategoryItem& item) {
     form.Find(kPanel)->SetCaption(item.Caption() + L"\n" + text);
 }
 
-void TPageHeader::HeightChanged(int height) {
+void TPageHeader::HeightChanged(int height) const {
     FContext.Form.Find(kText)->SetVisible(height >= kRoomForAll);
     FContext.Form.Find(kPanel)->SetVisible(height >= kRoomForTitle);
 }

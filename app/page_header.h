@@ -18,7 +18,7 @@ class TPageHeader {
     void Show(const TCategoryItem& item);
 
     /// Gives way when the window is low.
-    void HeightChanged(int height);
+    void HeightChanged(int height) const;
 
   private:
     const TPageContext& FContext;

@@ -40,8 +40,40 @@ TidyGroup() {
 
 export -f Tidy TidyGroup
 
-# Neighbours, too, have names in common, and come into different groups.
-find app console settings engine platform ui base -name '*.cpp' -not -path '*/win32/*' | sort |
-    awk -v groups=$Groups '{ Group[NR % groups] = Group[NR % groups] " " $0 }
-                           END { for (i in Group) print "TidyGroup" Group[i] }' |
-    xargs -P "$(nproc)" -I '{}' bash -o pipefail -c '{}'
+# Prints the files, a group to a line. None comes to another that has a name in use which it defines for itself alone.
+Groups() {
+    awk -v groups=$Groups '
+        FNR == 1 { Files[++Count] = FILENAME; Own = 0; Page = FILENAME ~ /_(page|explanations)\.cpp$/ }
+        /^namespace \{$/ { Own = !Page }
+        /^}  \/\/ namespace$/ { Own = 0 }
+        Own && /^[a-z]/ && match($0, /[A-Za-z_0-9]+(\(|\[| =|\{)/) {
+            Name = substr($0, RSTART, RLENGTH)
+            sub(/[^A-Za-z_0-9].*/, "", Name)
+            OwnNames[Count, ++Owned[Count]] = Name
+        }
+        { Words = split($0, Word, /[^A-Za-z_0-9]+/); for (i = 1; i <= Words; i++) Uses[Count, Word[i]] = 1; Lines[Count]++ }
+        function Clash(one, other,   i) {
+            for (i = 1; i <= Owned[one]; i++) if ((other, OwnNames[one, i]) in Uses) return 1
+            return 0
+        }
+        function Fits(file, group,   i) {
+            for (i = 1; i < file; i++) if (In[i] == group && (Clash(file, i) || Clash(i, file))) return 0
+            return 1
+        }
+        END {
+            for (file = 1; file <= Count; file++) {
+                best = 0
+                for (group = 1; group <= groups; group++)
+                    if (Fits(file, group) && (!best || Size[group] < Size[best])) best = group
+                if (!best) best = ++groups
+                In[file] = best
+                Size[best] += Lines[file]
+                Line[best] = Line[best] " " Files[file]
+            }
+            for (group = 1; group <= groups; group++) print Line[group]
+        }' "$@"
+}
+
+# shellcheck disable=SC2046  # many files
+Groups $(find app console settings engine platform ui base -name '*.cpp' -not -path '*/win32/*' | sort) |
+    sed 's/^/TidyGroup/' | xargs -P "$(nproc)" -I '{}' bash -o pipefail -c '{}'

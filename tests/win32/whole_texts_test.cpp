@@ -215,7 +215,7 @@ TEST_F(TWholeTexts, AreShownInEveryLanguageAndInLongerOnes) {
 DWORD RunAt(DWORD dots) {
     wchar_t program[MAX_PATH]{};
     GetModuleFileNameW(nullptr, program, MAX_PATH);
-    std::wstring line = std::wstring(L"\"") + program + L"\" --gtest_filter=TWholeTexts.*";
+    std::wstring line = std::wstring(L"\"") + program + L"\" --gtest_filter=TWholeTexts.* --gtest_brief=1";
     SetEnvironmentVariableW(kDotsVariable, std::to_wstring(dots).c_str());
     STARTUPINFOW start{};
     start.cb = sizeof start;

@@ -6,6 +6,16 @@ namespace {
 
 constexpr int kUnlimited = 1 << 20;
 
+/// Beside a text, at 96 dots per inch: what draws it may round otherwise.
+constexpr int kSlack = 2;
+
+HBITMAP ScreenBitmap() {
+    const HDC screen = GetDC(nullptr);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, 1, 1);
+    ReleaseDC(nullptr, screen);
+    return bitmap;
+}
+
 NONCLIENTMETRICSW ReadMetrics() {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
@@ -15,7 +25,8 @@ NONCLIENTMETRICSW ReadMetrics() {
 
 }  // namespace
 
-TScreen::TScreen() : FMetrics(ReadMetrics()), FMeasure(CreateCompatibleDC(nullptr)) {
+TScreen::TScreen()
+    : FMetrics(ReadMetrics()), FMeasured(ScreenBitmap()), FMeasure(CreateCompatibleDC(nullptr)) {
     FDotsPerInch = GetDeviceCaps(FMeasure, LOGPIXELSY);
     LOGFONTW font = FMetrics.lfMessageFont;
     FFont = CreateFontIndirectW(&font);
@@ -23,11 +34,13 @@ TScreen::TScreen() : FMetrics(ReadMetrics()), FMeasure(CreateCompatibleDC(nullpt
     FBoldFont = CreateFontIndirectW(&font);
     font.lfHeight = font.lfHeight * 3 / 2;
     FHeadingFont = CreateFontIndirectW(&font);
+    SelectObject(FMeasure, FMeasured);
     SelectObject(FMeasure, FFont);
 }
 
 TScreen::~TScreen() {
     DeleteDC(FMeasure);
+    DeleteObject(FMeasured);
     DeleteObject(FFont);
     DeleteObject(FBoldFont);
     DeleteObject(FHeadingFont);
@@ -48,5 +61,6 @@ TSize TScreen::TextSize(const std::wstring& caption, int maxWidth) const {
 TSize TScreen::Measure(const std::wstring& caption, int maxWidth) const {
     RECT rect{0, 0, maxWidth, 0};
     DrawTextW(FMeasure, caption.c_str(), static_cast<int>(caption.size()), &rect, DT_CALCRECT | DT_WORDBREAK);
-    return {static_cast<int>(rect.right), static_cast<int>(rect.bottom)};
+    const int slack = caption.empty() ? 0 : Scale(kSlack);
+    return {static_cast<int>(rect.right) + slack, static_cast<int>(rect.bottom)};
 }

@@ -37,6 +37,7 @@ class TScreen : public TLayoutMetrics {
     HFONT FFont;
     HFONT FBoldFont;
     HFONT FHeadingFont;
-    HDC FMeasure;  ///< a memory device context that holds the font
+    HBITMAP FMeasured;  ///< of the screen's kind: on one of two colours texts can be narrower
+    HDC FMeasure;       ///< a memory device context that holds it and the font
     mutable std::unordered_map<std::wstring, TSize> FUnwrapped;  ///< the sizes of captions that were measured
 };

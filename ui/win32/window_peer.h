@@ -100,7 +100,7 @@ class TWindowPeer : public TPeer {
 
     TControl& FControl;
     HWND FHandle = nullptr;
-    WNDPROC FBaseProc = nullptr;  ///< of the window's class, once it is subclassed
+    WNDPROC FBaseProc = nullptr;        ///< of the window's class, once it is subclassed
     WNDPROC FProcBelowWheel = nullptr;  ///< what gets all but the wheel, once that is passed on
     TRect FPlace;
 };
