@@ -24,7 +24,7 @@ TQuilltune_FormFolder::TQuilltune_FormFolder(const TPageContext& owner, const TL
                .Changes = FChanges,
                .Firefox = owner.Firefox,
                .Captions = owner.Captions,
-               .WindowsLevel = owner.WindowsLevel},
+               .Release = owner.Release},
       FPage(DesktopIcons(), FContext, *this, [](TComponent&) {}) {
     ClientWidth = 360;
     ClientHeight = 350;

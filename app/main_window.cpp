@@ -45,7 +45,11 @@ TQuilltune_FormMain::TQuilltune_FormMain(TSystem& system)
       FChanges(system),
       FAppFrame(system),
       FFirefox(system),
-      FContext{.System = system, .Form = *this, .Changes = FChanges, .Firefox = FFirefox} {
+      FContext{.System = system,
+               .Form = *this,
+               .Changes = FChanges,
+               .Firefox = FFirefox,
+               .Release = RunningRelease(system)} {
     SetCaption(L"Quilltune");
     BuildControls();
     BindEvents();
@@ -107,10 +111,9 @@ void TQuilltune_FormMain::FormCreate() {
     std::wstring osName;
     GetOSName(FSystem, osName);
     FSystem.Shell.DebugOutput(L"OsName:" + osName);
-    FContext.WindowsLevel = WindowsLevel(osName);
     for (const TCategoryGroupRow& group : CategoryTable())
         for (std::size_t i = 0; i < group.Items.size(); ++i)
-            if (!group.Items[i].Levels.Include(FContext.WindowsLevel))
+            if (!group.Items[i].Levels.Include(FContext.Release))
                 Find(group.Name)->Children()[i]->SetVisible(false);
     for (const wchar_t* group : {L"RzGroup_CommonSettings", L"RzGroup_Display", L"RzGroup_Use",
                                  L"RzGroup_Communication", L"RzGroup_Manage"}) {

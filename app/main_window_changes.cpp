@@ -64,7 +64,7 @@ void TQuilltune_FormMain::TellFirefoxRestart(const TForm& asker) {
 }
 
 TSettingNames& TQuilltune_FormMain::Names() {
-    if (!FNames) FNames = std::make_unique<TSettingNames>(FSystem, *FLanguage, FContext.WindowsLevel);
+    if (!FNames) FNames = std::make_unique<TSettingNames>(FSystem, *FLanguage, FContext.Release);
     return *FNames;
 }
 

@@ -49,7 +49,7 @@ std::wstring PlacesOf(const TSetting& setting, const TPageContext& context,
             places.emplace_back(words, target);
     };
     for (const TRow* row : setting.Rows)
-        if (LevelsOf(*row).Include(context.WindowsLevel)) std::ranges::for_each(TargetsOf(*row), add);
+        if (LevelsOf(*row).Include(context.Release)) std::ranges::for_each(TargetsOf(*row), add);
     for (const TChange& change : pending)
         if (change.Setting == setting.Id) add(change.Target);
     std::wstring text;

@@ -11,8 +11,8 @@ std::wstring SheetWords(const TSetting& setting) {
     return setting.Sheet.empty() ? setting.Page : setting.Page + L", " + setting.Sheet;
 }
 
-TSettingNames::TSettingNames(TSystem& system, const TLanguage& language, int windowsLevel)
-    : FCatalogue(system, &language, windowsLevel) {}
+TSettingNames::TSettingNames(TSystem& system, const TLanguage& language, TRelease release)
+    : FCatalogue(system, &language, release) {}
 
 std::wstring TSettingNames::operator[](const std::wstring& setting) const {
     const TSetting* found = FCatalogue.Find(setting);

@@ -10,7 +10,7 @@
 class TSettingNames {
   public:
     /// `language` and `system` outlive the object.
-    TSettingNames(TSystem& system, const TLanguage& language, int windowsLevel);
+    TSettingNames(TSystem& system, const TLanguage& language, TRelease release);
 
     [[nodiscard]] TCatalogue& Catalogue() { return FCatalogue; }
     [[nodiscard]] const TCatalogue& Catalogue() const { return FCatalogue; }

@@ -6,18 +6,11 @@
 #include "base/decimal.h"
 #include "platform/suite_language.h"
 #include "platform/text.h"
-#include "platform/windows_version.h"
 
 namespace {
 
 /// The message does not become longer with the number of settings.
 constexpr std::size_t kMostNamed = 8;
-
-int LevelOf(const TSystem& system) {
-    std::wstring name;
-    GetOSName(system, name);
-    return WindowsLevel(name);
-}
 
 }  // namespace
 
@@ -25,7 +18,7 @@ TTask::TTask(TSystem& system, std::optional<std::wstring> language, TConsole& co
     : System(system),
       Console(console),
       Texts([this]() -> const TLanguage& { return Language(); }),
-      WindowsLevel(LevelOf(system)),
+      Release(RunningRelease(system)),
       FLanguageName(std::move(language)) {}
 
 const TLanguage& TTask::Language() const {
@@ -41,7 +34,7 @@ const TCaptions& TTask::Captions() const {
 }
 
 TCatalogue& TTask::Catalogue() {
-    if (!FCatalogue) FCatalogue.emplace(System, HasCaptions ? &Language() : nullptr, WindowsLevel);
+    if (!FCatalogue) FCatalogue.emplace(System, HasCaptions ? &Language() : nullptr, Release);
     return *FCatalogue;
 }
 

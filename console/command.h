@@ -39,7 +39,7 @@ class TTask {
     TSystem& System;
     TConsole& Console;
     const TMessages Texts;
-    int WindowsLevel;
+    TRelease Release;  ///< the running Windows
 
     std::vector<std::wstring> Words;  ///< behind the command, without the options
     bool Json = false;

@@ -117,7 +117,7 @@ void ApplyFile(TTask& task) {
     auto operations = ReadFile(task);
     if (!operations) return;
     // The file need not say that Windows must restart.
-    TSettingNames(task.System, task.Language(), task.WindowsLevel).Attribute(*operations);
+    TSettingNames(task.System, task.Language(), task.Release).Attribute(*operations);
     Apply(task, *operations);
 }
 
@@ -154,7 +154,7 @@ void ExportFile(TTask& task) {
 
 void ListHistory(TTask& task) {
     const THistory history(task.System);
-    const TSettingNames names(task.System, task.Language(), task.WindowsLevel);
+    const TSettingNames names(task.System, task.Language(), task.Release);
     TList list;
     for (const std::wstring& entry : history.Entries()) {
         const auto wayBack = history.Read(entry);

@@ -62,14 +62,6 @@ std::vector<TControlState> Examples(const TStates& states, const TControlState& 
     return states.Allow(present) ? std::vector{present} : std::vector<TControlState>();
 }
 
-const wchar_t* NameOfLevel(int level) {
-    constexpr std::pair<int, const wchar_t*> kNames[] = {
-        {4, L"Windows 2000"}, {5, L"Windows XP"}, {6, L"Windows Vista"}, {7, L"Windows 7"}};
-    for (const auto& [each, name] : kNames)
-        if (each == level) return name;
-    return L"other";
-}
-
 }  // namespace
 
 void ListSettings(TTask& task) {
@@ -110,7 +102,7 @@ void ShowSetting(TTask& task) {
     const TPresent present = catalogue.Present(setting);
     const TStates states = catalogue.States(setting);
     TList windows;
-    for (const int level : setting.Levels) windows.push_back({std::wstring(NameOfLevel(level))});
+    for (std::wstring& name : NamesOf(setting.Levels)) windows.push_back({std::move(name)});
     TList stored;
     for (const TPresent::TStored& each : present.Stored)
         stored.push_back({TRecord{{L"place", {PlaceWords(each.Target, task.Captions())}},

@@ -17,14 +17,14 @@ struct TAssignment {
     std::wstring State;
 };
 
-/// The changes on one Windows level, checked, in an order in which each setting can be changed when its turn comes.
+/// The changes on one release of Windows, checked, in an order in which each setting can be changed when its turn comes.
 struct TPlan {
     struct TStep {
         std::wstring Id;
         TControlState State;
     };
 
-    int WindowsLevel = 0;
+    TRelease Release{};
     std::vector<TStep> Steps{};
     std::vector<TChange> Changes{};
 };
@@ -35,15 +35,23 @@ TAssignment Split(const TTask& task, const std::wstring& word) {
     return {word.substr(0, equals), word.substr(equals + 1)};
 }
 
-/// The level of this Windows or, of a setting that it does not have, the nearest one that has it.
-int LevelFor(const TTask& task, const TSetting& setting) {
-    const auto distance = [&](int level) {
-        constexpr int kNewest = 7;
-        return std::abs((task.WindowsLevel == 0 ? kNewest : task.WindowsLevel) - level);
+/// This Windows or, of a setting that it does not have, the nearest one that has it.
+TRelease ReleaseFor(const TTask& task, const TSetting& setting) {
+    if (!task.Force || setting.Levels.IsEmpty() || setting.Levels.Include(task.Release)) return task.Release;
+    constexpr TRelease kForUnknown = 7;
+    const TRelease wanted = task.Release.Level() == 0 ? kForUnknown : task.Release;
+    const auto distanceOf = [&](TRelease release) {
+        const auto between = [](std::size_t a, std::size_t b) { return a < b ? b - a : a - b; };
+        return std::pair(std::abs(wanted.Level() - release.Level()),
+                         between(wanted.Index(), release.Index()));
     };
-    if (!task.Force || setting.Levels.empty() || std::ranges::count(setting.Levels, task.WindowsLevel) != 0)
-        return task.WindowsLevel;
-    return *std::ranges::min_element(setting.Levels, {}, distance);
+    std::optional<TRelease> nearest;
+    for (std::size_t i = 0; i < kReleaseCount; ++i) {
+        const TRelease release = TRelease::At(i);
+        if (setting.Levels.Include(release) && (!nearest || distanceOf(release) < distanceOf(*nearest)))
+            nearest = release;
+    }
+    return *nearest;
 }
 
 TControlState StateFor(const TTask& task, TCatalogue& catalogue, const TSetting& setting,
@@ -96,20 +104,21 @@ void Check(const TTask& task, TCatalogue& catalogue, std::vector<TPlan::TStep> w
 }
 
 std::vector<TPlan> PlansFor(TTask& task) {
-    std::map<int, std::vector<TAssignment>> byLevel;
+    std::map<std::size_t, std::vector<TAssignment>> byRelease;
     for (const std::wstring& word : task.Words) {
         TAssignment assignment = Split(task, word);
         const TSetting& setting = task.Setting(assignment.Id);
         assignment.Id = setting.Id;
-        byLevel[LevelFor(task, setting)].push_back(std::move(assignment));
+        byRelease[ReleaseFor(task, setting).Index()].push_back(std::move(assignment));
     }
     std::vector<TPlan> plans;
-    for (const auto& [level, assignments] : byLevel) {
-        TCatalogue catalogue(task.System, &task.Language(), level);
+    for (const auto& [index, assignments] : byRelease) {
+        const TRelease release = TRelease::At(index);
+        TCatalogue catalogue(task.System, &task.Language(), release);
         std::vector<TPlan::TStep> steps;
         for (const TAssignment& each : assignments)
             steps.push_back({each.Id, StateFor(task, catalogue, *catalogue.Find(each.Id), each.State)});
-        plans.push_back({.WindowsLevel = level});
+        plans.push_back({.Release = release});
         Check(task, catalogue, std::move(steps), plans.back());
     }
     return plans;
@@ -137,7 +146,7 @@ bool IsMade(const TTask& task, const TChange& change, const TPreferenceStore& pr
 
 /// Adds a record of each change to the list.
 void CarryOut(TTask& task, const TPlan& plan, TList& list) {
-    TCatalogue catalogue(task.System, &task.Language(), plan.WindowsLevel, TScratchUse::Change);
+    TCatalogue catalogue(task.System, &task.Language(), plan.Release, TScratchUse::Change);
     // As in the window, where pages are read before anything is changed: to read the preferences drops changes.
     for (const TPlan::TStep& step : plan.Steps) (void)catalogue.PendingState(*catalogue.Find(step.Id));
     for (const TPlan::TStep& step : plan.Steps) catalogue.Change(*catalogue.Find(step.Id), step.State);

@@ -9,11 +9,13 @@
 #include <string_view>
 #include <vector>
 
-/// The fields of OSVERSIONINFOW that the program looks at.
+/// What the program looks at of OSVERSIONINFOEXW.
 struct TVersionNumbers {
     std::uint32_t PlatformId = 0;  ///< 2 = VER_PLATFORM_WIN32_NT
     std::uint32_t Major = 0;
     std::uint32_t Minor = 0;
+    std::uint32_t Build = 0;
+    bool IsServer = false;  ///< told from Windows 8 on only: before, a server goes by its numbers
 };
 
 /// The loaded version resource of a file (VerQueryValueW).
@@ -31,7 +33,8 @@ class TWindowsInfo {
   public:
     virtual ~TWindowsInfo() = default;
 
-    /// GetVersionExW; all zero when it fails.
+    /// The numbers of GetVersionExW, all zero when it fails. From Windows 8 on, where that tells of no Windows that is newer
+    /// than the program, those of RtlGetVersion.
     [[nodiscard]] virtual TVersionNumbers Version() const = 0;
 
     /// Whether this is a 32-bit process on 64-bit Windows; false where Windows cannot tell.

@@ -15,8 +15,8 @@ TBoxState Shown(const TBoxRule& rule, const std::optional<TRegValue>& value) {
     return rule.When && rule.When->Value(*value) ? rule.When->Shows : rule.Otherwise;
 }
 
-bool SaysNo(const TPageContext& context, const std::optional<TPlace>& policy) {
-    return policy && StoredNumber(context, *policy) == 1;
+bool SaysNo(const TPageContext& context, const wchar_t* policy) {
+    return policy != nullptr && StoredNumber(context, ExplorerPolicy(policy)) == 1;
 }
 
 bool IsChecked(const TComponent& box) { return static_cast<const TCheckBox&>(box).Checked(); }
@@ -35,9 +35,10 @@ void EnableAll(const TPageContext& context, TControlNames names, bool enabled) {
 void Load(TPageContext& context, const TCheckBoxRow& row) {
     auto* box = context.Form.Find<TCheckBox>(row.Control);
     if (box == nullptr) return;
-    const TBoxState state = SaysNo(context, row.Policy)
-                                ? kClear
-                                : Shown(row.Shows, Stored(context, row.LoadedFrom.value_or(row.Value)));
+    const TBoxState state =
+        SaysNo(context, row.Policy)
+            ? kClear
+            : Shown(row.Shows, Stored(context, row.LoadedFrom == nullptr ? row.Value : *row.LoadedFrom));
     if (state != kKeep) box->SetChecked(state == kChecked);
     EnableAll(context, row.Enables, box->Checked());
     if (row.Toggles != nullptr) context.Form.Find(row.Toggles)->SetEnabled(box->Checked());
@@ -46,18 +47,17 @@ void Load(TPageContext& context, const TCheckBoxRow& row) {
 void RecordFrom(TPageContext& context, const TCheckBoxRow& row, TComponent& sender) {
     const bool checked = IsChecked(sender);
     const std::wstring name = NameOf(row.ChangeName, row.Control);
-    const bool isMissing = row.RecordsWhenMissing && !Stored(context, row.Value);
+    const bool isMissing = row.RecordsWhenMissing != nullptr && !Stored(context, row.Value);
     Record(context, name, row.Value, isMissing ? *row.RecordsWhenMissing : DatumOf(row.Records, checked));
-    if (row.Further)
-        Record(context, name + row.Further->Suffix, row.Further->Value,
-               DatumOf(row.Further->Records, checked));
+    for (const TBoxFurther& further : row.Further)
+        Record(context, name + further.Suffix, further.Value, DatumOf(further.Records, checked));
     if (SaysNo(context, row.Policy)) {
         context.RestartNeeded = true;
-        RecordNumber(context, name + L"1", *row.Policy, checked ? 0 : 1);
+        RecordNumber(context, name + L"1", ExplorerPolicy(row.Policy), checked ? 0 : 1);
     }
     EnableAll(context, row.Enables, checked);
     EnableAll(context, row.EnablesOnClick, checked);
-    if (row.Refreshes) ShowDigits(context, *row.Refreshes);
+    if (row.Refreshes != nullptr) ShowDigits(context, *row.Refreshes);
     if (row.Toggles != nullptr) {
         TControl& other = *context.Form.Find(row.Toggles);
         other.SetEnabled(!other.Enabled());

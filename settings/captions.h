@@ -3,13 +3,14 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 
 class TLanguage;
 
 /// In the order in which they are looked up. The spellings of the language keys ("D_SystemInfomation") are older
 /// than these names and fixed.
-enum class TCaption {
+enum class TCaption : std::uint8_t {
     General,
     GeneralSettings,
     Menu,

@@ -8,6 +8,7 @@
 #include "platform/app_frame.h"
 #include "platform/text.h"
 #include "settings/category_table.h"
+#include "settings/explanations.h"
 #include "settings/page_table.h"
 #include "settings/shell/desktop_icons.h"
 #include "settings/twin_controls.h"
@@ -16,9 +17,6 @@
 #include "ui/spoken_name.h"
 
 namespace {
-
-/// Those that differ in what they offer: any other, Windows 2000, XP, Vista, 7.
-constexpr int kLevels[] = {0, 4, 5, 6, 7};
 
 bool IsSwatch(const TControl& control) { return control.Kind() == TComponentKind::ColorSwatch; }
 
@@ -33,16 +31,12 @@ const TControl* Above(const TControl& control, TComponentKind kind) {
     return c;
 }
 
-TLevels Both(const TLevels& a, const TLevels& b) {
-    return {std::max(a.First, b.First), std::min(a.Last, b.Last), std::max(a.Except, b.Except)};
-}
-
 /// Where neither the control nor what it lies in is hidden.
 TLevels OfferedOn(const TPageDefinition& page, const TControl& control) {
-    TLevels levels;
+    TLevels levels = kEveryLevel;
     for (const TControl* c = &control; c != nullptr; c = c->Parent())
         for (const TOffer& offer : page.Offers)
-            if (c->Name() == offer.Control) levels = Both(levels, offer.Levels);
+            if (c->Name() == offer.Control) levels = levels & offer.Levels;
     return levels;
 }
 
@@ -91,24 +85,21 @@ struct TCatalogue::TModel {
     std::deque<TSetting> Settings{};
 
     TModel(const wchar_t* name, const wchar_t* className, TSystem& system, TSysControl& changes,
-           TFirefoxPrefs& firefox, int windowsLevel)
+           TFirefoxPrefs& firefox, TRelease release)
         : Form(name, className),
-          Context{.System = system,
-                  .Form = Form,
-                  .Changes = changes,
-                  .Firefox = firefox,
-                  .WindowsLevel = windowsLevel} {}
+          Context{
+              .System = system, .Form = Form, .Changes = changes, .Firefox = firefox, .Release = release} {}
 };
 
-TCatalogue::TCatalogue(TSystem& system, const TLanguage* language, int windowsLevel, TScratchUse use)
+TCatalogue::TCatalogue(TSystem& system, const TLanguage* language, TRelease release, TScratchUse use)
     : FScratch(system, use),
       FLanguage(language),
       FChanges(FScratch.System),
       FFirefox(FScratch.System),
       FWindow(std::make_unique<TModel>(L"Quilltune_FormMain", L"TQuilltune_FormMain", FScratch.System,
-                                       FChanges, FFirefox, windowsLevel)),
+                                       FChanges, FFirefox, release)),
       FDialog(std::make_unique<TModel>(L"Quilltune_FormFolder", L"TQuilltune_FormFolder", FScratch.System,
-                                       FChanges, FFirefox, windowsLevel)) {
+                                       FChanges, FFirefox, release)) {
     TForm& window = FWindow->Form;
     window.Build(window, Notebook(L"Notebook_Main", {}));
     FDialog->Form.SetCaption(kDesktopIconsCaption);
@@ -126,7 +117,7 @@ TCatalogue::TCatalogue(TSystem& system, const TLanguage* language, int windowsLe
             for (const auto& page : FWindow->Pages)
                 if (page->Definition().Tag == item.Tag)
                     AddPage(*FWindow, *page, item.Text ? FWindow->Context.Captions[*item.Text] : item.Caption,
-                            item.Text ? item.Levels : TLevels{.Last = -1});
+                            item.Text ? item.Levels : kNoLevel);
     AddPage(*FDialog, *FDialog->Pages.front(), FDialog->Form.Caption(), kEveryLevel);
     Explain(*FWindow);
     Explain(*FDialog);
@@ -151,7 +142,7 @@ TSetting& TCatalogue::AddSetting(TModel& model, TPageModel& page, TControl& cont
         if (container == nullptr) return std::wstring();
         std::wstring caption = container->Caption();
         for (const TLevelCaption& name : definition.LevelCaptions)
-            if (container->Name() == name.Control && name.Levels.Include(model.Context.WindowsLevel))
+            if (container->Name() == name.Control && name.Levels.Include(model.Context.Release))
                 caption = model.Context.Captions[name.Caption];
         return PlainCaption(caption);
     };
@@ -167,34 +158,30 @@ TSetting& TCatalogue::AddSetting(TModel& model, TPageModel& page, TControl& cont
     return setting;
 }
 
-void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& caption,
-                         const TLevels& reachable) {
+void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& caption, TLevels reachable) {
     const TPageDefinition& definition = page.Definition();
     TCataloguedPage& catalogued = FPages.emplace_back(TCataloguedPage{&definition, caption, {}});
     const std::size_t first = model.Settings.size();
-    const auto add = [&](const std::wstring& name, const TLevels& levels) -> TSetting& {
+    const auto add = [&](const std::wstring& name, TLevels levels) -> TSetting& {
         auto found =
             std::find_if(model.Settings.begin() + static_cast<std::ptrdiff_t>(first), model.Settings.end(),
                          [&](const TSetting& each) { return each.Id == name; });
         TControl& control = *model.Form.Find(name);
         TSetting& setting = found == model.Settings.end() ? AddSetting(model, page, control) : *found;
         setting.Page = caption;
-        const TLevels offered = Both(Both(levels, reachable), OfferedOn(definition, control));
-        for (const int level : kLevels)
-            if (offered.Include(level) && std::ranges::count(setting.Levels, level) == 0)
-                setting.Levels.push_back(level);
+        setting.Levels = setting.Levels | (levels & reachable & OfferedOn(definition, control));
         return setting;
     };
     for (const TLoader& loader : definition.Loaders) {
         for (const TRow& row : loader) {
             const auto names = ControlsOf(row);
             TCataloguedRow entry{
-                &row, {}, Both(LevelsOf(row), OfferedOn(definition, *model.Form.Find(names.front())))};
+                &row, {}, LevelsOf(row) & OfferedOn(definition, *model.Form.Find(names.front()))};
             std::vector<TSetting*> own;
             for (const std::wstring& name : names) {
                 TSetting& setting = add(name, LevelsOf(row));
                 setting.Rows.push_back(&row);
-                setting.Restart |= RestartOf(row) && LevelsOf(row).Include(model.Context.WindowsLevel);
+                setting.Restart |= RestartOf(row) && LevelsOf(row).Include(model.Context.Release);
                 // The caption of a swatch says what the button before it is for.
                 if (IsSwatch(*model.Form.Find(name))) own.front()->Caption = setting.Caption;
                 own.push_back(&setting);
@@ -207,27 +194,16 @@ void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& ca
 }
 
 void TCatalogue::Explain(TModel& model) const {
-    using TOwnText = std::pair<std::wstring, const char*>;  // with the control that it is kept under
-    std::map<std::wstring, TOwnText> explanations;
-    for (const auto& page : model.Pages) {
-        for (const TExplanation& each : page->Definition().Explanations()) {
-            const std::wstring control = FromUtf8(each.Control);
-            explanations.emplace(control, TOwnText(control, each.Text));
-        }
-    }
-    // What the program does not explain a language may.
-    const auto of = [&](const std::wstring& control) {
-        return explanations.try_emplace(control, control, "").first->second;
-    };
+    std::map<std::wstring_view, std::wstring_view> twins;  // what has one shares its explanation
     for (const auto& page : model.Pages)
-        for (const TTwin& twin : page->Definition().Twins)
-            explanations.insert_or_assign(twin.Control, of(twin.Twin));
+        for (const TTwin& twin : page->Definition().Twins) twins.emplace(twin.Control, twin.Twin);
+    const std::wstring section = L"Scanner_" + model.Form.Name();
     for (TSetting& setting : model.Settings) {
-        const auto [control, text] = of(setting.Id);
-        setting.Explanation = FromUtf8(text);
+        const auto twin = twins.find(setting.Id);
+        const std::wstring key = std::wstring(twin == twins.end() ? setting.Id : twin->second) + L".Hint";
+        setting.Explanation = Explanations().ReadString(section, key, L"");
         if (FLanguage != nullptr)
-            setting.Explanation = FLanguage->ReadString(L"Scanner_" + model.Form.Name(), control + L".Hint",
-                                                        setting.Explanation);
+            setting.Explanation = FLanguage->ReadString(section, key, setting.Explanation);
     }
 }
 
@@ -280,8 +256,7 @@ TPresent TCatalogue::PendingState(const TSetting& setting) {
     TPageModel& page = Loaded(setting);
     TControl& control = ControlOf(setting);
     return {.State = IsPressed(setting, control) ? TControlState() : page.StateOfSetting(control),
-            .IsOffered = TPageModel::IsShown(control) &&
-                         std::ranges::count(setting.Levels, page.Context().WindowsLevel) != 0,
+            .IsOffered = TPageModel::IsShown(control) && setting.Levels.Include(page.Context().Release),
             .IsEnabled = control.Enabled()};
 }
 
@@ -298,9 +273,9 @@ TPresent TCatalogue::Shown(const TSetting& setting) {
 
 TPresent TCatalogue::Present(const TSetting& setting) {
     TPresent present = Shown(setting);
-    const int windowsLevel = Loaded(setting).Context().WindowsLevel;
+    const TRelease release = Loaded(setting).Context().Release;
     for (const TRow* row : setting.Rows) {
-        if (!LevelsOf(*row).Include(windowsLevel)) continue;
+        if (!LevelsOf(*row).Include(release)) continue;
         for (const TTarget& target : TargetsOf(*row))
             present.Stored.push_back({target, ContentOf(FScratch.System, target, &FFirefox)});
     }
@@ -344,7 +319,9 @@ std::vector<std::pair<const TSetting*, TControlState>> TCatalogue::PresetStates(
     const TPageContext& context = FOwners.at(&preset)->Context();
     for (const TPresetState& state : preset.Preset->States)
         if (const TSetting* setting = Find(state.Control);
-            setting != nullptr && state.Levels.Include(context.WindowsLevel))
+            setting != nullptr && state.Levels.Include(context.Release) &&
+            std::ranges::any_of(setting->Rows,
+                                [&](const TRow* row) { return LevelsOf(*row).Include(context.Release); }))
             states.emplace_back(setting, StateFromNumber(ControlOf(*setting), state.State));
     return states;
 }

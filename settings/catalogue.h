@@ -30,8 +30,8 @@ struct TSetting {
     std::wstring Explanation;       ///< what its caption does not say: one to three sentences
     std::vector<const TRow*> Rows;  ///< the rows that it records through; none of a preset
     const TPreset* Preset = nullptr;
-    std::vector<int> Levels;  ///< the Windows levels on which it is offered
-    bool Restart = false;     ///< Windows must restart before a change takes effect
+    TLevels Levels;        ///< where it is offered
+    bool Restart = false;  ///< Windows must restart before a change takes effect
 };
 
 /// A row, with the settings that record through it.
@@ -67,7 +67,7 @@ class TCatalogue {
   public:
     /// `language` is null for English. It and `system` outlive the catalogue. For use Change a page that is read prepares
     /// the preferences' file like the window's, and ChangedPreferences can be saved.
-    TCatalogue(TSystem& system, const TLanguage* language, int windowsLevel,
+    TCatalogue(TSystem& system, const TLanguage* language, TRelease release,
                TScratchUse use = TScratchUse::Ask);
     ~TCatalogue();
 
@@ -114,7 +114,7 @@ class TCatalogue {
     struct TModel;
 
     void BuildPage(TModel& model, const TPageDefinition& page, TControl& container);
-    void AddPage(TModel& model, TPageModel& page, const std::wstring& caption, const TLevels& reachable);
+    void AddPage(TModel& model, TPageModel& page, const std::wstring& caption, TLevels reachable);
     TSetting& AddSetting(TModel& model, TPageModel& page, TControl& control);
     void Explain(TModel& model) const;
     /// The setting's page, loaded.

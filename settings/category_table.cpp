@@ -14,7 +14,8 @@ constexpr TCategoryItemRow kDisplay[] = {
     {L"Task Bar", L"task_bar", 6, TCaption::MenuTaskbar, TCaption::AboutTaskbar},
 };
 constexpr TCategoryItemRow kUse[] = {
-    {L"Internet Explorer", L"internet", 8, TCaption::BrowserIE, TCaption::AboutInternetExplorer},
+    {L"Internet Explorer", L"internet", 8, TCaption::BrowserIE, TCaption::AboutInternetExplorer,
+     kUntilWindows10},
     {L"Mozilla Firefox", L"browser", 9, TCaption::BrowserFF, TCaption::AboutFirefox, kSinceXp},
 };
 constexpr TCategoryItemRow kCommunication[] = {

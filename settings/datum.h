@@ -20,22 +20,22 @@ struct TDatum {
         Nothing,
     };
 
-    TKind Kind = TKind::Dword;
-    std::int32_t Number = 0;
     const wchar_t* Characters = L"";
+    std::int32_t Number = 0;
+    TKind Kind = TKind::Dword;
     TCaption Translation = TCaption::General;
 };
 
-constexpr TDatum Dword(std::int32_t number) { return {.Kind = TDatum::TKind::Dword, .Number = number}; }
+constexpr TDatum Dword(std::int32_t number) { return {.Number = number, .Kind = TDatum::TKind::Dword}; }
 constexpr TDatum Text(const wchar_t* characters) {
-    return {.Kind = TDatum::TKind::Text, .Characters = characters};
+    return {.Characters = characters, .Kind = TDatum::TKind::Text};
 }
 constexpr TDatum Translated(TCaption caption) {
     return {.Kind = TDatum::TKind::Caption, .Translation = caption};
 }
-constexpr TDatum AsStored(std::int32_t number) { return {.Kind = TDatum::TKind::AsStored, .Number = number}; }
-constexpr TDatum YesNoAsStored(bool yes) { return {.Kind = TDatum::TKind::YesOrNo, .Number = yes ? 1 : 0}; }
-constexpr TDatum SetBits(std::int32_t bits) { return {.Kind = TDatum::TKind::SetBits, .Number = bits}; }
+constexpr TDatum AsStored(std::int32_t number) { return {.Number = number, .Kind = TDatum::TKind::AsStored}; }
+constexpr TDatum YesNoAsStored(bool yes) { return {.Number = yes ? 1 : 0, .Kind = TDatum::TKind::YesOrNo}; }
+constexpr TDatum SetBits(std::int32_t bits) { return {.Number = bits, .Kind = TDatum::TKind::SetBits}; }
 inline constexpr TDatum kDeleteValue{.Kind = TDatum::TKind::DeleteValue};
 inline constexpr TDatum kDeleteKey{.Kind = TDatum::TKind::DeleteKey};
 inline constexpr TDatum kNothing{.Kind = TDatum::TKind::Nothing};

@@ -46,11 +46,11 @@ struct TReasons {
         if (Control == lack.Control && !lack.IsThere(Context)) Say(Context.Captions[lack.Reason]);
     }
     void Look(const TNeed& need) {
-        if (need.Levels.Include(Context.WindowsLevel) && Concerns(need, Control) && !IsMet(Context, need))
+        if (need.Levels.Include(Context.Release) && Concerns(need, Control) && !IsMet(Context, need))
             Say(Words(Context, need));
     }
     void Look(const TRow& row) {
-        if (!LevelsOf(row).Include(Context.WindowsLevel)) return;
+        if (!LevelsOf(row).Include(Context.Release)) return;
         for (const TNeed& need : NeedsOf(row)) Look(need);
         if (!IsPreference(row) || std::ranges::count(ControlsOf(row), Control) == 0) return;
         if (Context.Firefox.IsFirefoxInstalled() && Context.Firefox.FirefoxProfileFolder().empty())
@@ -88,11 +88,11 @@ bool IsMet(const TPageContext& context, const TNeed& need) {
 
 void ApplyNeeds(const TPageContext& context, const TPageDefinition& page) {
     for (const TNeed& need : page.Needs) {
-        if (!need.Disables || !need.Levels.Include(context.WindowsLevel)) continue;
+        if (!need.Disables || !need.Levels.Include(context.Release)) continue;
         for (const wchar_t* control : need.Controls)
             context.Form.Find(control)->SetEnabled(std::ranges::all_of(page.Needs, [&](const TNeed& each) {
-                return !each.Disables || !each.Levels.Include(context.WindowsLevel) ||
-                       !Concerns(each, control) || IsMet(context, each);
+                return !each.Disables || !each.Levels.Include(context.Release) || !Concerns(each, control) ||
+                       IsMet(context, each);
             }));
     }
 }

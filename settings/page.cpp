@@ -1,12 +1,40 @@
 #include "settings/page.h"
 
 #include <algorithm>
+#include <map>
 
 #include "platform/numeric_fields.h"
+#include "settings/page_model.h"
 #include "settings/rights.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
+#include "ui/spoken_name.h"
 #include "ui/state.h"
+
+namespace {
+
+void Hide(TControl& control) {
+    control.SetVisible(false);
+    if (control.Kind() == TComponentKind::TabSheet)
+        static_cast<TPageControl&>(*control.Parent()).SetTabVisible(static_cast<TTabSheet&>(control), false);
+}
+
+/// With the edit and the label that belong to it.
+void HideField(TControl& control) {
+    control.SetVisible(false);
+    if (control.Kind() == TComponentKind::UpDown)
+        static_cast<TUpDown&>(control).Associate()->SetVisible(false);
+    TControl& label = CaptionedBy(control);
+    if (label.Kind() == TComponentKind::Label) label.SetVisible(false);
+}
+
+bool IsWithin(const TControl& control, const TControl& container) {
+    const TControl* c = &control;
+    while (c != nullptr && c != &container) c = c->Parent();
+    return c != nullptr;
+}
+
+}  // namespace
 
 TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl& container,
              TNotifyEvent changed)
@@ -28,6 +56,7 @@ void TPage::Load() {
     const TLoadingScope loading(FContext, FDefinition.ShowsPending);
     if (FBuilt.empty()) TakeDown(*FRoot);
     HideWhatIsNotOffered();
+    HideWhatHasNoRow();
     NameAsThisWindowsDoes();
     if (!HasAdministratorRights(FContext.System)) MarkControlsForAllUsers(FContext, FDefinition);
     ApplyLacks(FContext, FDefinition);
@@ -90,30 +119,59 @@ void TPage::Changed(TComponent& sender) {
 void TPage::HideWhatIsNotOffered() const {
     for (const TOffer& offer : FDefinition.Offers) {
         TControl& control = *FContext.Form.Find(offer.Control);
-        if (offer.Levels.Include(FContext.WindowsLevel)) continue;
-        control.SetVisible(false);
-        if (control.Kind() == TComponentKind::TabSheet)
-            static_cast<TPageControl&>(*control.Parent())
-                .SetTabVisible(static_cast<TTabSheet&>(control), false);
+        if (!offer.Levels.Include(FContext.Release)) Hide(control);
+    }
+}
+
+void TPage::HideWhatHasNoRow() const {
+    std::map<TControl*, bool> settings;  // whether a row of theirs holds
+    std::set<TControl*> containers;
+    for (const TLoader& loader : FDefinition.Loaders)
+        for (const TRow& row : loader)
+            for (const std::wstring& name : ControlsOf(row))
+                settings[FContext.Form.Find(name)] |= LevelsOf(row).Include(FContext.Release);
+    for (const auto& [control, holds] : settings) {
+        if (!holds) HideField(*control);
+        for (TControl* c = control->Parent(); c != nullptr; c = c->Parent())
+            if (c->Kind() == TComponentKind::GroupBox || c->Kind() == TComponentKind::TabSheet)
+                containers.insert(c);
+    }
+    for (TControl* container : containers) {
+        const auto isLeft = [&](const auto& setting) {
+            return IsWithin(*setting.first, *container) && TPageModel::IsShown(*setting.first);
+        };
+        if (std::ranges::none_of(settings, isLeft)) Hide(*container);
     }
 }
 
 void TPage::NameAsThisWindowsDoes() const {
     for (const TLevelCaption& name : FDefinition.LevelCaptions)
-        if (name.Levels.Include(FContext.WindowsLevel))
+        if (name.Levels.Include(FContext.Release))
             FContext.Form.Find(name.Control)->SetCaption(FContext.Captions[name.Caption]);
 }
 
 bool TPage::IsOffered(const TRow& row) const {
     const auto isHidden = [this](const TControl& control) {
         return std::any_of(FDefinition.Offers.begin(), FDefinition.Offers.end(), [&](const TOffer& offer) {
-            return control.Name() == offer.Control && !offer.Levels.Include(FContext.WindowsLevel);
+            return control.Name() == offer.Control && !offer.Levels.Include(FContext.Release);
         });
     };
     const auto names = ControlsOf(row);
     for (const TControl* c = FContext.Form.Find(names.front()); c != nullptr; c = c->Parent())
         if (isHidden(*c)) return false;
     return true;
+}
+
+bool TPage::IsHeld(const std::wstring& control) const {
+    bool isOwn = false;
+    for (const TLoader& loader : FDefinition.Loaders) {
+        for (const TRow& row : loader) {
+            if (std::ranges::count(ControlsOf(row), control) == 0) continue;
+            if (LevelsOf(row).Include(FContext.Release)) return true;
+            isOwn = true;
+        }
+    }
+    return !isOwn;
 }
 
 /// Buttons, lists and edits are of many kinds; those that stand for a setting are named by its row.
@@ -157,7 +215,8 @@ void TPage::Listen(TControl& container) {
 void TPage::ApplyPreset(const TPreset& preset) const {
     for (const TPresetState& state : preset.States) {
         TControl* control = FContext.Form.Find(state.Control);
-        if (control == nullptr || !state.Levels.Include(FContext.WindowsLevel)) continue;
+        if (control == nullptr || !state.Levels.Include(FContext.Release) || !IsHeld(control->Name()))
+            continue;
         SetState(*control, StateFromNumber(*control, state.State));
     }
 }

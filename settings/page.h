@@ -3,7 +3,6 @@
 
 #include <set>
 
-#include "settings/explanation.h"
 #include "settings/needs.h"
 #include "settings/page_context.h"
 #include "ui/design.h"
@@ -16,14 +15,16 @@ struct TPresetState {
     TLevels Levels = kEveryLevel;
 };
 
-/// A Default or preset button. It only sets control states; the controls' own events record the changes.
+/// A Default or preset button. It only sets control states, of settings that this Windows has; the controls' own events record
+/// the changes.
 struct TPreset {
     const wchar_t* Button;
     std::span<const TPresetState> States;
 };
 
 /// A control, or a group or sheet with all that lies in it, that is offered on some Windows levels only. Elsewhere it is
-/// hidden, and what lies in it is not loaded.
+/// hidden, and what lies in it is not loaded. Controls whose rows hold on some levels only are hidden elsewhere without it,
+/// and so are groups and sheets in which no setting is left.
 struct TOffer {
     const wchar_t* Control;
     TLevels Levels;
@@ -50,8 +51,6 @@ struct TPageDefinition {
     TControlDesign (*Design)();
     std::span<const TLoader> Loaders;  ///< in the order in which they run
     std::span<const TPreset> Presets;
-    /// Of its settings and presets, in a unit of their own; those that have a twin share its explanation.
-    TExplanations (*Explanations)() = [] { return TExplanations(); };
     std::span<const TOffer> Offers = {};
     std::span<const TLevelCaption> LevelCaptions = {};
     std::span<const TTwin> Twins = {};
@@ -105,8 +104,11 @@ class TPage {
     void Listen(TControl& container);
     void ListenToRow(const TRow& row);
     void HideWhatIsNotOffered() const;
+    void HideWhatHasNoRow() const;
     void NameAsThisWindowsDoes() const;
     [[nodiscard]] bool IsOffered(const TRow& row) const;
+    /// Whether a row of the control holds on this Windows. So it is for controls of other pages.
+    [[nodiscard]] bool IsHeld(const std::wstring& control) const;
     void ApplyPreset(const TPreset& preset) const;
 
     const TPageDefinition& FDefinition;

@@ -4,6 +4,7 @@
 
 #include "engine/sys_control.h"
 #include "settings/captions.h"
+#include "settings/levels.h"
 #include "settings/net/firefox_prefs.h"
 #include "ui/form.h"
 
@@ -13,7 +14,7 @@ struct TPageContext {
     TSysControl& Changes;
     TFirefoxPrefs& Firefox;
     TCaptions Captions{};
-    int WindowsLevel = 0;  ///< 7 Windows 7, 6 Vista, 5 XP, 4 Windows 2000, 0 any other
+    TRelease Release{};  ///< the running Windows
 
     bool Loading = false;       ///< a loader fills controls; their events record nothing
     bool ShowsPending = false;  ///< the loading page shows changes that are not written yet

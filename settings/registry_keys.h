@@ -12,6 +12,9 @@ inline constexpr const wchar_t* kLogonKeyboard = L"\\.DEFAULT\\Control Panel\\Ke
 inline constexpr const wchar_t* kMouse = L"\\Control Panel\\Mouse\\";
 inline constexpr const wchar_t* kShell = L"\\Software\\Microsoft\\Windows\\Shell\\";
 inline constexpr const wchar_t* kShellNoRoam = L"\\Software\\Microsoft\\Windows\\ShellNoRoam\\";
+/// Where Windows 8 keeps the views of all folders.
+inline constexpr const wchar_t* kShellOfUser =
+    L"\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\";
 
 // Windows Explorer
 
@@ -30,6 +33,28 @@ inline constexpr const wchar_t* kExplorerPoliciesUpper =
     L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\policies\\Explorer\\";
 inline constexpr const wchar_t* kExplorerAutoComplete =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\AutoComplete\\";
+/// What later Windows' policies of the shell are.
+inline constexpr const wchar_t* kUserShellPolicies = L"\\Software\\Policies\\Microsoft\\Windows\\Explorer\\";
+inline constexpr const wchar_t* kShellPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\Explorer\\";
+inline constexpr const wchar_t* kAccountPolicies =
+    L"\\Software\\Policies\\Microsoft\\Windows\\CurrentVersion\\AccountNotifications\\";
+inline constexpr const wchar_t* kStart = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Start\\";
+inline constexpr const wchar_t* kContentDelivery =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager\\";
+inline constexpr const wchar_t* kShortMenuHandler =
+    L"\\Software\\Classes\\CLSID\\{86ca1aa0-34aa-4e8b-a509-50c905bae2a2}\\InprocServer32";
+inline constexpr const wchar_t* kGalleryFolder =
+    L"\\Software\\Classes\\CLSID\\{e88865ea-0e1c-4e20-9aa6-edcd0212c87c}\\";
+inline constexpr const wchar_t* kHomeFolder =
+    L"\\Software\\Classes\\CLSID\\{f874310e-b6b7-47dc-bc84-b9e6b38f5903}\\";
+inline constexpr const wchar_t* kTaskbarDeveloper =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\TaskbarDeveloperSettings\\";
+inline constexpr const wchar_t* kSearch = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Search\\";
+inline constexpr const wchar_t* kSearchPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\Windows Search\\";
+inline constexpr const wchar_t* kWidgetPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Dsh\\";
+inline constexpr const wchar_t* kFeedPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\Windows Feeds\\";
+inline constexpr const wchar_t* kChatPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\Windows Chat\\";
 inline constexpr const wchar_t* kCabinetState =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\CabinetState\\";
 inline constexpr const wchar_t* kCommonDialogPolicies =
@@ -52,12 +77,41 @@ inline constexpr const wchar_t* kRemotePrinters =
     L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RemoteComputer\\NameSpace\\"
     L"{2227A280-3AEA-1069-A2DE-08002B30309D}";
 
+// Privacy, from Windows 8 on
+
+inline constexpr const wchar_t* kInputPersonalization = L"\\Software\\Microsoft\\InputPersonalization\\";
+inline constexpr const wchar_t* kTrainedData =
+    L"\\Software\\Microsoft\\InputPersonalization\\TrainedDataStore\\";
+inline constexpr const wchar_t* kPersonalization = L"\\Software\\Microsoft\\Personalization\\Settings\\";
+inline constexpr const wchar_t* kAdvertisingPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\AdvertisingInfo\\";
+inline constexpr const wchar_t* kCloudContent = L"\\Software\\Policies\\Microsoft\\Windows\\CloudContent\\";
+inline constexpr const wchar_t* kUserProfile = L"\\Control Panel\\International\\User Profile\\";
+inline constexpr const wchar_t* kDataCollection =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\DataCollection\\";
+inline constexpr const wchar_t* kWindowsPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\System\\";
+inline constexpr const wchar_t* kFeedbackRules = L"\\Software\\Microsoft\\Siuf\\Rules\\";
+inline constexpr const wchar_t* kOnlineSpeech =
+    L"\\Software\\Microsoft\\Speech_OneCore\\Settings\\OnlineSpeechPrivacy\\";
+inline constexpr const wchar_t* kAppPrivacy = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppPrivacy\\";
+inline constexpr const wchar_t* kLocationPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\LocationAndSensors\\";
+inline constexpr const wchar_t* kProfileEngagement =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\UserProfileEngagement\\";
+inline constexpr const wchar_t* kCopilotPolicies =
+    L"\\Software\\Policies\\Microsoft\\Windows\\WindowsCopilot\\";
+inline constexpr const wchar_t* kAiPolicies = L"\\Software\\Policies\\Microsoft\\Windows\\WindowsAI\\";
+
 // Internet Explorer and other programs
 
 inline constexpr const wchar_t* kInternetExplorerMain = L"\\Software\\Microsoft\\Internet Explorer\\Main\\";
 inline constexpr const wchar_t* kNewWindows = L"\\Software\\Microsoft\\Internet Explorer\\New Windows\\";
 inline constexpr const wchar_t* kTabbedBrowsing =
     L"\\Software\\Microsoft\\Internet Explorer\\TabbedBrowsing\\";
+inline constexpr const wchar_t* kMaxConnections =
+    L"\\Software\\Microsoft\\Internet Explorer\\MAIN\\FeatureControl\\FEATURE_MAXCONNECTIONSPERSERVER\\";
+inline constexpr const wchar_t* kMaxConnections10 =
+    L"\\Software\\Microsoft\\Internet Explorer\\MAIN\\FeatureControl\\FEATURE_MAXCONNECTIONSPER1_0SERVER\\";
 inline constexpr const wchar_t* kTypedUrls = L"\\Software\\Microsoft\\Internet Explorer\\TypedURLs\\";
 inline constexpr const wchar_t* kInternetSettings =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\";
@@ -83,6 +137,9 @@ inline constexpr const wchar_t* kPacketScheduler = L"\\SOFTWARE\\Policies\\Micro
 inline constexpr const wchar_t* kSecurityCenter = L"\\SOFTWARE\\Microsoft\\Security Center\\";
 inline constexpr const wchar_t* kAutoUpdate =
     L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\WindowsUpdate\\Auto Update\\";
+/// Group policies of updates.
+inline constexpr const wchar_t* kAutoUpdatePolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\WindowsUpdate\\AU\\";
 inline constexpr const wchar_t* kBootOptimize = L"\\SOFTWARE\\Microsoft\\Dfrg\\BootOptimizeFunction\\";
 inline constexpr const wchar_t* kSystemControl = L"\\SYSTEM\\CurrentControlSet\\Control\\";
 inline constexpr const wchar_t* kCrashControl = L"\\SYSTEM\\CurrentControlSet\\Control\\CrashControl\\";
@@ -106,3 +163,7 @@ inline constexpr const wchar_t* kDiscoveryService = L"\\SYSTEM\\CurrentControlSe
 inline constexpr const wchar_t* kDeviceHostService = L"\\SYSTEM\\CurrentControlSet\\Services\\upnphost\\";
 inline constexpr const wchar_t* kFirewallProfile =
     L"\\SYSTEM\\CurrentControlSet\\Services\\SharedAccess\\Parameters\\FirewallPolicy\\StandardProfile\\";
+inline constexpr const wchar_t* kFirewallPublicProfile =
+    L"\\SYSTEM\\CurrentControlSet\\Services\\SharedAccess\\Parameters\\FirewallPolicy\\PublicProfile\\";
+inline constexpr const wchar_t* kFirewallDomainProfile =
+    L"\\SYSTEM\\CurrentControlSet\\Services\\SharedAccess\\Parameters\\FirewallPolicy\\DomainProfile\\";

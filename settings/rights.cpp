@@ -41,8 +41,7 @@ std::vector<std::wstring> ControlsForAllUsers(const TPageContext& context, const
     std::vector<std::wstring> controls;
     for (const TLoader& loader : page.Loaders) {
         for (const TRow& row : loader) {
-            if (!LevelsOf(row).Include(context.WindowsLevel) || !IsForAllUsers(TargetsOf(row).front()))
-                continue;
+            if (!LevelsOf(row).Include(context.Release) || !IsForAllUsers(TargetsOf(row).front())) continue;
             for (std::wstring& control : ControlsOf(row)) controls.push_back(std::move(control));
         }
     }

@@ -9,10 +9,6 @@
 #include "settings/registry_keys.h"
 #include "settings/rows.h"
 
-[[nodiscard]] constexpr TPlace ExplorerPolicy(const wchar_t* policy) {
-    return {kCurrentUser, kExplorerPolicies, policy};
-}
-
 /// A policy that takes away what the box stands for.
 [[nodiscard]] constexpr TCheckBoxRow PolicyRow(const wchar_t* control, const wchar_t* policy) {
     return {.Control = control,
@@ -22,9 +18,56 @@
             .Restart = true};
 }
 
+/// A policy of the shell of later Windows.
+[[nodiscard]] constexpr TPlace UserShellPolicy(const wchar_t* policy) {
+    return {kCurrentUser, kUserShellPolicies, policy};
+}
+[[nodiscard]] constexpr TPlace ShellPolicyForAll(const wchar_t* policy) {
+    return {kLocalMachine, kShellPolicies, policy};
+}
+
+/// Something that is there unless a policy, of this number, forbids it. Checking takes the policy away, and with it the hold
+/// over what the user chooses in Windows.
+[[nodiscard]] constexpr TCheckBoxRow AllowedBox(const wchar_t* control, TPlace policy, std::int32_t forbids) {
+    return {.Control = control,
+            .Value = policy,
+            .Shows = {.Missing = kChecked, .When = {{forbids, kClear}}, .Otherwise = kChecked},
+            .Records = {.Checked = kDeleteValue, .Clear = Dword(forbids)}};
+}
+
+/// A choice in one of Explorer's own dialogs.
+[[nodiscard]] constexpr TCheckBoxRow ExplorerOption(const wchar_t* control, const wchar_t* valueName,
+                                                    TBoxState missing = kChecked) {
+    return {.Control = control,
+            .Value = {kCurrentUser, kExplorerAdvanced, valueName},
+            .Shows = {.Missing = missing, .When = {{0, kClear}}, .Otherwise = kChecked},
+            .Records = {.Checked = Dword(1), .Clear = Dword(0)}};
+}
+
+/// An option of the user's that is kept as "yes" or "no".
+[[nodiscard]] constexpr TCheckBoxRow YesOrNo(const wchar_t* control, const wchar_t* key,
+                                             const wchar_t* valueName, TBoxState missing = kChecked) {
+    return {.Control = control,
+            .Value = {kCurrentUser, key, valueName},
+            .Shows = {.Missing = missing, .When = {{AnyCase(L"yes"), kChecked}}, .Otherwise = kClear},
+            .Records = {.Checked = Text(L"yes"), .Clear = Text(L"no")}};
+}
+
+inline constexpr TDatum kFirstNumbers[] = {Dword(0), Dword(1), Dword(2), Dword(3)};
+
+/// A list of Explorer's whose items are numbered.
+[[nodiscard]] constexpr TChoiceRow ExplorerList(const wchar_t* control, const wchar_t* valueName,
+                                                std::size_t count, int missing, TLevels levels) {
+    return {.Control = control,
+            .Value = {kCurrentUser, kExplorerAdvanced, valueName},
+            .Items = std::span(kFirstNumbers).first(count),
+            .Missing = missing,
+            .Levels = levels};
+}
+
 /// The row of a preference that a policy can overrule.
 [[nodiscard]] constexpr TCheckBoxRow Unless(const wchar_t* policy, TCheckBoxRow row) {
-    row.Policy = ExplorerPolicy(policy);
+    row.Policy = policy;
     return row;
 }
 

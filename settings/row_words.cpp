@@ -1,5 +1,6 @@
 #include "settings/row_words.h"
 
+#include <algorithm>
 #include <bit>
 
 #include "base/decimal.h"
@@ -146,9 +147,10 @@ TText Words(const TBoxRule& rule) {
 
 /// Names where the value is read when that is not the place. Spellings of one place differ in case and in the last backslash
 /// at most.
-TText From(const std::optional<TPlace>& loadedFrom, const TPlace& place) {
-    const bool isElsewhere = loadedFrom && (loadedFrom->Kind != place.Kind ||
-                                            !SameText(TText(loadedFrom->ValueName), place.ValueName));
+TText From(const TPlace* loadedFrom, const TPlace& place) {
+    const bool isElsewhere =
+        loadedFrom != nullptr &&
+        (loadedFrom->Kind != place.Kind || !SameText(TText(loadedFrom->ValueName), place.ValueName));
     return isElsewhere ? L"from " + Words(*loadedFrom) + L": " : TText();
 }
 
@@ -169,15 +171,14 @@ TText Items(const TPlace& place, std::span<const TDatum> items) {
 TRowWords Entry(const TCheckBoxRow& row) {
     TText shows = From(row.LoadedFrom, row.Value) + Shown(row.Value) + Words(row.Shows);
     TText writes = Words(row.Value, row.Records);
-    if (row.RecordsWhenMissing)
+    if (row.RecordsWhenMissing != nullptr)
         writes += L"; either, while there is no value: " + Words(row.Value, *row.RecordsWhenMissing);
-    if (row.Policy) {
-        shows += L"; clear while the policy " + Code(row.Policy->ValueName) + L" is 1";
+    if (row.Policy != nullptr) {
+        shows += L"; clear while the policy " + Code(row.Policy) + L" is 1";
         writes += L". Checking it also turns that policy off";
     }
-    if (row.Further)
-        writes +=
-            L". Also " + Words(row.Further->Value) + L": " + Words(row.Further->Value, row.Further->Records);
+    for (const TBoxFurther& further : row.Further)
+        writes += L". Also " + Words(further.Value) + L": " + Words(further.Value, further.Records);
     return {Words(row.Value), shows, writes};
 }
 
@@ -225,7 +226,7 @@ TRowWords Entry(const TNumberRow& row) {
     if (row.Further) writes += L". Also " + Words(row.Further->Value);
     return {Words(row.Value),
             From(row.LoadedFrom, row.Value) + L"the number" +
-                Missing(row.LoadedFrom.value_or(row.Value), row.Missing) +
+                Missing(row.LoadedFrom == nullptr ? row.Value : *row.LoadedFrom, row.Missing) +
                 (row.NoNumberIsFault ? L"; no number: a fault" : L""),
             writes};
 }
@@ -299,17 +300,4 @@ std::wstring Words(const TPlace& place) {
 
 TRowWords WordsOf(const TRow& row) {
     return std::visit([](const auto& kind) { return Entry(kind); }, row);
-}
-
-std::wstring WordsOf(const TLevels& levels) {
-    const auto name = [](int level) -> std::wstring {
-        constexpr const wchar_t* kNames[] = {L"2000", L"XP", L"Vista", L"7"};
-        return level < 4 || level > 7 ? DecimalText(level) : kNames[level - 4];
-    };
-    if (levels.First == kEveryLevel.First && levels.Last == kEveryLevel.Last)
-        return levels.Except < 0 ? L"all" : L"all but " + name(levels.Except);
-    if (levels.First == levels.Last) return name(levels.First);
-    if (levels.First == kEveryLevel.First) return L"up to " + name(levels.Last);
-    if (levels.Last == kEveryLevel.Last) return name(levels.First) + L" and later";
-    return name(levels.First) + L" to " + name(levels.Last);
 }

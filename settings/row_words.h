@@ -15,6 +15,3 @@ struct TRowWords {
 [[nodiscard]] TRowWords WordsOf(const TRow& row);
 
 [[nodiscard]] std::wstring Words(const TPlace& place);
-
-/// The Windows versions of a range.
-[[nodiscard]] std::wstring WordsOf(const TLevels& levels);

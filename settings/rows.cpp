@@ -68,10 +68,12 @@ TPlaces Places(const TFieldsRow& row) {
 template <typename T>
 TPlaces Places(const T& row) {
     TPlaces places{row.Value};
-    if constexpr (requires { row.Further; })
+    if constexpr (requires { row.Further->Value; })
         if (row.Further) places.push_back(row.Further->Value);
+    if constexpr (requires { row.Further.front(); })
+        for (const TBoxFurther& further : row.Further) places.push_back(further.Value);
     if constexpr (requires { row.Policy; })
-        if (row.Policy) places.push_back(*row.Policy);
+        if (row.Policy != nullptr) places.push_back(ExplorerPolicy(row.Policy));
     return places;
 }
 
@@ -106,12 +108,7 @@ std::set<std::wstring> TouchedBy(const TRow& row) {
 }
 
 TLevels LevelsOf(const TRow& row) {
-    return std::visit(
-        [](const auto& kind) {
-            if constexpr (requires { kind.Levels; }) return kind.Levels;
-            return kEveryLevel;
-        },
-        row);
+    return std::visit([](const auto& kind) { return kind.Levels; }, row);
 }
 
 bool RestartOf(const TRow& row) {
@@ -119,16 +116,16 @@ bool RestartOf(const TRow& row) {
 }
 
 void LoadRow(TPageContext& context, const TRow& row) {
-    if (!LevelsOf(row).Include(context.WindowsLevel)) return;
+    if (!LevelsOf(row).Include(context.Release)) return;
     std::visit(
         [&](const auto& kind) {
-            if (kind.LoadedOn.Include(context.WindowsLevel)) Load(context, kind);
+            if (kind.LoadedOn.Include(context.Release)) Load(context, kind);
         },
         row);
 }
 
 void RecordRow(TPageContext& context, const TRow& row, TComponent& sender) {
-    if (!LevelsOf(row).Include(context.WindowsLevel)) return;
+    if (!LevelsOf(row).Include(context.Release)) return;
     const auto names = ControlsOf(row);
     if (std::find(names.begin(), names.end(), sender.Name()) == names.end()) return;
     std::visit(

@@ -16,34 +16,14 @@
 #include <vector>
 
 #include "settings/datum.h"
+#include "settings/levels.h"
+#include "settings/registry_keys.h"
 
 class TComponent;
 struct TPageContext;
 
 /// Names of controls, in an array beside the rows.
 using TControlNames = std::span<const wchar_t* const>;
-
-/// A range of Windows levels: 7 Windows 7, 6 Vista, 5 XP, 4 Windows 2000, 0 any other (Server 2003 is one).
-struct TLevels {
-    int First = 0;
-    int Last = 99;
-    int Except = -1;  ///< a level of the range that does not belong to it
-
-    [[nodiscard]] constexpr bool Include(int level) const {
-        return First <= level && level <= Last && level != Except;
-    }
-};
-inline constexpr TLevels kEveryLevel{};
-inline constexpr TLevels kUntil2000{.Last = 4};
-inline constexpr TLevels kNotWindows2000{.Except = 4};
-inline constexpr TLevels kUntilXp{.Last = 5};
-inline constexpr TLevels kOnlyXp{.First = 5, .Last = 5};
-inline constexpr TLevels kSinceXp{.First = 5};
-inline constexpr TLevels kXpAndVista{.First = 5, .Last = 6};
-inline constexpr TLevels kUntilVista{.Last = 6};
-inline constexpr TLevels kOnlyVista{.First = 6, .Last = 6};
-inline constexpr TLevels kSinceVista{.First = 6};
-inline constexpr TLevels kSinceWindows7{.First = 7};
 
 /// What a stored value makes of a check box.
 enum class TBoxState : std::uint8_t {
@@ -87,26 +67,33 @@ struct TDigits {
     const wchar_t* Number;
 };
 
+/// A policy of Explorer's.
+[[nodiscard]] constexpr TPlace ExplorerPolicy(const wchar_t* policy) {
+    return {kCurrentUser, kExplorerPolicies, policy};
+}
+
+/// There are many of them: what few have is in constants beside the rows.
 struct TCheckBoxRow {
     const wchar_t* Control;
     TPlace Value;
     TBoxRule Shows;
     TBoxRecord Records;
-    std::optional<TDatum> RecordsWhenMissing = std::nullopt;  ///< by either state, while there is no value
-    std::optional<TBoxFurther> Further = std::nullopt;
-    const wchar_t* ChangeName = nullptr;  ///< null = the control's name
-    bool Restart = false;                 ///< Windows must restart before the change takes effect
-    TLevels LoadedOn = kEveryLevel;       ///< elsewhere the box keeps its state; it records everywhere
-    TControlNames Enables = {};           ///< of use only while the box is checked
-    TControlNames EnablesOnClick = {};    ///< the same, but left alone by the loader
+    const TDatum* RecordsWhenMissing = nullptr;  ///< by either state, while there is no value
+    std::span<const TBoxFurther> Further = {};   ///< what the click writes beside `Value`
+    const wchar_t* ChangeName = nullptr;         ///< null = the control's name
+    bool Restart = false;                        ///< Windows must restart before the change takes effect
+    TLevels LoadedOn = kEveryLevel;              ///< elsewhere the box keeps its state; it records everywhere
+    TControlNames Enables = {};                  ///< of use only while the box is checked
+    TControlNames EnablesOnClick = {};           ///< the same, but left alone by the loader
     /// A control that the loader enables or disables with the box. A click turns it over, whatever it was.
     const wchar_t* Toggles = nullptr;
-    std::optional<TDigits> Refreshes = std::nullopt;  ///< brought up to date by a click, too
-    std::optional<TPlace> LoadedFrom = std::nullopt;  ///< what shows, where it is not `Value`
-    /// A policy that takes away what the box stands for while it is 1: the box is clear then, and a click turns
-    /// the policy off or on as well, under the suffix 1.
-    std::optional<TPlace> Policy = std::nullopt;
-    TLevels Levels = kEveryLevel;  ///< elsewhere another row of the control holds
+    const TDigits* Refreshes = nullptr;  ///< brought up to date by a click, too
+    const TPlace* LoadedFrom = nullptr;  ///< what shows, where it is not `Value`
+    /// A policy of Explorer's that takes away what the box stands for while it is 1: the box is clear then, and a click
+    /// turns the policy off or on as well, under the suffix 1.
+    const wchar_t* Policy = nullptr;
+    /// Elsewhere another row of the control holds, or it is hidden with its label. So it is with the rows of all kinds.
+    TLevels Levels = kEveryLevel;
 };
 
 /// A key that exists while the box is checked, with an empty text as its default value.
@@ -115,6 +102,7 @@ struct TKeyRow {
     TPlace Value;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// An edit whose text is kept at a place of its own while a box is checked.
@@ -136,6 +124,7 @@ struct TFieldsRow {
     std::span<const TBoxField> Fields;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A Windows service that runs while the box is checked.
@@ -170,6 +159,7 @@ struct TRadioPairRow {
     TLevels LoadedOn = kEveryLevel;
     const wchar_t* FirstShows = nullptr;   ///< a picture that is visible while the first button is checked
     const wchar_t* SecondShows = nullptr;  ///< one that is visible while the second is
+    TLevels Levels = kEveryLevel;
 };
 
 /// A second change of the same choice, recorded under the first one's name with `Suffix` behind it.
@@ -192,6 +182,7 @@ struct TChoiceRow {
     const wchar_t* ChangeName = nullptr;  ///< null = the control's name
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A second place of the same number.
@@ -223,8 +214,8 @@ struct TNumberRow {
     const wchar_t* Digits = nullptr;      ///< a label that repeats the number
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
-    std::optional<TPlace> LoadedFrom = std::nullopt;  ///< what shows, where it is not `Value`
-    TLevels Levels = kEveryLevel;                     ///< elsewhere another row of the control holds
+    const TPlace* LoadedFrom = nullptr;  ///< what shows, where it is not `Value`
+    TLevels Levels = kEveryLevel;
 };
 
 /// An edit whose text is the value, recorded whenever it changes.
@@ -235,6 +226,7 @@ struct TTextRow {
     bool MissingClears = false;             ///< nothing shows then
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A switch and an amount that share one value: the amount while the switch is on, and what stands for off.
@@ -254,6 +246,7 @@ struct TSwitchRow {
     const wchar_t* ChangeName = nullptr;  ///< null = the name of `On`
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A list that stands for some bits of a number.
@@ -274,6 +267,7 @@ struct TListsRow {
     const wchar_t* ChangeName;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A button that lets the user pick a colour, and the swatch that shows it. What is no colour leaves the swatch alone.
@@ -283,6 +277,7 @@ struct TColorRow {
     TPlace Value;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A button that lets the user choose a program, and the edit that shows the command line. What he types there is recorded
@@ -293,6 +288,7 @@ struct TProgramRow {
     TPlace Value;
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 /// A setting that no other kind of row describes: functions beside the table do its work.
@@ -303,6 +299,7 @@ struct TSpecialRow {
     void (*Record)(TPageContext& context, const TSpecialRow& row, TComponent& sender);
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
+    TLevels Levels = kEveryLevel;
 };
 
 using TRow = std::variant<TCheckBoxRow, TKeyRow, TFieldsRow, TServiceRow, TRadioPairRow, TChoiceRow,
@@ -320,7 +317,8 @@ using TLoader = std::span<const TRow>;
 /// The places that the row writes.
 [[nodiscard]] std::vector<TPlace> PlacesOf(const TRow& row);
 
-/// Where the row holds. A setting whose place differs from one Windows to another has a row for each.
+/// Where the row holds. A setting whose place differs from one Windows to another has a row for each; where none holds, it
+/// is not offered.
 [[nodiscard]] TLevels LevelsOf(const TRow& row);
 
 /// Whether Windows must restart before a change takes effect.

@@ -76,11 +76,15 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
 }
 
 // Start menu and taskbar
+inline constexpr TBoxFurther kAdminToolsBeside[] = {
+    {L"1",
+     {kCurrentUser, kExplorerAdvanced, L"Start_AdminToolsRoot"},
+     {.Checked = Dword(2), .Clear = Dword(0)}}};
 
 /// The switch "Administrative Tools in the Start menu" of Windows 2000, and that of the later ones, whose second column has
-/// a number of its own: 2 shows them in both.
+/// a number of its own: 2 shows them in both; Windows 8 has no such column, and shows them on its Start screen.
 [[nodiscard]] constexpr TCheckBoxRow AdminToolsRow(const wchar_t* control, TLevels levels) {
-    const bool isText = levels.Last == kUntil2000.Last;
+    const bool isText = levels == kUntil2000;
     TCheckBoxRow row{
         .Control = control,
         .Value = {kCurrentUser, kExplorerAdvanced, L"StartMenuAdminTools"},
@@ -88,10 +92,7 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
         .Records = {.Checked = isText ? Text(L"YES") : Dword(1), .Clear = isText ? Text(L"NO") : Dword(0)},
         .ChangeName = L"CHKmantools",
         .Levels = levels};
-    if (!isText)
-        row.Further = TBoxFurther{.Suffix = L"1",
-                                  .Value = {kCurrentUser, kExplorerAdvanced, L"Start_AdminToolsRoot"},
-                                  .Records = {.Checked = Dword(2), .Clear = Dword(0)}};
+    if (levels == kXpToWindows7) row.Further = kAdminToolsBeside;
     return row;
 }
 
@@ -100,7 +101,8 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
             .Value = {kCurrentUser, kExplorerAdvanced, L"EnableBalloonTips"},
             .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
             .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-            .Restart = true};
+            .Restart = true,
+            .Levels = kUntilWindows10};
 }
 
 // Input and Explorer
@@ -125,15 +127,19 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
 /// are read and written differ in case and in the last backslash only.
 inline constexpr TBoxRule kShowsWhileRegistered{.Missing = kClear, .Otherwise = kChecked};
 
+inline constexpr TPlace kOpenCmd{kClassesRoot, L"\\Directory\\shell\\Menu_Cmd", L""};
+inline constexpr TBoxFurther kOpenCmdCommand[] = {
+    {L"1",
+     {kClassesRoot, L"\\Directory\\shell\\Menu_CMD\\Command\\", L""},
+     {.Checked = Text(L"cmd.exe /k \"cd %L\""), .Clear = kNothing}}};
+
 [[nodiscard]] constexpr TCheckBoxRow OpenCmdRow(const wchar_t* control) {
     return {.Control = control,
             .Value = {kClassesRoot, L"\\Directory\\shell\\Menu_CMD\\", L""},
             .Shows = kShowsWhileRegistered,
             .Records = {.Checked = Translated(TCaption::OpenCmd), .Clear = kDeleteKey},
-            .Further = TBoxFurther{.Suffix = L"1",
-                                   .Value = {kClassesRoot, L"\\Directory\\shell\\Menu_CMD\\Command\\", L""},
-                                   .Records = {.Checked = Text(L"cmd.exe /k \"cd %L\""), .Clear = kNothing}},
-            .LoadedFrom = TPlace{kClassesRoot, L"\\Directory\\shell\\Menu_Cmd", L""}};
+            .Further = kOpenCmdCommand,
+            .LoadedFrom = &kOpenCmd};
 }
 
 [[nodiscard]] constexpr TCheckBoxRow AutoRestartExplorerRow(const wchar_t* control) {
@@ -146,12 +152,27 @@ inline constexpr TBoxRule kShowsWhileRegistered{.Missing = kClear, .Otherwise = 
 
 // Drives, memory, errors
 
+inline constexpr TPlace kLastAccess{kLocalMachine, kFileSystem, L"NtfsDisableLastAccessUpdate"};
+inline constexpr TPlace kNoLastAccess = Bits(1, kLastAccess);
+
 /// NTFS stamps every file it touches unless this value is 1.
 [[nodiscard]] constexpr TCheckBoxRow LastAccessRow(const wchar_t* control) {
     return {.Control = control,
-            .Value = {kLocalMachine, kFileSystem, L"NtfsDisableLastAccessUpdate"},
+            .Value = kLastAccess,
             .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-            .Records = {.Checked = Dword(0), .Clear = Dword(1)}};
+            .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+            .Levels = UntilBuild(17133)};
+}
+
+/// Then Windows began to decide itself, as the second bit says, unless the highest one is set without it ("fsutil behavior
+/// set disablelastaccess").
+[[nodiscard]] constexpr TCheckBoxRow ManagedLastAccessRow(const wchar_t* control) {
+    constexpr std::int32_t kUserDecides = std::numeric_limits<std::int32_t>::min();
+    TCheckBoxRow row = LastAccessRow(control);
+    row.LoadedFrom = &kNoLastAccess;
+    row.Records = {.Checked = Dword(kUserDecides), .Clear = Dword(kUserDecides | 1)};
+    row.Levels = SinceBuild(17134);
+    return row;
 }
 
 [[nodiscard]] constexpr TCheckBoxRow DiskSpaceRow(const wchar_t* control) {

@@ -31,6 +31,7 @@ TTwinControls::TTwinControls(TPageContext& context) : FContext(context) {
 void TTwinControls::AddPairs(const TPageDefinition& page) {
     for (const TLoader& loader : page.Loaders) {
         for (const TRow& row : loader) {
+            if (!LevelsOf(row).Include(FContext.Release)) continue;
             TPair pair{.First = {.Controls = {}, .Page = &page}};
             for (const std::wstring& control : ControlsOf(row)) {
                 const auto twin = std::ranges::find_if(

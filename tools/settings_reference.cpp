@@ -92,7 +92,7 @@ TText CaptionOf(const TCataloguedPage& page) {
 
 int main() {
     TFakeSystem fake;
-    const TCatalogue catalogue(fake.System, nullptr, kSinceWindows7.First);
+    const TCatalogue catalogue(fake.System, nullptr, 7);
     Print(L"# Settings");
     Print(L"");
     Print(

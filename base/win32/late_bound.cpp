@@ -73,6 +73,14 @@ bool ProcessIsWow64() {
     return isWow64Process != nullptr && isWow64Process(GetCurrentProcess(), &wow64) && wow64;
 }
 
+bool GetTrueVersion(OSVERSIONINFOEXW& version) {
+    const TSystemLibrary native(L"ntdll.dll");
+    const auto getVersion = native.Find<LONG WINAPI(OSVERSIONINFOEXW*)>("RtlGetVersion");
+    version = {};
+    version.dwOSVersionInfoSize = sizeof(version);
+    return getVersion != nullptr && getVersion(&version) == 0;
+}
+
 LONG DeleteKeyInView(HKEY parent, const wchar_t* name, REGSAM view) {
     const TSystemLibrary advapi(L"advapi32.dll");
     const auto deleteKeyEx = advapi.Find<LONG WINAPI(HKEY, const wchar_t*, REGSAM, DWORD)>("RegDeleteKeyExW");

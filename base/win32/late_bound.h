@@ -18,6 +18,10 @@ void LoadForCommonDialogs();
 /// IsWow64Process: whether this is a 32-bit process on 64-bit Windows. False where Windows has no such function.
 [[nodiscard]] bool ProcessIsWow64();
 
+/// RtlGetVersion: the version of Windows that GetVersionExW keeps from programs that are older than it. False where Windows
+/// has no such function.
+[[nodiscard]] bool GetTrueVersion(OSVERSIONINFOEXW& version);
+
 /// RegDeleteKeyExW: deletes a key without subkeys; `view` is 0 or KEY_WOW64_64KEY. Windows without that function has
 /// one view only, where RegDeleteKeyW does it. Answers an error code, ERROR_SUCCESS when done.
 [[nodiscard]] LONG DeleteKeyInView(HKEY parent, const wchar_t* name, REGSAM view);

@@ -55,7 +55,18 @@ TVersionNumbers TWin32WindowsInfo::Version() const {
     static_assert(sizeof(info) == 276);
     info.dwOSVersionInfoSize = sizeof(info);
     if (!GetVersionExW(&info)) return {};
-    return {.PlatformId = info.dwPlatformId, .Major = info.dwMajorVersion, .Minor = info.dwMinorVersion};
+    TVersionNumbers version{.PlatformId = info.dwPlatformId,
+                            .Major = info.dwMajorVersion,
+                            .Minor = info.dwMinorVersion,
+                            .Build = info.dwBuildNumber};
+    const bool isSinceWindows8 = version.Major > 6 || (version.Major == 6 && version.Minor >= 2);
+    if (OSVERSIONINFOEXW actual{}; isSinceWindows8 && GetTrueVersion(actual)) {
+        version.Major = actual.dwMajorVersion;
+        version.Minor = actual.dwMinorVersion;
+        version.Build = actual.dwBuildNumber;
+        version.IsServer = actual.wProductType != VER_NT_WORKSTATION;
+    }
+    return version;
 }
 
 bool TWin32WindowsInfo::IsWow64() const { return ProcessIsWow64(); }

@@ -84,15 +84,6 @@ TControlDesign Design() {
                   Buttons(Button(L"Button_IE_Advanced_Default", L"&Default")))));
 }
 
-/// An option that Internet Explorer keeps as the text "yes" or "no".
-constexpr TCheckBoxRow YesOrNo(const wchar_t* control, const wchar_t* key, const wchar_t* valueName,
-                               TBoxState missing) {
-    return {.Control = control,
-            .Value = {kCurrentUser, key, valueName},
-            .Shows = {.Missing = missing, .When = {{AnyCase(L"yes"), kChecked}}, .Otherwise = kClear},
-            .Records = {.Checked = Text(L"yes"), .Clear = Text(L"no")}};
-}
-
 /// An option that Internet Explorer keeps as 1 or 0.
 constexpr TCheckBoxRow OneOrZero(const wchar_t* control, const wchar_t* key, const wchar_t* valueName,
                                  TBoxState missing) {
@@ -178,19 +169,30 @@ constexpr TRow kAutoCompleteRows[] = {
                  .Enables = kAskControls},
     YesOrNo(L"Checkbox_IE_AutoComplete_Form_Ask", kInternetExplorerMain, L"FormSuggest PW Ask", kChecked),
 };
+constexpr TBoxFurther kOldServers[] = {{L"1",
+                                        {kCurrentUser, kInternetSettings, L"MaxConnectionsPer1_0Server"},
+                                        {.Checked = Dword(10), .Clear = kDeleteValue}}};
+constexpr TBoxFurther kOldServersOfItsOwn[] = {{L"1",
+                                                {kCurrentUser, kMaxConnections10, L"iexplore.exe"},
+                                                {.Checked = Dword(10), .Clear = kDeleteValue}}};
 
 constexpr TRow kAdvancedRows[] = {
     OneOrZero(L"Checkbox_IE_Advanced_Connection_Http11", kInternetSettings, L"EnableHttp1_1", kChecked),
     OneOrZero(L"Checkbox_IE_Advanced_Connection_Proxy11", kInternetSettings, L"ProxyHttp1.1", kClear),
     // One number for servers that speak HTTP 1.1, another for those that speak 1.0.
-    TCheckBoxRow{
-        .Control = L"Checkbox_IE_Advanced_Connection_Count",
-        .Value = {kCurrentUser, kInternetSettings, L"MaxConnectionsPerServer"},
-        .Shows = {.Missing = kClear, .When = {{10, kChecked}}, .Otherwise = kClear},
-        .Records = {.Checked = Dword(10), .Clear = kDeleteValue},
-        .Further = TBoxFurther{.Suffix = L"1",
-                               .Value = {kCurrentUser, kInternetSettings, L"MaxConnectionsPer1_0Server"},
-                               .Records = {.Checked = Dword(10), .Clear = kDeleteValue}}},
+    TCheckBoxRow{.Control = L"Checkbox_IE_Advanced_Connection_Count",
+                 .Value = {kCurrentUser, kInternetSettings, L"MaxConnectionsPerServer"},
+                 .Shows = {.Missing = kClear, .When = {{10, kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Dword(10), .Clear = kDeleteValue},
+                 .Further = kOldServers,
+                 .Levels = kUntilWindows7},
+    // Since Internet Explorer 8 they are its own (KB 282402).
+    TCheckBoxRow{.Control = L"Checkbox_IE_Advanced_Connection_Count",
+                 .Value = {kCurrentUser, kMaxConnections, L"iexplore.exe"},
+                 .Shows = {.Missing = kClear, .When = {{10, kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Dword(10), .Clear = kDeleteValue},
+                 .Further = kOldServersOfItsOwn,
+                 .Levels = kSinceWindows8},
     OneOrZero(L"Checkbox_IE_Advanced_Warning_Certificate", kInternetSettings, L"WarnonBadCertRecving",
               kChecked),
     OneOrZero(L"Checkbox_IE_Advanced_Warning_Zone", kInternetSettings, L"WarnonZoneCrossing", kClear),
@@ -205,7 +207,8 @@ constexpr TRow kAdvancedRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_IE_Advanced_Warning_Update",
                  .Value = {kCurrentUser, kInternetExplorerMain, L"NoUpdateCheck"},
                  .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
 };
 
 constexpr TLoader kLoaders[] = {kCommonRows, kTabRows, kAutoCompleteRows, kAdvancedRows};
@@ -249,12 +252,8 @@ constexpr TOffer kOffers[] = {
     {L"Checkbox_IE_Common_Popup_Block", kSinceXp},
 };
 
-constexpr TPageDefinition kPage{.Tag = 8,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = InternetExplorerExplanations,
-                                .Offers = kOffers};
+constexpr TPageDefinition kPage{
+    .Tag = 8, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers};
 
 }  // namespace
 

@@ -30,7 +30,8 @@ constexpr TRow kOutlookExpressRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Mail_OutlookExpress_Messenger",
                  .Value = {kLocalMachine, kOutlookExpress, L"Hide Messenger"},
                  .Shows = {.Missing = kChecked, .When = {{2, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = kDeleteValue, .Clear = Dword(2)}},
+                 .Records = {.Checked = kDeleteValue, .Clear = Dword(2)},
+                 .Levels = kUntilWindows7},
 };
 
 // Special because each version of Outlook has a key of its own: the newest one that is there shows, and a change is
@@ -68,17 +69,18 @@ constexpr TRow kMessengerRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Mail_Messenger_Run",
                  .Value = {kLocalMachine, kMessengerClient, L"PreventRun"},
                  .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
     TCheckBoxRow{.Control = L"Checkbox_Mail_Messenger_AutoRun",
                  .Value = {kLocalMachine, kMessengerClient, L"PreventAutoRun"},
                  .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
 };
 
 constexpr TLoader kLoaders[] = {kOutlookExpressRows, kOutlookRows, kMessengerRows};
 
-constexpr TPageDefinition kPage{
-    .Tag = 11, .Design = Design, .Loaders = kLoaders, .Presets = {}, .Explanations = MailExplanations};
+constexpr TPageDefinition kPage{.Tag = 11, .Design = Design, .Loaders = kLoaders, .Presets = {}};
 
 }  // namespace
 

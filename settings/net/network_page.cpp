@@ -61,7 +61,8 @@ constexpr TRow kNeighborRows[] = {
                  .Value = {kLocalMachine, kRemoteTasks, L""},
                  .Shows = {.Missing = kClear, .Otherwise = kChecked},
                  .Records = {.Checked = Text(L"1"), .Clear = kDeleteKey},
-                 .LoadedOn = kUntilXp},
+                 .LoadedOn = kUntilXp,
+                 .Levels = kUntilWindows7},
     TCheckBoxRow{.Control = L"Checkbox_Net_Neighbor_Common_Printer",
                  .Value = {kLocalMachine, kRemotePrinters, L""},
                  .Shows = {.Missing = kClear, .Otherwise = kChecked},
@@ -70,15 +71,18 @@ constexpr TRow kNeighborRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Net_Neighbor_Common_Share",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"NoNetCrawling"},
                  .Shows = {.Missing = kChecked, .When = {{0, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
     TCheckBoxRow{.Control = L"Checkbox_Net_Neighbor_Common_Add",
                  .Value = {kCurrentUser, kExplorerPolicies, L"NoRecentDocsNetHood"},
                  .Shows = {.Missing = kChecked, .When = {{0, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+    // The service that announces computers went with SMB 1.
     TCheckBoxRow{.Control = L"Checkbox_Net_Neighbor_Security_Hide",
                  .Value = {kLocalMachine, kServer, L"Hidden"},
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Levels = UntilBuild(16298)},
     TCheckBoxRow{.Control = L"Checkbox_Net_Neighbor_Security_ActiveShare",
                  .Value = {kLocalMachine, kServer, L"AutoShareWks"},
                  .Shows = {.Missing = kChecked, .When = {{1, kChecked}}, .Otherwise = kClear},
@@ -90,15 +94,16 @@ constexpr const wchar_t* kQosControls[] = {L"Updown_Net_Advanced_Qos_Count", L"E
 
 constexpr std::int32_t kManual = 3;
 constexpr std::int32_t kDisabled = 4;
+constexpr TBoxFurther kDeviceHost[] = {{L"1",
+                                        {kLocalMachine, kDeviceHostService, L"Start"},
+                                        {.Checked = Dword(kManual), .Clear = Dword(kDisabled)}}};
 
 constexpr TRow kAdvancedRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Net_Advanced_UPnp_Enable",
                  .Value = {kLocalMachine, kDiscoveryService, L"Start"},
                  .Shows = {.When = {{kManual, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(kManual), .Clear = Dword(kDisabled)},
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = {kLocalMachine, kDeviceHostService, L"Start"},
-                                        .Records = {.Checked = Dword(kManual), .Clear = Dword(kDisabled)}}},
+                 .Further = kDeviceHost},
     // Without a stored value Windows reserves a percentage of its own.
     TSwitchRow{.On = L"Checkbox_Net_Advanced_Qos_Keep",
                .Amount = kQosCount,
@@ -113,7 +118,8 @@ constexpr TRow kPasswordRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Net_Password_Storage_SavePassword",
                  .Value = {kLocalMachine, kNetworkPolicies, L"DisablePwdCaching"},
                  .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
     TCheckBoxRow{.Control = L"Checkbox_Net_Password_Transmission_OnlyForShare",
                  .Value = {kLocalMachine, kWorkstation, L"enableplaintextpassword"},
                  .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
@@ -130,9 +136,11 @@ constexpr TRow kInternetRows[] = {
                   .Missing = TPairState::First,
                   .FirstWhen = L"0",
                   .FirstRecords = Text(L"0"),
-                  .SecondRecords = Text(L"1")},
+                  .SecondRecords = Text(L"1"),
+                  .Levels = kUntilWindows7},
     FirewallServiceRow(kFirewall),
     FirewallRow(kFirewall),
+    FirewallProfilesRow(kFirewall),
 };
 
 constexpr TLoader kLoaders[] = {kNeighborRows, kAdvancedRows, kPasswordRows, kInternetRows};
@@ -171,7 +179,6 @@ constexpr TPageDefinition kPage{.Tag = 7,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = NetworkExplanations,
                                 .LevelCaptions = kLevelCaptions,
                                 .ShowsPending = true,
                                 .Prepare = Prepare};

@@ -1,5 +1,6 @@
 #include "settings/net/privacy_page.h"
 
+#include "settings/net/privacy_modern.h"
 #include "settings/net/security_switches.h"
 #include "settings/shared_rows.h"
 
@@ -28,13 +29,16 @@ TControlDesign Design() {
                         CheckBox(L"Checkbox_Privacy_IE_Authentication_Enable",
                                  L"Disable integrated &Windows authentication."),
                         CheckBox(L"Checkbox_Privacy_IE_Update_Stop", L"&Prevent checking for updates.")),
-                  Buttons(Button(L"Button_Privacy_IE_Default", L"&Default")))));
+                  Buttons(Button(L"Button_Privacy_IE_Default", L"&Default"))),
+            PrivacyDataSheet(), PrivacyProgramsSheet(), PrivacySuggestionsSheet()));
 }
 
 constexpr const wchar_t* kAutoUpdateType[] = {L"CB_Privacy_Common_AutoUpdate_Type"};
 
 constexpr TRow kCommonRows[] = {
     AutoUpdateRow(L"Checkbox_Privacy_Common_AutoUpdate_Active", kAutoUpdateType),
+    AutoUpdatePolicyRow(L"Checkbox_Privacy_Common_AutoUpdate_Active", kAutoUpdateType),
+    AutoUpdateTypePolicyRow(kAutoUpdateType[0]),
 };
 
 constexpr TRow kCleanTracesRows[] = {
@@ -42,7 +46,8 @@ constexpr TRow kCleanTracesRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_CleanTraces_ClearIECache_ClearOnExit",
                  .Value = {kCurrentUser, kInternetCache, L"Persistent"},
                  .Shows = {.When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows10},
 };
 
 constexpr TRow kInternetExplorerRows[] = {
@@ -50,14 +55,17 @@ constexpr TRow kInternetExplorerRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Privacy_IE_Authentication_Enable",
                  .Value = {kCurrentUser, kInternetSettings, L"EnableNegotiate"},
                  .Shows = {.When = {{0, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows10},
     TCheckBoxRow{.Control = L"Checkbox_Privacy_IE_Update_Stop",
                  .Value = {kCurrentUser, kWebcheck, L"NoScheduledUpdates"},
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Levels = kUntilWindows7},
 };
 
-constexpr TLoader kLoaders[] = {kCommonRows, kCleanTracesRows, kInternetExplorerRows};
+constexpr TLoader kLoaders[] = {kCommonRows,      kCleanTracesRows,     kInternetExplorerRows,
+                                kPrivacyDataRows, kPrivacyProgramsRows, kPrivacySuggestionsRows};
 
 constexpr TPresetState kCommonDefault[] = {
     {L"Checkbox_Privacy_Common_AutoUpdate_Active", 1},
@@ -75,13 +83,18 @@ constexpr TPreset kPresets[] = {
     {L"Button_Privacy_Common_Default", kCommonDefault},
     {L"Button_CleanTraces_Default", kCleanTracesDefault},
     {L"Button_Privacy_IE_Default", kInternetExplorerDefault},
+    {L"Button_Privacy_Data_Default", kPrivacyDataDefault},
+    {L"Button_Privacy_Programs_Default", kPrivacyProgramsDefault},
+    {L"Button_Privacy_Suggestions_Default", kPrivacySuggestionsDefault},
 };
+
+constexpr TNeed kNeeds[] = {kLocationNeed};
 
 constexpr TPageDefinition kPage{.Tag = 12,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = PrivacyExplanations,
+                                .Needs = kNeeds,
                                 .ShowsPending = true};
 
 }  // namespace

@@ -43,11 +43,11 @@ constexpr const wchar_t* kWarnings[] = {kNoAntivirus, kNoFirewall, kExpired};
 
 constexpr TRow kCenterRows[] = {
     SecurityCenterRow(kActive, kWarnings),
-    Warning(kNoAntivirus, L"AntiVirusDisableNotify"),
-    Warning(kNoFirewall, L"FirewallDisableNotify"),
+    On(kUntilWindows7, Warning(kNoAntivirus, L"AntiVirusDisableNotify")),
+    On(kUntilWindows7, Warning(kNoFirewall, L"FirewallDisableNotify")),
     // Windows Vista gave the warning of outdated software another value.
     On(kUntilXp, Warning(kExpired, L"UpdatesDisableNotify")),
-    On(kSinceVista, Warning(kExpired, L"AutoUpdateDisableNotify")),
+    On(kVistaAndWindows7, Warning(kExpired, L"AutoUpdateDisableNotify")),
 };
 
 constexpr TRow kAdvancedRows[] = {
@@ -62,13 +62,8 @@ constexpr TLoader kLoaders[] = {kCenterRows, kAdvancedRows};
 
 constexpr TLack kLacks[] = {SecurityCenterLack(kActive)};
 
-constexpr TPageDefinition kPage{.Tag = 18,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = {},
-                                .Explanations = SecurityExplanations,
-                                .Lacks = kLacks,
-                                .ShowsPending = true};
+constexpr TPageDefinition kPage{
+    .Tag = 18, .Design = Design, .Loaders = kLoaders, .Presets = {}, .Lacks = kLacks, .ShowsPending = true};
 
 }  // namespace
 

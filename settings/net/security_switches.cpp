@@ -4,7 +4,7 @@
 #include "settings/page_context.h"
 
 bool HasFirewall(const TPageContext& context) {
-    return kSinceVista.Include(context.WindowsLevel) ||
-           (kOnlyXp.Include(context.WindowsLevel) &&
+    return kSinceVista.Include(context.Release) ||
+           (kOnlyXp.Include(context.Release) &&
             QueryServiceRunning(context.System, L"SharedAccess") == TServiceAnswer::Running);
 }

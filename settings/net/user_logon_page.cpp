@@ -70,6 +70,9 @@ TControlDesign Design() {
 }
 
 constexpr TBoxRecord kOneWhenChecked{.Checked = Dword(1), .Clear = Dword(0)};
+constexpr TBoxFurther kOlderUserName[] = {{L"1", Winlogon(L"DontDisplayLastUserName"), kOneWhenChecked}};
+constexpr TBoxFurther kOlderShutdown[] = {{L"1", Winlogon(L"ShutdownWithoutLogon"), kOneWhenChecked}};
+
 constexpr TRow kCommonRows[] = {
     TRadioPairRow{.First = L"Radio_UserLogin_Common_LoginInterface_XP",
                   .Second = L"Radio_UserLogin_Common_LoginInterface_2k",
@@ -80,26 +83,30 @@ constexpr TRow kCommonRows[] = {
                   .SecondRecords = Dword(0),
                   .LoadedOn = kUntilXp,
                   .FirstShows = kWelcomePicture,
-                  .SecondShows = kClassicPicture},
+                  .SecondShows = kClassicPicture,
+                  .Levels = kUntilWindows7},
     // This option and the one for shutting down have an older place at Winlogon, spelled differently here.
     TCheckBoxRow{.Control = L"Checkbox_UserLogin_Common_Set_UserName",
                  .Value = Policy(L"dontdisplaylastusername"),
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = kOneWhenChecked,
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = Winlogon(L"DontDisplayLastUserName"),
-                                        .Records = kOneWhenChecked}},
+                 .Further = kOlderUserName},
     TCheckBoxRow{.Control = L"Checkbox_UserLogin_Common_Set_PressCAD",
                  .Value = Winlogon(L"DisableCAD"),
                  .Shows = {.When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
+    // From Windows 8 on the policy decides, and without it the keys are not required.
+    TCheckBoxRow{.Control = L"Checkbox_UserLogin_Common_Set_PressCAD",
+                 .Value = Policy(L"DisableCAD"),
+                 .Shows = {.Missing = kClear, .When = {{1, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kSinceWindows8},
     TCheckBoxRow{.Control = L"Checkbox_UserLogin_Common_Set_ShowShutdown",
                  .Value = Policy(L"ShutdownWithoutLogon"),
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = kOneWhenChecked,
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = Winlogon(L"ShutdownWithoutLogon"),
-                                        .Records = kOneWhenChecked}},
+                 .Further = kOlderShutdown},
     // Stands on another page too, which writes a text.
     TCheckBoxRow{.Control = L"Checkbox_UserLogin_Common_Set_EndTask",
                  .Value = {kCurrentUser, kDesktop, L"AutoEndTasks"},
@@ -173,13 +180,8 @@ constexpr TNeed kNeeds[] = {
      .Levels = kOnlyXp},
 };
 
-constexpr TPageDefinition kPage{.Tag = 13,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = {},
-                                .Explanations = UserLogonExplanations,
-                                .Needs = kNeeds,
-                                .ShowsPending = true};
+constexpr TPageDefinition kPage{
+    .Tag = 13, .Design = Design, .Loaders = kLoaders, .Presets = {}, .Needs = kNeeds, .ShowsPending = true};
 
 }  // namespace
 

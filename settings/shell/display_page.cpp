@@ -87,8 +87,8 @@ TControlDesign Design() {
 
 // The numbers are the codes of SystemParametersInfo, SPI_GET… and SPI_SET….
 constexpr TRow kRows[] = {
-    ParameterBox(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Title",
-                 Effect(0x1008)),  // …GRADIENTCAPTIONS
+    On(kUntilWindows7, ParameterBox(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Title",
+                                    Effect(0x1008))),  // …GRADIENTCAPTIONS
     ParameterBox(L"Checkbox_Display_Effect_BehaviorSettings_Keyboard", Effect(0x100A)),  // …KEYBOARDCUES
     WithRestart(
         ParameterBox(L"Checkbox_Display_Effect_BehaviorSettings_ToolTip", Effect(0x100E))),  // …HOTTRACKING
@@ -105,8 +105,9 @@ constexpr TRow kRows[] = {
     ParameterBox(L"Checkbox_Display_MenuAppearance_WindowsAndMessage_Click",
                  Effect(0x1014)),  // …SELECTIONFADE
     ParameterList(L"CB_Display_MenuAppearance_WindowsAndMessage_UseType", Effect(0x1012)),  // …MENUFADE
-    ReadOn(kSinceXp, ParameterBox(L"Checkbox_Display_MenuAppearance_DynamicElements_GraphicMenu",
-                                  Effect(0x1022))),  // …FLATMENU
+    On(kUntilWindows7,
+       ReadOn(kSinceXp, ParameterBox(L"Checkbox_Display_MenuAppearance_DynamicElements_GraphicMenu",
+                                     Effect(0x1022)))),  // …FLATMENU
     ReadOn(kSinceXp, ParameterBox(L"Checkbox_Display_MenuAppearance_DynamicElements_MenuShadow",
                                   Effect(0x1024))),  // …DROPSHADOW
     WindowsVersionRow(L"Checkbox_Display_Effect_BehaviorSettings_DesktopWinVersion"),
@@ -116,14 +117,14 @@ constexpr TRow kRows[] = {
                  .Shows = {.When = {{kEmptyOrZero, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = AsStored(1), .Clear = AsStored(0)}},
     FontSmoothingRow(L"CB_Display_FontSmooth_SmoothType", L"CBfontset"),
-    TypeKeepingBox(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Background", kExplorerAdvanced,
-                   L"ListviewWatermark"),
+    On(kUntilWindows7, TypeKeepingBox(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Background",
+                                      kExplorerAdvanced, L"ListviewWatermark")),
     TypeKeepingBox(L"CheckBox_Display_Effect_DisplayAndEffectSettings_Rect", kExplorerAdvanced,
                    L"ListviewAlphaSelect"),
     TypeKeepingBox(L"CheckBox_Display_Effect_DisplayAndEffectSettings_DesktopShadow", kExplorerAdvanced,
                    L"ListviewShadow"),
-    WithRestart(
-        TypeKeepingBox(L"Checkbox_Display_Effect_BehaviorSettings_Folder", kExplorerAdvanced, L"WebView")),
+    On(kUntilWindows7, WithRestart(TypeKeepingBox(L"Checkbox_Display_Effect_BehaviorSettings_Folder",
+                                                  kExplorerAdvanced, L"WebView"))),
     // iMinAnimate, with cbSize before it.
     ParameterBox(L"Checkbox_Display_Animation_MessageAndAnimation_MaxAndMin",
                  BlockParameter(0x48, 0x49, 8, 4)),  // …ANIMATION
@@ -206,11 +207,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_Display_MenuAppearance_HighestPerformance", kMenuHighestPerformance},
 };
 
-constexpr TPageDefinition kPage{.Tag = 1,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = DisplayExplanations};
+constexpr TPageDefinition kPage{.Tag = 1, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
 
 }  // namespace
 

@@ -38,12 +38,21 @@ constexpr TRow kCommonRows[] = {
                  .Value = {kLocalMachine, kIdeController, L"EnableUDMA66"},
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Restart = true},
+                 .Restart = true,
+                 .Levels = kUntilWindows7},
     LastAccessRow(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData"),
+    ManagedLastAccessRow(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData"),
     TCheckBoxRow{.Control = L"Checkbox_Drives_Common_NTFS_SaveShortName",
                  .Value = {kLocalMachine, kFileSystem, L"NtfsDisable8dot3NameCreation"},
                  .Shows = {.When = {{1, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
+    // From Windows 8 on 2 leaves it to each volume, as Windows does by itself.
+    TCheckBoxRow{.Control = L"Checkbox_Drives_Common_NTFS_SaveShortName",
+                 .Value = {kLocalMachine, kFileSystem, L"NtfsDisable8dot3NameCreation"},
+                 .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = Dword(2), .Clear = Dword(1)},
+                 .Levels = kSinceWindows8},
 };
 
 constexpr TRow kDiskSpaceRows[] = {DiskSpaceRow(L"Checkbox_Drives_DiskSpace_SpaceWarn_ShowWarn")};
@@ -53,22 +62,24 @@ constexpr TRow kDiskSpaceRows[] = {DiskSpaceRow(L"Checkbox_Drives_DiskSpace_Spac
 constexpr std::uint32_t kRemovableDrives = 0x04;
 constexpr std::uint32_t kCdDrives = 0x20;
 
+constexpr TDatum kOff = Dword(1);
+
 constexpr TCheckBoxRow AutoPlay(const wchar_t* control, std::uint32_t driveType) {
     return {.Control = control,
             .Value = Bits(driveType, ExplorerPolicy(L"NoDriveTypeAutoRun")),
             .Shows = {.When = {{0, kChecked}}, .Otherwise = kClear},
             .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-            .RecordsWhenMissing = Dword(1)};
+            .RecordsWhenMissing = &kOff};
 }
+constexpr TBoxFurther kCdromAutorun[] = {
+    {L"1", {kLocalMachine, kCdromService, L"Autorun"}, {.Checked = Dword(1), .Clear = Dword(0)}}};
 
 constexpr TRow kAutoPlayRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable",
                  .Value = {kLocalMachine, kExplorerPoliciesUpper, L"CDRAutoRun"},
                  .Shows = {.Missing = kChecked, .When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = {kLocalMachine, kCdromService, L"Autorun"},
-                                        .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+                 .Further = kCdromAutorun,
                  .Restart = true},
     AutoPlay(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia", kRemovableDrives),
     AutoPlay(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD", kCdDrives),
@@ -91,12 +102,8 @@ constexpr const wchar_t* kDiscs[] = {L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD
 constexpr TNeed kNeeds[] = {
     {.Controls = kDiscs, .Of = L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable", .Disables = false}};
 
-constexpr TPageDefinition kPage{.Tag = 14,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = DrivesExplanations,
-                                .Needs = kNeeds};
+constexpr TPageDefinition kPage{
+    .Tag = 14, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Needs = kNeeds};
 
 }  // namespace
 

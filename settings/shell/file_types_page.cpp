@@ -63,32 +63,38 @@ TControlDesign Design() {
 /// The default value of a key in the classes of files.
 constexpr TPlace DefaultOf(const wchar_t* key) { return {kClassesRoot, key, L""}; }
 
+constexpr TPlace kOpenExplorer = DefaultOf(L"\\Folder\\shell\\Menu_root");
+constexpr TPlace kSendTo = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Send To");
+constexpr TPlace kCopyTo = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Copy To");
+constexpr TPlace kMoveTo = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Move To");
+constexpr TBoxFurther kOpenExplorerCommand[] = {
+    {L"1",
+     DefaultOf(L"\\Folder\\shell\\Menu_root\\Command\\"),
+     {.Checked = Text(L"Explorer.exe /e,/root,/idlist,%I"), .Clear = kNothing}}};
+
 constexpr TRow kMenuOperationRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_Drive_OpenDrive",
                  .Value = DefaultOf(L"\\Folder\\shell\\Menu_root\\"),
                  .Shows = kShowsWhileRegistered,
                  .Records = {.Checked = Translated(TCaption::OpenExplorer), .Clear = kDeleteKey},
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = DefaultOf(L"\\Folder\\shell\\Menu_root\\Command\\"),
-                                        .Records = {.Checked = Text(L"Explorer.exe /e,/root,/idlist,%I"),
-                                                    .Clear = kNothing}},
-                 .LoadedFrom = DefaultOf(L"\\Folder\\shell\\Menu_root")},
+                 .Further = kOpenExplorerCommand,
+                 .LoadedFrom = &kOpenExplorer},
     OpenCmdRow(L"Checkbox_FileType_MenuOperation_Drive_OpenCmd"),
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_SendTo",
                  .Value = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Send To\\"),
                  .Shows = kShowsWhileRegistered,
                  .Records = {.Checked = Text(L"{7BA4C740-9E81-11CF-99D3-00AA004AE837}"), .Clear = kDeleteKey},
-                 .LoadedFrom = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Send To")},
+                 .LoadedFrom = &kSendTo},
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_CopyTo",
                  .Value = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Copy To\\"),
                  .Shows = kShowsWhileRegistered,
                  .Records = {.Checked = Text(L"{C2FBB630-2971-11D1-A18C-00C04FD75D13}"), .Clear = kDeleteKey},
-                 .LoadedFrom = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Copy To")},
+                 .LoadedFrom = &kCopyTo},
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_MoveTo",
                  .Value = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Move To\\"),
                  .Shows = kShowsWhileRegistered,
                  .Records = {.Checked = Text(L"{C2FBB631-2971-11D1-A18C-00C04FD75D13}"), .Clear = kDeleteKey},
-                 .LoadedFrom = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Move To")},
+                 .LoadedFrom = &kMoveTo},
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_Encryption",
                  .Value = {kLocalMachine, kExplorerAdvancedUpper, L"EncryptionContextMenu"},
                  .Shows = {.When = {{L"1", kChecked}}, .Otherwise = kClear},
@@ -123,8 +129,10 @@ void LoadUnknown(TPageContext& context, const TSpecialRow& row) {
     context.Form.Find<TRadioButton>(row.Controls[opening])->SetChecked(true);
 }
 
+/// Of the files of unknown type; where there is no choice for them, the group's own.
 std::wstring UnknownCommand(const TPageContext& context) {
-    return std::wstring(Trim(context.Form.Find<TEdit>(kUnknownEdit)->Text()));
+    const wchar_t* edit = kUntilWindows7.Include(context.Release) ? kUnknownEdit : kNoEndExeEdit;
+    return std::wstring(Trim(context.Form.Find<TEdit>(edit)->Text()));
 }
 
 /// The program needs two entries, the verb and its command, of which none may share its name with the
@@ -156,17 +164,23 @@ void RecordNoEndExe(TPageContext& context, const TSpecialRow& row, TComponent& s
         Record(context, sender.Name(), row.Places[0], kDeleteKey);
 }
 
+// From Windows 8 on the classes of unknown files belong to Windows itself, which refuses changes, and the Web service is gone.
 constexpr TRow kOpenFileRows[] = {
     // Special because the verb and its command are two entries, of which none may share its name with the dialog's.
-    TSpecialRow{
-        .Controls = kUnknownRadios, .Places = kUnknownPlaces, .Load = LoadUnknown, .Record = RecordUnknown},
+    TSpecialRow{.Controls = kUnknownRadios,
+                .Places = kUnknownPlaces,
+                .Load = LoadUnknown,
+                .Record = RecordUnknown,
+                .Levels = kUntilWindows7},
     TProgramRow{.Button = kUnknownChange,
                 .Edit = kUnknownEdit,
-                .Value = DefaultOf(L"\\Unknown\\shell\\open\\command\\")},
+                .Value = DefaultOf(L"\\Unknown\\shell\\open\\command\\"),
+                .Levels = kUntilWindows7},
     TCheckBoxRow{.Control = kNet,
                  .Value = kNoInternetOpenWith,
                  .Shows = {.When = {{L"0", kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
     // Special because it shows the value of another setting and takes its command from another edit.
     TSpecialRow{.Controls = kNoEndExeRadios,
                 .Places = kNoEndExePlaces,
@@ -182,6 +196,11 @@ constexpr TPlace kLink{kCurrentUser, kExplorer, L"link"};
 constexpr std::int32_t kAddsHead = 0x0F;
 constexpr const wchar_t* kAddHead = L"Checkbox_FileType_Advanced_NewShortcut_AddHead";
 
+constexpr TBoxFurther kMayChangeDefault[] = {
+    {L"1",
+     DefaultOf(L"\\CLSID\\{e84fda7c-1d6a-45f6-b725-cb260c236066}\\shellex\\MayChangeDefaultMenu"),
+     {.Checked = Text(L""), .Clear = kDeleteKey}}};
+
 constexpr TRow kAdvancedRows[] = {
     TCheckBoxRow{.Control = kAddHead,
                  .Value = As(TCoding::FirstByte, kLink),
@@ -196,11 +215,9 @@ constexpr TRow kAdvancedRows[] = {
                                     L"ShellImagePreview\\"),
                  .Shows = {.Missing = kClear, .Otherwise = kChecked},
                  .Records = {.Checked = Text(L"{e84fda7c-1d6a-45f6-b725-cb260c236066}"), .Clear = kNothing},
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = DefaultOf(L"\\CLSID\\{e84fda7c-1d6a-45f6-b725-cb260c236066}"
-                                                           L"\\shellex\\MayChangeDefaultMenu"),
-                                        .Records = {.Checked = Text(L""), .Clear = kDeleteKey}},
-                 .LoadedFrom = kLink},
+                 .Further = kMayChangeDefault,
+                 .LoadedFrom = &kLink,
+                 .Levels = kUntilWindows7},
 };
 
 constexpr TLoader kLoaders[] = {kMenuOperationRows, kOpenFileRows, kAdvancedRows};
@@ -228,20 +245,15 @@ constexpr const wchar_t* kNetControls[] = {kNet};
 constexpr const wchar_t* kUnknownProgram[] = {kUnknownEdit, kUnknownChange};
 constexpr const wchar_t* kNoEndExeProgram[] = {kNoEndExeEdit, kNoEndExeChange};
 constexpr TNeed kNeeds[] = {
-    {.Controls = kNetControls, .Of = kUnknownRadios[kWithDialog]},
-    {.Controls = kUnknownProgram, .Of = kUnknownRadios[kWithProgram]},
+    {.Controls = kNetControls, .Of = kUnknownRadios[kWithDialog], .Levels = kUntilWindows7},
+    {.Controls = kUnknownProgram, .Of = kUnknownRadios[kWithProgram], .Levels = kUntilWindows7},
     {.Controls = kNoEndExeProgram, .Of = kNoEndExeRadios[kWithProgram]},
 };
 
 constexpr TOffer kOffers[] = {{L"Checkbox_FileType_MenuOperation_Drive_OpenDrive", kUntilXp}};
 
-constexpr TPageDefinition kPage{.Tag = 2,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = FileTypesExplanations,
-                                .Offers = kOffers,
-                                .Needs = kNeeds};
+constexpr TPageDefinition kPage{
+    .Tag = 2, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers, .Needs = kNeeds};
 
 }  // namespace
 

@@ -1,5 +1,7 @@
 #include "settings/shell/folder_design.h"
 
+#include "settings/shell/folder_modern.h"
+
 namespace {
 
 // The colours that Explorer uses as long as none are stored, as 0x00BBGGRR.
@@ -88,6 +90,7 @@ TControlDesign AdvancedSheet() {
 }  // namespace
 
 TControlDesign FolderDesign() {
-    return NotebookPage(3, PageControl(L"PageControl_Folder", ViewSheet(), ListSheet(), ThumbnailSheet(),
-                                       ChooseSheet(), AdvancedSheet()));
+    return NotebookPage(
+        3, PageControl(L"PageControl_Folder", ViewSheet(), ListSheet(), ThumbnailSheet(), ChooseSheet(),
+                       AdvancedSheet(), FolderFilesSheet(), FolderExplorerSheet()));
 }

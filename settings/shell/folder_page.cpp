@@ -3,6 +3,7 @@
 #include "settings/page_context.h"
 #include "settings/shared_rows.h"
 #include "settings/shell/folder_design.h"
+#include "settings/shell/folder_modern.h"
 #include "settings/store.h"
 #include "ui/controls.h"
 
@@ -46,12 +47,14 @@ constexpr TRow kViewRows[] = {
                 .Places = kTreePlaces,
                 .Load = LoadTree,
                 .Record = RecordTree,
-                .LoadedOn = kUntilXp},
+                .LoadedOn = kUntilXp,
+                .Levels = kUntilWindows7},
     TCheckBoxRow{.Control = L"Checkbox_Folder_View_Windows_ShowMenuBar",
                  .Value = {kCurrentUser, kExplorerAdvancedUpper, L"AlwaysShowMenus"},
                  .Shows = {.Missing = kChecked, .When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .LoadedOn = kSinceVista},
+                 .LoadedOn = kSinceVista,
+                 .Levels = kUntilWindows7},
     // The policy's mere presence counts, whatever its value.
     TCheckBoxRow{.Control = L"Checkbox_Folder_View_Windows_Details",
                  .Value = {kCurrentUser, kExplorerPoliciesUpper, L"NoPreviewPane"},
@@ -64,28 +67,52 @@ constexpr TRow kViewRows[] = {
                  .Value = {kCurrentUser, kExplorerAdvancedUpper, L"ClassicViewState"},
                  .Shows = {.Missing = kChecked, .When = {{0, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-                 .Enables = kCountControls},
+                 .Enables = kCountControls,
+                 .Levels = kUntilWindows7},
     // Windows keeps the views of network folders (Shell) and of local ones (ShellNoRoam) apart.
     TNumberRow{
         .Control = kCount,
         .Value = {kCurrentUser, kShell, L"BagMRU Size"},
         .Further = TNumberFurther{.Suffix = L"2", .Value = {kCurrentUser, kShellNoRoam, L"BagMRU Size"}},
         .Suffix = L"1",
-        .Digits = kCountShow},
+        .Digits = kCountShow,
+        .Levels = kUntilWindows7},
+    TNumberRow{.Control = kCount,
+               .Value = {kCurrentUser, kShellOfUser, L"BagMRU Size"},
+               .Digits = kCountShow,
+               .Levels = kSinceWindows8},
 };
 
+constexpr TDigits kFolderCount{kCountShow, kCount};
 constexpr const wchar_t* kFileTipEnables[] = {L"Checkbox_Folder_List_Details_FolderTip"};
 constexpr const wchar_t* kColorButtons[] = {L"Button_Folder_List_CompressedFile_Change",
                                             L"Button_Folder_List_EncryptedFile_Change"};
 constexpr const wchar_t* kColorLabels[] = {L"Label_Folder_List_CompressedFile",
                                            L"Label_Folder_List_EncryptedFile"};
+constexpr TBoxFurther kEncryptedColor[] = {
+    {L"1",
+     {kCurrentUser, kExplorerAdvancedUpper, L"ShowEncryptCompressedColor"},
+     {.Checked = Dword(1), .Clear = Dword(0)}}};
+/// Windows 8 gave encrypted files a value of their own beside that of all.
+constexpr TCheckBoxRow ColorRow(TLevels levels) {
+    TCheckBoxRow row{.Control = L"Checkbox_Folder_List_EAndCFileWithColor",
+                     .Value = {kCurrentUser, kExplorerAdvancedUpper, L"ShowCompColor"},
+                     .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
+                     .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                     .Enables = kColorButtons,
+                     .EnablesOnClick = kColorLabels,
+                     .Levels = levels};
+    if (levels == kSinceWindows8) row.Further = kEncryptedColor;
+    return row;
+}
+
 constexpr TRow kListRows[] = {
     TCheckBoxRow{.Control = kFileTip,
                  .Value = {kCurrentUser, kExplorerAdvancedUpper, L"ShowInfoTip"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Enables = kFileTipEnables,
-                 .Refreshes = TDigits{kCountShow, kCount}},
+                 .Refreshes = &kFolderCount},
     TCheckBoxRow{.Control = L"Checkbox_Folder_List_Details_FolderTip",
                  .Value = {kCurrentUser, kExplorerAdvancedUpper, L"FolderContentsInfoTip"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
@@ -98,12 +125,8 @@ constexpr TRow kListRows[] = {
                   .FirstWhen = 0,
                   .FirstRecords = Dword(0),
                   .SecondRecords = Dword(1)},
-    TCheckBoxRow{.Control = L"Checkbox_Folder_List_EAndCFileWithColor",
-                 .Value = {kCurrentUser, kExplorerAdvancedUpper, L"ShowCompColor"},
-                 .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Enables = kColorButtons,
-                 .EnablesOnClick = kColorLabels},
+    ColorRow(kUntilWindows7),
+    ColorRow(kSinceWindows8),
     TColorRow{.Button = L"Button_Folder_List_CompressedFile_Change",
               .Swatch = L"Ctrbar_Folder_List_CompressedFile_Color",
               .Value = As(TCoding::ColorBytes, {kCurrentUser, kExplorerUpper, L"AltColor"})},
@@ -117,13 +140,16 @@ constexpr TRow kThumbnailRows[] = {
                .Value = {kCurrentUser, kExplorerUpper, L"ThumbnailSize"},
                .Source = TNumberSource::Typed,
                .Edit = L"Edit_Folder_Thumbnail_Size",
-               .ChangeName = L"Edit_Folder_Thumbnail_Size"},
+               .ChangeName = L"Edit_Folder_Thumbnail_Size",
+               .Levels = kUntilWindows7},
     TNumberRow{.Control = L"Trackbar_Folder_Thumbnail_Quality",
-               .Value = {kCurrentUser, kExplorerUpper, L"ThumbnailQuality"}},
+               .Value = {kCurrentUser, kExplorerUpper, L"ThumbnailQuality"},
+               .Levels = kUntilWindows7},
     TCheckBoxRow{.Control = L"Checkbox_Folder_Thumbnail_Cache",
                  .Value = {kCurrentUser, kExplorerAdvancedUpper, L"DisableThumbnailCache"},
                  .Shows = {.When = {{0, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows7},
 };
 
 constexpr TRow kChooseRows[] = {
@@ -137,7 +163,8 @@ constexpr TRow kChooseRows[] = {
                  .LoadedOn = kSinceVista},
 };
 
-constexpr TLoader kLoaders[] = {kViewRows, kListRows, kThumbnailRows, kChooseRows};
+constexpr TLoader kLoaders[] = {kViewRows,   kListRows,        kThumbnailRows,
+                                kChooseRows, kFolderFilesRows, kFolderExplorerRows};
 
 constexpr TPresetState kViewDefault[] = {
     {kTree, 0},
@@ -161,6 +188,8 @@ constexpr TPreset kPresets[] = {
     {L"Button_Folder_View_BehaviorSet_Default", kViewDefault},
     {L"Button_Folder_List_Default", kListDefault},
     {L"Button_Folder_Thumbnail_Default", kThumbnailDefault},
+    {L"Button_Folder_Files_Default", kFolderFilesDefault},
+    {L"Button_Folder_Explorer_Default", kFolderExplorerDefault},
 };
 
 constexpr TLevelCaption kLevelCaptions[] = {
@@ -171,7 +200,6 @@ constexpr TPageDefinition kPage{.Tag = 3,
                                 .Design = FolderDesign,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = FolderExplanations,
                                 .LevelCaptions = kLevelCaptions};
 
 }  // namespace

@@ -138,7 +138,8 @@ constexpr TRow kDisplayRows[] = {
     DragFullWindowsRow(L"Checkbox_CommonSettings_Display_Desktop_Drag"),
     MinimizedWindowsRow(kMinimizedLists),
     AdminToolsRow(kAdminTools, kUntil2000),
-    AdminToolsRow(kAdminTools, kSinceXp),
+    AdminToolsRow(kAdminTools, kXpToWindows7),
+    AdminToolsRow(kAdminTools, kWindows8And81),
     FirefoxHomePageRow(kHomePage),
 };
 constexpr TRow kFunctionRows[] = {
@@ -148,13 +149,17 @@ constexpr TRow kFunctionRows[] = {
     OpenCmdRow(L"Checkbox_CommonSettings_Function_Explorer_OpenCmd"),
     AutoRestartExplorerRow(L"Checkbox_CommonSettings_Function_Explorer_AutoRun"),
     LastAccessRow(L"Checkbox_CommonSettings_Function_Drives_LastVisit"),
+    ManagedLastAccessRow(L"Checkbox_CommonSettings_Function_Drives_LastVisit"),
     DiskSpaceRow(L"Checkbox_CommonSettings_Function_Drives_SpaceWarn"),
 };
 constexpr TRow kSecurityRows[] = {
     SecurityCenterRow(kActiveSC),
     FirewallServiceRow(kStartWF),
     FirewallRow(kStartWF),
+    FirewallProfilesRow(kStartWF),
     AutoUpdateRow(L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveAU", kAutoUpdateType),
+    AutoUpdatePolicyRow(L"ChkeckBox_CommonSettings_Security_SecuritySettings_ActiveAU", kAutoUpdateType),
+    AutoUpdateTypePolicyRow(kAutoUpdateType[0]),
     ClearRecentDocumentsRow(L"Checkbox_CommonSettings_Security_Traces_ClearLogoff"),
     ClearPagefileRow(L"Checkbox_CommonSettings_Security_Traces_Pagefile"),
 };

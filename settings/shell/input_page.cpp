@@ -12,22 +12,26 @@ constexpr TNumberRow Rectangle(const wchar_t* control, TPlace width, TPlace heig
 }
 
 /// What Windows tells only through functions of its own is read where it keeps it.
-constexpr TNumberRow ReadFrom(TPlace place, TNumberRow row) {
-    row.LoadedFrom = As(TCoding::Number, place);
+constexpr TNumberRow ReadFrom(const TPlace& place, TNumberRow row) {
+    row.LoadedFrom = &place;
     return row;
 }
+
+constexpr TPlace kDoubleClickWidth = As(TCoding::Number, {kCurrentUser, kMouse, L"DoubleClickWidth"});
+constexpr TPlace kDoubleClickSpeed = As(TCoding::Number, {kCurrentUser, kMouse, L"DoubleClickSpeed"});
+constexpr TPlace kDragWidth = As(TCoding::Number, {kCurrentUser, kDesktop, L"DragWidth"});
 
 constexpr TRow kSensitivityRows[] = {
     TNumberRow{.Control = L"TrackBar_Use_MouseSensitivity_Speed",
                .Value = NumberParameter(0x70, 0x71, TParameterSlot::Data)},  // …MOUSESPEED
-    ReadFrom({kCurrentUser, kMouse, L"DoubleClickWidth"},
+    ReadFrom(kDoubleClickWidth,
              Rectangle(L"Updown_Use_MouseSensitivity_DoubleClickError",
                        NumberParameter(kSystemMetric + 36, 0x1D),    // SM_CXDOUBLECLK, SPI_SETDOUBLECLKWIDTH
                        NumberParameter(kSystemMetric + 37, 0x1E))),  // SM_CYDOUBLECLK, SPI_SETDOUBLECLKHEIGHT
-    ReadFrom({kCurrentUser, kMouse, L"DoubleClickSpeed"},
+    ReadFrom(kDoubleClickSpeed,
              {.Control = L"UpDown_Use_MouseSensitivity_DoubleClickTime",
               .Value = NumberParameter(kDoubleClickTime, 0x20)}),  // SPI_SETDOUBLECLICKTIME
-    ReadFrom({kCurrentUser, kDesktop, L"DragWidth"},
+    ReadFrom(kDragWidth,
              Rectangle(L"UpDown_Use_MouseSensitivity_Drag",
                        NumberParameter(kSystemMetric + 68, 0x4C),    // SM_CXDRAG, SPI_SETDRAGWIDTH
                        NumberParameter(kSystemMetric + 69, 0x4D))),  // SM_CYDRAG, SPI_SETDRAGHEIGHT
@@ -48,13 +52,15 @@ constexpr const wchar_t* kWheelControls[] = {L"Edit_Use_MouseFunction_Wheel_Coun
                                              L"UpDown_Use_MouseFunction_Wheel_Count"};
 constexpr const wchar_t* kTrailLength[] = {L"TrackBar_Use_MouseFunction_Trails_Length"};
 
+constexpr TPlace kSwapped = As(TCoding::Number, {kCurrentUser, kMouse, L"SwapMouseButtons"});
+
 // Where no other name is said, the parameters are SPI_GET… and SPI_SET….
 constexpr TRow kFunctionRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Use_MouseFunction_ChangeKey_Change",
                  .Value = NumberParameter(kSystemMetric + 23, 0x21),  // SM_SWAPBUTTON, SPI_SETMOUSEBUTTONSWAP
                  .Shows = {.When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .LoadedFrom = As(TCoding::Number, {kCurrentUser, kMouse, L"SwapMouseButtons"})},
+                 .LoadedFrom = &kSwapped},
     TSwitchRow{.On = L"Radio_Use_MouseFunction_Wheel_RollRow",
                .Off = L"Radio_Use_MouseFunction_Wheel_RollPage",
                .Amount = kWheelCount,
@@ -87,6 +93,7 @@ constexpr TPlace NumLock(TRootKey root, const wchar_t* key) {
     return As(TCoding::Decimal, Bits(kNumLockLight, {root, key, kLights}));
 }
 constexpr TBoxRecord kBit{.Checked = Dword(1), .Clear = Dword(0)};
+constexpr TBoxFurther kNumLockAtLogon[] = {{L"1", NumLock(kUsers, kLogonKeyboard), kBit}};
 
 constexpr TRow kKeyboardRows[] = {
     TNumberRow{.Control = L"TrackBar_Use_Keyboard_Repeat_Delay",
@@ -99,12 +106,11 @@ constexpr TRow kKeyboardRows[] = {
                .Restart = true},
     CaretWidthRow(L"UpDown_Use_Keyboard_CursorWidth_Width"),
     WindowsKeyRow(L"Checkbox_Use_Keyboard_WinKey_Active"),
-    TCheckBoxRow{
-        .Control = L"Checkbox_Use_Keyboard_NumLock_Active",
-        .Value = NumLock(kCurrentUser, kKeyboard),
-        .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
-        .Records = kBit,
-        .Further = TBoxFurther{.Suffix = L"1", .Value = NumLock(kUsers, kLogonKeyboard), .Records = kBit}},
+    TCheckBoxRow{.Control = L"Checkbox_Use_Keyboard_NumLock_Active",
+                 .Value = NumLock(kCurrentUser, kKeyboard),
+                 .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
+                 .Records = kBit,
+                 .Further = kNumLockAtLogon},
 };
 
 constexpr TLoader kLoaders[] = {kSensitivityRows, kFunctionRows, kKeyboardRows};
@@ -153,12 +159,8 @@ constexpr TOffer kOffers[] = {
     {L"TrackBar_Use_MouseFunction_Trails_Length", kSinceXp},
 };
 
-constexpr TPageDefinition kPage{.Tag = 4,
-                                .Design = InputDesign,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = InputExplanations,
-                                .Offers = kOffers};
+constexpr TPageDefinition kPage{
+    .Tag = 4, .Design = InputDesign, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers};
 
 }  // namespace
 

@@ -46,7 +46,8 @@ constexpr TRow kMemoryUseRows[] = {
                   .FirstWhen = 1,
                   .FirstRecords = Dword(1),
                   .SecondRecords = Dword(0),
-                  .Restart = true},
+                  .Restart = true,
+                  .Levels = kUntilWindows7},
 };
 
 constexpr TLoader kLoaders[] = {kMemoryManageRows, kMemoryUseRows};
@@ -61,11 +62,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_MemoryAndCache_MemoryUse_Default", kMemoryUseDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 15,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = MemoryExplanations};
+constexpr TPageDefinition kPage{.Tag = 15, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include "settings/shell/start_menu_page.h"
 
 #include "settings/shared_rows.h"
+#include "settings/shell/start_menu_modern.h"
 
 namespace {
 
@@ -91,16 +92,8 @@ TControlDesign Design() {
                             Edit(L"Edit_Use_StartMenu_RecentlyUse_JumpList_Count").Width(4),
                             UpDown(L"UpDown_Use_StartMenu_RecentlyUse_JumpList_Count",
                                    L"Edit_Use_StartMenu_RecentlyUse_JumpList_Count", 0, 60, 10))),
-                  Buttons(Button(L"Button_Use_StartMenu_RecentlyUse_Default", L"&Default")))));
-}
-
-/// A choice in the Start menu's own dialog.
-constexpr TCheckBoxRow Option(const wchar_t* control, const wchar_t* valueName,
-                              TBoxState missing = kChecked) {
-    return {.Control = control,
-            .Value = {kCurrentUser, kExplorerAdvanced, valueName},
-            .Shows = {.Missing = missing, .When = {{0, kClear}}, .Otherwise = kChecked},
-            .Records = {.Checked = Dword(1), .Clear = Dword(0)}};
+                  Buttons(Button(L"Button_Use_StartMenu_RecentlyUse_Default", L"&Default"))),
+            StartMenuModernSheet()));
 }
 
 /// Choices of the classic Start menu are texts.
@@ -117,23 +110,27 @@ constexpr const wchar_t* kClassicPrinters = L"Checkbox_Use_StartMenu_Common_Clas
 
 constexpr TRow kCommonRows[] = {
     On(kOnlyXp, PolicyRow(kUserName, L"NoUserNameInStartMenu")),
-    On(kSinceVista, Option(kUserName, L"Start_ShowUser")),
+    On(kVistaAndWindows7, ExplorerOption(kUserName, L"Start_ShowUser")),
     TCheckBoxRow{.Control = L"Checkbox_Use_StartMenu_Common_Behaviour_Classic",
                  .Value = {kCurrentUser, kExplorerPolicies, L"NoSimpleStartMenu"},
                  .Shows = {.Missing = kClear, .When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Restart = true},
-    Option(L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade", L"Start_AutoCascade"),
-    Option(L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", L"Start_EnableDragDrop"),
-    Option(L"Checkbox_Use_StartMenu_Common_Behaviour_NewApps", L"Start_NotifyNewApps"),
-    Option(L"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons", L"Start_LargeMFUIcons"),
+    On(kUntilWindows7,
+       ExplorerOption(L"Checkbox_Use_StartMenu_Common_Behaviour_AutoCascade", L"Start_AutoCascade")),
+    On(kUntilWindows7,
+       ExplorerOption(L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", L"Start_EnableDragDrop")),
+    On(kUntilWindows7,
+       ExplorerOption(L"Checkbox_Use_StartMenu_Common_Behaviour_NewApps", L"Start_NotifyNewApps")),
+    On(kUntilWindows7,
+       ExplorerOption(L"Checkbox_Use_StartMenu_Common_Behaviour_LargeIcons", L"Start_LargeMFUIcons")),
     On(kUntil2000, PolicyRow(kPersonalized, L"Intellimenus")),
     TCheckBoxRow{.Control = kPersonalized,
                  .Value = {kCurrentUser, kExplorerAdvanced, L"IntelliMenus"},
                  .Shows = {.Missing = kChecked, .When = {{kNo, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Text(L"Yes"), .Clear = Text(L"No")},
                  .Restart = true,
-                 .Policy = ExplorerPolicy(L"Intellimenus"),
+                 .Policy = L"Intellimenus",
                  .Levels = kXpAndVista},
     TNumberRow{.Control = L"UpDown_Use_StartMenu_Common_Menu_Delay",
                .Value = NumberParameter(0x6A, 0x6B)},  // …MENUSHOWDELAY
@@ -153,11 +150,12 @@ constexpr TChoiceRow Folder(const wchar_t* control, const wchar_t* valueName, in
     return {.Control = control,
             .Value = {kCurrentUser, kExplorerAdvanced, valueName},
             .Items = kAppearanceValues,
-            .Missing = missing};
+            .Missing = missing,
+            .Levels = kUntilWindows7};
 }
 
 constexpr const wchar_t* kRun = L"Checkbox_Use_StartMenu_Items_Run";
-constexpr const wchar_t* kSearch = L"Checkbox_Use_StartMenu_Items_Search";
+constexpr const wchar_t* kSearchItem = L"Checkbox_Use_StartMenu_Items_Search";
 constexpr const wchar_t* kHelp = L"Checkbox_Use_StartMenu_Items_Help";
 constexpr const wchar_t* kNetConn = L"Checkbox_Use_StartMenu_Items_NetConn";
 constexpr const wchar_t* kPrinters = L"Checkbox_Use_StartMenu_Items_Printers";
@@ -174,22 +172,25 @@ constexpr TRow kItemRows[] = {
     Folder(L"CB_Use_StartMenu_Items_ControlPanel", L"Start_ShowControlPanel"),
     Folder(L"CB_Use_StartMenu_Items_NetConn", L"Start_ShowNetConn", kMenu),
     On(kUntil2000, PolicyRow(kRun, L"NoRun")),
-    On(kOnlyXp, Unless(L"NoRun", Option(kRun, L"Start_ShowRun"))),
-    On(kSinceVista, Unless(L"NoRun", Option(kRun, L"Start_ShowRun", kClear))),
-    On(kUntil2000, PolicyRow(kSearch, L"NoFind")),
-    On(kOnlyXp, Unless(L"NoFind", Option(kSearch, L"Start_ShowSearch"))),
-    On(kOnlyVista, Option(kSearch, L"Start_ShowSearch")),
+    On(kOnlyXp, Unless(L"NoRun", ExplorerOption(kRun, L"Start_ShowRun"))),
+    On(kVistaAndWindows7, Unless(L"NoRun", ExplorerOption(kRun, L"Start_ShowRun", kClear))),
+    On(kUntil2000, PolicyRow(kSearchItem, L"NoFind")),
+    On(kOnlyXp, Unless(L"NoFind", ExplorerOption(kSearchItem, L"Start_ShowSearch"))),
+    On(kOnlyVista, ExplorerOption(kSearchItem, L"Start_ShowSearch")),
     On(kUntil2000, PolicyRow(kHelp, L"NoSMHelp")),
-    On(kSinceXp, Unless(L"NoSMHelp", Option(kHelp, L"Start_ShowHelp"))),
-    Option(L"Checkbox_Use_StartMenu_Items_Favorites", L"StartMenuFavorites", kClear),
-    On(kOnlyVista, Option(kNetConn, L"Start_ShowNetConn")),
-    On(kSinceWindows7, Option(kNetConn, L"Start_ShowNetConn", kClear)),
-    On(kOnlyXp, Option(kPrinters, L"Start_ShowPrinters")),
-    On(kOnlyVista, Option(kPrinters, L"Start_ShowPrinters", kClear)),
-    On(kSinceWindows7, Option(kPrinters, L"Start_ShowPrinters")),
-    Option(L"Checkbox_Use_StartMenu_Items_Programs", L"Start_ShowSetProgramAccessAndDefaults"),
+    On(kXpToWindows7, Unless(L"NoSMHelp", ExplorerOption(kHelp, L"Start_ShowHelp"))),
+    On(kUntilWindows7,
+       ExplorerOption(L"Checkbox_Use_StartMenu_Items_Favorites", L"StartMenuFavorites", kClear)),
+    On(kOnlyVista, ExplorerOption(kNetConn, L"Start_ShowNetConn")),
+    On(kOnlyWindows7, ExplorerOption(kNetConn, L"Start_ShowNetConn", kClear)),
+    On(kOnlyXp, ExplorerOption(kPrinters, L"Start_ShowPrinters")),
+    On(kOnlyVista, ExplorerOption(kPrinters, L"Start_ShowPrinters", kClear)),
+    On(kOnlyWindows7, ExplorerOption(kPrinters, L"Start_ShowPrinters")),
+    On(kUntilWindows7,
+       ExplorerOption(L"Checkbox_Use_StartMenu_Items_Programs", L"Start_ShowSetProgramAccessAndDefaults")),
     AdminToolsRow(kAdminTools, kUntil2000),
-    AdminToolsRow(kAdminTools, kSinceXp),
+    AdminToolsRow(kAdminTools, kXpToWindows7),
+    AdminToolsRow(kAdminTools, kWindows8And81),
     PolicyRow(L"Checkbox_Use_StartMenu_Items_LogOff", L"StartMenuLogOff"),
 };
 
@@ -202,7 +203,8 @@ constexpr const wchar_t* kJumpListCount = L"UpDown_Use_StartMenu_RecentlyUse_Jum
 
 /// Recent documents appear as a menu, the only way there is.
 constexpr TCheckBoxRow RecentDocuments(TBoxState missing) {
-    TCheckBoxRow row = Unless(L"NoRecentDocsMenu", Option(kShowDocuments, L"Start_ShowRecentDocs", missing));
+    TCheckBoxRow row =
+        Unless(L"NoRecentDocsMenu", ExplorerOption(kShowDocuments, L"Start_ShowRecentDocs", missing));
     row.Records.Checked = Dword(kMenu);
     return row;
 }
@@ -220,25 +222,32 @@ constexpr int kJumpListItems = 10;
 
 constexpr TRow kRecentlyUsedRows[] = {
     On(kUntilXp, PolicyRow(kKeepDocuments, L"NoRecentDocsHistory")),
-    On(kSinceVista, Unless(L"NoRecentDocsHistory", Option(kKeepDocuments, L"Start_TrackDocs"))),
+    On(kSinceVista, Unless(L"NoRecentDocsHistory", ExplorerOption(kKeepDocuments, L"Start_TrackDocs"))),
     On(kUntil2000, PolicyRow(kShowDocuments, L"NoRecentDocsMenu")),
     On(kXpAndVista, RecentDocuments(kChecked)),
-    On(kSinceWindows7, RecentDocuments(kClear)),
+    On(kOnlyWindows7, RecentDocuments(kClear)),
     TNumberRow{.Control = L"UpDown_Use_StartMenu_RecentlyUse_Document_FileCount",
                .Value = ExplorerPolicy(L"MaxRecentDocs"),
-               .Restart = true},
+               .Restart = true,
+               .Levels = kUntilWindows7},
     On(kUntilVista, PolicyRow(kKeepPrograms, L"NoInstrumentation")),
-    On(kSinceWindows7, Option(kKeepPrograms, L"Start_TrackProgs")),
-    PolicyRow(kShowPrograms, L"NoStartMenuMFUprogramsList"),
+    On(kSinceWindows7, ExplorerOption(kKeepPrograms, L"Start_TrackProgs")),
+    // The Start screen of Windows 8 has no such list.
+    On(~kWindows8And81, PolicyRow(kShowPrograms, L"NoStartMenuMFUprogramsList")),
     ProgramCount(kOnlyXp, kProgramsOnXp),
     ProgramCount(kOnlyVista, kProgramsOnVista),
-    ProgramCount(kSinceWindows7, kProgramsOnWindows7),
+    ProgramCount(kOnlyWindows7, kProgramsOnWindows7),
     TNumberRow{.Control = kJumpListCount,
                .Value = {kCurrentUser, kExplorerAdvanced, L"Start_JumpListItems"},
-               .Missing = kJumpListItems},
+               .Missing = kJumpListItems,
+               .Levels = kUntilWindows8},
+    TNumberRow{.Control = kJumpListCount,
+               .Value = {kCurrentUser, kExplorerAdvanced, L"JumpListItems_Maximum"},
+               .Missing = kJumpListItems,
+               .Levels = kSinceWindows10},
 };
 
-constexpr TLoader kLoaders[] = {kCommonRows, kItemRows, kRecentlyUsedRows};
+constexpr TLoader kLoaders[] = {kCommonRows, kItemRows, kRecentlyUsedRows, kStartMenuModernRows};
 
 constexpr TPresetState kCommonDefault[] = {
     {kUserName, 1, kSinceXp},
@@ -253,18 +262,19 @@ constexpr TPresetState kCommonDefault[] = {
 constexpr TPresetState kRecentlyUsedDefault[] = {
     {kKeepDocuments, 1},
     {kShowDocuments, 1, kUntilVista},
-    {kShowDocuments, 0, kSinceWindows7},
+    {kShowDocuments, 0, kOnlyWindows7},
     {L"UpDown_Use_StartMenu_RecentlyUse_Document_FileCount", 15},
     {kKeepPrograms, 1},
     {kShowPrograms, 1, kSinceXp},
     {kProgramCount, kProgramsOnXp, kOnlyXp},
     {kProgramCount, kProgramsOnVista, kOnlyVista},
-    {kProgramCount, kProgramsOnWindows7, kSinceWindows7},
+    {kProgramCount, kProgramsOnWindows7, kOnlyWindows7},
     {kJumpListCount, kJumpListItems, kSinceWindows7},
 };
 constexpr TPreset kPresets[] = {
     {L"Button_Use_StartMenu_Common_Default", kCommonDefault},
     {L"Button_Use_StartMenu_RecentlyUse_Default", kRecentlyUsedDefault},
+    {L"Button_Use_StartMenu_Modern_Default", kStartMenuModernDefault},
 };
 
 // Windows XP brought the two-column Start menu, Windows 7 left the classic one behind.
@@ -284,7 +294,7 @@ constexpr TOffer kOffers[] = {
     {L"CB_Use_StartMenu_Items_Downloads", kSinceWindows7},
     {L"Label_Use_StartMenu_Items_NetConn", kOnlyXp},
     {L"CB_Use_StartMenu_Items_NetConn", kOnlyXp},
-    {kSearch, kUntilVista},
+    {kSearchItem, kUntilVista},
     {L"Checkbox_Use_StartMenu_Items_Favorites", kSinceXp},
     {kNetConn, kSinceVista},
     {kPrinters, kSinceXp},
@@ -298,7 +308,6 @@ constexpr TOffer kOffers[] = {
 };
 
 // Printers share their folder with faxes on Windows XP and Server 2003, and with all devices since Windows 7.
-constexpr TLevels kOnlyWindows2000{.First = 4, .Last = 4};
 constexpr TLevelCaption kLevelCaptions[] = {
     {L"Checkbox_Use_StartMenu_Common_Behaviour_DragDrop", kSinceVista, TCaption::StartMenuDragDrop},
     {L"Checkbox_Use_StartMenu_Common_Classic_MyDocuments", kUntilXp, TCaption::StartMenuClassicMyDocuments},
@@ -351,7 +360,6 @@ constexpr TPageDefinition kPage{.Tag = 5,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = StartMenuExplanations,
                                 .Offers = kOffers,
                                 .LevelCaptions = kLevelCaptions,
                                 .Needs = kNeeds};

@@ -82,7 +82,8 @@ constexpr TRow kSystemRows[] = {
         .Shows = {.When = {{AnyCase(L"NOEXECUTE=OPTIN  FASTDETECT  TUTAG=ZTASZ8 NOGUIBOOT"), kChecked}},
                   .Otherwise = kClear},
         .Records = {.Checked = Text(L"NOEXECUTE=OPTIN  FASTDETECT  TUTAG=ZTASZ8 NOGUIBOOT"),
-                    .Clear = Text(L"NOEXECUTE=OPTIN  FASTDETECT  TUTAG=ZTASZ8")}},
+                    .Clear = Text(L"NOEXECUTE=OPTIN  FASTDETECT  TUTAG=ZTASZ8")},
+        .Levels = kUntilWindows7},
     TNumberRow{.Control = L"Updown_Startup_System_DelayTime_Time",
                .Value = {kLocalMachine, kSessionManager, L"AutoChkTimeOut"}},
 };
@@ -149,11 +150,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_Startup_Error_Default", kErrorDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 16,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = StartupExplanations};
+constexpr TPageDefinition kPage{.Tag = 16, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
 
 }  // namespace
 

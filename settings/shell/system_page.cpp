@@ -121,11 +121,13 @@ constexpr TRow kSearchRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_System_Search_IndexService_Enabled",
                  .Value = {kLocalMachine, kIndexService, L"Start"},
                  .Shows = {.When = {{4, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(4), .Clear = Dword(2)}},
+                 .Records = {.Checked = Dword(4), .Clear = Dword(2)},
+                 .Levels = kUntilWindows7},
     TCheckBoxRow{.Control = L"Checkbox_System_Search_IndexService_ClassicSearch_InExplorer",
                  .Value = {kCurrentUser, kCabinetState, L"Use Search Asst"},
                  .Shows = {.When = {{L"yes", kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Text(L"no"), .Clear = Text(L"yes")}},
+                 .Records = {.Checked = Text(L"no"), .Clear = Text(L"yes")},
+                 .Levels = kUntilWindows7},
 };
 
 // Both colours are one byte. 0 stands for the console's own default, white on black.
@@ -157,11 +159,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_System_Search_Default", kSearchDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 17,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = SystemExplanations};
+constexpr TPageDefinition kPage{.Tag = 17, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
 
 }  // namespace
 

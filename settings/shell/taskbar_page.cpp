@@ -1,6 +1,7 @@
 #include "settings/shell/taskbar_page.h"
 
 #include "settings/shared_rows.h"
+#include "settings/shell/taskbar_modern.h"
 
 namespace {
 
@@ -63,7 +64,8 @@ TControlDesign Design() {
                                Row(Label(L"Label_Taskbar_MinWindow_Top", L"&Edge:"),
                                    ComboBox(L"CB_Taskbar_MinWindow_Top", kMinimizedEdges))),
                         Label(L"Label_Taskbar_MinWindow_Note", kMinimizedNote)),
-                  Buttons(Button(L"Button_Taskbar_MinWindow_Default", L"&Default")))));
+                  Buttons(Button(L"Button_Taskbar_MinWindow_Default", L"&Default"))),
+            TaskbarModernSheet(), TaskbarScreensSheet()));
 }
 
 constexpr const wchar_t* kTime[] = {L"UpDown_Taskbar_ButtonFlashes_Common_Time"};
@@ -92,11 +94,13 @@ constexpr TRow kButtonRows[] = {
                  .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarSizeMove"},
                  .Shows = {.Missing = kChecked, .When = {{0, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-                 .Restart = true},
+                 .Restart = true,
+                 .Levels = kUntilWindows10},
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Bar_Peek",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"DisablePreviewDesktop"},
                  .Shows = {.Missing = kChecked, .When = {{0, kChecked}}, .Otherwise = kClear},
-                 .Records = {.Checked = Dword(0), .Clear = Dword(1)}},
+                 .Records = {.Checked = Dword(0), .Clear = Dword(1)},
+                 .Levels = kUntilWindows10},
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Group_Active",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarGlomming"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
@@ -109,11 +113,13 @@ constexpr TRow kButtonRows[] = {
     TChoiceRow{.Control = L"CB_Taskbar_ButtonAppearance_Look_Combine",
                .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarGlomLevel"},
                .Items = kCombineValues,
-               .Missing = 0},
+               .Missing = 0,
+               .Levels = kUncombinedButtons},
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_ButtonAppearance_Look_SmallIcons",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"TaskbarSmallIcons"},
                  .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
-                 .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Levels = kUntilWindows10},
 };
 
 constexpr TRow kNotificationRows[] = {
@@ -122,12 +128,13 @@ constexpr TRow kNotificationRows[] = {
                  .Value = {kCurrentUser, kExplorer, L"EnableAutoTray"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Restart = true},
+                 .Restart = true,
+                 .Levels = kUntilWindows10},
     PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Clock", L"HideClock"),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Volume", L"HideSCAVolume"),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Network", L"HideSCANetwork"),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Power", L"HideSCAPower"),
-    PolicyRow(L"Checkbox_Taskbar_Notification_Icons_ActionCenter", L"HideSCAHealth"),
+    On(kUntilWindows10, PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Volume", L"HideSCAVolume")),
+    On(kUntilWindows10, PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Network", L"HideSCANetwork")),
+    On(kUntilWindows10, PolicyRow(L"Checkbox_Taskbar_Notification_Icons_Power", L"HideSCAPower")),
+    On(kUntilWindows10, PolicyRow(L"Checkbox_Taskbar_Notification_Icons_ActionCenter", L"HideSCAHealth")),
     BalloonTipsRow(L"Checkbox_Taskbar_Notification_Balloons_Show"),
 };
 
@@ -135,7 +142,8 @@ constexpr auto kMinimizedLists = MinimizedLists(L"CB_Taskbar_MinWindow_Arrange",
                                                 L"CB_Taskbar_MinWindow_Top");
 constexpr TRow kMinimizedRows[] = {MinimizedWindowsRow(kMinimizedLists)};
 
-constexpr TLoader kLoaders[] = {kFlashRows, kButtonRows, kNotificationRows, kMinimizedRows};
+constexpr TLoader kLoaders[] = {kFlashRows,     kButtonRows,        kNotificationRows,
+                                kMinimizedRows, kTaskbarModernRows, kTaskbarScreensRows};
 
 constexpr TPresetState kFlashDefault[] = {
     {L"Checkbox_Taskbar_ButtonFlashes_Active", 1},
@@ -170,6 +178,8 @@ constexpr TPreset kPresets[] = {
     {L"Button_Taskbar_ButtonAppearance_Default", kButtonDefault},
     {L"Button_Taskbar_Notification_Default", kNotificationDefault},
     {L"Button_Taskbar_MinWindow_Default", kMinimizedDefault},
+    {L"Button_Taskbar_Modern_Default", kTaskbarModernDefault},
+    {L"Button_Taskbar_Screens_Default", kTaskbarScreensDefault},
 };
 
 // Windows 2000 has no options for its buttons and its notification area.
@@ -203,15 +213,11 @@ constexpr TNeed kNeeds[] = {
     {.Controls = kFlashCount, .Of = L"Checkbox_Taskbar_ButtonFlashes_Active", .Disables = false},
     {.Controls = kGroupCount, .Of = L"Checkbox_Taskbar_ButtonAppearance_Group_Active", .Disables = false},
     {.Controls = kTrayIcons, .Of = L"Checkbox_Taskbar_Notification_Icons_Show"},
+    kOtherTaskbarsNeed,
 };
 
-constexpr TPageDefinition kPage{.Tag = 6,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = TaskbarExplanations,
-                                .Offers = kOffers,
-                                .Needs = kNeeds};
+constexpr TPageDefinition kPage{
+    .Tag = 6, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers, .Needs = kNeeds};
 
 }  // namespace
 

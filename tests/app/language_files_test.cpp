@@ -18,6 +18,7 @@
 #include "platform/text.h"
 #include "settings/shell/desktop_icons.h"
 #include "tests/fakes/fake_system.h"
+#include "ui/spoken_name.h"
 
 namespace {
 
@@ -54,9 +55,13 @@ TTexts FolderFormTexts(const TForm& form) {
     return texts;
 }
 
-void AddExplanations(TTexts& texts, const TPageDefinition& page) {
-    for (const auto& [control, text] : page.Explanations())
-        texts[FromUtf8(control) + L".Hint"] = FromUtf8(text);
+/// Those of the settings and presets of the page; those that have a twin share its explanation.
+void AddExplanations(TTexts& texts, const TCatalogue& catalogue, const TCataloguedPage& page) {
+    std::set<std::wstring> twins;
+    for (const TTwin& twin : page.Definition->Twins) twins.insert(twin.Control);
+    for (const TSetting* setting : catalogue.Settings())
+        if (setting->Page == page.Caption && !twins.contains(setting->Id))
+            texts[setting->Id + L".Hint"] = setting->Explanation;
 }
 
 TExtIniFile LoadDelivered(const std::string& language) {
@@ -112,9 +117,10 @@ TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
     const TQuilltune_FormFolder dialog(window.Context(), none);
     TPlainDialogs dialogs(fake.System, window, none);
     TTexts windowTexts = FormTexts(window);
-    for (const TPageDefinition* page : PageDefinitions()) AddExplanations(windowTexts, *page);
     TTexts dialogTexts = FolderFormTexts(dialog);
-    AddExplanations(dialogTexts, DesktopIcons());
+    const TCatalogue catalogue(fake.System, nullptr, 7);
+    for (const TCataloguedPage& page : catalogue.Pages())
+        AddExplanations(page.Definition == &DesktopIcons() ? dialogTexts : windowTexts, catalogue, page);
     for (const char* language : {"English", "German"}) {
         SCOPED_TRACE(language);
         const bool english = language == std::string("English");
@@ -145,6 +151,13 @@ struct TLevelForms {
     void Apply(const TForm& form, const TPageDefinition& page) {
         for (const TOffer& offer : page.Offers)
             if (!offer.Levels.Include(Level)) Absent.insert(offer.Control);
+        std::map<std::wstring, bool> settings;
+        for (const TLoader& loader : page.Loaders)
+            for (const TRow& row : loader)
+                for (const std::wstring& name : ControlsOf(row))
+                    settings[name] |= LevelsOf(row).Include(Level);
+        for (const auto& [name, isHeld] : settings)
+            if (!isHeld) Absent.insert({name, CaptionedBy(*form.Find(name)).Name()});
         for (const TLevelCaption& name : page.LevelCaptions) {
             const TCaptionKey& key = kCaptionKeys[static_cast<std::size_t>(name.Caption)];
             if (name.Levels.Include(Level))
@@ -191,7 +204,7 @@ TEST(TLanguageFiles, AccessKeysDifferOnEverySheetOfEveryWindows) {
     forms.insert(forms.end(), {&window, &dialog});
     for (const char* language : {"English", "German"}) {
         const TExtIniFile ini = LoadDelivered(language);
-        for (const int level : {4, 5, 6, 7}) {
+        for (const int level : {4, 5, 6, 7, 8, 9, 10, 11}) {
             SCOPED_TRACE(testing::Message() << language << " on level " << level);
             TLevelForms ofLevel{level, ini};
             for (TForm* form : forms) {

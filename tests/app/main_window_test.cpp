@@ -89,7 +89,7 @@ TEST_F(TMainWindow, KnowsTheWindowsLevel) {
     // The numbers of other versions than these are the name's business.
     for (const auto& [minor, level] : {std::pair(0u, 4), {1u, 5}, {2u, 0}}) {
         Create(5, minor);
-        EXPECT_EQ(Window->Context().WindowsLevel, level);
+        EXPECT_EQ(Window->Context().Release.Level(), level);
         EXPECT_EQ(Window->Find(L"RzGroup_Use.Items[1]")->Visible(), level >= 5);
     }
 }

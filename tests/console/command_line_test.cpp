@@ -95,6 +95,29 @@ TEST(TCommandLine, AnswersWrongUsageInOneLineAndWritesNothing) {
     EXPECT_EQ(line.Snapshot(true), before);
 }
 
+/// A script may prepare what this Windows does not have: it is written as the nearest Windows would that has it.
+TEST(TCommandLine, ForcesWhatAnotherWindowsHas) {
+    TCommandLine line;
+    const TRegistryPlace advanced{
+        TRootKey::CurrentUser, L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced", {}};
+    for (const wchar_t* each : {L"TaskbarAl", L"ShowTaskViewButton"})
+        (void)line.Fake.Registry.DeleteValue({advanced.Root, advanced.Key, each});
+    const auto written = [&](const wchar_t* valueName) {
+        const TRegistryData* data = line.Fake.Registry.Find({advanced.Root, advanced.Key, valueName});
+        return data != nullptr && *data == TRegistryData{TRegDataType::Dword, 0};
+    };
+    const std::vector<std::wstring> words{L"set", L"Taskbar_Modern_Alignment=0",
+                                          L"Taskbar_Modern_TaskView=off"};
+    EXPECT_EQ(line.Run(words).Status, TExitStatus::WrongUsage);
+    auto forced = words;
+    forced.emplace_back(L"--force");
+    EXPECT_EQ(line.Run(forced).Status, TExitStatus::Done);
+    EXPECT_TRUE(written(L"TaskbarAl") && written(L"ShowTaskViewButton"));
+    const auto shown = line.Run({L"show", L"Taskbar_Modern_Chat", L"--json"}).Json();
+    EXPECT_EQ(shown["windows"], nlohmann::json({"Windows 11 until build 22630"}));
+    EXPECT_FALSE(shown["offered"]);
+}
+
 /// Whatever is typed: words that are right, nearly right and wrong, in any order.
 TEST(TCommandLine, SurvivesWhateverIsTyped) {
     TCommandLine line(7);

@@ -13,6 +13,7 @@ TEST_F(TWindowsContract, KnowsItsVersionAndItsProgram) {
     const TVersionNumbers version = System().Windows.Version();
     EXPECT_EQ(version.PlatformId, 2U);
     EXPECT_GE(version.Major, 5U);
+    EXPECT_GE(version.Build, 2195U);
     const std::wstring program = System().Windows.ProgramFile();
     EXPECT_TRUE(System().Files.Exists(program)) << program;
     EXPECT_TRUE(program.ends_with(L".exe")) << program;

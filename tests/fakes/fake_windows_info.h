@@ -49,7 +49,7 @@ class TFakeWindowsInfo : public TWindowsInfo {
     }
 
   private:
-    TVersionNumbers FVersion{.PlatformId = 2, .Major = 6, .Minor = 1};
+    TVersionNumbers FVersion{.PlatformId = 2, .Major = 6, .Minor = 1, .Build = 7601};
     bool FWow64 = false;
     std::wstring FProgramFile = L"C:\\Program Files\\Quilltune\\Quilltune.exe";
     std::unordered_map<std::wstring, TFakeVersionResource, TTextHash, TTextEqual> FResources;

@@ -112,6 +112,46 @@ TEST_F(TSettings, AreWrittenByApplyOnEveryWindows) {
     }
 }
 
+/// Wine plays Windows 11 when its registry says so and nothing else is said of the program.
+TEST_F(TSettings, OfLaterWindowsAreOfferedAndWrittenThere) {
+    constexpr const wchar_t* kTaskbar = L"RzGroup_Display.Items[3]";
+    constexpr const wchar_t* kAdvanced = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced";
+    constexpr const wchar_t* kWindowsNt = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
+    const TPlace version{kMachine, kWindowsNt, L"CurrentVersion"};
+    const TPlace build{kMachine, kWindowsNt, L"CurrentBuildNumber"};
+    const struct {
+        std::optional<TStoredValue> Played;
+        const wchar_t* Control;
+        TAction Act;
+        const wchar_t* ValueName;
+    } cases[] = {
+        {Text(L"win8"), L"Checkbox_Taskbar_Screens_All", Click, L"MMTaskbarEnabled"},
+        {Text(L"win81"), L"Checkbox_Taskbar_Screens_All", Click, L"MMTaskbarEnabled"},
+        {Text(L"win10"), L"Checkbox_Taskbar_Modern_TaskView", Click, L"ShowTaskViewButton"},
+        {std::nullopt, L"CB_Taskbar_Modern_Alignment", Choose(0), L"TaskbarAl"},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(Utf8(each.Control));
+        const TPlace place{kUser, kAdvanced, each.ValueName};
+        const TValueKeeper keeper{{place, version, build}};
+        Store(place, std::nullopt);
+        Store(kPlayedVersion, each.Played);
+        if (!each.Played) {
+            Store(version, Text(L"10.0"));
+            Store(build, Text(L"22631"));
+        }
+        const TProgram program;
+        const TMainWindow& window = program.Window();
+        EXPECT_EQ(window.Visible(L"RzGroup_Use.Items[0]"), each.Played.has_value()) << "Internet Explorer";
+        Show(window, kDriverItem, kVisits);
+        EXPECT_FALSE(window.Visible(kUdmaBox));
+        Show(window, kTaskbar, each.Control);
+        each.Act(window, each.Control);
+        program.Apply();
+        EXPECT_EQ(Stored(place), Dword(0));
+    }
+}
+
 TEST_F(TSettings, TheRestartQuestionComesAfterTheWritingAndOnce) {
     const TProgram program;
     const TMainWindow& window = program.Window();

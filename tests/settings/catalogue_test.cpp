@@ -2,13 +2,13 @@
 #include "settings/catalogue.h"
 
 #include "engine/carry_out.h"
+#include "settings/explanations.h"
 #include "settings/page_table.h"
 #include "tests/settings/page_bench.h"
 
 namespace {
 
 constexpr const wchar_t* kLastAccess = L"Checkbox_Drives_Common_NTFS_SaveLastVisitData";
-constexpr int kLevels[] = {0, 4, 5, 6, 7};
 
 /// Gives it a Firefox in `folder`, whose profile has no user.js yet, services and a value at every place
 /// of those pages.
@@ -77,7 +77,7 @@ void Do(TPageBench& bench, const std::wstring& control, const TControlState& sta
 std::vector<TChange> Recorded(const TCataloguedPage& page, int level, bool populated,
                               const std::wstring& control, const TControlState& state) {
     TPageBench bench(*page.Definition);
-    bench.Context.WindowsLevel = level;
+    bench.Context.Release = level;
     Prepare(bench.Fake, L"C:\\Mozilla\\", {&page, populated ? 1U : 0U});
     const int tag = page.Definition->Tag;
     for (const TPageLists& lists : PagesOfChosenLists())
@@ -153,6 +153,7 @@ void ExpectRight(int level, bool populated) {
 TEST(TCatalogueModel, SaysWhatAClickRecordsAndWhatApplyLeaves) {
     ExpectRight(7, false);
     ExpectRight(5, true);
+    ExpectRight(11, false);
 }
 
 TEST(TCatalogueModel, KnowsItsSettings) {
@@ -170,7 +171,7 @@ TEST(TCatalogueModel, KnowsItsSettings) {
     EXPECT_EQ(setting.Caption, L"Keep dates");
     EXPECT_EQ(setting.Explanation, L"Costs a zloty.");
     EXPECT_EQ(setting.Page, L"Drives!");
-    EXPECT_EQ(setting.Levels, std::vector<int>(std::begin(kLevels), std::end(kLevels)));
+    EXPECT_TRUE(setting.Levels == kEveryLevel);
     EXPECT_EQ(catalogue.Find(L"Checkbox_None"), nullptr);
 
     const TPresent missing = catalogue.Present(setting);
@@ -190,8 +191,7 @@ TEST(TCatalogueModel, KnowsItsSettings) {
     // Hidden pages and controls are not offered; of the words of a text each counts where it counts most.
     EXPECT_FALSE(
         catalogue.Present(*catalogue.Find(L"Checkbox_FileType_MenuOperation_Drive_OpenDrive")).IsOffered);
-    const std::vector<int> sinceXp{5, 6, 7};
-    EXPECT_EQ(catalogue.Find(L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing")->Levels, sinceXp);
+    EXPECT_TRUE(catalogue.Find(L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing")->Levels == kSinceXp);
     EXPECT_EQ(catalogue.Search(L"DATES keep").at(0), &setting);
     const TSetting* twin = catalogue.Find(L"Checkbox_CommonSettings_Function_Drives_LastVisit");
     EXPECT_EQ(catalogue.Search(L"zloty"), (std::vector{twin, &setting})) << "they share the explanation";
@@ -206,22 +206,23 @@ TEST(TCatalogueModel, KnowsItsSettings) {
     EXPECT_TRUE(std::ranges::any_of(states, [&](const auto& each) { return each.first == &setting; }));
 }
 
-TEST(TCatalogueModel, EverySettingIsExplainedOnce) {
+TEST(TCatalogueModel, EverySettingIsExplained) {
     TFakeSystem fake;
     const TCatalogue catalogue(fake.System, nullptr, 7);
-    for (const TCataloguedPage& page : catalogue.Pages()) {
-        std::set<std::wstring> explained;
-        for (const auto& [control, text] : page.Definition->Explanations()) {
-            EXPECT_TRUE(explained.insert(FromUtf8(control)).second) << control;
-            EXPECT_TRUE(std::string_view(text).ends_with('.')) << text;
-        }
-        for (const TSetting* setting : catalogue.Settings()) {
-            if (setting->Page != page.Caption) continue;
-            EXPECT_FALSE(setting->Explanation.empty()) << testing::PrintToString(setting->Id);
-            explained.erase(setting->Id);
-        }
-        EXPECT_TRUE(explained.empty()) << "of no setting: " << testing::PrintToString(explained);
+    for (const TSetting* setting : catalogue.Settings())
+        EXPECT_TRUE(setting->Explanation.ends_with(L'.')) << testing::PrintToString(setting->Id);
+}
+
+TEST(TCatalogueModel, BrokenExplanationsAreNone) {
+    std::vector<std::uint8_t> packed(kPackedExplanations.begin(), kPackedExplanations.end());
+    EXPECT_FALSE(UnpackExplanations(packed).ReadSections().empty());
+    for (std::size_t i = 10; i < packed.size(); i += i < 100 || packed.size() - i < 10 ? 1 : 997) {
+        EXPECT_TRUE(UnpackExplanations(kPackedExplanations.first(i)).ReadSections().empty()) << i;
+        packed[i] ^= 0x5AU;
+        EXPECT_TRUE(UnpackExplanations(packed).ReadSections().empty()) << i;
+        packed[i] ^= 0x5AU;
     }
+    EXPECT_TRUE(UnpackExplanations({}).ReadSections().empty());
 }
 
 TEST(TSettingStates, OtherWordsAreRefused) {

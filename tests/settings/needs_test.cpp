@@ -22,7 +22,7 @@ void Bring(TPageBench& bench, const TNeed& need, bool isMet) {
 }
 
 void ExpectHonest(TPageBench& bench, const TPageDefinition& page) {
-    const auto holds = [&](const TNeed& need) { return need.Levels.Include(bench.Context.WindowsLevel); };
+    const auto holds = [&](const TNeed& need) { return need.Levels.Include(bench.Context.Release); };
     for (const TNeed& need : page.Needs) {
         if (!holds(need)) continue;
         for (const bool isMet : {true, false, true}) {
@@ -46,11 +46,11 @@ void ExpectHonest(TPageBench& bench, const TPageDefinition& page) {
 
 TEST(TNeeds, DisableAndSayWhyExactlyWhileTheyAreNotMet) {
     int pages = 0;
-    for (const int level : {4, 5, 6, 7}) {
+    for (const int level : {4, 5, 6, 7, 8, 9, 10, 11}) {
         for (const TPageDefinition* page : PageDefinitions()) {
             SCOPED_TRACE(testing::Message() << "page " << page->Tag << " on level " << level);
             TPageBench bench(*page);
-            bench.Context.WindowsLevel = level;
+            bench.Context.Release = level;
             bench.Fake.Registry.PutKey(
                 TRootKey::LocalMachine,
                 L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Mozilla Firefox");

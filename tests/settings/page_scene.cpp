@@ -64,9 +64,14 @@ TLines Parts(TLine rest, const wchar_t* separator) {
     return parts;
 }
 
+TRelease ReleaseOf(TLine text, std::uint32_t build) {
+    const int level = std::stoi(Take(text, L"."));
+    return {level, text.empty() ? build : Unsigned(text)};
+}
+
 TScene::TScene(const TPageDefinition& page, TCovered& covered, const TLine& level)
     : FBench(page), FCovered(covered) {
-    FBench.Context.WindowsLevel = level.empty() ? 7 : std::stoi(level);
+    FBench.Context.Release = ReleaseOf(level.empty() ? L"7" : level);
 }
 
 TScene::~TScene() { EXPECT_EQ(FNeededRestart || FBench.NeedsRestart(), FRestart) << "restart"; }
@@ -194,7 +199,7 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
          for (const TPageDefinition* page : PageDefinitions())
              if (page->Tag == std::stoi(rest)) s.FBench.Add(*page);
      }},
-    {L"level", [](TScene& s, TLine rest, const TLines&) { s.FBench.Context.WindowsLevel = std::stoi(rest); }},
+    {L"level", [](TScene& s, TLine rest, const TLines&) { s.FBench.Context.Release = ReleaseOf(rest); }},
     {L"stored",
      [](TScene& s, TLine rest, const TLines&) {
          const TRegistryPlace place = Place(Take(rest, L" = "));

@@ -15,6 +15,8 @@ TLine Take(TLine& text, const wchar_t* separator);
 /// The words that a line begins with, with commas between them.
 TLines TakeControls(TLine& rest);
 TLines Parts(TLine rest, const wchar_t* separator = L" | ");
+/// A level, such as 10, or a build of one, such as 10.17763; without a build that one.
+TRelease ReleaseOf(TLine text, std::uint32_t build = std::numeric_limits<std::uint32_t>::max());
 
 class TScene {
   public:

@@ -92,7 +92,7 @@ class TScript {
         TLine state = Take(rest, L" | ");
         TLines found = Parts(rest);
         TLine level;
-        if (found.back().size() == 1) {
+        if (found.back().find_first_not_of(L"0123456789.") == TLine::npos) {
             level = found.back();
             found.pop_back();
         }
@@ -195,14 +195,25 @@ class TScript {
     }
 
     void Offered(TLine rest) {
-        const TLines levels = TakeControls(rest);
+        const TLines ranges = TakeControls(rest);
         for (const TLine& control : TakeControls(rest)) {
-            for (const wchar_t* level : {L"0", L"4", L"5", L"6", L"7"}) {
-                TScene scene(*FPage, FCovered, level);
+            for (std::size_t i = 0; i < kReleaseCount; ++i) {
+                const bool isOffered =
+                    std::ranges::any_of(ranges, [&](const TLine& range) { return IsIn(i, range); });
+                TScene scene(*FPage, FCovered);
+                scene.Bench().Context.Release = TRelease::At(i);
                 scene.Bench().Load();
-                scene.Expect(control, std::ranges::count(levels, level) != 0 ? L"visible" : L"hidden");
+                SCOPED_TRACE(testing::Message() << "level " << TRelease::At(i).Level() << ", release " << i);
+                scene.Expect(control, isOffered ? L"visible" : L"hidden");
             }
         }
+    }
+
+    static bool IsIn(std::size_t release, TLine range) {
+        const bool isOne = range.find(L'-') == TLine::npos;
+        const TLine first = Take(range, L"-");
+        const TLine last = isOne ? first : range;
+        return ReleaseOf(first, 0).Index() <= release && (last.empty() || release <= ReleaseOf(last).Index());
     }
 
     void Names(TLine rest) {

@@ -15,7 +15,7 @@
 //              pref "name"                     a preference of Firefox
 //     VALUE    1, "text", hex 1E 00, other (of another type), missing; when written also deleted (the value), key deleted
 //     <IS 1>   1 <-> on | 0, 2 <-> off; likewise <IS 0>, <NOT 0>, <NOT 1>
-//     level 5  the Windows level of the parts that follow; 7 when nothing is said
+//     level 5  the Windows level of the parts that follow, or a build of one: level 10.17763; 7 when nothing is said
 //     restart  Windows must restart for any of it
 //     as NAME  the name of the change, when it is not the control's;   and *1: PLACE  a further place of the same values. Where
 //              a state writes other values to a second place, or needs a switch to be on, say VALUE -> STATE here and what it
@@ -25,7 +25,7 @@
 //   writes CONTROL STATE | CHANGE | … | restart    does that on a page that was not loaded; * stands for the control's name. The
 //                                              parts may also be verbs, such as `stored PLACE = VALUE` or `level 5`
 //   presses BUTTON | STATE CONTROL, … | STATE CONTROL, … | level 5    brings them into these states and leaves all others alone
-//   offered 5, 6 CONTROL, …                    visible on these of the levels 0, 4, 5, 6, 7 and on no other
+//   offered 5, 7-10, 11.22621- CONTROL, …      visible on these levels and builds and on no other, 0 included
 //   names CONTROL | 4, 5 CAPTION | 6 CAPTION   its captions, by level
 //
 // Anything else is a line of a scene, which has a page of its own and ends at a blank line. What it finds:

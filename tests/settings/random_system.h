@@ -15,9 +15,10 @@ class TRandomSystem {
 
     explicit TRandomSystem(unsigned seed) : FRandom(seed) {
         Fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Data");
-        constexpr std::pair<unsigned, unsigned> kVersions[] = {{5, 0}, {5, 1}, {5, 2}, {6, 0}, {6, 1}};
-        const auto [major, minor] = kVersions[Pick(5)];
-        Fake.Windows.SetVersion({.PlatformId = 2, .Major = major, .Minor = minor});
+        constexpr TVersionNumbers kVersions[] = {{2, 5, 0},         {2, 5, 1},        {2, 5, 2},
+                                                 {2, 6, 0},         {2, 6, 1},        {2, 6, 3, 9600},
+                                                 {2, 10, 0, 19045}, {2, 10, 0, 26100}};
+        Fake.Windows.SetVersion(kVersions[Pick(8)]);
         for (const TPageDefinition* page : PageDefinitions())
             for (const TLoader& loader : page->Loaders)
                 for (const TRow& row : loader)

@@ -31,10 +31,10 @@ TEST(TRights, AreThoseOfTheNearestKeyThatIsThere) {
 
 TEST(TRights, TheHeaderSpeaksOfThemWhereTheyMatter) {
     for (const TPageDefinition* page : PageDefinitions()) {
-        for (const int level : {4, 5, 6, 7}) {
+        for (const int level : {4, 5, 6, 7, 8, 9, 10, 11}) {
             SCOPED_TRACE(testing::Message() << "page " << page->Tag << " on level " << level);
             TPageBench bench(*page);
-            bench.Context.WindowsLevel = level;
+            bench.Context.Release = level;
             bench.Load();
             EXPECT_EQ(RightsLine(bench.Context, *page), L"");
             bench.Fake.Registry.DenyAccess(TRootKey::LocalMachine, L"");
