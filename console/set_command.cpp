@@ -163,7 +163,7 @@ void CarryOut(TTask& task, const TPlan& plan, TList& list) {
             task.Console.Complain(task.Captions()[TCaption::RestartFirefox]);
     });
     Try(task, [&] { record.Complete(); });
-    if (written.RestartNeeded) task.NeedRestart();
+    task.Need(written.RestartNeeded);
 
     const TFirefoxPrefs saved(task.System);
     for (const TChange& change : plan.Changes) {
