@@ -30,7 +30,7 @@ void TQuilltune_FormMain::Button_ApplyClick() {
             // Only for what was written: while a service is waited for, the user may have changed more.
             if (written.RestartNeeded == TRestart::Windows) OfferRestart(*this);
         },
-        [&] { NotifyShell(FSystem.Shell, written.AssociationsChanged); },
+        [&] { NotifyShell(FSystem.Shell, FContext.Release, written.AssociationsChanged); },
         [&] {
             if (written.RestartNeeded == TRestart::Explorer) OfferExplorerRestart(*this);
         },
@@ -172,7 +172,7 @@ void TQuilltune_FormMain::CarryOutNow(const TForm& asker, const TChangeSet& oper
         [&] {
             if (done.Written.RestartNeeded == TRestart::Windows) OfferRestart(asker);
         },
-        [&] { NotifyShell(FSystem.Shell, done.Written.AssociationsChanged); },
+        [&] { NotifyShell(FSystem.Shell, FContext.Release, done.Written.AssociationsChanged); },
         [&] {
             if (done.Written.RestartNeeded == TRestart::Explorer) OfferExplorerRestart(asker);
         },

@@ -4,6 +4,7 @@
 #include <set>
 #include <utility>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/faults.h"
@@ -322,6 +323,7 @@ TEST_F(TMainWindow, OffersToRestartExplorerWhereNothingMoreIsNeeded) {
     EXPECT_EQ(Fake.Dialogs.Questions()[0].Text,
               L"Need to restart Explorer to take effect, restart now? Its open windows are closed.");
     EXPECT_EQ(Fake.Shell.ExplorerRestarts, 0) << "never unasked";
+    EXPECT_THAT(Fake.Shell.SettingChanges(), testing::Contains(L"ImmersiveColorSet"));
     Toggle(kLastActive);
     Fake.Dialogs.Answer(TMessageAnswer::Yes);
     Press(L"Button_Apply");
