@@ -45,7 +45,10 @@ void TQuilltune_FormChanges::ShowChanges() {
     std::vector<TListView::TRow> rows;
     for (const TChange& change : FChanges) {
         std::wstring setting = FNames[change.Setting];
-        if (change.Restart) setting = Formatted(FCaptions[TCaption::AfterRestart], {setting});
+        if (change.Restart != TRestart::None)
+            setting = Formatted(FCaptions[change.Restart == TRestart::Windows ? TCaption::AfterRestart
+                                                                              : TCaption::AfterExplorer],
+                                {setting});
         std::wstring after = ContentWords(change.Target, change.After, FCaptions);
         if (change.IsOverwritten) after = Formatted(FCaptions[TCaption::Overwritten], {after});
         rows.push_back({{setting, PlaceWords(change.Target, FCaptions),

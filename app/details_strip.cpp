@@ -85,7 +85,7 @@ void TDetailsStrip::Show(const TDetails& details) {
         FIdle = {form.Find(kTitle)->Caption(), form.Find(kText)->Caption(), form.Find(kPlace)->Caption()};
     form.Find(kTitle)->SetCaption(details.Title);
     form.Find(kText)->SetCaption(details.Text);
-    form.Find<TLabel>(kPlace)->Notice = FContext.Captions[TCaption::DetailsRestart];
+    form.Find<TLabel>(kPlace)->Notice = details.Notice;
     form.Find(kPlace)->SetCaption(details.Places);
     form.Find(kPanel)->SetCaption(details.Whole());
 }

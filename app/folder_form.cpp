@@ -61,7 +61,7 @@ void TQuilltune_FormFolder::Button_OKClick() {
         [&] {
             Close();
             // The desktop builds its icons anew when associations change.
-            NotifyShell(system.Shell, true);
+            NotifyShell(system.Shell, FContext.Release, true);
         },
     });
 }

@@ -176,7 +176,8 @@ TChangeSet TRecordedApply::Besides() const {
     if (FSetsParameters) besides = Restoring(FProfile, ProfileOf(FSystem));
     if (!FPreferenceFile || FPreferenceFile->size() > kLargestPreferenceFile) return besides;
     if (auto file = FPreferences->Saved({}); file && file != FPreferenceFile)
-        besides.push_back({{}, TPreferenceTarget{}, FPreferenceFile, false, TContent(std::move(file))});
+        besides.push_back(
+            {{}, TPreferenceTarget{}, FPreferenceFile, TRestart::None, TContent(std::move(file))});
     return besides;
 }
 

@@ -57,6 +57,7 @@ class TQuilltune_FormMain : public TForm {
     void Button_ChangesClick();
     void Button_HistoryClick();
     void OfferRestart(const TForm& asker);
+    void OfferExplorerRestart(const TForm& asker);
     void ApplyFirefox();
     void TellFirefoxRestart(const TForm& asker);
     /// Apply is enabled exactly while something is pending.

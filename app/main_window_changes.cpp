@@ -28,9 +28,12 @@ void TQuilltune_FormMain::Button_ApplyClick() {
         [&] { record.Supplement(); },
         [&] {
             // Only for what was written: while a service is waited for, the user may have changed more.
-            if (written.RestartNeeded) OfferRestart(*this);
+            if (written.RestartNeeded == TRestart::Windows) OfferRestart(*this);
         },
-        [&] { NotifyShell(FSystem.Shell, written.AssociationsChanged); },
+        [&] { NotifyShell(FSystem.Shell, FContext.Release, written.AssociationsChanged); },
+        [&] {
+            if (written.RestartNeeded == TRestart::Explorer) OfferExplorerRestart(*this);
+        },
         [&] { ApplyFirefox(); },
         [&] { FTwins->Written(); },
         [&] { EnableApply(); },
@@ -49,6 +52,12 @@ void TQuilltune_FormMain::OfferRestart(const TForm& asker) {
     const TMessageAnswer answer = FSystem.Dialogs.Message(asker, FContext.Captions[TCaption::RestartWindows],
                                                           TMessageButtons::YesNo, TMessageIcon::Question);
     if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartWindows();
+}
+
+void TQuilltune_FormMain::OfferExplorerRestart(const TForm& asker) {
+    const TMessageAnswer answer = FSystem.Dialogs.Message(asker, FContext.Captions[TCaption::RestartExplorer],
+                                                          TMessageButtons::YesNo, TMessageIcon::Question);
+    if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartExplorer();
 }
 
 void TQuilltune_FormMain::ApplyFirefox() {
@@ -161,9 +170,12 @@ void TQuilltune_FormMain::CarryOutNow(const TForm& asker, const TChangeSet& oper
             EnableApply();
         },
         [&] {
-            if (done.Written.RestartNeeded) OfferRestart(asker);
+            if (done.Written.RestartNeeded == TRestart::Windows) OfferRestart(asker);
         },
-        [&] { NotifyShell(FSystem.Shell, done.Written.AssociationsChanged); },
+        [&] { NotifyShell(FSystem.Shell, FContext.Release, done.Written.AssociationsChanged); },
+        [&] {
+            if (done.Written.RestartNeeded == TRestart::Explorer) OfferExplorerRestart(asker);
+        },
         [&] {
             if (done.SavedPreferences) TellFirefoxRestart(asker);
         },

@@ -38,6 +38,10 @@ std::vector<const TControl*> StandIns(const TControl& control) {
     return found;
 }
 
+TCaption RestartCaption(TRestart restart) {
+    return restart == TRestart::Explorer ? TCaption::DetailsExplorer : TCaption::DetailsRestart;
+}
+
 std::wstring PlacesOf(const TSetting& setting, const TPageContext& context,
                       const std::vector<TChange>& pending) {
     if (setting.Rows.empty()) return {};
@@ -65,8 +69,8 @@ std::wstring PlacesOf(const TSetting& setting, const TPageContext& context,
         text += isPending ? Formatted(captions[TCaption::DetailsPending],
                                       {ContentWords(target, change->After, captions)})
                           : captions[TCaption::DetailsNotChanged];
-        if (setting.Restart || (isPending && change->Restart))
-            text += kBetween + captions[TCaption::DetailsRestart];
+        const TRestart restart = isPending ? std::max(setting.Restart, change->Restart) : setting.Restart;
+        if (restart != TRestart::None) text += kBetween + captions[RestartCaption(restart)];
         if (!MayChange(context.System, target)) text += kBetween + captions[TCaption::DetailsRights];
     }
     return text;
@@ -91,5 +95,9 @@ TDetails DetailsOf(const TSetting& setting, const TPageContext& context,
                    const std::vector<TChange>& pending) {
     std::wstring text = ReasonsFor(context, setting.Id);
     if (!text.empty() && !setting.Explanation.empty()) text += L' ';
-    return {setting.Caption, text + setting.Explanation, PlacesOf(setting, context, pending)};
+    TRestart restart = setting.Restart;
+    for (const TChange& change : pending)
+        if (change.Setting == setting.Id) restart = std::max(restart, change.Restart);
+    return {setting.Caption, text + setting.Explanation, PlacesOf(setting, context, pending),
+            context.Captions[RestartCaption(restart)]};
 }

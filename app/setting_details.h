@@ -9,6 +9,7 @@ struct TDetails {
     std::wstring Title;
     std::wstring Text;
     std::wstring Places;  ///< each in two lines: where it is, and what is there
+    std::wstring Notice;  ///< of what stands at the ends of these lines, what matters most
 
     [[nodiscard]] std::wstring Whole() const;
 

@@ -47,6 +47,6 @@ void TSettingNames::Attribute(TChangeSet& operations) const {
         const auto found = settings.find(placeOf(operation.Target));
         if (found == settings.end()) continue;
         operation.Setting = found->second->Id;
-        operation.Restart |= found->second->Restart;
+        operation.Restart = std::max(operation.Restart, found->second->Restart);
     }
 }

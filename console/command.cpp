@@ -66,11 +66,14 @@ void TTask::Fail(const std::wstring& message) {
     Console.Complain(L"qtune: " + message);
 }
 
-void TTask::NeedRestart() {
-    if (!std::exchange(FRestart, true)) Console.Complain(L"qtune: " + Texts[TText::RestartNeeded]);
+void TTask::Need(TRestart restart) {
+    if (restart <= std::exchange(FRestart, std::max(FRestart, restart))) return;
+    Console.Complain(
+        L"qtune: " +
+        Texts[restart == TRestart::Windows ? TText::RestartNeeded : TText::ExplorerRestartNeeded]);
 }
 
 TExitStatus TTask::Status() const {
     if (FFailed) return TExitStatus::Failed;
-    return FRestart ? TExitStatus::Restart : TExitStatus::Done;
+    return FRestart == TRestart::Windows ? TExitStatus::Restart : TExitStatus::Done;
 }

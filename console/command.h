@@ -5,6 +5,7 @@
 
 #include "console/texts.h"
 #include "console/value.h"
+#include "engine/restart.h"
 #include "settings/catalogue.h"
 
 /// Where lines go, each without its end.
@@ -60,7 +61,7 @@ class TTask {
     /// Names something that could not be read or written.
     void Fail(const std::wstring& message);
     /// Windows must restart.
-    void NeedRestart();
+    void Need(TRestart restart);
     [[nodiscard]] TExitStatus Status() const;
 
     /// The message, and behind it those of the known words that may have been meant.
@@ -73,7 +74,7 @@ class TTask {
     mutable std::optional<TCaptions> FCaptions;
     std::optional<TCatalogue> FCatalogue;
     bool FFailed = false;
-    bool FRestart = false;
+    TRestart FRestart = TRestart::None;
 };
 
 struct TCommand {

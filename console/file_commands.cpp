@@ -48,9 +48,9 @@ void Apply(TTask& task, const TChangeSet& operations) {
     const auto rows = PreviewRows(task.System, operations, task.Captions());
     TCarriedOut done;
     Try(task, [&] { CarryOutRecorded(task.System, operations, done); });
-    NotifyShell(task.System.Shell, done.Written.AssociationsChanged);
+    NotifyShell(task.System.Shell, task.Release, done.Written.AssociationsChanged);
     if (done.SavedPreferences) task.Console.Complain(task.Captions()[TCaption::RestartFirefox]);
-    if (done.Written.RestartNeeded) task.NeedRestart();
+    task.Need(done.Written.RestartNeeded);
     std::set<std::wstring> failed;
     for (const TOperation& operation : done.Failed)
         if (failed.insert(PlaceWords(operation.Target, task.Captions())).second)

@@ -26,7 +26,8 @@ TValue RecordOf(const TTask& task, const TChange& change, std::optional<bool> do
                    {L"place", {PlaceWords(change.Target, task.Captions())}},
                    {L"before", {ContentWords(change.Target, change.Before, task.Captions())}},
                    {L"after", {std::move(after)}},
-                   {L"restart", {change.Restart}, false}};
+                   {L"restart", {change.Restart == TRestart::Windows}, false},
+                   {L"explorer", {change.Restart == TRestart::Explorer}, false}};
     if (done) record.push_back({L"done", {*done}, false});
     return {std::move(record)};
 }

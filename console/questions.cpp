@@ -125,7 +125,8 @@ void ShowSetting(TTask& task) {
                         {L"states", {ListOf(AllowedWords(states))}},
                         {L"offered", {present.IsOffered}},
                         {L"enabled", {present.IsEnabled}},
-                        {L"restart", {setting.Restart}},
+                        {L"restart", {setting.Restart == TRestart::Windows}},
+                        {L"explorer", {setting.Restart == TRestart::Explorer}},
                         {L"windows", {std::move(windows)}},
                         {L"stored", {std::move(stored)}},
                         {L"writes", {std::move(writes)}}}});

@@ -157,13 +157,14 @@ void CarryOut(TTask& task, const TPlan& plan, TList& list) {
     Try(task, [&] { record.Begin(); });
     Try(task, [&] { written = CarryOut(catalogue.Changes()); });
     Try(task, [&] { record.Supplement(); });
-    NotifyShell(task.System.Shell, written.AssociationsChanged || ChangesDesktopIcons(catalogue, plan));
+    NotifyShell(task.System.Shell, task.Release,
+                written.AssociationsChanged || ChangesDesktopIcons(catalogue, plan));
     Try(task, [&] {
         if (preferences != nullptr && preferences->SaveFirefoxPrefs())
             task.Console.Complain(task.Captions()[TCaption::RestartFirefox]);
     });
     Try(task, [&] { record.Complete(); });
-    if (written.RestartNeeded) task.NeedRestart();
+    task.Need(written.RestartNeeded);
 
     const TFirefoxPrefs saved(task.System);
     for (const TChange& change : plan.Changes) {

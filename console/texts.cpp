@@ -37,6 +37,7 @@ const std::array<TTextKey, kTextCount> kTextKeys{{
     {L"ServiceNotSwitched", L"the service could not be switched"},
     {L"FileNotWritten", L"the file cannot be written"},
     {L"RestartNeeded", L"Windows must restart before all of it takes effect."},
+    {L"ExplorerRestartNeeded", L"Explorer must be restarted before all of it takes effect."},
     {L"HelpQtune",
      L"Shows and changes the settings of Quilltune. \"qtune COMMAND --help\" tells more of a command."},
     {L"HelpList", L"Lists all settings, or those of a page: id, state, caption."},

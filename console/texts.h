@@ -41,6 +41,7 @@ enum class TText {
     ServiceNotSwitched,
     FileNotWritten,
     RestartNeeded,
+    ExplorerRestartNeeded,
     HelpQtune,
     HelpList,
     HelpFind,

@@ -84,7 +84,7 @@ TCarriedOut CarryOut(TSystem& system, const TChangeSet& operations, TPreferenceS
             continue;
         }
         if (std::holds_alternative<TPreferenceTarget>(operation.Target)) changed.push_back(operation);
-        done.Written.RestartNeeded |= operation.Restart;
+        done.Written.RestartNeeded = std::max(done.Written.RestartNeeded, operation.Restart);
         const auto* target = std::get_if<TRegistryTarget>(&operation.Target);
         done.Written.AssociationsChanged |= target != nullptr && IsAssociation(*target);
     }

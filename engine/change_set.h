@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "engine/restart.h"
 #include "engine/sys_control.h"
 #include "platform/service_control.h"
 
@@ -72,7 +73,7 @@ struct TOperation {
     std::wstring Setting;  ///< the name of the control that stands for it; empty when there is none
     TTarget Target;
     TEffect Effect;
-    bool Restart = false;  ///< Windows must restart before it takes effect
+    TRestart Restart = TRestart::None;  ///< before it takes effect
     /// Of a way back: what the changes that it takes back left there.
     std::optional<TContent> Left{};
 
@@ -86,10 +87,10 @@ using TChangeSet = std::vector<TOperation>;
 struct TChange {
     std::wstring Setting;  ///< the name of the control that stands for it
     TTarget Target;
-    TContent Before;             ///< what is there now
-    TContent After;              ///< what will be there when all changes of the set are made
-    bool Restart = false;        ///< Windows must restart before it takes effect
-    bool IsOverwritten = false;  ///< a later change of the set leaves something else there
+    TContent Before;                    ///< what is there now
+    TContent After;                     ///< what will be there when all changes of the set are made
+    TRestart Restart = TRestart::None;  ///< before it takes effect
+    bool IsOverwritten = false;         ///< a later change of the set leaves something else there
 
     bool operator==(const TChange&) const = default;
 };

@@ -170,7 +170,9 @@ void AppendLeft(std::wstring& file, const TOperation& operation) {
 bool TakeRegNote(TRegFileText& note, TRegNotes& notes, TChangeSet& operations) {
     if (note.TakeWord(L"setting")) {
         if (!note.TakeQuoted(notes.Setting, TQuotes::Note)) return false;
-        notes.Restart = note.TakeWord(L"restart");
+        notes.Restart = note.TakeWord(L"restart")    ? TRestart::Windows
+                        : note.TakeWord(L"explorer") ? TRestart::Explorer
+                                                     : TRestart::None;
     } else if (note.TakeWord(L"left")) {
         if (notes.Left || !TakeLeft(note, notes.Left)) return false;
     } else if (note.TakeWord(L"exact")) {
@@ -192,7 +194,9 @@ void AppendSettingNote(std::wstring& file, const TOperation& operation) {
     file += kRegNote;
     file += L"setting ";
     AppendQuoted(file, operation.Setting);
-    file += operation.Restart ? L" restart\r\n" : L"\r\n";
+    if (operation.Restart != TRestart::None)
+        file += operation.Restart == TRestart::Windows ? L" restart" : L" explorer";
+    file += L"\r\n";
 }
 
 void AppendLeftNote(std::wstring& file, const TRegistryContent& left) {

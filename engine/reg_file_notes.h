@@ -16,11 +16,12 @@
 
 #include "engine/change_set.h"
 #include "engine/reg_file_text.h"
+#include "engine/restart.h"
 
 /// What notes say of the operations that follow them.
 struct TRegNotes {
     std::wstring Setting;
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     // Of the next one:
     std::optional<TRegistryContent> Left{};
     bool IsExact = false;

@@ -1,6 +1,7 @@
 // One pending change: a registry operation or a system-parameter call that Apply will carry out.
 #pragma once
 
+#include "engine/restart.h"
 #include "platform/registry.h"
 #include "platform/system_parameters.h"
 
@@ -25,5 +26,5 @@ struct TRegRecor {
     TSpiData SpiData;             ///< pvParam
     std::uint32_t SpiWinIni = 0;  ///< fWinIni; recorders set 1 = SPIF_UPDATEINIFILE
     std::wstring Setting;         ///< the name of the control that recorded the change
-    bool RestartNeeded = false;   ///< Windows must restart before the change takes effect
+    TRestart RestartNeeded = TRestart::None;  ///< before the change takes effect
 };

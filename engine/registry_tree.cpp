@@ -65,7 +65,7 @@ TChangeSet Restoring(const TChangeSet& earlier, const TChangeSet& later) {
         back.push_back({{},
                         target,
                         TRegistryEffect{target.IsKey ? TRegAction::DeleteKey : TRegAction::DeleteValue},
-                        false,
+                        TRestart::None,
                         ContentMadeBy(*operation)});
     }
     return back;

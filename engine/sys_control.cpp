@@ -26,7 +26,7 @@ void TSysControl::Add(const TRegRecor& record) {
     for (TRegRecor& entry : FPending) {
         if (entry.Name != record.Name) continue;
         found = true;
-        entry.RestartNeeded |= record.RestartNeeded;
+        entry.RestartNeeded = std::max(entry.RestartNeeded, record.RestartNeeded);
         if (entry.IsSystemParameter) {
             entry.SpiGet = record.SpiGet;
             entry.SpiInParam = record.SpiInParam;
@@ -96,7 +96,8 @@ TWritten TSysControl::WriteAll() {
             return written;
         }
         // Of an entry that is kept for another pass the restart is told once.
-        written.RestartNeeded |= std::exchange(record.RestartNeeded, false);
+        written.RestartNeeded =
+            std::max(written.RestartNeeded, std::exchange(record.RestartNeeded, TRestart::None));
         written.AssociationsChanged |= !record.IsSystemParameter && record.RootKey == TRootKey::ClassesRoot;
     }
     FPending.clear();

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "engine/reg_recor.h"
+#include "engine/restart.h"
 #include "platform/system.h"
 
 /// What Apply does with a Windows service.
@@ -17,8 +18,8 @@ struct TServiceSwitch {
 
 /// What a pass of writes has done.
 struct TWritten {
-    bool RestartNeeded = false;        ///< something was written that waits for a restart, for the first time
-    bool AssociationsChanged = false;  ///< something was written below HKEY_CLASSES_ROOT
+    TRestart RestartNeeded = TRestart::None;  ///< what was written, for the first time, waits for that
+    bool AssociationsChanged = false;         ///< something was written below HKEY_CLASSES_ROOT
 };
 
 class TSysControl {

@@ -33,6 +33,10 @@ class TShell {
     /// Shows a folder to the user. False, and nothing is shown, when there is no such folder.
     [[nodiscard]] virtual bool OpenFolder(const std::wstring& path) = 0;
 
+    /// Ends Explorer gently and starts it again, by the Restart Manager (since Vista). Windows without that, and an Explorer
+    /// that does not want to end, are left as they are. A failure is not reported.
+    virtual void RestartExplorer() = 0;
+
     /// Enables SeShutdownPrivilege and asks Windows to reboot. A refusal is not reported.
     virtual void RestartWindows() = 0;
 

@@ -52,7 +52,7 @@ void RecordFrom(TPageContext& context, const TCheckBoxRow& row, TComponent& send
     for (const TBoxFurther& further : row.Further)
         Record(context, name + further.Suffix, further.Value, DatumOf(further.Records, checked));
     if (SaysNo(context, row.Policy)) {
-        context.RestartNeeded = true;
+        context.RestartNeeded = TRestart::Windows;
         RecordNumber(context, name + L"1", ExplorerPolicy(row.Policy), checked ? 0 : 1);
     }
     EnableAll(context, row.Enables, checked);

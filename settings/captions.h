@@ -44,6 +44,7 @@ enum class TCaption : std::uint8_t {
     AllFile,
     Favorites,
     RestartWindows,
+    RestartExplorer,
     RestartFirefox,
     // Captions of controls on some Windows levels; see TLevelCaption.
     MyComputer,
@@ -68,8 +69,10 @@ enum class TCaption : std::uint8_t {
     DetailsPending,
     DetailsNotChanged,
     DetailsRestart,
+    DetailsExplorer,
     DetailsShow,
     AfterRestart,
+    AfterExplorer,
     Overwritten,
     ChangedSince,
     DefaultValue,

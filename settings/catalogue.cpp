@@ -181,7 +181,8 @@ void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& ca
             for (const std::wstring& name : names) {
                 TSetting& setting = add(name, LevelsOf(row));
                 setting.Rows.push_back(&row);
-                setting.Restart |= RestartOf(row) && LevelsOf(row).Include(model.Context.Release);
+                if (LevelsOf(row).Include(model.Context.Release))
+                    setting.Restart = std::max(setting.Restart, RestartOf(row));
                 // The caption of a swatch says what the button before it is for.
                 if (IsSwatch(*model.Form.Find(name))) own.front()->Caption = setting.Caption;
                 own.push_back(&setting);

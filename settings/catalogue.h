@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 
+#include "engine/restart.h"
 #include "platform/language.h"
 #include "settings/page_model.h"
 #include "settings/row_places.h"
@@ -30,8 +31,8 @@ struct TSetting {
     std::wstring Explanation;       ///< what its caption does not say: one to three sentences
     std::vector<const TRow*> Rows;  ///< the rows that it records through; none of a preset
     const TPreset* Preset = nullptr;
-    TLevels Levels;        ///< where it is offered
-    bool Restart = false;  ///< Windows must restart before a change takes effect
+    TLevels Levels;                     ///< where it is offered
+    TRestart Restart = TRestart::None;  ///< before a change takes effect
 };
 
 /// A row, with the settings that record through it.

@@ -2,6 +2,7 @@
 // marks that outlive a single click.
 #pragma once
 
+#include "engine/restart.h"
 #include "engine/sys_control.h"
 #include "settings/captions.h"
 #include "settings/levels.h"
@@ -22,7 +23,7 @@ struct TPageContext {
 
     // While a row records, its changes are marked with these; see TRegRecor.
     std::wstring Setting;
-    bool RestartNeeded = false;
+    TRestart RestartNeeded = TRestart::None;
 };
 
 /// Sets the loading mark for a scope, so that no path out of a loader leaves it set. Scopes nest: while a

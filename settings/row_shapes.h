@@ -15,7 +15,7 @@
             .Value = ExplorerPolicy(policy),
             .Shows = {.Missing = kChecked, .When = {{1, kClear}}, .Otherwise = kChecked},
             .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-            .Restart = true};
+            .Restart = TRestart::Windows};
 }
 
 /// A policy of the shell of later Windows.
@@ -87,8 +87,14 @@ template <typename T>
 
 /// The row of what waits for a restart.
 template <typename T>
+[[nodiscard]] constexpr T AfterExplorer(T row) {
+    row.Restart = TRestart::Explorer;
+    return row;
+}
+
+template <typename T>
 [[nodiscard]] constexpr T WithRestart(T row) {
-    row.Restart = true;
+    row.Restart = TRestart::Windows;
     return row;
 }
 

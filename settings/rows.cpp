@@ -10,11 +10,11 @@ namespace {
 /// Marks the changes that are recorded in a scope. Scopes nest: a special row may use another row.
 class TRecordingScope {
   public:
-    TRecordingScope(TPageContext& context, const std::wstring& setting, bool restartNeeded)
+    TRecordingScope(TPageContext& context, const std::wstring& setting, TRestart restartNeeded)
         : FContext(context),
           FOuter(std::exchange(context.Setting, setting)),
           FOuterNeeded(context.RestartNeeded) {
-        context.RestartNeeded |= restartNeeded;
+        context.RestartNeeded = std::max(context.RestartNeeded, restartNeeded);
     }
     ~TRecordingScope() {
         FContext.Setting = FOuter;
@@ -26,7 +26,7 @@ class TRecordingScope {
   private:
     TPageContext& FContext;
     std::wstring FOuter;
-    bool FOuterNeeded;
+    TRestart FOuterNeeded;
 };
 
 using TNames = std::vector<std::wstring>;
@@ -111,7 +111,7 @@ TLevels LevelsOf(const TRow& row) {
     return std::visit([](const auto& kind) { return kind.Levels; }, row);
 }
 
-bool RestartOf(const TRow& row) {
+TRestart RestartOf(const TRow& row) {
     return std::visit([](const auto& kind) { return kind.Restart; }, row);
 }
 

@@ -15,6 +15,7 @@
 #include <variant>
 #include <vector>
 
+#include "engine/restart.h"
 #include "settings/datum.h"
 #include "settings/levels.h"
 #include "settings/registry_keys.h"
@@ -81,7 +82,7 @@ struct TCheckBoxRow {
     const TDatum* RecordsWhenMissing = nullptr;  ///< by either state, while there is no value
     std::span<const TBoxFurther> Further = {};   ///< what the click writes beside `Value`
     const wchar_t* ChangeName = nullptr;         ///< null = the control's name
-    bool Restart = false;                        ///< Windows must restart before the change takes effect
+    TRestart Restart = TRestart::None;           ///< before the change takes effect
     TLevels LoadedOn = kEveryLevel;              ///< elsewhere the box keeps its state; it records everywhere
     TControlNames Enables = {};                  ///< of use only while the box is checked
     TControlNames EnablesOnClick = {};           ///< the same, but left alone by the loader
@@ -100,7 +101,7 @@ struct TCheckBoxRow {
 struct TKeyRow {
     const wchar_t* Control;
     TPlace Value;
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     TLevels Levels = kEveryLevel;
 };
@@ -122,7 +123,7 @@ struct TFieldsRow {
     TBoxRule Shows;
     std::optional<TBoxRecord> Records = std::nullopt;  ///< at `Value`; nothing = that is a field's
     std::span<const TBoxField> Fields;
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     TLevels Levels = kEveryLevel;
 };
@@ -132,7 +133,7 @@ struct TServiceRow {
     const wchar_t* Control;
     TPlace Value;
     int Order;  ///< in which Apply switches services
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     TControlNames Enables = {};  ///< of use only while the box can be and is checked
     TLevels Levels = kEveryLevel;
@@ -155,7 +156,7 @@ struct TRadioPairRow {
     TMatch FirstWhen;      ///< the value that checks the first button; any other checks the second
     TDatum FirstRecords;   ///< while the first button is checked
     TDatum SecondRecords;  ///< while it is not
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     const wchar_t* FirstShows = nullptr;   ///< a picture that is visible while the first button is checked
     const wchar_t* SecondShows = nullptr;  ///< one that is visible while the second is
@@ -180,7 +181,7 @@ struct TChoiceRow {
     int Missing = -1;  ///< the item that a missing value chooses; -1 leaves the choice alone
     std::optional<TChoiceFurther> Further = std::nullopt;
     const wchar_t* ChangeName = nullptr;  ///< null = the control's name
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     TLevels Levels = kEveryLevel;
 };
@@ -212,7 +213,7 @@ struct TNumberRow {
     const wchar_t* ChangeName = nullptr;  ///< null = the control's name
     const wchar_t* Suffix = L"";          ///< of the first change's name
     const wchar_t* Digits = nullptr;      ///< a label that repeats the number
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     const TPlace* LoadedFrom = nullptr;  ///< what shows, where it is not `Value`
     TLevels Levels = kEveryLevel;
@@ -224,7 +225,7 @@ struct TTextRow {
     TPlace Value;
     const wchar_t* MissingShows = nullptr;  ///< the edit whose text shows when there is no value
     bool MissingClears = false;             ///< nothing shows then
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     TLevels Levels = kEveryLevel;
 };
@@ -244,7 +245,7 @@ struct TSwitchRow {
     int OtherItem = -1;     ///< the item that any other value chooses; -1 leaves the choice alone
     TControlNames Enables;  ///< of use only while it is on
     const wchar_t* ChangeName = nullptr;  ///< null = the name of `On`
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     TLevels Levels = kEveryLevel;
 };
@@ -265,7 +266,7 @@ struct TListsRow {
     std::int32_t Least =
         std::numeric_limits<std::int32_t>::min();  ///< … or one that means no number or is below this
     const wchar_t* ChangeName;
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     TLevels Levels = kEveryLevel;
 };
@@ -275,7 +276,7 @@ struct TColorRow {
     const wchar_t* Button;
     const wchar_t* Swatch;
     TPlace Value;
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     TLevels Levels = kEveryLevel;
 };
@@ -286,7 +287,7 @@ struct TProgramRow {
     const wchar_t* Button;
     const wchar_t* Edit;
     TPlace Value;
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     TLevels Levels = kEveryLevel;
 };
@@ -297,7 +298,7 @@ struct TSpecialRow {
     std::span<const TPlace> Places;  ///< all that it writes
     void (*Load)(TPageContext& context, const TSpecialRow& row);  ///< null = another row's loader shows it
     void (*Record)(TPageContext& context, const TSpecialRow& row, TComponent& sender);
-    bool Restart = false;
+    TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     TLevels Levels = kEveryLevel;
 };
@@ -322,7 +323,7 @@ using TLoader = std::span<const TRow>;
 [[nodiscard]] TLevels LevelsOf(const TRow& row);
 
 /// Whether Windows must restart before a change takes effect.
-[[nodiscard]] bool RestartOf(const TRow& row);
+[[nodiscard]] TRestart RestartOf(const TRow& row);
 
 /// Shows the stored value in the row's controls. Called with the window's loading flag set.
 void LoadRow(TPageContext& context, const TRow& row);

@@ -101,7 +101,7 @@ inline constexpr TBoxFurther kAdminToolsBeside[] = {
             .Value = {kCurrentUser, kExplorerAdvanced, L"EnableBalloonTips"},
             .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
             .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-            .Restart = true,
+            .Restart = TRestart::Windows,
             .Levels = kUntilWindows10};
 }
 
@@ -147,7 +147,7 @@ inline constexpr TBoxFurther kOpenCmdCommand[] = {
             .Value = {kLocalMachine, kWinlogon, L"AutoRestartShell"},
             .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
             .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-            .Restart = true};
+            .Restart = TRestart::Windows};
 }
 
 // Drives, memory, errors

@@ -43,13 +43,17 @@ TText Levels(const TCataloguedRow& row) {
 
 void Print(const TText& line) { std::printf("%s\n", ToUtf8(line).c_str()); }
 
+TText RestartWord(TRestart restart) {
+    return restart == TRestart::None ? L"" : restart == TRestart::Windows ? L"Windows" : L"Explorer";
+}
+
 void PrintRow(const TCataloguedRow& row) {
     TText settings;
     for (const TSetting* setting : row.Settings)
         settings += (settings.empty() ? L"" : L"<br>") + Words(*setting);
     const TRowWords words = WordsOf(*row.Row);
     Print(L"| " + Cell(settings) + L" | " + Cell(words.Place) + L" | " + Cell(words.Shows) + L" | " +
-          Cell(words.Writes) + L" | " + Levels(row) + L" | " + (RestartOf(*row.Row) ? L"yes" : L"") + L" |");
+          Cell(words.Writes) + L" | " + Levels(row) + L" | " + RestartWord(RestartOf(*row.Row)) + L" |");
 }
 
 /// What the settings and presets of the sheet are for. Several may have one caption.

@@ -1,6 +1,7 @@
 #include "base/win32/late_bound.h"
 
 #include <delayimp.h>
+#include <restartmanager.h>
 
 #include <algorithm>
 #include <bit>
@@ -123,6 +124,32 @@ void AddFrame(RECT& area, HWND window, int dotsPerInch) {
     const auto extendedStyle = static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE));
     if (adjust == nullptr || !adjust(&area, style, FALSE, extendedStyle, static_cast<UINT>(dotsPerInch)))
         AdjustWindowRectEx(&area, style, FALSE, extendedStyle);
+}
+
+void RestartProcess(DWORD processId) {
+    const TWaitableHandle process(OpenProcess(PROCESS_QUERY_INFORMATION, FALSE, processId));
+    RM_UNIQUE_PROCESS unique{processId, {}};
+    FILETIME other{};
+    if (!process.IsValid() ||
+        !GetProcessTimes(process.Get(), &unique.ProcessStartTime, &other, &other, &other))
+        return;
+    const TSystemLibrary manager(L"rstrtmgr.dll");
+    const auto start = manager.Find<DWORD WINAPI(DWORD*, DWORD, wchar_t*)>("RmStartSession");
+    const auto add = manager.Find<DWORD WINAPI(DWORD, UINT, const wchar_t**, UINT, RM_UNIQUE_PROCESS*, UINT,
+                                               const wchar_t**)>("RmRegisterResources");
+    const auto end = manager.Find<DWORD WINAPI(DWORD, ULONG, RM_WRITE_STATUS_CALLBACK)>("RmShutdown");
+    const auto again = manager.Find<DWORD WINAPI(DWORD, DWORD, RM_WRITE_STATUS_CALLBACK)>("RmRestart");
+    const auto finish = manager.Find<DWORD WINAPI(DWORD)>("RmEndSession");
+    if (start == nullptr || add == nullptr || end == nullptr || again == nullptr || finish == nullptr) return;
+    DWORD session = 0;
+    wchar_t key[CCH_RM_SESSION_KEY + 1]{};
+    if (start(&session, 0, key) != ERROR_SUCCESS) return;
+    if (add(session, 0, nullptr, 1, &unique, 0, nullptr) == ERROR_SUCCESS) {
+        // Whatever has ended comes back, even if not all did.
+        (void)end(session, 0, nullptr);
+        (void)again(session, 0, nullptr);
+    }
+    finish(session);
 }
 
 std::wstring FinalPathOf(HANDLE file) {

@@ -40,6 +40,10 @@ void EnableThemeTabTexture(HWND dialog);
 /// measures that all windows have.
 void AddFrame(RECT& area, HWND window, int dotsPerInch);
 
+/// The Restart Manager (since Vista): asks a process to end as at the end of a session, without force, and starts it again
+/// as it was. Without that manager, and when the process does not want to end, nothing happens.
+void RestartProcess(DWORD processId);
+
 /// GetFinalPathNameByHandleW: the path of an open file behind all symbolic links, empty when it cannot be told. So it is
 /// before Vista, which has no symbolic links to files either.
 [[nodiscard]] std::wstring FinalPathOf(HANDLE file);

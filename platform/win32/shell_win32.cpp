@@ -5,6 +5,7 @@
 #include <urlhist.h>
 
 #include "base/win32/handle.h"
+#include "base/win32/late_bound.h"
 
 namespace {
 
@@ -54,6 +55,12 @@ bool TWin32Shell::OpenFolder(const std::wstring& path) {
     const bool isOpen = ShellExecuteExW(&what) != FALSE;
     if (SUCCEEDED(initialised)) CoUninitialize();
     return isOpen;
+}
+
+void TWin32Shell::RestartExplorer() {
+    DWORD explorer = 0;
+    if (const HWND desktop = GetShellWindow()) GetWindowThreadProcessId(desktop, &explorer);
+    if (explorer != 0) RestartProcess(explorer);
 }
 
 void TWin32Shell::RestartWindows() {

@@ -9,6 +9,7 @@ class TWin32Shell : public TShell {
     void BroadcastSettingChange(const std::wstring& area) override;
     [[nodiscard]] std::wstring FolderPath(TSpecialFolder folder) const override;
     [[nodiscard]] bool OpenFolder(const std::wstring& path) override;
+    void RestartExplorer() override;
     void RestartWindows() override;
     void ClearBrowsingHistory() override;
     void DebugOutput(const std::wstring& text) override;

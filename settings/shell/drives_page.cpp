@@ -38,7 +38,7 @@ constexpr TRow kCommonRows[] = {
                  .Value = {kLocalMachine, kIdeController, L"EnableUDMA66"},
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Restart = true,
+                 .Restart = TRestart::Windows,
                  .Levels = kUntilWindows7},
     LastAccessRow(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData"),
     ManagedLastAccessRow(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData"),
@@ -80,7 +80,7 @@ constexpr TRow kAutoPlayRows[] = {
                  .Shows = {.Missing = kChecked, .When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Further = kCdromAutorun,
-                 .Restart = true},
+                 .Restart = TRestart::Windows},
     AutoPlay(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia", kRemovableDrives),
     AutoPlay(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD", kCdDrives),
 };

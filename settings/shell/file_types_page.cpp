@@ -206,7 +206,7 @@ constexpr TRow kAdvancedRows[] = {
                  .Value = As(TCoding::FirstByte, kLink),
                  .Shows = {.When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = SetBits(kAddsHead), .Clear = Dword(0)},
-                 .Restart = true},
+                 .Restart = TRestart::Windows},
     // Whether the preview is registered is deliberately not asked, so that another viewer's change does not clear the
     // box: it starts from whether Explorer has kept a "link" for the user. Clearing takes only the right to be the
     // default from the preview: the pictures' menu keeps its entry.

@@ -20,8 +20,8 @@ inline constexpr TRow kFolderFilesRows[] = {
                  .Levels = kSinceWindows8},
     On(kSinceWindows8, ExplorerOption(L"Checkbox_Folder_Files_System", L"ShowSuperHidden", kClear)),
     On(kSinceWindows8, ExplorerOption(L"Checkbox_Folder_Files_IconsOnly", L"IconsOnly", kClear)),
-    On(kSinceWindows8, WithRestart(AllowedBox(L"Checkbox_Folder_Files_NetworkThumbnails",
-                                              UserShellPolicy(L"DisableThumbsDBOnNetworkFolders"), 1))),
+    On(kSinceWindows8, AfterExplorer(AllowedBox(L"Checkbox_Folder_Files_NetworkThumbnails",
+                                                UserShellPolicy(L"DisableThumbsDBOnNetworkFolders"), 1))),
     TCheckBoxRow{.Control = L"Checkbox_Folder_Files_AskDelete",
                  .Value = ExplorerPolicy(L"ConfirmFileDelete"),
                  .Shows = {.Missing = kClear, .When = {{1, kChecked}}, .Otherwise = kClear},
@@ -35,7 +35,7 @@ inline constexpr TDatum kRibbons[] = {kDeleteValue, Dword(1), Dword(2)};
 
 /// An entry of the navigation pane, by its folder.
 [[nodiscard]] constexpr TCheckBoxRow PinnedFolder(const wchar_t* control, const wchar_t* folder) {
-    return WithRestart(AllowedBox(control, {kCurrentUser, folder, L"System.IsPinnedToNameSpaceTree"}, 0));
+    return AfterExplorer(AllowedBox(control, {kCurrentUser, folder, L"System.IsPinnedToNameSpaceTree"}, 0));
 }
 
 inline constexpr TRow kFolderExplorerRows[] = {
@@ -60,7 +60,7 @@ inline constexpr TRow kFolderExplorerRows[] = {
                  .Value = {kCurrentUser, kShortMenuHandler, L""},
                  .Shows = {.Missing = kClear, .Otherwise = kChecked},
                  .Records = {.Checked = Text(L""), .Clear = kDeleteKey},
-                 .Restart = true,
+                 .Restart = TRestart::Explorer,
                  .Levels = kSinceWindows11},
     On(kSinceWindows8, ExplorerOption(L"Checkbox_Folder_Explorer_ItemCount", L"ShowStatusBar")),
     On(SinceBuild(14393),
@@ -75,8 +75,8 @@ inline constexpr TRow kFolderExplorerRows[] = {
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Levels = kSinceWindows10},
-    On(SinceBuild(22621), WithRestart(AllowedBox(L"Checkbox_Folder_Explorer_Cloud",
-                                                 ShellPolicyForAll(L"DisableGraphRecentItems"), 1))),
+    On(SinceBuild(22621), AfterExplorer(AllowedBox(L"Checkbox_Folder_Explorer_Cloud",
+                                                   ShellPolicyForAll(L"DisableGraphRecentItems"), 1))),
     On(SinceBuild(22631), PinnedFolder(L"Checkbox_Folder_Explorer_Gallery", kGalleryFolder)),
     On(SinceBuild(22621), PinnedFolder(L"Checkbox_Folder_Explorer_Home", kHomeFolder)),
     // Up to Windows 10 they stand on the page of Internet Explorer.

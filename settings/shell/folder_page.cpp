@@ -60,7 +60,7 @@ constexpr TRow kViewRows[] = {
                  .Value = {kCurrentUser, kExplorerPoliciesUpper, L"NoPreviewPane"},
                  .Shows = {.Missing = kChecked, .Otherwise = kClear},
                  .Records = {.Checked = kDeleteValue, .Clear = Dword(1)},
-                 .Restart = true,
+                 .Restart = TRestart::Windows,
                  .LoadedOn = kSinceVista},
     RestoreFoldersRow(L"Checkbox_Folder_View_Windows_Restore"),
     TCheckBoxRow{.Control = L"Checkbox_Folder_View_BehaviorSet_SaveViewSet",

@@ -103,7 +103,7 @@ constexpr TRow kKeyboardRows[] = {
     // Windows reads it when the user logs on.
     TNumberRow{.Control = L"TrackBar_Use_Keyboard_BlinkingCursor_Speed",
                .Value = As(TCoding::BlinkRate, {kCurrentUser, kDesktop, L"CursorBlinkRate"}),
-               .Restart = true},
+               .Restart = TRestart::Windows},
     CaretWidthRow(L"UpDown_Use_Keyboard_CursorWidth_Width"),
     WindowsKeyRow(L"Checkbox_Use_Keyboard_WinKey_Active"),
     TCheckBoxRow{.Control = L"Checkbox_Use_Keyboard_NumLock_Active",

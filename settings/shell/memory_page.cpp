@@ -34,7 +34,7 @@ constexpr TRow kMemoryManageRows[] = {
                   .FirstWhen = 1,
                   .FirstRecords = Dword(1),
                   .SecondRecords = Dword(0),
-                  .Restart = true},
+                  .Restart = TRestart::Windows},
     ClearPagefileRow(L"Checkbox_MemoryAndCache_MemoryManage_Pagefile_Delete"),
 };
 
@@ -46,7 +46,7 @@ constexpr TRow kMemoryUseRows[] = {
                   .FirstWhen = 1,
                   .FirstRecords = Dword(1),
                   .SecondRecords = Dword(0),
-                  .Restart = true,
+                  .Restart = TRestart::Windows,
                   .Levels = kUntilWindows7},
 };
 

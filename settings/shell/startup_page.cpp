@@ -110,7 +110,7 @@ constexpr TRow kDesktopAndTaskbarRows[] = {
                   .FirstWhen = 1,
                   .FirstRecords = Dword(1),
                   .SecondRecords = Dword(0),
-                  .Restart = true},
+                  .Restart = TRestart::Windows},
 };
 
 constexpr TRow kErrorRows[] = {

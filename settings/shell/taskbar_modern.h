@@ -28,23 +28,23 @@ inline constexpr TRow kTaskbarModernRows[] = {
     On(kSinceWindows10, ExplorerOption(L"Checkbox_Taskbar_Modern_TaskView", L"ShowTaskViewButton")),
     // What Settings write (TaskbarDa) Windows 11 protects from other programs.
     On(kSinceWindows11,
-       WithRestart(AllowedBox(L"Checkbox_Taskbar_Modern_Widgets",
-                              {kLocalMachine, kWidgetPolicies, L"AllowNewsAndInterests"}, 0))),
+       AfterExplorer(AllowedBox(L"Checkbox_Taskbar_Modern_Widgets",
+                                {kLocalMachine, kWidgetPolicies, L"AllowNewsAndInterests"}, 0))),
     On(SinceBuild(22621), AllowedBox(L"Checkbox_Taskbar_Modern_LockScreenWidgets",
                                      {kLocalMachine, kWidgetPolicies, L"DisableWidgetsOnLockScreen"}, 1)),
     On(SinceBuild(19041) & kUntilWindows10,
-       WithRestart(
+       AfterExplorer(
            AllowedBox(L"Checkbox_Taskbar_Modern_News", {kLocalMachine, kFeedPolicies, L"EnableFeeds"}, 0))),
     // 1 shows it, 2 hides it, 3 turns it off.
     TCheckBoxRow{.Control = L"Checkbox_Taskbar_Modern_Chat",
                  .Value = {kLocalMachine, kChatPolicies, L"ChatIcon"},
                  .Shows = {.Missing = kChecked, .When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = kDeleteValue, .Clear = Dword(3)},
-                 .Restart = true,
+                 .Restart = TRestart::Explorer,
                  .Levels = kSinceWindows11 & UntilBuild(22630)},
     On(SinceBuild(16299) & kUntilWindows10,
-       WithRestart(AllowedBox(L"Checkbox_Taskbar_Modern_People",
-                              {kCurrentUser, kUserShellPolicies, L"HidePeopleBar"}, 1))),
+       AfterExplorer(AllowedBox(L"Checkbox_Taskbar_Modern_People",
+                                {kCurrentUser, kUserShellPolicies, L"HidePeopleBar"}, 1))),
     On(SinceBuild(14393), ExplorerOption(L"Checkbox_Taskbar_Modern_Badges", L"TaskbarBadges")),
     On(SinceBuild(22621), ExplorerOption(L"Checkbox_Taskbar_Modern_Flashing", L"TaskbarFlashing")),
     On(kSinceWindows11, ExplorerOption(L"Checkbox_Taskbar_Modern_Sharing", L"TaskbarSn")),
@@ -57,7 +57,7 @@ inline constexpr TRow kTaskbarModernRows[] = {
                  .Levels = SinceBuild(22631)},
     // Not documented.
     On(kOnlyWindows10,
-       WithRestart(ExplorerOption(L"Checkbox_Taskbar_Modern_LastActive", L"LastActiveClick", kClear))),
+       AfterExplorer(ExplorerOption(L"Checkbox_Taskbar_Modern_LastActive", L"LastActiveClick", kClear))),
     On(kSinceWindows10, AllowedBox(L"Checkbox_Taskbar_Modern_RemoteJumpLists",
                                    {kCurrentUser, kUserShellPolicies, L"NoRemoteDestinations"}, 1)),
 };
@@ -73,18 +73,19 @@ inline constexpr TRow kTaskbarScreensRows[] = {
     ExplorerList(L"CB_Taskbar_Screens_Combine", L"MMTaskbarGlomLevel", 3, 0,
                  kSinceWindows8& kUncombinedButtons),
     // Not documented. Windows 10 looks when Explorer starts.
-    On(SinceBuild(14393) & kUntilWindows10, WithRestart(ExplorerOption(L"Checkbox_Taskbar_Messages_Seconds",
-                                                                       L"ShowSecondsInSystemClock", kClear))),
+    On(SinceBuild(14393) & kUntilWindows10,
+       AfterExplorer(
+           ExplorerOption(L"Checkbox_Taskbar_Messages_Seconds", L"ShowSecondsInSystemClock", kClear))),
     On(SinceBuild(22621),
        ExplorerOption(L"Checkbox_Taskbar_Messages_Seconds", L"ShowSecondsInSystemClock", kClear)),
     On(kSinceWindows10,
-       WithRestart(AllowedBox(L"Checkbox_Taskbar_Messages_Center",
-                              {kCurrentUser, kUserShellPolicies, L"DisableNotificationCenter"}, 1))),
+       AfterExplorer(AllowedBox(L"Checkbox_Taskbar_Messages_Center",
+                                {kCurrentUser, kUserShellPolicies, L"DisableNotificationCenter"}, 1))),
     On(kSinceWindows8& kUntilWindows10,
-       WithRestart(AllowedBox(L"Checkbox_Taskbar_Messages_Promotion",
-                              {kCurrentUser, kUserShellPolicies, L"NoSystraySystemPromotion"}, 1))),
+       AfterExplorer(AllowedBox(L"Checkbox_Taskbar_Messages_Promotion",
+                                {kCurrentUser, kUserShellPolicies, L"NoSystraySystemPromotion"}, 1))),
     On(SinceBuild(18362) & kUntilWindows10,
-       WithRestart(AllowedBox(L"Checkbox_Taskbar_Messages_MeetNow", ExplorerPolicy(L"HideSCAMeetNow"), 1))),
+       AfterExplorer(AllowedBox(L"Checkbox_Taskbar_Messages_MeetNow", ExplorerPolicy(L"HideSCAMeetNow"), 1))),
 };
 
 inline constexpr const wchar_t* kOtherTaskbars[] = {

@@ -4,6 +4,7 @@
 #include <set>
 #include <utility>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/faults.h"
@@ -309,6 +310,32 @@ TEST_F(TMainWindow, AsksForARestartOnceForEachChangeThatNeedsIt) {
     Fake.Dialogs.Answer(TMessageAnswer::Yes);
     Press(L"Button_Apply");
     EXPECT_EQ(Fake.Shell.Restarts(), 1);
+}
+
+TEST_F(TMainWindow, OffersToRestartExplorerWhereNothingMoreIsNeeded) {
+    constexpr const wchar_t* kLastActive = L"Checkbox_Taskbar_Modern_LastActive";
+    Open(10, 0);
+    Click(L"RzGroup_Display.Items[3]");
+    Toggle(kLastActive);
+    Fake.Dialogs.Answer(TMessageAnswer::No);
+    Press(L"Button_Apply");
+    ASSERT_EQ(Fake.Dialogs.Questions().size(), 1u);
+    EXPECT_EQ(Fake.Dialogs.Questions()[0].Text,
+              L"Need to restart Explorer to take effect, restart now? Its open windows are closed.");
+    EXPECT_EQ(Fake.Shell.ExplorerRestarts, 0) << "never unasked";
+    EXPECT_THAT(Fake.Shell.SettingChanges(), testing::Contains(L"ImmersiveColorSet"));
+    Toggle(kLastActive);
+    Fake.Dialogs.Answer(TMessageAnswer::Yes);
+    Press(L"Button_Apply");
+    EXPECT_EQ(Fake.Shell.ExplorerRestarts, 1);
+
+    Click(L"RzGroup_Others.Items[1]");
+    Toggle(kLastActive);
+    Toggle(L"Checkbox_Startup_DesktopAndTaskbar_AutoRestartExplorer_AutoRun");
+    Fake.Dialogs.Answer(TMessageAnswer::No);
+    Press(L"Button_Apply");
+    ASSERT_EQ(Fake.Dialogs.Questions().size(), 3u) << "one question";
+    EXPECT_EQ(Fake.Dialogs.Questions()[2].Text, L"Need to restart Windows to take effect, restart now?");
 }
 
 TEST_F(TMainWindow, WhatARefusedPassLeavesIsStillToBeApplied) {

@@ -205,6 +205,18 @@ TEST(TCommandLine, ShowsWhatIsStoredAndChangesIt) {
     EXPECT_EQ(line.Snapshot(), before);
 }
 
+TEST(TCommandLine, SaysWhenOnlyExplorerMustRestart) {
+    TCommandLine line;
+    line.Fake.Windows.SetVersion({.PlatformId = 2, .Major = 10, .Minor = 0, .Build = 19045});
+    const auto shown = line.Run({L"show", L"Taskbar_Modern_LastActive", L"--json"}).Json();
+    EXPECT_TRUE(shown["explorer"] == true && shown["restart"] == false);
+    const bool isOn = shown["state"] == "on";
+    const TAnswer set =
+        line.Run({L"set", L"Taskbar_Modern_LastActive=" + std::wstring(isOn ? L"off" : L"on")});
+    EXPECT_EQ(set.Status, TExitStatus::Done);
+    EXPECT_THAT(set.Messages, ElementsAre(HasSubstr("Explorer")));
+}
+
 TEST(TCommandLine, NamesWhatCannotBeWrittenAndWritesTheRest) {
     TCommandLine line;
     line.Fake.Registry.Put(kShortNamesPlace, {TRegDataType::Dword, 1});

@@ -41,7 +41,7 @@ class TRandomChanges {
     void Record(TSysControl& changes) {
         const std::wstring name = std::to_wstring(Pick(1000));
         if (Pick(12) == 0) return changes.Switch({.Service = kService, .On = Pick(2) == 0, .Setting = name});
-        TRegRecor record{.Name = name, .Setting = name, .RestartNeeded = Pick(2) == 0};
+        TRegRecor record{.Name = name, .Setting = name, .RestartNeeded = static_cast<TRestart>(Pick(3))};
         if (Pick(5) == 0) {
             const auto set = 2 * static_cast<std::uint32_t>(Pick(3));
             const auto number = static_cast<std::uint32_t>(Pick(9));

@@ -155,7 +155,7 @@ class TRandomSet {
     TChangeSet Set(std::size_t size) {
         TChangeSet set(size);
         for (TOperation& operation : set) {
-            operation.Restart = Pick(3) == 0;
+            operation.Restart = static_cast<TRestart>(Pick(3));
             if (Pick(2) == 0) operation.Setting = Text(true);
             switch (Pick(6)) {
                 case 0:

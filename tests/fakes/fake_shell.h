@@ -24,6 +24,7 @@ class TFakeShell : public TShell {
     std::wstring MissingFolder;
 
     [[nodiscard]] int Restarts() const { return FRestarts; }
+    int ExplorerRestarts = 0;
     [[nodiscard]] int HistoryClearings() const { return FHistoryClearings; }
     [[nodiscard]] const std::vector<std::wstring>& DebugTexts() const { return FDebugTexts; }
 
@@ -39,6 +40,7 @@ class TFakeShell : public TShell {
         OpenedFolders.push_back(path);
         return path != MissingFolder;
     }
+    void RestartExplorer() override { ++ExplorerRestarts; }
     void RestartWindows() override { ++FRestarts; }
     void ClearBrowsingHistory() override { ++FHistoryClearings; }
     void DebugOutput(const std::wstring& text) override { FDebugTexts.push_back(text); }

@@ -37,9 +37,11 @@ class TPageBench {
     }
     /// Runs the loaders of the first page.
     void Load() { FPages.front()->Load(); }
-    /// Whether Apply will ask for a restart.
-    [[nodiscard]] bool NeedsRestart() const {
-        return std::ranges::any_of(FChanges.Pending(), &TRegRecor::RestartNeeded);
+    /// What Apply will ask to restart.
+    [[nodiscard]] TRestart NeedsRestart() const {
+        TRestart needed = TRestart::None;
+        for (const TRegRecor& record : FChanges.Pending()) needed = std::max(needed, record.RestartNeeded);
+        return needed;
     }
     /// What Apply will do with a service: 0 nothing, 1 switch it on, 2 off.
     [[nodiscard]] int Switches(const wchar_t* service) const {

@@ -74,7 +74,7 @@ TScene::TScene(const TPageDefinition& page, TCovered& covered, const TLine& leve
     FBench.Context.Release = ReleaseOf(level.empty() ? L"7" : level);
 }
 
-TScene::~TScene() { EXPECT_EQ(FNeededRestart || FBench.NeedsRestart(), FRestart) << "restart"; }
+TScene::~TScene() { EXPECT_EQ(std::max(FNeededRestart, FBench.NeedsRestart()), FRestart) << "restart"; }
 
 bool TScene::Run(TLine line, const TLines& below) {
     const TLine verb = Take(line, L" ");
@@ -228,8 +228,10 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
          for (const TLine& control : TakeControls(rest)) s.FBench.Preset(control, rest);
      }},
     {L"leave", [](TScene& s, TLine rest, const TLines&) { s.FBench.Get<TEdit>(rest).SetFocused(false); }},
-    {L"apply", [](TScene& s, TLine,
-                  const TLines&) { s.FNeededRestart |= s.FBench.Context.Changes.WriteAll().RestartNeeded; }},
+    {L"apply",
+     [](TScene& s, TLine, const TLines&) {
+         s.FNeededRestart = std::max(s.FNeededRestart, s.FBench.Context.Changes.WriteAll().RestartNeeded);
+     }},
     {L"expect",
      [](TScene& s, TLine rest, const TLines&) {
          for (const TLine& control : TakeControls(rest)) s.Expect(control, rest);
@@ -246,5 +248,6 @@ const std::map<TLine, TScene::TStep> TScene::kSteps{
      [](TScene& s, TLine rest, const TLines&) { EXPECT_EQ(s.FBench.Switches(L"wscsvc"), std::stoi(rest)); }},
     {L"firewall",
      [](TScene& s, TLine rest, const TLines&) { EXPECT_EQ(s.FBench.Switches(L"MpsSvc"), std::stoi(rest)); }},
-    {L"restart", [](TScene& s, TLine, const TLines&) { s.FRestart = true; }},
+    {L"restart", [](TScene& s, TLine, const TLines&) { s.FRestart = TRestart::Windows; }},
+    {L"explorer", [](TScene& s, TLine, const TLines&) { s.FRestart = TRestart::Explorer; }},
 };

@@ -60,6 +60,6 @@ class TScene {
     TPageBench FBench;
     TCovered& FCovered;
     std::string FUserFile;
-    bool FRestart = false;
-    bool FNeededRestart = false;  ///< for what was written already
+    TRestart FRestart = TRestart::None;
+    TRestart FNeededRestart = TRestart::None;  ///< for what was written already
 };

@@ -109,7 +109,9 @@ class TScript {
         const TLine control = Take(rest, L" | ");
         std::vector<std::pair<TLine, TLine>> places{{L"*", Take(rest, L" | ")}};
         TLines parts = Parts(rest);
-        const bool restarts = std::erase(parts, L"restart") != 0;
+        TLines restarts;
+        for (const wchar_t* word : {L"restart", L"explorer"})
+            if (std::erase(parts, word) != 0) restarts.emplace_back(word);
         TLine level;
         for (TLine part : parts) {
             TLine value = part;
@@ -135,7 +137,7 @@ class TScript {
                 if (!isWritten) continue;
                 TLines changes;
                 for (const auto& [name, place] : places) changes.push_back(Written(name, place, values[0]));
-                if (restarts) changes.emplace_back(L"restart");
+                changes.insert(changes.end(), restarts.begin(), restarts.end());
                 ExpectWritten(control, part, changes, level);
                 for (const bool populated : {false, true})
                     EXPECT_EQ(LeftAfter(control, part, level, 1, populated),

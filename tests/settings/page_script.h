@@ -16,13 +16,13 @@
 //     VALUE    1, "text", hex 1E 00, other (of another type), missing; when written also deleted (the value), key deleted
 //     <IS 1>   1 <-> on | 0, 2 <-> off; likewise <IS 0>, <NOT 0>, <NOT 1>
 //     level 5  the Windows level of the parts that follow, or a build of one: level 10.17763; 7 when nothing is said
-//     restart  Windows must restart for any of it
+//     restart  Windows must restart for any of it; or `explorer`
 //     as NAME  the name of the change, when it is not the control's;   and *1: PLACE  a further place of the same values. Where
 //              a state writes other values to a second place, or needs a switch to be on, say VALUE -> STATE here and what it
 //              writes in lines of their own: writes UpDown_X 3 | preset Checkbox_X on | Checkbox_X: PLACE = 3
 //   shows CONTROL, … STATE | VERB | … | 5      what a loaded page shows on the level that found this: PLACE = VALUE, a parameter, a
 //                                              service, Firefox; STATE may be whatever `expect` knows
-//   writes CONTROL STATE | CHANGE | … | restart    does that on a page that was not loaded; * stands for the control's name. The
+//   writes CONTROL STATE | CHANGE | … | restart    (or `explorer`) does that on a page that was not loaded; * stands for the control's name. The
 //                                              parts may also be verbs, such as `stored PLACE = VALUE` or `level 5`
 //   presses BUTTON | STATE CONTROL, … | STATE CONTROL, … | level 5    brings them into these states and leaves all others alone
 //   offered 5, 7-10, 11.22621- CONTROL, …      visible on these levels and builds and on no other, 0 included
@@ -57,7 +57,7 @@
 //   now PLACE = VALUE                     what the registry holds; or: now PLACE missing
 //   security 1                            the mark of the Security Center, and `firewall 1` that of the firewall
 //   histories 1                           how often the browsing history was cleared
-//   restart                               Windows must restart; when nothing is said, it must not
+//   restart                               Windows must restart, or `explorer` must; when nothing is said, neither
 #pragma once
 
 #include <string>
