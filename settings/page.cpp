@@ -4,7 +4,6 @@
 #include <map>
 
 #include "platform/numeric_fields.h"
-#include "settings/page_model.h"
 #include "settings/rights.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
@@ -28,10 +27,11 @@ void HideField(TControl& control) {
     if (label.Kind() == TComponentKind::Label) label.SetVisible(false);
 }
 
-bool IsWithin(const TControl& control, const TControl& container) {
+/// Whether the control lies in the container and is seen wherever that is. A sheet may be out of sight for a while.
+bool IsLeftIn(const TControl& container, const TControl& control) {
     const TControl* c = &control;
-    while (c != nullptr && c != &container) c = c->Parent();
-    return c != nullptr;
+    while (c != nullptr && c != &container && c->Visible()) c = c->Parent();
+    return c == &container;
 }
 
 }  // namespace
@@ -137,9 +137,7 @@ void TPage::HideWhatHasNoRow() const {
                 containers.insert(c);
     }
     for (TControl* container : containers) {
-        const auto isLeft = [&](const auto& setting) {
-            return IsWithin(*setting.first, *container) && TPageModel::IsShown(*setting.first);
-        };
+        const auto isLeft = [&](const auto& setting) { return IsLeftIn(*container, *setting.first); };
         if (std::ranges::none_of(settings, isLeft)) Hide(*container);
     }
 }

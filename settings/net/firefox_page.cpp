@@ -259,7 +259,8 @@ bool Prepare(TPageContext& context) {
     const bool installed = context.Firefox.IsFirefoxInstalled();
     auto& tabs = *context.Form.Find<TPageControl>(kTabs);
     for (TControl* sheet : tabs.Children())
-        tabs.SetTabVisible(static_cast<TTabSheet&>(*sheet), installed != (sheet->Name() == kNoFirefoxSheet));
+        tabs.SetTabVisible(static_cast<TTabSheet&>(*sheet),
+                           sheet->Visible() && installed != (sheet->Name() == kNoFirefoxSheet));
     if (installed) context.Firefox.LoadFirefoxPrefs();
     return installed;
 }
