@@ -210,8 +210,7 @@ constexpr TPreset kPresets[] = {
 constexpr TPageDefinition kPage{.Tag = 1,
                                 .Design = Design,
                                 .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = DisplayExplanations};
+                                .Presets = kPresets};
 
 }  // namespace
 
