@@ -12,10 +12,6 @@ TControlDesign FirefoxCurrentSheet() {
                        L"Show sponsored s&tories on the home page"),
               CheckBox(L"Checkbox_Firefox_Current_Stories", L"Show &recommended stories on the home page")),
         Group(L"GroupBox_Firefox_Current_Privacy", L"Privacy and security",
-              CheckBox(L"Checkbox_Firefox_Current_SearchSuggestions",
-                       L"Show search su&ggestions in the address bar"),
-              CheckBox(L"Checkbox_Firefox_Current_Sponsors",
-                       L"Show suggestions from s&ponsors in the address bar"),
               CheckBox(L"Checkbox_Firefox_Current_Data", L"Send technical and &usage data to Mozilla"),
               Indent(CheckBox(L"Checkbox_Firefox_Current_Studies",
                               L"Allow &Firefox to install and run studies")),
@@ -29,22 +25,27 @@ TControlDesign FirefoxCurrentSheet() {
         Buttons(Button(L"Button_Firefox_Current_Default", L"&Default")));
 }
 
-TControlDesign FirefoxCurrentTabsSheet() {
+TControlDesign FirefoxCurrentWindowSheet() {
     return Sheet(
-        L"TabSheet_Firefox_CurrentTabs", L"Tabs (current versions)",
-        Group(
-            L"GroupBox_Firefox_CurrentTabs", L"Tabs",
-            CheckBox(L"Checkbox_Firefox_CurrentTabs_Beside", L"Open every &new tab next to the current one"),
-            CheckBox(L"Checkbox_Firefox_CurrentTabs_Switch",
-                     L"&Switch to a link at once when it opens in a new tab"),
-            CheckBox(L"Checkbox_Firefox_CurrentTabs_CloseWindow", L"&Close the window with its last tab"),
-            CheckBox(L"Checkbox_Firefox_CurrentTabs_Confirm", L"C&onfirm before closing several tabs"),
-            CheckBox(L"Checkbox_Firefox_CurrentTabs_Recent",
-                     L"Ctrl+&Tab goes through tabs in the order of use")),
-        Group(L"GroupBox_Firefox_CurrentWindow", L"Window",
+        L"TabSheet_Firefox_CurrentWindow", L"Window (current versions)",
+        Group(L"GroupBox_Firefox_CurrentWindow_Tabs", L"Tabs",
+              CheckBox(L"Checkbox_Firefox_CurrentWindow_Beside",
+                       L"Open every &new tab next to the current one"),
+              CheckBox(L"Checkbox_Firefox_CurrentWindow_Switch",
+                       L"&Switch to a link at once when it opens in a new tab"),
+              CheckBox(L"Checkbox_Firefox_CurrentWindow_CloseWindow", L"&Close the window with its last tab"),
+              CheckBox(L"Checkbox_Firefox_CurrentWindow_Confirm", L"C&onfirm before closing several tabs"),
+              CheckBox(L"Checkbox_Firefox_CurrentWindow_Recent",
+                       L"Ctrl+&Tab goes through tabs in the order of use")),
+        Group(L"GroupBox_Firefox_CurrentWindow_AddressBar", L"Address bar",
+              CheckBox(L"Checkbox_Firefox_CurrentWindow_SearchSuggestions",
+                       L"Show search su&ggestions in the address bar"),
+              CheckBox(L"Checkbox_Firefox_CurrentWindow_Sponsors",
+                       L"Show suggestions from s&ponsors in the address bar")),
+        Group(L"GroupBox_Firefox_CurrentWindow_Look", L"Look and sidebar",
               CheckBox(L"Checkbox_Firefox_CurrentWindow_Compact", L"Use the compact tool&bar"),
               CheckBox(L"Checkbox_Firefox_CurrentWindow_Chatbot", L"Offer an A&I chatbot in the sidebar"),
               CheckBox(L"Checkbox_Firefox_CurrentWindow_StyleSheets",
                        L"&Use style sheets of my own (userChrome.css, userContent.css)")),
-        Buttons(Button(L"Button_Firefox_CurrentTabs_Default", L"&Default")));
+        Buttons(Button(L"Button_Firefox_CurrentWindow_Default", L"&Default")));
 }

@@ -5,7 +5,7 @@
 #include "settings/row_shapes.h"
 
 [[nodiscard]] TControlDesign FirefoxCurrentSheet();
-[[nodiscard]] TControlDesign FirefoxCurrentTabsSheet();
+[[nodiscard]] TControlDesign FirefoxCurrentWindowSheet();
 
 // These versions take lower-case spellings alone; what is neither true nor false counts as missing.
 
@@ -53,9 +53,6 @@ inline constexpr TRow kFirefoxCurrentRows[] = {
                   L"\"browser.newtabpage.activity-stream.showSponsored\""),
     TrueByDefault(L"Checkbox_Firefox_Current_Stories",
                   L"\"browser.newtabpage.activity-stream.feeds.section.topstories\""),
-    TrueByDefault(L"Checkbox_Firefox_Current_SearchSuggestions", L"\"browser.urlbar.suggest.searches\""),
-    FalseByDefault(L"Checkbox_Firefox_Current_Sponsors",
-                   L"\"browser.urlbar.suggest.quicksuggest.sponsored\""),
     FirefoxDataRow(L"Checkbox_Firefox_Current_Data", kFirefoxStudies),
     TrueByDefault(kFirefoxStudies[0], L"\"app.shield.optoutstudies.enabled\""),
     FalseByDefault(L"Checkbox_Firefox_Current_HttpsOnly", L"\"dom.security.https_only_mode\""),
@@ -69,16 +66,20 @@ inline constexpr TRow kFirefoxCurrentRows[] = {
     FalseByDefault(L"Checkbox_Firefox_Current_Trackers", L"\"privacy.trackingprotection.enabled\""),
 };
 
-inline constexpr TRow kFirefoxCurrentTabsRows[] = {
-    FalseByDefault(L"Checkbox_Firefox_CurrentTabs_Beside", L"\"browser.tabs.insertAfterCurrent\""),
-    TCheckBoxRow{.Control = L"Checkbox_Firefox_CurrentTabs_Switch",
+inline constexpr TRow kFirefoxCurrentWindowRows[] = {
+    FalseByDefault(L"Checkbox_Firefox_CurrentWindow_Beside", L"\"browser.tabs.insertAfterCurrent\""),
+    TCheckBoxRow{.Control = L"Checkbox_Firefox_CurrentWindow_Switch",
                  .Value = Pref(L"\"browser.tabs.loadInBackground\""),
                  .Shows = {.Missing = kClear, .When = {{L"false", kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Text(L"false"), .Clear = Text(L"true")},
                  .Levels = kSinceWindows8},
-    TrueByDefault(L"Checkbox_Firefox_CurrentTabs_CloseWindow", L"\"browser.tabs.closeWindowWithLastTab\""),
-    FalseByDefault(L"Checkbox_Firefox_CurrentTabs_Confirm", L"\"browser.tabs.warnOnClose\""),
-    FalseByDefault(L"Checkbox_Firefox_CurrentTabs_Recent", L"\"browser.ctrlTab.sortByRecentlyUsed\""),
+    TrueByDefault(L"Checkbox_Firefox_CurrentWindow_CloseWindow", L"\"browser.tabs.closeWindowWithLastTab\""),
+    FalseByDefault(L"Checkbox_Firefox_CurrentWindow_Confirm", L"\"browser.tabs.warnOnClose\""),
+    FalseByDefault(L"Checkbox_Firefox_CurrentWindow_Recent", L"\"browser.ctrlTab.sortByRecentlyUsed\""),
+    TrueByDefault(L"Checkbox_Firefox_CurrentWindow_SearchSuggestions",
+                  L"\"browser.urlbar.suggest.searches\""),
+    FalseByDefault(L"Checkbox_Firefox_CurrentWindow_Sponsors",
+                   L"\"browser.urlbar.suggest.quicksuggest.sponsored\""),
     // 0 is normal, 1 compact, 2 for touch screens.
     TCheckBoxRow{.Control = L"Checkbox_Firefox_CurrentWindow_Compact",
                  .Value = Pref(L"\"browser.uidensity\""),
@@ -95,8 +96,6 @@ inline constexpr TPresetState kFirefoxCurrentDefault[] = {
     {L"Checkbox_Firefox_Current_Shortcuts", 1},
     {L"Checkbox_Firefox_Current_SponsoredStories", 1},
     {L"Checkbox_Firefox_Current_Stories", 1},
-    {L"Checkbox_Firefox_Current_SearchSuggestions", 1},
-    {L"Checkbox_Firefox_Current_Sponsors", 0},
     {L"Checkbox_Firefox_Current_Data", 1},
     {L"Checkbox_Firefox_Current_Studies", 1},
     {L"Checkbox_Firefox_Current_HttpsOnly", 0},
@@ -104,9 +103,15 @@ inline constexpr TPresetState kFirefoxCurrentDefault[] = {
     {L"Checkbox_Firefox_Current_PrivacyControl", 0},
     {L"Checkbox_Firefox_Current_Trackers", 0},
 };
-inline constexpr TPresetState kFirefoxCurrentTabsDefault[] = {
-    {L"Checkbox_Firefox_CurrentTabs_Beside", 0},      {L"Checkbox_Firefox_CurrentTabs_Switch", 0},
-    {L"Checkbox_Firefox_CurrentTabs_CloseWindow", 1}, {L"Checkbox_Firefox_CurrentTabs_Confirm", 0},
-    {L"Checkbox_Firefox_CurrentTabs_Recent", 0},      {L"Checkbox_Firefox_CurrentWindow_Compact", 0},
-    {L"Checkbox_Firefox_CurrentWindow_Chatbot", 1},   {L"Checkbox_Firefox_CurrentWindow_StyleSheets", 0},
+inline constexpr TPresetState kFirefoxCurrentWindowDefault[] = {
+    {L"Checkbox_Firefox_CurrentWindow_Beside", 0},
+    {L"Checkbox_Firefox_CurrentWindow_Switch", 0},
+    {L"Checkbox_Firefox_CurrentWindow_CloseWindow", 1},
+    {L"Checkbox_Firefox_CurrentWindow_Confirm", 0},
+    {L"Checkbox_Firefox_CurrentWindow_Recent", 0},
+    {L"Checkbox_Firefox_CurrentWindow_SearchSuggestions", 1},
+    {L"Checkbox_Firefox_CurrentWindow_Sponsors", 0},
+    {L"Checkbox_Firefox_CurrentWindow_Compact", 0},
+    {L"Checkbox_Firefox_CurrentWindow_Chatbot", 1},
+    {L"Checkbox_Firefox_CurrentWindow_StyleSheets", 0},
 };

@@ -80,7 +80,7 @@ TControlDesign Design() {
                                                    L"Mozilla Firefox is not installed on this computer"),
                                              Label(L"Label_Firefox_NoFirefox_Link",
                                                    L"It is available from www.mozilla.org/firefox")),
-                                       FirefoxCurrentSheet(), FirefoxCurrentTabsSheet()));
+                                       FirefoxCurrentSheet(), FirefoxCurrentWindowSheet()));
 }
 
 // Written in these spellings, read in any case.
@@ -232,7 +232,7 @@ constexpr TNeed kNeeds[] = {{.Controls = kDelayControls, .Of = kSpeedDelay}};
 
 // A fault of the last loader ends all.
 constexpr TLoader kLoaders[] = {
-    kFirefoxCurrentRows, kFirefoxCurrentTabsRows, kCommonRows, kUseRows, kPopupRows, kTabsRows};
+    kFirefoxCurrentRows, kFirefoxCurrentWindowRows, kCommonRows, kUseRows, kPopupRows, kTabsRows};
 
 constexpr TPresetState kCommonDefault[] = {
     {L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing", 0},
@@ -257,7 +257,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_Firefox_Use_Default", kUseDefault},
     {L"Button_Firefox_Popup_Default", kPopupDefault},
     {L"Button_Firefox_Current_Default", kFirefoxCurrentDefault},
-    {L"Button_Firefox_CurrentTabs_Default", kFirefoxCurrentTabsDefault},
+    {L"Button_Firefox_CurrentWindow_Default", kFirefoxCurrentWindowDefault},
 };
 
 /// Offers the settings or, without a Firefox, the sheet that says so. Answers whether there are any to load.
