@@ -27,15 +27,17 @@ struct TInflation : z_stream {
 
 /// The packed text; empty when the bytes are broken.
 std::string Inflated(std::span<const std::uint8_t> packed) {
-    std::string text(UnpackedSize(packed), '\0');
-    if (text.size() > kLargestSize) return {};
+    const std::size_t size = UnpackedSize(packed);
+    if (size > kLargestSize) return {};
+    std::string text(size, '\0');
     TInflation stream;
     stream.next_in = packed.data();
     stream.avail_in = static_cast<uInt>(packed.size());
     stream.next_out = reinterpret_cast<Bytef*>(text.data());
     stream.avail_out = static_cast<uInt>(text.size());
     constexpr int kGzip = 16;
-    if (inflateInit2(&stream, MAX_WBITS + kGzip) != Z_OK || inflate(&stream, Z_FINISH) != Z_STREAM_END) return {};
+    if (inflateInit2(&stream, MAX_WBITS + kGzip) != Z_OK || inflate(&stream, Z_FINISH) != Z_STREAM_END)
+        return {};
     return text;
 }
 

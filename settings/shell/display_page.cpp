@@ -207,10 +207,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_Display_MenuAppearance_HighestPerformance", kMenuHighestPerformance},
 };
 
-constexpr TPageDefinition kPage{.Tag = 1,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets};
+constexpr TPageDefinition kPage{.Tag = 1, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
 
 }  // namespace
 
