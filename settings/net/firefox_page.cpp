@@ -230,9 +230,8 @@ constexpr TRow kTabsRows[] = {
 constexpr const wchar_t* kDelayControls[] = {L"Label_Firefox_Use_MenuSpeed_Delay", kDelayBar};
 constexpr TNeed kNeeds[] = {{.Controls = kDelayControls, .Of = kSpeedDelay}};
 
-// A fault of the last loader ends all.
 constexpr TLoader kLoaders[] = {
-    kFirefoxCurrentRows, kFirefoxCurrentWindowRows, kCommonRows, kUseRows, kPopupRows, kTabsRows};
+    kCommonRows, kUseRows, kPopupRows, kTabsRows, kFirefoxCurrentRows, kFirefoxCurrentWindowRows};
 
 constexpr TPresetState kCommonDefault[] = {
     {L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing", 0},

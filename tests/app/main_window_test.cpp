@@ -456,7 +456,7 @@ TEST_F(TMainWindow, AFaultWhileAPageLoadsEndsItsLoaderOnly) {
     EXPECT_FALSE(Window->Context().Loading);
     EXPECT_EQ(Get<TNotebook>(L"Notebook_Main").ActivePage()->Name(), L"9");
     EXPECT_TRUE(Get<TCheckBox>(kBlink).Checked());
-    EXPECT_EQ(Get<TComboBox>(L"CB_Firefox_Current_Resolver").ItemIndex(), 3) << "comes after it on the page";
+    EXPECT_EQ(Get<TComboBox>(L"CB_Firefox_Current_Resolver").ItemIndex(), 3) << "of a later loader";
     EXPECT_EQ(Get<TUpDown>(L"Updown_Firefox_Tab_MinWidth_Min").Position(), 125) << "comes after the fault";
     Toggle(kBlink);
     EXPECT_TRUE(Enabled(L"Button_Apply"));
