@@ -79,6 +79,10 @@ inline constexpr TRow kFolderExplorerRows[] = {
                                                  ShellPolicyForAll(L"DisableGraphRecentItems"), 1))),
     On(SinceBuild(22631), PinnedFolder(L"Checkbox_Folder_Explorer_Gallery", kGalleryFolder)),
     On(SinceBuild(22621), PinnedFolder(L"Checkbox_Folder_Explorer_Home", kHomeFolder)),
+    // Up to Windows 10 they stand on the page of Internet Explorer.
+    On(kSinceWindows11, YesOrNo(L"Checkbox_Folder_Explorer_Suggest", kExplorerAutoComplete, L"AutoSuggest")),
+    On(kSinceWindows11,
+       YesOrNo(L"Checkbox_Folder_Explorer_Append", kExplorerAutoComplete, L"Append Completion", kClear)),
 };
 
 inline constexpr TPresetState kFolderFilesDefault[] = {
@@ -97,4 +101,5 @@ inline constexpr TPresetState kFolderExplorerDefault[] = {
     {L"Checkbox_Folder_Explorer_SyncNotices", 1}, {L"Checkbox_Folder_Explorer_Recent", 1},
     {L"Checkbox_Folder_Explorer_Frequent", 1},    {L"Checkbox_Folder_Explorer_Cloud", 1},
     {L"Checkbox_Folder_Explorer_Gallery", 1},     {L"Checkbox_Folder_Explorer_Home", 1},
+    {L"Checkbox_Folder_Explorer_Suggest", 1},     {L"Checkbox_Folder_Explorer_Append", 0},
 };
