@@ -4,7 +4,6 @@
 #include <map>
 
 #include "platform/numeric_fields.h"
-#include "settings/page_model.h"
 #include "settings/rights.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
@@ -28,10 +27,11 @@ void HideField(TControl& control) {
     if (label.Kind() == TComponentKind::Label) label.SetVisible(false);
 }
 
-bool IsWithin(const TControl& control, const TControl& container) {
+/// Whether the control lies in the container and is seen wherever that is. A sheet may be out of sight for a while.
+bool IsLeftIn(const TControl& container, const TControl& control) {
     const TControl* c = &control;
-    while (c != nullptr && c != &container) c = c->Parent();
-    return c != nullptr;
+    while (c != nullptr && c != &container && c->Visible()) c = c->Parent();
+    return c == &container;
 }
 
 }  // namespace
@@ -61,7 +61,7 @@ void TPage::Load() {
     if (!HasAdministratorRights(FContext.System)) MarkControlsForAllUsers(FContext, FDefinition);
     ApplyLacks(FContext, FDefinition);
     if (FDefinition.Prepare != nullptr && !FDefinition.Prepare(FContext)) return;
-    RunLoaders([](const std::wstring&) { return false; });
+    RunLoaders(FDefinition.Loaders, [](const std::wstring&) { return false; });
 }
 
 void TPage::Reload(const TIsPending& isPending) {
@@ -77,7 +77,8 @@ void TPage::Reload(const TIsPending& isPending) {
     }
     Reset(kept);
     ApplyLacks(FContext, FDefinition);
-    if (FDefinition.Prepare == nullptr || FDefinition.Prepare(FContext)) RunLoaders(isPending);
+    if (FDefinition.Prepare == nullptr || FDefinition.Prepare(FContext))
+        RunLoaders(FDefinition.Loaders, isPending);
 }
 
 void TPage::Reset() {
@@ -100,11 +101,19 @@ void TPage::Reset(const std::set<std::wstring>& kept) {
     }
 }
 
-void TPage::RunLoaders(const TIsPending& isPending) {
-    for (const TLoader& loader : FDefinition.Loaders) {
-        for (const TRow& row : loader)
-            if (IsOffered(row) && !std::ranges::any_of(ControlsOf(row), isPending)) LoadRow(FContext, row);
-        ApplyNeeds(FContext, FDefinition);  // a fault of the next loader changes nothing about these
+void TPage::RunLoaders(std::span<const TLoader> loaders, const TIsPending& isPending) {
+    while (!loaders.empty()) {
+        const TLoader loader = loaders.front();
+        loaders = loaders.subspan(1);
+        try {
+            for (const TRow& row : loader)
+                if (IsOffered(row) && !std::ranges::any_of(ControlsOf(row), isPending))
+                    LoadRow(FContext, row);
+            ApplyNeeds(FContext, FDefinition);  // a fault of the next loader changes nothing about these
+        } catch (...) {
+            RunLoaders(loaders, isPending);
+            throw;
+        }
     }
 }
 
@@ -137,9 +146,7 @@ void TPage::HideWhatHasNoRow() const {
                 containers.insert(c);
     }
     for (TControl* container : containers) {
-        const auto isLeft = [&](const auto& setting) {
-            return IsWithin(*setting.first, *container) && TPageModel::IsShown(*setting.first);
-        };
+        const auto isLeft = [&](const auto& setting) { return IsLeftIn(*container, *setting.first); };
         if (std::ranges::none_of(settings, isLeft)) Hide(*container);
     }
 }

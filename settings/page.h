@@ -100,7 +100,8 @@ class TPage {
 
     void TakeDown(const TControl& container);
     void Reset(const std::set<std::wstring>& kept);
-    void RunLoaders(const TIsPending& isPending);
+    /// A fault ends its loader only.
+    void RunLoaders(std::span<const TLoader> loaders, const TIsPending& isPending);
     void Listen(TControl& container);
     void ListenToRow(const TRow& row);
     void HideWhatIsNotOffered() const;

@@ -2,6 +2,7 @@
 
 #include "base/decimal.h"
 #include "engine/reg_value.h"
+#include "settings/net/firefox_current.h"
 #include "settings/page_context.h"
 #include "settings/shared_rows.h"
 #include "settings/store.h"
@@ -78,7 +79,8 @@ TControlDesign Design() {
                                              Label(L"Label_Firefox_NoFirefox_Info",
                                                    L"Mozilla Firefox is not installed on this computer"),
                                              Label(L"Label_Firefox_NoFirefox_Link",
-                                                   L"It is available from www.mozilla.org/firefox"))));
+                                                   L"It is available from www.mozilla.org/firefox")),
+                                       FirefoxCurrentSheet(), FirefoxCurrentWindowSheet()));
 }
 
 // Written in these spellings, read in any case.
@@ -228,7 +230,8 @@ constexpr TRow kTabsRows[] = {
 constexpr const wchar_t* kDelayControls[] = {L"Label_Firefox_Use_MenuSpeed_Delay", kDelayBar};
 constexpr TNeed kNeeds[] = {{.Controls = kDelayControls, .Of = kSpeedDelay}};
 
-constexpr TLoader kLoaders[] = {kCommonRows, kUseRows, kPopupRows, kTabsRows};
+constexpr TLoader kLoaders[] = {
+    kCommonRows, kUseRows, kPopupRows, kTabsRows, kFirefoxCurrentRows, kFirefoxCurrentWindowRows};
 
 constexpr TPresetState kCommonDefault[] = {
     {L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing", 0},
@@ -252,6 +255,8 @@ constexpr TPreset kPresets[] = {
     {L"Button_Firefox_Common_Default", kCommonDefault},
     {L"Button_Firefox_Use_Default", kUseDefault},
     {L"Button_Firefox_Popup_Default", kPopupDefault},
+    {L"Button_Firefox_Current_Default", kFirefoxCurrentDefault},
+    {L"Button_Firefox_CurrentWindow_Default", kFirefoxCurrentWindowDefault},
 };
 
 /// Offers the settings or, without a Firefox, the sheet that says so. Answers whether there are any to load.
@@ -259,7 +264,8 @@ bool Prepare(TPageContext& context) {
     const bool installed = context.Firefox.IsFirefoxInstalled();
     auto& tabs = *context.Form.Find<TPageControl>(kTabs);
     for (TControl* sheet : tabs.Children())
-        tabs.SetTabVisible(static_cast<TTabSheet&>(*sheet), installed != (sheet->Name() == kNoFirefoxSheet));
+        tabs.SetTabVisible(static_cast<TTabSheet&>(*sheet),
+                           sheet->Visible() && installed != (sheet->Name() == kNoFirefoxSheet));
     if (installed) context.Firefox.LoadFirefoxPrefs();
     return installed;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <unordered_map>
 #include <utility>
 
 #include "platform/app_frame.h"
@@ -13,13 +14,44 @@
 
 namespace {
 
-constexpr const wchar_t* kUninstallKey = L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
+/// What lists the products: those for all users, for this one, and those of 32 bits on a Windows of 64.
+constexpr std::pair<TRootKey, const wchar_t*> kProducts[] = {
+    {TRootKey::LocalMachine, L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"},
+    {TRootKey::CurrentUser, L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"},
+    {TRootKey::LocalMachine, L"\\SOFTWARE\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"},
+};
 constexpr const wchar_t* kProduct = L"Mozilla Firefox";
 constexpr const wchar_t* kPrefsFile = L"\\prefs.js";
 constexpr const wchar_t* kUserFile = L"\\user.js";
 
 std::int32_t ReadInteger(const TExtIniFile& file, const std::wstring& section, const wchar_t* key) {
     return ParseInteger(file.ReadString(section, key, L"")).value_or(0);
+}
+
+/// The section of the profile that an installation starts with, as Firefox 67 and later note it; empty when they do not.
+std::wstring ProfileOfInstallation(const TExtIniFile& profiles, const std::vector<std::wstring>& sections) {
+    std::unordered_map<std::wstring, std::size_t, TTextHash, TTextEqual> byPath;
+    for (std::size_t i = 0; i < sections.size(); ++i)
+        byPath.emplace(profiles.ReadString(sections[i], L"Path", L""), i);
+    byPath.erase(L"");
+    std::wstring found;
+    for (const std::wstring& section : sections) {
+        if (FindText(section, L"Install") != 0) continue;
+        const auto profile = byPath.find(profiles.ReadString(section, L"Default", L""));
+        if (profile == byPath.end()) continue;
+        if (ReadInteger(profiles, section, L"Locked") != 0) return sections[profile->second];
+        if (found.empty()) found = sections[profile->second];
+    }
+    return found;
+}
+
+std::wstring ProfileInUse(const TExtIniFile& profiles) {
+    const auto sections = profiles.ReadSections();
+    if (std::wstring section = ProfileOfInstallation(profiles, sections); !section.empty()) return section;
+    const auto found = std::ranges::find_if(sections, [&](const std::wstring& section) {
+        return ReadInteger(profiles, section, L"Default") != 0;
+    });
+    return found == sections.end() ? L"Profile0" : *found;
 }
 
 /// A file is there but cannot be read.
@@ -50,9 +82,10 @@ TFirefoxPrefs::TFirefoxPrefs(TSystem& system, std::wstring firefoxFolder)
     : FSystem(system), FFirefoxFolder(std::move(firefoxFolder)) {}
 
 bool TFirefoxPrefs::IsFirefoxInstalled() const {
-    const auto products = FSystem.Registry.SubKeys(TRootKey::LocalMachine, kUninstallKey);
-    return std::ranges::any_of(products, [](const std::wstring& product) {
-        return FindText(product, kProduct) != std::wstring::npos;
+    return std::ranges::any_of(kProducts, [this](const auto& list) {
+        return std::ranges::any_of(
+            FSystem.Registry.SubKeys(list.first, list.second),
+            [](const auto& product) { return FindText(product, kProduct) != std::wstring::npos; });
     });
 }
 
@@ -67,11 +100,7 @@ std::wstring TFirefoxPrefs::FindProfileFolder() {
     TExtIniFile profiles;
     if (const auto bytes = ReadBytes(FFirefoxFolder + L"profiles.ini"))
         profiles.SetStrings(TLineReader(DecodeUtf8OrAnsi(*bytes, FSystem.Windows).Text));
-    const auto sections = profiles.ReadSections();
-    const auto found = std::ranges::find_if(sections, [&](const std::wstring& section) {
-        return ReadInteger(profiles, section, L"Default") != 0;
-    });
-    const std::wstring section = found == sections.end() ? L"Profile0" : *found;
+    const std::wstring section = ProfileInUse(profiles);
     const std::wstring path = profiles.ReadString(section, L"Path", L"");
     return !path.empty() && ReadInteger(profiles, section, L"IsRelative") == 1 ? FFirefoxFolder + path : path;
 }

@@ -24,12 +24,17 @@ class TFirefoxPrefs : public TPreferenceStore {
     /// one counts.
     [[nodiscard]] std::vector<std::wstring> FirefoxPrefLines() const;
 
+    /// For all users or for this one, of 32 or 64 bits.
     [[nodiscard]] bool IsFirefoxInstalled() const;
 
     /// Looks the profile up and reads its user.js, dropping whatever was not saved. When the profile has none yet, a
     /// copy of its prefs.js becomes its user.js and is read; a copy that cannot be made is passed over. Without a profile,
     /// and when a file is there but cannot be read, nothing is loaded. Messages are handled meanwhile; what they see,
     /// edit and save is what was loaded before.
+    ///
+    /// The profile is the Default of an `[Install…]` section of profiles.ini, which stands for an installation of Firefox:
+    /// of the first one that is locked to a profile, otherwise of the first one. Those whose Default is the Path of no
+    /// profile do not count. Where none is left, it is the profile that is marked as the default one, or else Profile0.
     void LoadFirefoxPrefs();
 
     /// The value of the last statement that names the pref, without regard to case, or kNoSuchPref.

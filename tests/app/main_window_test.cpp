@@ -475,13 +475,15 @@ TEST_F(TMainWindow, FirefoxChangesWaitForAReadableFileButNotForAProfile) {
 TEST_F(TMainWindow, AFaultWhileAPageLoadsEndsItsLoaderOnly) {
     InstallFirefox(Fake,
                    "user_pref(\"browser.blink_allowed\", false);"
+                   "user_pref(\"network.trr.mode\", 5);"
                    "user_pref(\"browser.tabs.closeButtons\", \"1\");"
                    "user_pref(\"browser.tabs.tabMinWidth\", 100);");
-    Open();
+    Open(6, 2);
     EXPECT_THROW(Click(L"RzGroup_Use.Items[1]"), EConvertError);
     EXPECT_FALSE(Window->Context().Loading);
     EXPECT_EQ(Get<TNotebook>(L"Notebook_Main").ActivePage()->Name(), L"9");
     EXPECT_TRUE(Get<TCheckBox>(kBlink).Checked());
+    EXPECT_EQ(Get<TComboBox>(L"CB_Firefox_Current_Resolver").ItemIndex(), 3) << "of a later loader";
     EXPECT_EQ(Get<TUpDown>(L"Updown_Firefox_Tab_MinWidth_Min").Position(), 125) << "comes after the fault";
     Toggle(kBlink);
     EXPECT_TRUE(Enabled(L"Button_Apply"));

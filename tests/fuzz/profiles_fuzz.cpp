@@ -16,12 +16,18 @@ std::wstring ProfileFolder(const std::wstring& text) {
     const auto number = [&](const std::wstring& section, const wchar_t* key) {
         return ParseInteger(ini.ReadString(section, key, L"")).value_or(0);
     };
-    std::wstring chosen = L"Profile0";
+    // The lowest number wins, and the first of it.
+    std::vector<std::pair<int, std::wstring>> choices = {{3, L"Profile0"}};
     for (const std::wstring& section : ini.ReadSections()) {
-        if (number(section, L"Default") == 0) continue;
-        chosen = section;
-        break;
+        if (number(section, L"Default") != 0) choices.emplace_back(2, section);
+        const std::wstring named = ini.ReadString(section, L"Default", L"");
+        if (named.empty() || FindText(section, L"Install") != 0) continue;
+        for (const std::wstring& profile : ini.ReadSections())
+            if (SameText(ini.ReadString(profile, L"Path", L""), named))
+                choices.emplace_back(number(section, L"Locked") != 0 ? 0 : 1, profile);
     }
+    const std::wstring chosen =
+        std::ranges::min_element(choices, {}, &std::pair<int, std::wstring>::first)->second;
     const std::wstring path = ini.ReadString(chosen, L"Path", L"");
     return number(chosen, L"IsRelative") == 1 && !path.empty() ? kFolder + path : path;
 }
@@ -35,7 +41,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     fake.Files.PutText(folder + L"\\user.js", "user_pref(\"found\", true);\n");
     TFirefoxPrefs prefs(fake.System, kFolder);
     prefs.LoadFirefoxPrefs();
-    Require(prefs.FirefoxProfileFolder() == folder, "the default profile, or else the first one");
+    Require(prefs.FirefoxProfileFolder() == folder,
+            "the profile of an installation, the default one, or else the first one");
     Require((prefs.GetFirefoxPref(L"\"found\"") == L"true") == !folder.empty(),
             "its user.js is read, if there is one");
     Require(fake.Files.Replaced().empty(), "nothing is written");

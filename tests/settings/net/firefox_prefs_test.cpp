@@ -46,6 +46,18 @@ TEST_F(TFirefoxPrefsTest, IsInstalledWhenAProductBearsItsName) {
     }
     Fake.Registry.DenyAccess(TRootKey::LocalMachine, products);
     EXPECT_FALSE(Prefs.IsFirefoxInstalled());
+
+    const std::pair<TRootKey, std::wstring> others[] = {
+        {TRootKey::CurrentUser, products},
+        {TRootKey::LocalMachine, L"Software\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"},
+    };
+    for (const auto& [root, key] : others) {
+        for (const wchar_t* product : {L"Mozilla Maintenance Service", L"Mozilla Firefox 115.9 (x86 de)"})
+            Fake.Registry.PutKey(root, key + product);
+        EXPECT_TRUE(Prefs.IsFirefoxInstalled()) << testing::PrintToString(key);
+        Fake.Registry.DenyAccess(root, key);
+        EXPECT_FALSE(Prefs.IsFirefoxInstalled());
+    }
 }
 
 TEST_F(TFirefoxPrefsTest, FindsTheProfile) {
@@ -73,6 +85,34 @@ TEST_F(TFirefoxPrefsTest, FindsTheProfile) {
     Prefs.LoadFirefoxPrefs();
     EXPECT_EQ(Prefs.FirefoxProfileFolder(), L"");
     EXPECT_EQ(Prefs.GetFirefoxPref(L"\"a\""), L"Noexsit");
+}
+
+TEST_F(TFirefoxPrefsTest, AnInstallationNamesItsProfile) {
+    const std::string profiles =
+        "[Profile1]\nPath=Profiles/1\nIsRelative=1\nDefault=1\n[Profile0]\nPath=Profiles/0\nIsRelative=1\n"
+        "[Profile2]\nPath=D:\\Fox\nIsRelative=0\n[General]\nVersion=2\n";
+    const std::pair<const char*, const wchar_t*> cases[] = {
+        {"[Install4F96]\nDefault=Profiles/0\nLocked=1\n", L"Profiles/0"},
+        {"[INSTALL4F96]\nDefault=d:\\fox\n", L"D:\\Fox"},
+        // Of several the first that holds on to its profile, and without such a one the first.
+        {"[Install1]\nDefault=Profiles/1\n[Install2]\nDefault=D:\\Fox\nLocked=1\n"
+         "[Install3]\nDefault=Profiles/0\nLocked=1\n",
+         L"D:\\Fox"},
+        {"[Install2]\nDefault=Profiles/0\nLocked=0\n[Install1]\nDefault=D:\\Fox\n", L"Profiles/0"},
+        // One that names no profile is passed over.
+        {"[Install1]\nDefault=Profiles/gone\nLocked=1\n[Install2]\nDefault=D:\\Fox\n", L"D:\\Fox"},
+        {"[Install1]\nDefault=Profiles/gone\nLocked=1\n[Install2]\nDefault=\n[Install3]\nLocked=1\n",
+         L"Profiles/1"},
+        {"[4F96]\nDefault=Profiles/0\nLocked=1\n", L"Profiles/1"},
+    };
+    for (const auto& [installs, expected] : cases) {
+        for (const bool isFirst : {false, true}) {
+            Fake.Files.PutText(kProfiles, isFirst ? installs + profiles : profiles + installs);
+            Prefs.LoadFirefoxPrefs();
+            const std::wstring folder = expected[0] == L'D' ? L"" : kFirefox;
+            EXPECT_EQ(Prefs.FirefoxProfileFolder(), folder + expected) << installs;
+        }
+    }
 }
 
 TEST_F(TFirefoxPrefsTest, TheFirstUserFileIsACopy) {
