@@ -77,6 +77,34 @@ inline constexpr const wchar_t* kRemotePrinters =
     L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RemoteComputer\\NameSpace\\"
     L"{2227A280-3AEA-1069-A2DE-08002B30309D}";
 
+// Colors and windows, from Windows 8 on
+
+inline constexpr const wchar_t* kThemeColors =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize\\";
+inline constexpr const wchar_t* kWindowManager = L"\\Software\\Microsoft\\Windows\\DWM\\";
+
+// Start, updates and maintenance, from Windows 8 on
+
+inline constexpr const wchar_t* kSessionPower =
+    L"\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Power\\";
+inline constexpr const wchar_t* kUserWinlogon =
+    L"\\Software\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon\\";
+inline constexpr const wchar_t* kExplorerSerialize =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Serialize\\";
+inline constexpr const wchar_t* kErrorReporting =
+    L"\\Software\\Microsoft\\Windows\\Windows Error Reporting\\";
+inline constexpr const wchar_t* kUpdatePolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\WindowsUpdate\\";
+/// Where Windows' Settings keep theirs.
+inline constexpr const wchar_t* kUpdateSettings = L"\\SOFTWARE\\Microsoft\\WindowsUpdate\\UX\\Settings\\";
+inline constexpr const wchar_t* kStorePolicies = L"\\SOFTWARE\\Policies\\Microsoft\\WindowsStore\\";
+inline constexpr const wchar_t* kDeliveryPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\DeliveryOptimization\\";
+inline constexpr const wchar_t* kStorageSense =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\StorageSense\\Parameters\\StoragePolicy\\";
+inline constexpr const wchar_t* kStoragePolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\StorageSense\\";
+
 // Privacy, from Windows 8 on
 
 inline constexpr const wchar_t* kInputPersonalization = L"\\Software\\Microsoft\\InputPersonalization\\";

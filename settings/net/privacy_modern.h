@@ -11,10 +11,7 @@
 /// A switch that Windows' own Settings keep for the user.
 [[nodiscard]] constexpr TCheckBoxRow UserSwitch(const wchar_t* control, const wchar_t* key,
                                                 const wchar_t* valueName, TBoxState missing = kChecked) {
-    return {.Control = control,
-            .Value = {kCurrentUser, key, valueName},
-            .Shows = {.Missing = missing, .When = {{0, kClear}}, .Otherwise = kChecked},
-            .Records = {.Checked = Dword(1), .Clear = Dword(0)}};
+    return OnOffBox(control, {kCurrentUser, key, valueName}, missing);
 }
 
 inline constexpr TDatum kDiagnosticData[] = {kDeleteValue, Dword(0), Dword(1), Dword(3)};
