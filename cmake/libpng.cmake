@@ -4,7 +4,6 @@ if(CMAKE_CROSSCOMPILING)
     execute_process(
         COMMAND ${CMAKE_SOURCE_DIR}/scripts/deps.sh ${Triple}
         OUTPUT_VARIABLE LibpngFolder OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-    find_library(ZlibArchive libz.a REQUIRED)
     add_library(PNG::PNG STATIC IMPORTED)
     set_target_properties(PNG::PNG PROPERTIES
         IMPORTED_LOCATION ${LibpngFolder}/lib/libpng.a

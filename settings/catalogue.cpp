@@ -8,6 +8,7 @@
 #include "platform/app_frame.h"
 #include "platform/text.h"
 #include "settings/category_table.h"
+#include "settings/explanations.h"
 #include "settings/page_table.h"
 #include "settings/shell/desktop_icons.h"
 #include "settings/twin_controls.h"
@@ -193,27 +194,16 @@ void TCatalogue::AddPage(TModel& model, TPageModel& page, const std::wstring& ca
 }
 
 void TCatalogue::Explain(TModel& model) const {
-    using TOwnText = std::pair<std::wstring, const char*>;  // with the control that it is kept under
-    std::map<std::wstring, TOwnText> explanations;
-    for (const auto& page : model.Pages) {
-        for (const TExplanation& each : page->Definition().Explanations()) {
-            const std::wstring control = FromUtf8(each.Control);
-            explanations.emplace(control, TOwnText(control, each.Text));
-        }
-    }
-    // What the program does not explain a language may.
-    const auto of = [&](const std::wstring& control) {
-        return explanations.try_emplace(control, control, "").first->second;
-    };
+    std::map<std::wstring_view, std::wstring_view> twins;  // what has one shares its explanation
     for (const auto& page : model.Pages)
-        for (const TTwin& twin : page->Definition().Twins)
-            explanations.insert_or_assign(twin.Control, of(twin.Twin));
+        for (const TTwin& twin : page->Definition().Twins) twins.emplace(twin.Control, twin.Twin);
+    const std::wstring section = L"Scanner_" + model.Form.Name();
     for (TSetting& setting : model.Settings) {
-        const auto [control, text] = of(setting.Id);
-        setting.Explanation = FromUtf8(text);
+        const auto twin = twins.find(setting.Id);
+        const std::wstring key = std::wstring(twin == twins.end() ? setting.Id : twin->second) + L".Hint";
+        setting.Explanation = Explanations().ReadString(section, key, L"");
         if (FLanguage != nullptr)
-            setting.Explanation = FLanguage->ReadString(L"Scanner_" + model.Form.Name(), control + L".Hint",
-                                                        setting.Explanation);
+            setting.Explanation = FLanguage->ReadString(section, key, setting.Explanation);
     }
 }
 

@@ -3,7 +3,6 @@
 
 #include <set>
 
-#include "settings/explanation.h"
 #include "settings/needs.h"
 #include "settings/page_context.h"
 #include "ui/design.h"
@@ -52,8 +51,6 @@ struct TPageDefinition {
     TControlDesign (*Design)();
     std::span<const TLoader> Loaders;  ///< in the order in which they run
     std::span<const TPreset> Presets;
-    /// Of its settings and presets, in a unit of their own; those that have a twin share its explanation.
-    TExplanations (*Explanations)() = [] { return TExplanations(); };
     std::span<const TOffer> Offers = {};
     std::span<const TLevelCaption> LevelCaptions = {};
     std::span<const TTwin> Twins = {};

@@ -268,7 +268,6 @@ constexpr TPageDefinition kPage{.Tag = 9,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = FirefoxExplanations,
                                 .Needs = kNeeds,
                                 .LoadsEveryVisit = true,
                                 .Prepare = Prepare};

@@ -264,7 +264,6 @@ constexpr TPageDefinition kPage{.Tag = 8,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = InternetExplorerExplanations,
                                 .Offers = kOffers};
 
 }  // namespace

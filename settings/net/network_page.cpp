@@ -178,7 +178,6 @@ constexpr TPageDefinition kPage{.Tag = 7,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = NetworkExplanations,
                                 .LevelCaptions = kLevelCaptions,
                                 .ShowsPending = true,
                                 .Prepare = Prepare};

@@ -94,7 +94,6 @@ constexpr TPageDefinition kPage{.Tag = 12,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = PrivacyExplanations,
                                 .Needs = kNeeds,
                                 .ShowsPending = true};
 

@@ -66,7 +66,6 @@ constexpr TPageDefinition kPage{.Tag = 18,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = {},
-                                .Explanations = SecurityExplanations,
                                 .Lacks = kLacks,
                                 .ShowsPending = true};
 

@@ -185,7 +185,6 @@ constexpr TPageDefinition kPage{.Tag = 13,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = {},
-                                .Explanations = UserLogonExplanations,
                                 .Needs = kNeeds,
                                 .ShowsPending = true};
 

@@ -191,7 +191,6 @@ constexpr TPageDefinition kDialog{.Tag = 0,
                                   .Design = Design,
                                   .Loaders = kLoaders,
                                   .Presets = {},
-                                  .Explanations = DesktopIconsExplanations,
                                   .Offers = kOffers,
                                   .LevelCaptions = kLevelCaptions};
 

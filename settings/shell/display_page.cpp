@@ -227,7 +227,6 @@ constexpr TPageDefinition kPage{.Tag = 1,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = DisplayExplanations,
                                 .Needs = kNeeds};
 
 }  // namespace

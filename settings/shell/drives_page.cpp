@@ -106,7 +106,6 @@ constexpr TPageDefinition kPage{.Tag = 14,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = DrivesExplanations,
                                 .Needs = kNeeds};
 
 }  // namespace

@@ -253,7 +253,6 @@ constexpr TPageDefinition kPage{.Tag = 2,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = FileTypesExplanations,
                                 .Offers = kOffers,
                                 .Needs = kNeeds};
 

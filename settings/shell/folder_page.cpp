@@ -200,7 +200,6 @@ constexpr TPageDefinition kPage{.Tag = 3,
                                 .Design = FolderDesign,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = FolderExplanations,
                                 .LevelCaptions = kLevelCaptions};
 
 }  // namespace

@@ -159,7 +159,6 @@ constexpr TPageDefinition kPage{.Tag = 4,
                                 .Design = InputDesign,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = InputExplanations,
                                 .Offers = kOffers};
 
 }  // namespace

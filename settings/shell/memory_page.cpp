@@ -65,8 +65,7 @@ constexpr TPreset kPresets[] = {
 constexpr TPageDefinition kPage{.Tag = 15,
                                 .Design = Design,
                                 .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = MemoryExplanations};
+                                .Presets = kPresets};
 
 }  // namespace
 

@@ -360,7 +360,6 @@ constexpr TPageDefinition kPage{.Tag = 5,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = StartMenuExplanations,
                                 .Offers = kOffers,
                                 .LevelCaptions = kLevelCaptions,
                                 .Needs = kNeeds};

@@ -153,8 +153,7 @@ constexpr TPreset kPresets[] = {
 constexpr TPageDefinition kPage{.Tag = 16,
                                 .Design = Design,
                                 .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = StartupExplanations};
+                                .Presets = kPresets};
 
 }  // namespace
 

@@ -162,8 +162,7 @@ constexpr TPreset kPresets[] = {
 constexpr TPageDefinition kPage{.Tag = 17,
                                 .Design = Design,
                                 .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Explanations = SystemExplanations};
+                                .Presets = kPresets};
 
 }  // namespace
 

@@ -220,7 +220,6 @@ constexpr TPageDefinition kPage{.Tag = 6,
                                 .Design = Design,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
-                                .Explanations = TaskbarExplanations,
                                 .Offers = kOffers,
                                 .Needs = kNeeds};
 

@@ -55,9 +55,13 @@ TTexts FolderFormTexts(const TForm& form) {
     return texts;
 }
 
-void AddExplanations(TTexts& texts, const TPageDefinition& page) {
-    for (const auto& [control, text] : page.Explanations())
-        texts[FromUtf8(control) + L".Hint"] = FromUtf8(text);
+/// Those of the settings and presets of the page; those that have a twin share its explanation.
+void AddExplanations(TTexts& texts, const TCatalogue& catalogue, const TCataloguedPage& page) {
+    std::set<std::wstring> twins;
+    for (const TTwin& twin : page.Definition->Twins) twins.insert(twin.Control);
+    for (const TSetting* setting : catalogue.Settings())
+        if (setting->Page == page.Caption && !twins.contains(setting->Id))
+            texts[setting->Id + L".Hint"] = setting->Explanation;
 }
 
 TExtIniFile LoadDelivered(const std::string& language) {
@@ -113,9 +117,10 @@ TEST(TLanguageFiles, HoldEveryTextAndNoOther) {
     const TQuilltune_FormFolder dialog(window.Context(), none);
     TPlainDialogs dialogs(fake.System, window, none);
     TTexts windowTexts = FormTexts(window);
-    for (const TPageDefinition* page : PageDefinitions()) AddExplanations(windowTexts, *page);
     TTexts dialogTexts = FolderFormTexts(dialog);
-    AddExplanations(dialogTexts, DesktopIcons());
+    const TCatalogue catalogue(fake.System, nullptr, 7);
+    for (const TCataloguedPage& page : catalogue.Pages())
+        AddExplanations(page.Definition == &DesktopIcons() ? dialogTexts : windowTexts, catalogue, page);
     for (const char* language : {"English", "German"}) {
         SCOPED_TRACE(language);
         const bool english = language == std::string("English");

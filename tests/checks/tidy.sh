@@ -26,7 +26,7 @@ TidyGroup() {
         return
     fi
     text=$(mktemp --suffix=.cpp)
-    awk 'FNR == 1 { if (Open) print "}"; Open = 0; Page = FILENAME ~ /_(page|explanations)\.cpp$/ }
+    awk 'FNR == 1 { if (Open) print "}"; Open = 0; Page = FILENAME ~ /_page\.cpp$/ }
          Page && !Open && /^namespace/ { print "namespace unit" ++Units " {"; Open = 1 }
          { print }
          END { if (Open) print "}" }' "$@" >"$text"
@@ -43,7 +43,7 @@ export -f Tidy TidyGroup
 # Prints the files, a group to a line. None comes to another that has a name in use which it defines for itself alone.
 Groups() {
     awk -v groups=$Groups '
-        FNR == 1 { Files[++Count] = FILENAME; Own = 0; Page = FILENAME ~ /_(page|explanations)\.cpp$/ }
+        FNR == 1 { Files[++Count] = FILENAME; Own = 0; Page = FILENAME ~ /_page\.cpp$/ }
         /^namespace \{$/ { Own = !Page }
         /^}  \/\/ namespace$/ { Own = 0 }
         Own && /^[a-z]/ && match($0, /[A-Za-z_0-9]+(\(|\[| =|\{)/) {

@@ -2,6 +2,7 @@
 #include "settings/catalogue.h"
 
 #include "engine/carry_out.h"
+#include "settings/explanations.h"
 #include "settings/page_table.h"
 #include "tests/settings/page_bench.h"
 
@@ -205,22 +206,23 @@ TEST(TCatalogueModel, KnowsItsSettings) {
     EXPECT_TRUE(std::ranges::any_of(states, [&](const auto& each) { return each.first == &setting; }));
 }
 
-TEST(TCatalogueModel, EverySettingIsExplainedOnce) {
+TEST(TCatalogueModel, EverySettingIsExplained) {
     TFakeSystem fake;
     const TCatalogue catalogue(fake.System, nullptr, 7);
-    for (const TCataloguedPage& page : catalogue.Pages()) {
-        std::set<std::wstring> explained;
-        for (const auto& [control, text] : page.Definition->Explanations()) {
-            EXPECT_TRUE(explained.insert(FromUtf8(control)).second) << control;
-            EXPECT_TRUE(std::string_view(text).ends_with('.')) << text;
-        }
-        for (const TSetting* setting : catalogue.Settings()) {
-            if (setting->Page != page.Caption) continue;
-            EXPECT_FALSE(setting->Explanation.empty()) << testing::PrintToString(setting->Id);
-            explained.erase(setting->Id);
-        }
-        EXPECT_TRUE(explained.empty()) << "of no setting: " << testing::PrintToString(explained);
+    for (const TSetting* setting : catalogue.Settings())
+        EXPECT_TRUE(setting->Explanation.ends_with(L'.')) << testing::PrintToString(setting->Id);
+}
+
+TEST(TCatalogueModel, BrokenExplanationsAreNone) {
+    std::vector<std::uint8_t> packed(kPackedExplanations.begin(), kPackedExplanations.end());
+    EXPECT_FALSE(UnpackExplanations(packed).ReadSections().empty());
+    for (std::size_t i = 10; i < packed.size(); i += i < 100 || packed.size() - i < 10 ? 1 : 997) {
+        EXPECT_TRUE(UnpackExplanations(kPackedExplanations.first(i)).ReadSections().empty()) << i;
+        packed[i] ^= 0x5AU;
+        EXPECT_TRUE(UnpackExplanations(packed).ReadSections().empty()) << i;
+        packed[i] ^= 0x5AU;
     }
+    EXPECT_TRUE(UnpackExplanations({}).ReadSections().empty());
 }
 
 TEST(TSettingStates, OtherWordsAreRefused) {
