@@ -14,7 +14,7 @@ Measure() {
     (cd "$Work" && wine "$Root/build/win64/tools/$tool.exe" "$@" </dev/null)
 }
 
-RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" libgtest-dev libgmock-dev
+RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" libgtest-dev libgmock-dev zlib1g-dev
 "$Root/scripts/build.sh"
 BuildPreset win64 --target startup_bench page_bench resize_bench command_bench apply_bench prefs_bench
 NativeBenches=(prefs_bench)

@@ -4,7 +4,7 @@
 set -euo pipefail
 . "$(dirname "$0")/lib.sh"
 
-RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" libgtest-dev libgmock-dev nlohmann-json3-dev "${ClangPackages[@]}" \
+RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" libgtest-dev libgmock-dev zlib1g-dev nlohmann-json3-dev "${ClangPackages[@]}" \
     clang-format clang-tidy debootstrap
 
 Passed=0

@@ -49,11 +49,8 @@ void RecordFrom(TPageContext& context, const TCheckBoxRow& row, TComponent& send
     const std::wstring name = NameOf(row.ChangeName, row.Control);
     const bool isMissing = row.RecordsWhenMissing != nullptr && !Stored(context, row.Value);
     Record(context, name, row.Value, isMissing ? *row.RecordsWhenMissing : DatumOf(row.Records, checked));
-    const auto recordFurther = [&](const TBoxFurther& further) {
+    for (const TBoxFurther& further : row.Further)
         Record(context, name + further.Suffix, further.Value, DatumOf(further.Records, checked));
-    };
-    if (row.Further) recordFurther(*row.Further);
-    std::ranges::for_each(row.More, recordFurther);
     if (SaysNo(context, row.Policy)) {
         context.RestartNeeded = true;
         RecordNumber(context, name + L"1", ExplorerPolicy(row.Policy), checked ? 0 : 1);

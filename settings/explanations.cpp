@@ -35,7 +35,8 @@ std::string Inflated(std::span<const std::uint8_t> packed) {
     stream.next_out = reinterpret_cast<Bytef*>(text.data());
     stream.avail_out = static_cast<uInt>(text.size());
     constexpr int kGzip = 16;
-    if (inflateInit2(&stream, MAX_WBITS + kGzip) != Z_OK || inflate(&stream, Z_FINISH) != Z_STREAM_END) return {};
+    if (inflateInit2(&stream, MAX_WBITS + kGzip) != Z_OK || inflate(&stream, Z_FINISH) != Z_STREAM_END)
+        return {};
     return text;
 }
 

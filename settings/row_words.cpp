@@ -177,11 +177,8 @@ TRowWords Entry(const TCheckBoxRow& row) {
         shows += L"; clear while the policy " + Code(row.Policy) + L" is 1";
         writes += L". Checking it also turns that policy off";
     }
-    const auto addFurther = [&](const TBoxFurther& further) {
+    for (const TBoxFurther& further : row.Further)
         writes += L". Also " + Words(further.Value) + L": " + Words(further.Value, further.Records);
-    };
-    if (row.Further) addFurther(*row.Further);
-    std::ranges::for_each(row.More, addFurther);
     return {Words(row.Value), shows, writes};
 }
 

@@ -68,10 +68,10 @@ TPlaces Places(const TFieldsRow& row) {
 template <typename T>
 TPlaces Places(const T& row) {
     TPlaces places{row.Value};
-    if constexpr (requires { row.Further; })
+    if constexpr (requires { row.Further->Value; })
         if (row.Further) places.push_back(row.Further->Value);
-    if constexpr (requires { row.More; })
-        for (const TBoxFurther& more : row.More) places.push_back(more.Value);
+    if constexpr (requires { row.Further.front(); })
+        for (const TBoxFurther& further : row.Further) places.push_back(further.Value);
     if constexpr (requires { row.Policy; })
         if (row.Policy != nullptr) places.push_back(ExplorerPolicy(row.Policy));
     return places;

@@ -79,13 +79,12 @@ struct TCheckBoxRow {
     TBoxRule Shows;
     TBoxRecord Records;
     const TDatum* RecordsWhenMissing = nullptr;  ///< by either state, while there is no value
-    std::optional<TBoxFurther> Further = std::nullopt;
-    std::span<const TBoxFurther> More = {};  ///< when one is not enough
-    const wchar_t* ChangeName = nullptr;     ///< null = the control's name
-    bool Restart = false;                    ///< Windows must restart before the change takes effect
-    TLevels LoadedOn = kEveryLevel;          ///< elsewhere the box keeps its state; it records everywhere
-    TControlNames Enables = {};              ///< of use only while the box is checked
-    TControlNames EnablesOnClick = {};       ///< the same, but left alone by the loader
+    std::span<const TBoxFurther> Further = {};   ///< what the click writes beside `Value`
+    const wchar_t* ChangeName = nullptr;         ///< null = the control's name
+    bool Restart = false;                        ///< Windows must restart before the change takes effect
+    TLevels LoadedOn = kEveryLevel;              ///< elsewhere the box keeps its state; it records everywhere
+    TControlNames Enables = {};                  ///< of use only while the box is checked
+    TControlNames EnablesOnClick = {};           ///< the same, but left alone by the loader
     /// A control that the loader enables or disables with the box. A click turns it over, whatever it was.
     const wchar_t* Toggles = nullptr;
     const TDigits* Refreshes = nullptr;  ///< brought up to date by a click, too

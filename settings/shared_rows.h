@@ -76,6 +76,10 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
 }
 
 // Start menu and taskbar
+inline constexpr TBoxFurther kAdminToolsBeside[] = {
+    {L"1",
+     {kCurrentUser, kExplorerAdvanced, L"Start_AdminToolsRoot"},
+     {.Checked = Dword(2), .Clear = Dword(0)}}};
 
 /// The switch "Administrative Tools in the Start menu" of Windows 2000, and that of the later ones, whose second column has
 /// a number of its own: 2 shows them in both; Windows 8 has no such column, and shows them on its Start screen.
@@ -88,10 +92,7 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
         .Records = {.Checked = isText ? Text(L"YES") : Dword(1), .Clear = isText ? Text(L"NO") : Dword(0)},
         .ChangeName = L"CHKmantools",
         .Levels = levels};
-    if (levels == kXpToWindows7)
-        row.Further = TBoxFurther{.Suffix = L"1",
-                                  .Value = {kCurrentUser, kExplorerAdvanced, L"Start_AdminToolsRoot"},
-                                  .Records = {.Checked = Dword(2), .Clear = Dword(0)}};
+    if (levels == kXpToWindows7) row.Further = kAdminToolsBeside;
     return row;
 }
 
@@ -127,15 +128,17 @@ inline constexpr std::uint32_t kEdgeBits[] = {kStartTop, 0};
 inline constexpr TBoxRule kShowsWhileRegistered{.Missing = kClear, .Otherwise = kChecked};
 
 inline constexpr TPlace kOpenCmd{kClassesRoot, L"\\Directory\\shell\\Menu_Cmd", L""};
+inline constexpr TBoxFurther kOpenCmdCommand[] = {
+    {L"1",
+     {kClassesRoot, L"\\Directory\\shell\\Menu_CMD\\Command\\", L""},
+     {.Checked = Text(L"cmd.exe /k \"cd %L\""), .Clear = kNothing}}};
 
 [[nodiscard]] constexpr TCheckBoxRow OpenCmdRow(const wchar_t* control) {
     return {.Control = control,
             .Value = {kClassesRoot, L"\\Directory\\shell\\Menu_CMD\\", L""},
             .Shows = kShowsWhileRegistered,
             .Records = {.Checked = Translated(TCaption::OpenCmd), .Clear = kDeleteKey},
-            .Further = TBoxFurther{.Suffix = L"1",
-                                   .Value = {kClassesRoot, L"\\Directory\\shell\\Menu_CMD\\Command\\", L""},
-                                   .Records = {.Checked = Text(L"cmd.exe /k \"cd %L\""), .Clear = kNothing}},
+            .Further = kOpenCmdCommand,
             .LoadedFrom = &kOpenCmd};
 }
 

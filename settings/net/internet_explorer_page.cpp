@@ -178,28 +178,29 @@ constexpr TRow kAutoCompleteRows[] = {
                  .Enables = kAskControls},
     YesOrNo(L"Checkbox_IE_AutoComplete_Form_Ask", kInternetExplorerMain, L"FormSuggest PW Ask", kChecked),
 };
+constexpr TBoxFurther kOldServers[] = {{L"1",
+                                        {kCurrentUser, kInternetSettings, L"MaxConnectionsPer1_0Server"},
+                                        {.Checked = Dword(10), .Clear = kDeleteValue}}};
+constexpr TBoxFurther kOldServersOfItsOwn[] = {{L"1",
+                                                {kCurrentUser, kMaxConnections10, L"iexplore.exe"},
+                                                {.Checked = Dword(10), .Clear = kDeleteValue}}};
 
 constexpr TRow kAdvancedRows[] = {
     OneOrZero(L"Checkbox_IE_Advanced_Connection_Http11", kInternetSettings, L"EnableHttp1_1", kChecked),
     OneOrZero(L"Checkbox_IE_Advanced_Connection_Proxy11", kInternetSettings, L"ProxyHttp1.1", kClear),
     // One number for servers that speak HTTP 1.1, another for those that speak 1.0.
-    TCheckBoxRow{
-        .Control = L"Checkbox_IE_Advanced_Connection_Count",
-        .Value = {kCurrentUser, kInternetSettings, L"MaxConnectionsPerServer"},
-        .Shows = {.Missing = kClear, .When = {{10, kChecked}}, .Otherwise = kClear},
-        .Records = {.Checked = Dword(10), .Clear = kDeleteValue},
-        .Further = TBoxFurther{.Suffix = L"1",
-                               .Value = {kCurrentUser, kInternetSettings, L"MaxConnectionsPer1_0Server"},
-                               .Records = {.Checked = Dword(10), .Clear = kDeleteValue}},
-        .Levels = kUntilWindows7},
+    TCheckBoxRow{.Control = L"Checkbox_IE_Advanced_Connection_Count",
+                 .Value = {kCurrentUser, kInternetSettings, L"MaxConnectionsPerServer"},
+                 .Shows = {.Missing = kClear, .When = {{10, kChecked}}, .Otherwise = kClear},
+                 .Records = {.Checked = Dword(10), .Clear = kDeleteValue},
+                 .Further = kOldServers,
+                 .Levels = kUntilWindows7},
     // Since Internet Explorer 8 they are its own (KB 282402).
     TCheckBoxRow{.Control = L"Checkbox_IE_Advanced_Connection_Count",
                  .Value = {kCurrentUser, kMaxConnections, L"iexplore.exe"},
                  .Shows = {.Missing = kClear, .When = {{10, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(10), .Clear = kDeleteValue},
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = {kCurrentUser, kMaxConnections10, L"iexplore.exe"},
-                                        .Records = {.Checked = Dword(10), .Clear = kDeleteValue}},
+                 .Further = kOldServersOfItsOwn,
                  .Levels = kSinceWindows8},
     OneOrZero(L"Checkbox_IE_Advanced_Warning_Certificate", kInternetSettings, L"WarnonBadCertRecving",
               kChecked),
@@ -260,11 +261,8 @@ constexpr TOffer kOffers[] = {
     {L"Checkbox_IE_Common_Popup_Block", kSinceXp},
 };
 
-constexpr TPageDefinition kPage{.Tag = 8,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Offers = kOffers};
+constexpr TPageDefinition kPage{
+    .Tag = 8, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers};
 
 }  // namespace
 

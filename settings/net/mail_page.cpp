@@ -80,8 +80,7 @@ constexpr TRow kMessengerRows[] = {
 
 constexpr TLoader kLoaders[] = {kOutlookExpressRows, kOutlookRows, kMessengerRows};
 
-constexpr TPageDefinition kPage{
-    .Tag = 11, .Design = Design, .Loaders = kLoaders, .Presets = {}};
+constexpr TPageDefinition kPage{.Tag = 11, .Design = Design, .Loaders = kLoaders, .Presets = {}};
 
 }  // namespace
 

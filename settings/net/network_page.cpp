@@ -94,15 +94,16 @@ constexpr const wchar_t* kQosControls[] = {L"Updown_Net_Advanced_Qos_Count", L"E
 
 constexpr std::int32_t kManual = 3;
 constexpr std::int32_t kDisabled = 4;
+constexpr TBoxFurther kDeviceHost[] = {{L"1",
+                                        {kLocalMachine, kDeviceHostService, L"Start"},
+                                        {.Checked = Dword(kManual), .Clear = Dword(kDisabled)}}};
 
 constexpr TRow kAdvancedRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Net_Advanced_UPnp_Enable",
                  .Value = {kLocalMachine, kDiscoveryService, L"Start"},
                  .Shows = {.When = {{kManual, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(kManual), .Clear = Dword(kDisabled)},
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = {kLocalMachine, kDeviceHostService, L"Start"},
-                                        .Records = {.Checked = Dword(kManual), .Clear = Dword(kDisabled)}}},
+                 .Further = kDeviceHost},
     // Without a stored value Windows reserves a percentage of its own.
     TSwitchRow{.On = L"Checkbox_Net_Advanced_Qos_Keep",
                .Amount = kQosCount,

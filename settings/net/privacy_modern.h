@@ -24,6 +24,12 @@ inline constexpr TBoxFurther kLearning[] = {
      {kCurrentUser, kPersonalization, L"AcceptedPrivacyPolicy"},
      {.Checked = Dword(1), .Clear = Dword(0)}},
 };
+inline constexpr TBoxFurther kActivities[] = {{L"1",
+                                               {kLocalMachine, kWindowsPolicies, L"PublishUserActivities"},
+                                               {.Checked = kDeleteValue, .Clear = Dword(0)}}};
+inline constexpr TBoxFurther kFeedback[] = {{L"1",
+                                             {kCurrentUser, kFeedbackRules, L"PeriodInNanoSeconds"},
+                                             {.Checked = kDeleteValue, .Clear = Dword(0)}}};
 
 inline constexpr TRow kPrivacyDataRows[] = {
     On(kSinceWindows10, AllowedBox(L"Checkbox_Privacy_Data_AdvertisingId",
@@ -43,24 +49,20 @@ inline constexpr TRow kPrivacyDataRows[] = {
                  .Value = {kLocalMachine, kWindowsPolicies, L"EnableActivityFeed"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = kDeleteValue, .Clear = Dword(0)},
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = {kLocalMachine, kWindowsPolicies, L"PublishUserActivities"},
-                                        .Records = {.Checked = kDeleteValue, .Clear = Dword(0)}},
+                 .Further = kActivities,
                  .Levels = SinceBuild(17134)},
     TCheckBoxRow{.Control = L"Checkbox_Privacy_Data_Feedback",
                  .Value = {kCurrentUser, kFeedbackRules, L"NumberOfSIUFInPeriod"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = kDeleteValue, .Clear = Dword(0)},
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = {kCurrentUser, kFeedbackRules, L"PeriodInNanoSeconds"},
-                                        .Records = {.Checked = kDeleteValue, .Clear = Dword(0)}},
+                 .Further = kFeedback,
                  .Levels = kSinceWindows10},
     On(SinceBuild(17763), UserSwitch(L"Checkbox_Privacy_Data_Speech", kOnlineSpeech, L"HasAccepted", kClear)),
     TCheckBoxRow{.Control = L"Checkbox_Privacy_Data_Learning",
                  .Value = {kCurrentUser, kInputPersonalization, L"RestrictImplicitTextCollection"},
                  .Shows = {.Missing = kChecked, .When = {{0, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)},
-                 .More = kLearning,
+                 .Further = kLearning,
                  .Levels = kSinceWindows10},
 };
 
@@ -99,7 +101,7 @@ inline constexpr TBoxFurther kSettingsSuggestions[] = {
 
 [[nodiscard]] constexpr TCheckBoxRow SettingsSuggestionsRow(const wchar_t* control) {
     TCheckBoxRow row = UserSwitch(control, kContentDelivery, L"SubscribedContent-338393Enabled");
-    row.More = kSettingsSuggestions;
+    row.Further = kSettingsSuggestions;
     return row;
 }
 

@@ -62,12 +62,8 @@ constexpr TLoader kLoaders[] = {kCenterRows, kAdvancedRows};
 
 constexpr TLack kLacks[] = {SecurityCenterLack(kActive)};
 
-constexpr TPageDefinition kPage{.Tag = 18,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = {},
-                                .Lacks = kLacks,
-                                .ShowsPending = true};
+constexpr TPageDefinition kPage{
+    .Tag = 18, .Design = Design, .Loaders = kLoaders, .Presets = {}, .Lacks = kLacks, .ShowsPending = true};
 
 }  // namespace
 

@@ -43,7 +43,7 @@ inline constexpr TBoxFurther kFirewallProfiles[] = {
 };
 [[nodiscard]] constexpr TCheckBoxRow FirewallProfilesRow(const wchar_t* control) {
     TCheckBoxRow row = FirewallRow(control);
-    row.More = kFirewallProfiles;
+    row.Further = kFirewallProfiles;
     row.Levels = kSinceWindows8;
     return row;
 }

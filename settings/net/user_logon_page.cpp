@@ -70,6 +70,9 @@ TControlDesign Design() {
 }
 
 constexpr TBoxRecord kOneWhenChecked{.Checked = Dword(1), .Clear = Dword(0)};
+constexpr TBoxFurther kOlderUserName[] = {{L"1", Winlogon(L"DontDisplayLastUserName"), kOneWhenChecked}};
+constexpr TBoxFurther kOlderShutdown[] = {{L"1", Winlogon(L"ShutdownWithoutLogon"), kOneWhenChecked}};
+
 constexpr TRow kCommonRows[] = {
     TRadioPairRow{.First = L"Radio_UserLogin_Common_LoginInterface_XP",
                   .Second = L"Radio_UserLogin_Common_LoginInterface_2k",
@@ -87,9 +90,7 @@ constexpr TRow kCommonRows[] = {
                  .Value = Policy(L"dontdisplaylastusername"),
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = kOneWhenChecked,
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = Winlogon(L"DontDisplayLastUserName"),
-                                        .Records = kOneWhenChecked}},
+                 .Further = kOlderUserName},
     TCheckBoxRow{.Control = L"Checkbox_UserLogin_Common_Set_PressCAD",
                  .Value = Winlogon(L"DisableCAD"),
                  .Shows = {.When = {{1, kClear}}, .Otherwise = kChecked},
@@ -105,9 +106,7 @@ constexpr TRow kCommonRows[] = {
                  .Value = Policy(L"ShutdownWithoutLogon"),
                  .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = kOneWhenChecked,
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = Winlogon(L"ShutdownWithoutLogon"),
-                                        .Records = kOneWhenChecked}},
+                 .Further = kOlderShutdown},
     // Stands on another page too, which writes a text.
     TCheckBoxRow{.Control = L"Checkbox_UserLogin_Common_Set_EndTask",
                  .Value = {kCurrentUser, kDesktop, L"AutoEndTasks"},
@@ -181,12 +180,8 @@ constexpr TNeed kNeeds[] = {
      .Levels = kOnlyXp},
 };
 
-constexpr TPageDefinition kPage{.Tag = 13,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = {},
-                                .Needs = kNeeds,
-                                .ShowsPending = true};
+constexpr TPageDefinition kPage{
+    .Tag = 13, .Design = Design, .Loaders = kLoaders, .Presets = {}, .Needs = kNeeds, .ShowsPending = true};
 
 }  // namespace
 

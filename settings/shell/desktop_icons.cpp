@@ -46,27 +46,29 @@ TControlDesign Design() {
               ListView(L"ListView_Folder_Drivers", {L"Drive", L"In this computer"})));
 }
 
+constexpr TBoxRecord kHides{.Checked = Dword(0), .Clear = Dword(1)};
+template <const wchar_t* const& folder>
+constexpr TBoxFurther kOfClassicStartMenu[] = {{L"1", {kCurrentUser, kClassicStartMenu, folder}, kHides}};
+
 /// An icon on the desktop; 0 shows it. As delivered, Windows shows the Recycle Bin alone.
-constexpr TRow Icon(const wchar_t* control, const wchar_t* folder, TBoxState missing = kClear) {
-    constexpr TBoxRecord kHides{.Checked = Dword(0), .Clear = Dword(1)};
-    return TCheckBoxRow{
-        .Control = control,
-        .Value = {kCurrentUser, kNewStartPanel, folder},
-        .Shows = {.Missing = missing, .When = {{0, kChecked}}, .Otherwise = kClear},
-        .Records = kHides,
-        .Further = TBoxFurther{
-            .Suffix = L"1", .Value = {kCurrentUser, kClassicStartMenu, folder}, .Records = kHides}};
+template <const wchar_t* const& folder>
+constexpr TRow Icon(const wchar_t* control, TBoxState missing = kClear) {
+    return TCheckBoxRow{.Control = control,
+                        .Value = {kCurrentUser, kNewStartPanel, folder},
+                        .Shows = {.Missing = missing, .When = {{0, kChecked}}, .Otherwise = kClear},
+                        .Records = kHides,
+                        .Further = kOfClassicStartMenu<folder>};
 }
 
 constexpr TRow kDesktopRows[] = {
-    Icon(L"Checkbox_Folder_Desktop_MyComputer", kMyComputer),
-    Icon(L"Checkbox_Folder_Desktop_MyDocuments", kMyDocuments),
-    Icon(L"Checkbox_Folder_Desktop_UserFiles", kUserFiles),
-    Icon(L"Checkbox_Folder_Desktop_MyNetworkPlaces", kMyNetworkPlaces),
-    Icon(L"Checkbox_Folder_Desktop_Network", kNetwork),
-    Icon(L"Checkbox_Folder_Desktop_InternetExplorer", kInternetExplorer),
-    Icon(L"Checkbox_Folder_Desktop_ControlPanel", kControlPanelByCategory),
-    Icon(L"Checkbox_Folder_Desktop_RecycleBin", kRecycleBin, kChecked),
+    Icon<kMyComputer>(L"Checkbox_Folder_Desktop_MyComputer"),
+    Icon<kMyDocuments>(L"Checkbox_Folder_Desktop_MyDocuments"),
+    Icon<kUserFiles>(L"Checkbox_Folder_Desktop_UserFiles"),
+    Icon<kMyNetworkPlaces>(L"Checkbox_Folder_Desktop_MyNetworkPlaces"),
+    Icon<kNetwork>(L"Checkbox_Folder_Desktop_Network"),
+    Icon<kInternetExplorer>(L"Checkbox_Folder_Desktop_InternetExplorer"),
+    Icon<kControlPanelByCategory>(L"Checkbox_Folder_Desktop_ControlPanel"),
+    Icon<kRecycleBin>(L"Checkbox_Folder_Desktop_RecycleBin", kChecked),
     TKeyRow{.Control = L"Checkbox_Folder_Desktop_RecycleBinKey",
             .Value = {kLocalMachine,
                       L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace\\"

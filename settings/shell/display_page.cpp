@@ -223,11 +223,8 @@ constexpr TPreset kPresets[] = {
 
 constexpr TNeed kNeeds[] = {kArrangingNeed};
 
-constexpr TPageDefinition kPage{.Tag = 1,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Needs = kNeeds};
+constexpr TPageDefinition kPage{
+    .Tag = 1, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Needs = kNeeds};
 
 }  // namespace
 

@@ -71,15 +71,15 @@ constexpr TCheckBoxRow AutoPlay(const wchar_t* control, std::uint32_t driveType)
             .Records = {.Checked = Dword(0), .Clear = Dword(1)},
             .RecordsWhenMissing = &kOff};
 }
+constexpr TBoxFurther kCdromAutorun[] = {
+    {L"1", {kLocalMachine, kCdromService, L"Autorun"}, {.Checked = Dword(1), .Clear = Dword(0)}}};
 
 constexpr TRow kAutoPlayRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable",
                  .Value = {kLocalMachine, kExplorerPoliciesUpper, L"CDRAutoRun"},
                  .Shows = {.Missing = kChecked, .When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = {kLocalMachine, kCdromService, L"Autorun"},
-                                        .Records = {.Checked = Dword(1), .Clear = Dword(0)}},
+                 .Further = kCdromAutorun,
                  .Restart = true},
     AutoPlay(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia", kRemovableDrives),
     AutoPlay(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD", kCdDrives),
@@ -102,11 +102,8 @@ constexpr const wchar_t* kDiscs[] = {L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD
 constexpr TNeed kNeeds[] = {
     {.Controls = kDiscs, .Of = L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable", .Disables = false}};
 
-constexpr TPageDefinition kPage{.Tag = 14,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Needs = kNeeds};
+constexpr TPageDefinition kPage{
+    .Tag = 14, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Needs = kNeeds};
 
 }  // namespace
 

@@ -67,16 +67,17 @@ constexpr TPlace kOpenExplorer = DefaultOf(L"\\Folder\\shell\\Menu_root");
 constexpr TPlace kSendTo = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Send To");
 constexpr TPlace kCopyTo = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Copy To");
 constexpr TPlace kMoveTo = DefaultOf(L"\\AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Move To");
+constexpr TBoxFurther kOpenExplorerCommand[] = {
+    {L"1",
+     DefaultOf(L"\\Folder\\shell\\Menu_root\\Command\\"),
+     {.Checked = Text(L"Explorer.exe /e,/root,/idlist,%I"), .Clear = kNothing}}};
 
 constexpr TRow kMenuOperationRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_Drive_OpenDrive",
                  .Value = DefaultOf(L"\\Folder\\shell\\Menu_root\\"),
                  .Shows = kShowsWhileRegistered,
                  .Records = {.Checked = Translated(TCaption::OpenExplorer), .Clear = kDeleteKey},
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = DefaultOf(L"\\Folder\\shell\\Menu_root\\Command\\"),
-                                        .Records = {.Checked = Text(L"Explorer.exe /e,/root,/idlist,%I"),
-                                                    .Clear = kNothing}},
+                 .Further = kOpenExplorerCommand,
                  .LoadedFrom = &kOpenExplorer},
     OpenCmdRow(L"Checkbox_FileType_MenuOperation_Drive_OpenCmd"),
     TCheckBoxRow{.Control = L"Checkbox_FileType_MenuOperation_FileAndFolder_SendTo",
@@ -195,6 +196,11 @@ constexpr TPlace kLink{kCurrentUser, kExplorer, L"link"};
 constexpr std::int32_t kAddsHead = 0x0F;
 constexpr const wchar_t* kAddHead = L"Checkbox_FileType_Advanced_NewShortcut_AddHead";
 
+constexpr TBoxFurther kMayChangeDefault[] = {
+    {L"1",
+     DefaultOf(L"\\CLSID\\{e84fda7c-1d6a-45f6-b725-cb260c236066}\\shellex\\MayChangeDefaultMenu"),
+     {.Checked = Text(L""), .Clear = kDeleteKey}}};
+
 constexpr TRow kAdvancedRows[] = {
     TCheckBoxRow{.Control = kAddHead,
                  .Value = As(TCoding::FirstByte, kLink),
@@ -209,10 +215,7 @@ constexpr TRow kAdvancedRows[] = {
                                     L"ShellImagePreview\\"),
                  .Shows = {.Missing = kClear, .Otherwise = kChecked},
                  .Records = {.Checked = Text(L"{e84fda7c-1d6a-45f6-b725-cb260c236066}"), .Clear = kNothing},
-                 .Further = TBoxFurther{.Suffix = L"1",
-                                        .Value = DefaultOf(L"\\CLSID\\{e84fda7c-1d6a-45f6-b725-cb260c236066}"
-                                                           L"\\shellex\\MayChangeDefaultMenu"),
-                                        .Records = {.Checked = Text(L""), .Clear = kDeleteKey}},
+                 .Further = kMayChangeDefault,
                  .LoadedFrom = &kLink,
                  .Levels = kUntilWindows7},
 };
@@ -249,12 +252,8 @@ constexpr TNeed kNeeds[] = {
 
 constexpr TOffer kOffers[] = {{L"Checkbox_FileType_MenuOperation_Drive_OpenDrive", kUntilXp}};
 
-constexpr TPageDefinition kPage{.Tag = 2,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Offers = kOffers,
-                                .Needs = kNeeds};
+constexpr TPageDefinition kPage{
+    .Tag = 2, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers, .Needs = kNeeds};
 
 }  // namespace
 

@@ -89,6 +89,10 @@ constexpr const wchar_t* kColorButtons[] = {L"Button_Folder_List_CompressedFile_
                                             L"Button_Folder_List_EncryptedFile_Change"};
 constexpr const wchar_t* kColorLabels[] = {L"Label_Folder_List_CompressedFile",
                                            L"Label_Folder_List_EncryptedFile"};
+constexpr TBoxFurther kEncryptedColor[] = {
+    {L"1",
+     {kCurrentUser, kExplorerAdvancedUpper, L"ShowEncryptCompressedColor"},
+     {.Checked = Dword(1), .Clear = Dword(0)}}};
 /// Windows 8 gave encrypted files a value of their own beside that of all.
 constexpr TCheckBoxRow ColorRow(TLevels levels) {
     TCheckBoxRow row{.Control = L"Checkbox_Folder_List_EAndCFileWithColor",
@@ -98,11 +102,7 @@ constexpr TCheckBoxRow ColorRow(TLevels levels) {
                      .Enables = kColorButtons,
                      .EnablesOnClick = kColorLabels,
                      .Levels = levels};
-    if (levels == kSinceWindows8)
-        row.Further =
-            TBoxFurther{.Suffix = L"1",
-                        .Value = {kCurrentUser, kExplorerAdvancedUpper, L"ShowEncryptCompressedColor"},
-                        .Records = row.Records};
+    if (levels == kSinceWindows8) row.Further = kEncryptedColor;
     return row;
 }
 

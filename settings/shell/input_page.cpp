@@ -89,6 +89,7 @@ constexpr TPlace NumLock(TRootKey root, const wchar_t* key) {
     return As(TCoding::Decimal, Bits(kNumLockLight, {root, key, kLights}));
 }
 constexpr TBoxRecord kBit{.Checked = Dword(1), .Clear = Dword(0)};
+constexpr TBoxFurther kNumLockAtLogon[] = {{L"1", NumLock(kUsers, kLogonKeyboard), kBit}};
 
 constexpr TRow kKeyboardRows[] = {
     TNumberRow{.Control = L"TrackBar_Use_Keyboard_Repeat_Delay",
@@ -101,12 +102,11 @@ constexpr TRow kKeyboardRows[] = {
                .Restart = true},
     CaretWidthRow(L"UpDown_Use_Keyboard_CursorWidth_Width"),
     WindowsKeyRow(L"Checkbox_Use_Keyboard_WinKey_Active"),
-    TCheckBoxRow{
-        .Control = L"Checkbox_Use_Keyboard_NumLock_Active",
-        .Value = NumLock(kCurrentUser, kKeyboard),
-        .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
-        .Records = kBit,
-        .Further = TBoxFurther{.Suffix = L"1", .Value = NumLock(kUsers, kLogonKeyboard), .Records = kBit}},
+    TCheckBoxRow{.Control = L"Checkbox_Use_Keyboard_NumLock_Active",
+                 .Value = NumLock(kCurrentUser, kKeyboard),
+                 .Shows = {.When = {{1, kChecked}}, .Otherwise = kClear},
+                 .Records = kBit,
+                 .Further = kNumLockAtLogon},
 };
 
 constexpr TLoader kLoaders[] = {kSensitivityRows, kFunctionRows, kKeyboardRows};
@@ -155,11 +155,8 @@ constexpr TOffer kOffers[] = {
     {L"TrackBar_Use_MouseFunction_Trails_Length", kSinceXp},
 };
 
-constexpr TPageDefinition kPage{.Tag = 4,
-                                .Design = InputDesign,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Offers = kOffers};
+constexpr TPageDefinition kPage{
+    .Tag = 4, .Design = InputDesign, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers};
 
 }  // namespace
 

@@ -62,10 +62,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_MemoryAndCache_MemoryUse_Default", kMemoryUseDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 15,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets};
+constexpr TPageDefinition kPage{.Tag = 15, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
 
 }  // namespace
 

@@ -25,9 +25,11 @@ inline constexpr TBoxFurther kWebSearchPolicies[] = {
 [[nodiscard]] constexpr TCheckBoxRow WebSearchRow() {
     TCheckBoxRow row = AllowedBox(L"Checkbox_Use_StartMenu_Modern_WebSearch",
                                   UserShellPolicy(L"DisableSearchBoxSuggestions"), 1);
-    row.More = kWebSearchPolicies;
+    row.Further = kWebSearchPolicies;
     return row;
 }
+inline constexpr TBoxFurther kMoreSuggestions[] = {
+    {L"1", {kCurrentUser, kContentDelivery, L"SubscribedContent-338388Enabled"}, kOneOrZero}};
 
 inline constexpr TRow kStartMenuModernRows[] = {
     On(SinceBuild(22621),
@@ -47,15 +49,12 @@ inline constexpr TRow kStartMenuModernRows[] = {
                .Missing = 0,
                .Restart = true,
                .Levels = SinceBuild(19044)},
-    TCheckBoxRow{
-        .Control = L"Checkbox_Use_StartMenu_Modern_Suggestions",
-        .Value = {kCurrentUser, kContentDelivery, L"SystemPaneSuggestionsEnabled"},
-        .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
-        .Records = kOneOrZero,
-        .Further = TBoxFurther{.Suffix = L"1",
-                               .Value = {kCurrentUser, kContentDelivery, L"SubscribedContent-338388Enabled"},
-                               .Records = kOneOrZero},
-        .Levels = kOnlyWindows10},
+    TCheckBoxRow{.Control = L"Checkbox_Use_StartMenu_Modern_Suggestions",
+                 .Value = {kCurrentUser, kContentDelivery, L"SystemPaneSuggestionsEnabled"},
+                 .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
+                 .Records = kOneOrZero,
+                 .Further = kMoreSuggestions,
+                 .Levels = kOnlyWindows10},
     On(kSinceWindows10, WithRestart(WebSearchRow())),
     On(SinceBuild(19041),
        WithRestart(AllowedBox(L"Checkbox_Use_StartMenu_Modern_Account",

@@ -150,10 +150,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_Startup_Error_Default", kErrorDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 16,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets};
+constexpr TPageDefinition kPage{.Tag = 16, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
 
 }  // namespace
 

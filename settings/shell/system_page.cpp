@@ -159,10 +159,7 @@ constexpr TPreset kPresets[] = {
     {L"Button_System_Search_Default", kSearchDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 17,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets};
+constexpr TPageDefinition kPage{.Tag = 17, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
 
 }  // namespace
 

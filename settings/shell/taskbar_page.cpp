@@ -216,12 +216,8 @@ constexpr TNeed kNeeds[] = {
     kOtherTaskbarsNeed,
 };
 
-constexpr TPageDefinition kPage{.Tag = 6,
-                                .Design = Design,
-                                .Loaders = kLoaders,
-                                .Presets = kPresets,
-                                .Offers = kOffers,
-                                .Needs = kNeeds};
+constexpr TPageDefinition kPage{
+    .Tag = 6, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers, .Needs = kNeeds};
 
 }  // namespace
 
