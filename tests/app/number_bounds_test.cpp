@@ -30,6 +30,8 @@ TEST(TNumberBounds, AreThoseOfTheFields) {
         {L"Edit_Taskbar_ButtonFlashes_Speed_Flash", 1, 999},
         {L"Edit_Taskbar_ButtonAppearance_Group_AtLeastCount", 2, 99},
         {L"Edit_Display_Wallpaper_Quality", 60, 100},
+        {L"Edit_Startup_Restart_From", 0, 23},
+        {L"Edit_Startup_Restart_To", 0, 23},
         {L"Edit_Startup_Exit_WaitTime_Time", 1, 32000},
         {L"Edit_Startup_System_DelayTime_Time", 0, 600},
         {L"Edit_Folder_Thumbnail_Size", 32, 256, true, false, true},
