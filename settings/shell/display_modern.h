@@ -55,7 +55,12 @@ inline constexpr const wchar_t* kArrangingAtEdges[] = {L"Checkbox_Display_Window
     return On(kSinceWindows8, ParameterBox(control, SwitchParameter(get, get + 1)));
 }
 
+inline constexpr const wchar_t* kEdgeTabs = L"CB_Display_Windows_Tabs";
+
 inline constexpr TRow kDisplayWindowsRows[] = {
+    // Not documented; a policy with other numbers is.
+    ExplorerList(kEdgeTabs, L"MultiTaskingAltTabFilter", 4, 1, SinceBuild(19044) & UntilBuild(22620)),
+    ExplorerList(kEdgeTabs, L"MultiTaskingAltTabFilter", 4, 2, SinceBuild(22621)),
     ArrangingBox(kArranging, 0x82),            // …WINARRANGING
     ArrangingBox(kArrangingAtEdges[0], 0x90),  // …DOCKMOVING
     ArrangingBox(kArrangingAtEdges[1], 0x8E),  // …SNAPSIZING
@@ -94,6 +99,8 @@ inline constexpr TPresetState kDisplayWindowsDefault[] = {
     {L"Checkbox_Display_Windows_Assist", 1},
     {L"Checkbox_Display_Windows_Layouts", 1},
     {L"Checkbox_Display_Windows_Restore", 1},
+    {kEdgeTabs, 1, UntilBuild(22620)},
+    {kEdgeTabs, 2, SinceBuild(22621)},
     {L"Checkbox_Display_Windows_Shake", 1, kUntilWindows10},
     {L"Checkbox_Display_Windows_Shake", 0, kSinceWindows11},
 };
