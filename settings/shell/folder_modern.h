@@ -33,9 +33,11 @@ inline constexpr TRow kFolderFilesRows[] = {
 inline constexpr TDatum kFirstFolders[] = {Dword(1), Dword(2)};
 inline constexpr TDatum kRibbons[] = {kDeleteValue, Dword(1), Dword(2)};
 
+inline constexpr const wchar_t* kPinned = L"System.IsPinnedToNameSpaceTree";
+
 /// An entry of the navigation pane, by its folder.
 [[nodiscard]] constexpr TCheckBoxRow PinnedFolder(const wchar_t* control, const wchar_t* folder) {
-    return WithRestart(AllowedBox(control, {kCurrentUser, folder, L"System.IsPinnedToNameSpaceTree"}, 0));
+    return WithRestart(AllowedBox(control, {kCurrentUser, folder, kPinned}, 0));
 }
 
 inline constexpr TRow kFolderExplorerRows[] = {
@@ -79,6 +81,9 @@ inline constexpr TRow kFolderExplorerRows[] = {
                                                  ShellPolicyForAll(L"DisableGraphRecentItems"), 1))),
     On(SinceBuild(22631), PinnedFolder(L"Checkbox_Folder_Explorer_Gallery", kGalleryFolder)),
     On(SinceBuild(22621), PinnedFolder(L"Checkbox_Folder_Explorer_Home", kHomeFolder)),
+    // OneDrive writes it for itself.
+    On(kSinceWindows10, WithRestart(OnOffBox(L"Checkbox_Folder_Files_OneDrive",
+                                             {kCurrentUser, kOneDriveFolder, kPinned}, kClear))),
 };
 
 inline constexpr TPresetState kFolderFilesDefault[] = {
