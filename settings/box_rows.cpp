@@ -68,11 +68,12 @@ void Load(TPageContext& context, const TKeyRow& row) {
     TRegRecor record = RecordAt(row.Value, {});
     context.Changes.ReadCurrent(record);
     // A key without a default value is one, too.
-    context.Form.Find<TCheckBox>(row.Control)->SetChecked(record.ReadResult != TReadStatus::KeyUnavailable);
+    const bool exists = record.ReadResult != TReadStatus::KeyUnavailable;
+    context.Form.Find<TCheckBox>(row.Control)->SetChecked(exists == row.WhileChecked);
 }
 
 void RecordFrom(TPageContext& context, const TKeyRow& row, TComponent& sender) {
-    Record(context, sender.Name(), row.Value, IsChecked(sender) ? Text(L"") : kDeleteKey);
+    Record(context, sender.Name(), row.Value, IsChecked(sender) == row.WhileChecked ? Text(L"") : kDeleteKey);
 }
 
 namespace {

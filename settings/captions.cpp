@@ -119,6 +119,7 @@ const std::array<TCaptionKey, kCaptionCount> kCaptionKeys{{
     {L"D_NoFirefoxProfile", L"Firefox has no profile yet that could keep it; start Firefox once."},
     {L"D_NoSecurityCenter",
      L"The Security Center needs Windows XP with the service SharedAccess running, or a later Windows."},
+    {L"D_NoSmb1", L"The Windows feature \"SMB 1.0/CIFS Client\" is not installed."},
     {L"D_DriveFixed", L"Hard disk"},
     {L"D_DriveRemovable", L"Removable drive"},
     {L"D_DriveNetwork", L"Network drive"},

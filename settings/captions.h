@@ -129,6 +129,7 @@ enum class TCaption : std::uint8_t {
     NoFirefox,
     NoFirefoxProfile,
     NoSecurityCenter,
+    NoSmb1,
     // Drives without a label.
     DriveFixed,
     DriveRemovable,

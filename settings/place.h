@@ -20,10 +20,11 @@ struct TParameter {
     std::uint32_t Get = 0;  ///< SPI_GET… code; 0 = Windows tells it in other ways only
     std::uint32_t Set = 0;  ///< SPI_SET… code
     TParameterSlot Slot = TParameterSlot::Data;
-    /// Of the structure that pvParam points to, whose first field is its size. A structure that Windows does not tell counts
-    /// as missing. 0 = the parameter is a number.
+    /// Of the structure that pvParam points to. A structure that Windows does not tell counts as missing. 0 = the parameter is
+    /// a number.
     std::uint8_t BlockSize = 0;
-    std::uint8_t Offset = 0;  ///< in bytes, of the number in the structure
+    std::uint8_t Offset = 0;      ///< in bytes, of the number in the structure
+    bool BeginsWithSize = false;  ///< the structure
 };
 
 /// How a place keeps what a control shows.
@@ -79,11 +80,21 @@ struct TPlace {
             .Parameter = {.Get = get, .Set = set, .Slot = slot}};
 }
 
-/// A number of 32 bits in a structure.
+/// A number of 32 bits in a structure whose first field is its size.
 [[nodiscard]] constexpr TPlace BlockParameter(std::uint32_t get, std::uint32_t set, std::uint8_t size,
                                               std::uint8_t offset) {
-    return {.Kind = TPlaceKind::Parameter,
-            .Parameter = {.Get = get, .Set = set, .BlockSize = size, .Offset = offset}};
+    return {
+        .Kind = TPlaceKind::Parameter,
+        .Parameter = {.Get = get, .Set = set, .BlockSize = size, .Offset = offset, .BeginsWithSize = true}};
+}
+
+/// One of some numbers of 32 bits that pvParam points to.
+[[nodiscard]] constexpr TPlace PointedParameter(std::uint32_t get, std::uint32_t set, std::uint8_t count,
+                                                std::uint8_t index) {
+    TPlace place =
+        BlockParameter(get, set, static_cast<std::uint8_t>(4 * count), static_cast<std::uint8_t>(4 * index));
+    place.Parameter.BeginsWithSize = false;
+    return place;
 }
 
 /// The place, with another coding.

@@ -47,6 +47,8 @@ inline constexpr const wchar_t* kGalleryFolder =
     L"\\Software\\Classes\\CLSID\\{e88865ea-0e1c-4e20-9aa6-edcd0212c87c}\\";
 inline constexpr const wchar_t* kHomeFolder =
     L"\\Software\\Classes\\CLSID\\{f874310e-b6b7-47dc-bc84-b9e6b38f5903}\\";
+inline constexpr const wchar_t* kOneDriveFolder =
+    L"\\Software\\Classes\\CLSID\\{018D5C66-4533-4307-9B53-224DE2ED1FE6}\\";
 inline constexpr const wchar_t* kTaskbarDeveloper =
     L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\TaskbarDeveloperSettings\\";
 inline constexpr const wchar_t* kSearch = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Search\\";
@@ -77,9 +79,72 @@ inline constexpr const wchar_t* kRemotePrinters =
     L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RemoteComputer\\NameSpace\\"
     L"{2227A280-3AEA-1069-A2DE-08002B30309D}";
 
+// Colors and windows, from Windows 8 on
+
+inline constexpr const wchar_t* kThemeColors =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize\\";
+inline constexpr const wchar_t* kWindowManager = L"\\Software\\Microsoft\\Windows\\DWM\\";
+
+// Network and security, from Windows 8 on
+
+inline constexpr const wchar_t* kSmb1Driver = L"\\SYSTEM\\CurrentControlSet\\Services\\mrxsmb10\\";
+inline constexpr const wchar_t* kWorkstationPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\LanmanWorkstation\\";
+inline constexpr const wchar_t* kNamePolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Windows NT\\DNSClient\\";
+inline constexpr const wchar_t* kTransitionPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\TCPIP\\v6Transition\\";
+inline constexpr const wchar_t* kNoNetworkQuestion =
+    L"\\SYSTEM\\CurrentControlSet\\Control\\Network\\NewNetworkWindowOff\\";
+inline constexpr const wchar_t* kAppHost = L"\\Software\\Microsoft\\Windows\\CurrentVersion\\AppHost\\";
+inline constexpr const wchar_t* kSmartScreenPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows Defender\\SmartScreen\\";
+inline constexpr const wchar_t* kScriptHost = L"\\SOFTWARE\\Microsoft\\Windows Script Host\\Settings\\";
+inline constexpr const wchar_t* kAuthority = L"\\SYSTEM\\CurrentControlSet\\Control\\Lsa\\";
+inline constexpr const wchar_t* kRemoteAssistance =
+    L"\\SYSTEM\\CurrentControlSet\\Control\\Remote Assistance\\";
+inline constexpr const wchar_t* kTerminalServer = L"\\SYSTEM\\CurrentControlSet\\Control\\Terminal Server\\";
+inline constexpr const wchar_t* kRemoteDesktop =
+    L"\\SYSTEM\\CurrentControlSet\\Control\\Terminal Server\\WinStations\\RDP-Tcp\\";
+inline constexpr const wchar_t* kAutoPlayHandlers =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\AutoplayHandlers\\";
+inline constexpr const wchar_t* kLockScreenPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\Personalization\\";
+
+// Input, from Windows 8 on
+
+inline constexpr const wchar_t* kInputSettings = L"\\Software\\Microsoft\\input\\Settings\\";
+inline constexpr const wchar_t* kTouchKeyboard = L"\\Software\\Microsoft\\TabletTip\\1.7\\";
+
+// Start, updates and maintenance, from Windows 8 on
+
+inline constexpr const wchar_t* kSessionPower =
+    L"\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Power\\";
+inline constexpr const wchar_t* kStartupSound =
+    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Authentication\\LogonUI\\BootAnimation\\";
+inline constexpr const wchar_t* kEditionOverrides =
+    L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\EditionOverrides\\";
+inline constexpr const wchar_t* kUserWinlogon =
+    L"\\Software\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon\\";
+inline constexpr const wchar_t* kExplorerSerialize =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Serialize\\";
+inline constexpr const wchar_t* kErrorReporting =
+    L"\\Software\\Microsoft\\Windows\\Windows Error Reporting\\";
+inline constexpr const wchar_t* kUpdatePolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\WindowsUpdate\\";
+/// Where Windows' Settings keep theirs.
+inline constexpr const wchar_t* kUpdateSettings = L"\\SOFTWARE\\Microsoft\\WindowsUpdate\\UX\\Settings\\";
+inline constexpr const wchar_t* kStorePolicies = L"\\SOFTWARE\\Policies\\Microsoft\\WindowsStore\\";
+inline constexpr const wchar_t* kDeliveryPolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\DeliveryOptimization\\";
+inline constexpr const wchar_t* kStorageSense =
+    L"\\Software\\Microsoft\\Windows\\CurrentVersion\\StorageSense\\Parameters\\StoragePolicy\\";
+inline constexpr const wchar_t* kStoragePolicies =
+    L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\StorageSense\\";
+
 // Privacy, from Windows 8 on
 
 inline constexpr const wchar_t* kInputPersonalization = L"\\Software\\Microsoft\\InputPersonalization\\";
+inline constexpr const wchar_t* kTypingData = L"\\Software\\Microsoft\\Input\\TIPC\\";
 inline constexpr const wchar_t* kTrainedData =
     L"\\Software\\Microsoft\\InputPersonalization\\TrainedDataStore\\";
 inline constexpr const wchar_t* kPersonalization = L"\\Software\\Microsoft\\Personalization\\Settings\\";
@@ -90,10 +155,12 @@ inline constexpr const wchar_t* kUserProfile = L"\\Control Panel\\International\
 inline constexpr const wchar_t* kDataCollection =
     L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\DataCollection\\";
 inline constexpr const wchar_t* kWindowsPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\System\\";
+inline constexpr const wchar_t* kSettingSync = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\SettingSync\\";
 inline constexpr const wchar_t* kFeedbackRules = L"\\Software\\Microsoft\\Siuf\\Rules\\";
 inline constexpr const wchar_t* kOnlineSpeech =
     L"\\Software\\Microsoft\\Speech_OneCore\\Settings\\OnlineSpeechPrivacy\\";
 inline constexpr const wchar_t* kAppPrivacy = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppPrivacy\\";
+inline constexpr const wchar_t* kRecordingPolicies = L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\GameDVR\\";
 inline constexpr const wchar_t* kLocationPolicies =
     L"\\SOFTWARE\\Policies\\Microsoft\\Windows\\LocationAndSensors\\";
 inline constexpr const wchar_t* kProfileEngagement =

@@ -35,13 +35,35 @@
             .Records = {.Checked = kDeleteValue, .Clear = Dword(forbids)}};
 }
 
+/// A switch that is 1 or 0.
+[[nodiscard]] constexpr TCheckBoxRow OnOffBox(const wchar_t* control, TPlace place,
+                                              TBoxState missing = kChecked) {
+    return {.Control = control,
+            .Value = place,
+            .Shows = {.Missing = missing, .When = {{0, kClear}}, .Otherwise = kChecked},
+            .Records = {.Checked = Dword(1), .Clear = Dword(0)}};
+}
+
+/// Something that happens unless a value is set.
+[[nodiscard]] constexpr TCheckBoxRow UnlessBox(const wchar_t* control, TPlace place,
+                                               TBoxState missing = kChecked) {
+    return {.Control = control,
+            .Value = place,
+            .Shows = {.Missing = missing, .When = {{0, kChecked}}, .Otherwise = kClear},
+            .Records = {.Checked = Dword(0), .Clear = Dword(1)}};
+}
+
+/// Something that Windows does only when a policy asks for it.
+[[nodiscard]] constexpr TCheckBoxRow DemandedBox(const wchar_t* control, TPlace policy) {
+    TCheckBoxRow row = OnOffBox(control, policy, kClear);
+    row.Records.Clear = kDeleteValue;
+    return row;
+}
+
 /// A choice in one of Explorer's own dialogs.
 [[nodiscard]] constexpr TCheckBoxRow ExplorerOption(const wchar_t* control, const wchar_t* valueName,
                                                     TBoxState missing = kChecked) {
-    return {.Control = control,
-            .Value = {kCurrentUser, kExplorerAdvanced, valueName},
-            .Shows = {.Missing = missing, .When = {{0, kClear}}, .Otherwise = kChecked},
-            .Records = {.Checked = Dword(1), .Clear = Dword(0)}};
+    return OnOffBox(control, {kCurrentUser, kExplorerAdvanced, valueName}, missing);
 }
 
 /// An option of the user's that is kept as "yes" or "no".

@@ -97,10 +97,11 @@ struct TCheckBoxRow {
     TLevels Levels = kEveryLevel;
 };
 
-/// A key that exists while the box is checked, with an empty text as its default value.
+/// A key that exists while the box is checked, or while it is clear, with an empty text as its default value.
 struct TKeyRow {
     const wchar_t* Control;
     TPlace Value;
+    bool WhileChecked = true;
     TRestart Restart = TRestart::None;
     TLevels LoadedOn = kEveryLevel;
     TLevels Levels = kEveryLevel;

@@ -173,8 +173,10 @@ void RecordParameter(TPageContext& context, const std::wstring& changeName, cons
     record.SpiWinIni = kUpdateProfile;
     if (parameter.BlockSize != 0) {
         TBytes block = ReadParameter(context, parameter).value_or(TBytes(parameter.BlockSize));
-        std::fill_n(block.begin(), sizeof(number), std::uint8_t{0});
-        block[0] = parameter.BlockSize;
+        if (parameter.BeginsWithSize) {
+            std::fill_n(block.begin(), sizeof(number), std::uint8_t{0});
+            block[0] = parameter.BlockSize;
+        }
         for (std::size_t i = 0; i < sizeof(number); ++i)
             block[parameter.Offset + i] = static_cast<std::uint8_t>(number >> (8 * i));
         record.SpiParam = parameter.BlockSize;

@@ -33,9 +33,13 @@ void Load(TPageContext& context, const TChoiceRow& row) {
             return IsWhatWrites(row.Items[item], *value) &&
                    (!hasFurther || IsWhatWrites(row.Further->Items[item], further.value_or(TRegValue{})));
         };
-        std::size_t item = 0;
-        while (item < row.Items.size() && !isItem(item)) ++item;
-        chosen = item < row.Items.size() ? static_cast<int>(item) : -1;
+        // The first one; but 0 is rather an item's that writes it than one's that deletes the value.
+        chosen = -1;
+        for (std::size_t item = 0; item < row.Items.size(); ++item) {
+            const bool mayBeBetter =
+                chosen < 0 || row.Items[static_cast<std::size_t>(chosen)].Kind == TDatum::TKind::DeleteValue;
+            if (mayBeBetter && isItem(item)) chosen = static_cast<int>(item);
+        }
     }
     auto* box = context.Form.Find<TComboBox>(row.Control);
     if (box != nullptr && chosen >= 0) box->SetItemIndex(chosen);

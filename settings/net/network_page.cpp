@@ -1,6 +1,8 @@
 #include "settings/net/network_page.h"
 
+#include "settings/net/network_modern.h"
 #include "settings/net/security_switches.h"
+#include "settings/store.h"
 
 namespace {
 
@@ -25,6 +27,12 @@ TControlDesign Design() {
                                  L"&Hide this computer in the Network Places of other computers."),
                         CheckBox(L"Checkbox_Net_Neighbor_Security_ActiveShare",
                                  L"&Enable administrative shares.")),
+                  Group(L"GroupBox_Net_Neighbor_Old", L"Older protocols",
+                        CheckBox(L"Checkbox_Net_Neighbor_Old_Server", L"Share files by SMB &1"),
+                        CheckBox(L"Checkbox_Net_Neighbor_Old_Client", L"Open shares by S&MB 1"),
+                        Row(Label(L"Label_Net_Neighbor_Old_Guest", L"Open shares as a &guest:"),
+                            ComboBox(L"CB_Net_Neighbor_Old_Guest",
+                                     {L"As this edition of Windows does", L"Always", L"Never"}))),
                   Buttons(Button(L"Button_Net_Neighbor_Default", L"&Default"))),
             Sheet(L"TabSheet_Net_Advanced", L"Advanced",
                   Group(L"GroupBox_Net_Advanced_UPnp", L"Network devices",
@@ -36,6 +44,12 @@ TControlDesign Design() {
                                    UpDown(L"Updown_Net_Advanced_Qos_Count", L"Edit_Net_Advanced_Qos_Count", 0,
                                           100, kQosPercent),
                                    Label(L"Label_Net_Advanced_Qos_Percent", L"%")))),
+                  Group(L"GroupBox_Net_Advanced_Find", L"Finding computers",
+                        CheckBox(L"Checkbox_Net_Advanced_Find_Multicast", L"Find computers by &LLMNR"),
+                        CheckBox(L"Checkbox_Net_Advanced_Find_All", L"Ask all &networks at once for a name"),
+                        CheckBox(L"Checkbox_Net_Advanced_Find_Ask",
+                                 L"As&k whether a new network may see this computer"),
+                        CheckBox(L"Checkbox_Net_Advanced_Find_Teredo", L"Use &Teredo (IPv6 through IPv4)")),
                   Buttons(Button(L"Button_Net_Advanced_Default", L"&Default"))),
             Sheet(L"TabSheet_Net_Password", L"Passwords",
                   Group(L"GroupBox_Net_Password_Storage", L"Passwords for other computers",
@@ -143,7 +157,14 @@ constexpr TRow kInternetRows[] = {
     FirewallProfilesRow(kFirewall),
 };
 
-constexpr TLoader kLoaders[] = {kNeighborRows, kAdvancedRows, kPasswordRows, kInternetRows};
+bool HasSmb1Client(const TPageContext& context) {
+    return Stored(context, {kLocalMachine, kSmb1Driver, L"ImagePath"}).has_value();
+}
+
+constexpr TLack kLacks[] = {{kSmb1Client, HasSmb1Client, TCaption::NoSmb1}};
+
+constexpr TLoader kLoaders[] = {kNeighborRows, kOldProtocolRows, kAdvancedRows,
+                                kFindingRows,  kPasswordRows,    kInternetRows};
 
 constexpr TPresetState kNeighborDefault[] = {
     {L"Checkbox_Net_Neighbor_Common_Task", 1},   {L"Checkbox_Net_Neighbor_Common_Printer", 1},
@@ -151,9 +172,9 @@ constexpr TPresetState kNeighborDefault[] = {
     {L"Checkbox_Net_Neighbor_Security_Hide", 0}, {L"Checkbox_Net_Neighbor_Security_ActiveShare", 1},
 };
 constexpr TPresetState kAdvancedDefault[] = {
-    {L"Checkbox_Net_Advanced_UPnp_Enable", 1},
-    {L"Checkbox_Net_Advanced_Qos_Keep", 1},
-    {L"Updown_Net_Advanced_Qos_Count", kQosPercent},
+    {L"Checkbox_Net_Advanced_UPnp_Enable", 1},       {L"Checkbox_Net_Advanced_Qos_Keep", 1},
+    {L"Updown_Net_Advanced_Qos_Count", kQosPercent}, {L"Checkbox_Net_Advanced_Find_All", 1},
+    {L"Checkbox_Net_Advanced_Find_Ask", 1},          {L"Checkbox_Net_Advanced_Find_Teredo", 1},
 };
 constexpr TPresetState kPasswordDefault[] = {
     {L"Checkbox_Net_Password_Storage_SavePassword", 1},
@@ -180,6 +201,7 @@ constexpr TPageDefinition kPage{.Tag = 7,
                                 .Loaders = kLoaders,
                                 .Presets = kPresets,
                                 .LevelCaptions = kLevelCaptions,
+                                .Lacks = kLacks,
                                 .ShowsPending = true,
                                 .Prepare = Prepare};
 

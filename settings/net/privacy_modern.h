@@ -11,10 +11,7 @@
 /// A switch that Windows' own Settings keep for the user.
 [[nodiscard]] constexpr TCheckBoxRow UserSwitch(const wchar_t* control, const wchar_t* key,
                                                 const wchar_t* valueName, TBoxState missing = kChecked) {
-    return {.Control = control,
-            .Value = {kCurrentUser, key, valueName},
-            .Shows = {.Missing = missing, .When = {{0, kClear}}, .Otherwise = kChecked},
-            .Records = {.Checked = Dword(1), .Clear = Dword(0)}};
+    return OnOffBox(control, {kCurrentUser, key, valueName}, missing);
 }
 
 inline constexpr TDatum kDiagnosticData[] = {kDeleteValue, Dword(0), Dword(1), Dword(3)};
@@ -33,6 +30,11 @@ inline constexpr TBoxFurther kActivities[] = {{L"1",
 inline constexpr TBoxFurther kFeedback[] = {{L"1",
                                              {kCurrentUser, kFeedbackRules, L"PeriodInNanoSeconds"},
                                              {.Checked = kDeleteValue, .Clear = Dword(0)}}};
+
+inline constexpr TBoxFurther kSynchronizing[] = {
+    {L"1",
+     {kLocalMachine, kSettingSync, L"DisableSettingSyncUserOverride"},
+     {.Checked = kDeleteValue, .Clear = Dword(1)}}};
 
 inline constexpr TRow kPrivacyDataRows[] = {
     On(kSinceWindows10, AllowedBox(L"Checkbox_Privacy_Data_AdvertisingId",
@@ -67,6 +69,17 @@ inline constexpr TRow kPrivacyDataRows[] = {
                  .Records = {.Checked = Dword(0), .Clear = Dword(1)},
                  .Further = kLearning,
                  .Levels = kSinceWindows10},
+    On(SinceBuild(14393), WithRestart(AllowedBox(L"Checkbox_Privacy_Data_Devices",
+                                                 {kLocalMachine, kWindowsPolicies, L"EnableCdp"}, 0))),
+    // Not documented.
+    On(kSinceWindows10, UserSwitch(L"Checkbox_Privacy_Data_Typing", kTypingData, L"Enabled")),
+    // 2 forbids it, and the other value that users allow it for themselves.
+    TCheckBoxRow{.Control = L"Checkbox_Privacy_Data_Synchronize",
+                 .Value = {kLocalMachine, kSettingSync, L"DisableSettingSync"},
+                 .Shows = {.Missing = kChecked, .When = {{2, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = kDeleteValue, .Clear = Dword(2)},
+                 .Further = kSynchronizing,
+                 .Levels = kSinceWindows8},
 };
 
 /// 0, or no policy, leaves it to the user, 1 always allows it, 2 never.
@@ -85,6 +98,11 @@ inline constexpr TDatum kAppAccess[] = {kDeleteValue, Dword(1), Dword(2)};
 inline constexpr TRow kPrivacyProgramsRows[] = {
     On(kSinceWindows8, AllowedBox(L"Checkbox_Privacy_Programs_Location",
                                   {kLocalMachine, kLocationPolicies, L"DisableLocation"}, 1)),
+    On(kSinceWindows10, WithRestart(AllowedBox(L"Checkbox_Privacy_Programs_Recording",
+                                               {kLocalMachine, kRecordingPolicies, L"AllowGameDVR"}, 0))),
+    // Not documented.
+    On(kSinceWindows10,
+       UserSwitch(L"Checkbox_Privacy_Programs_Install", kContentDelivery, L"SilentInstalledAppsEnabled")),
     AppAccess(L"CB_Privacy_Programs_Location", L"LetAppsAccessLocation"),
     AppAccess(L"CB_Privacy_Programs_Camera", L"LetAppsAccessCamera"),
     AppAccess(L"CB_Privacy_Programs_Microphone", L"LetAppsAccessMicrophone"),
@@ -108,6 +126,11 @@ inline constexpr TBoxFurther kSettingsSuggestions[] = {
     return row;
 }
 
+inline constexpr TBoxFurther kLockScreenTips[] = {
+    {L"1",
+     {kCurrentUser, kContentDelivery, L"SubscribedContent-338387Enabled"},
+     {.Checked = Dword(1), .Clear = Dword(0)}}};
+
 inline constexpr TRow kPrivacySuggestionsRows[] = {
     On(SinceBuild(17134), SettingsSuggestionsRow(L"Checkbox_Privacy_Suggestions_Settings")),
     On(SinceBuild(14393), UserSwitch(L"Checkbox_Privacy_Suggestions_Tips", kContentDelivery,
@@ -117,6 +140,22 @@ inline constexpr TRow kPrivacySuggestionsRows[] = {
                   {kCurrentUser, kCloudContent, L"DisableWindowsSpotlightWindowsWelcomeExperience"}, 1)),
     On(SinceBuild(18362),
        UserSwitch(L"Checkbox_Privacy_Suggestions_Setup", kProfileEngagement, L"ScoobeSystemSettingEnabled")),
+    On(SinceBuild(15063),
+       AllowedBox(L"Checkbox_Privacy_Suggestions_Center",
+                  {kCurrentUser, kCloudContent, L"DisableWindowsSpotlightOnActionCenter"}, 1)),
+    // Not documented.
+    TCheckBoxRow{.Control = L"Checkbox_Privacy_Suggestions_LockScreen",
+                 .Value = {kCurrentUser, kContentDelivery, L"RotatingLockScreenOverlayEnabled"},
+                 .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
+                 .Records = {.Checked = Dword(1), .Clear = Dword(0)},
+                 .Further = kLockScreenTips,
+                 .Levels = kSinceWindows10},
+    On(SinceBuild(14393),
+       WithRestart(AllowedBox(L"Checkbox_Privacy_Suggestions_Spotlight",
+                              {kCurrentUser, kCloudContent, L"DisableWindowsSpotlightFeatures"}, 1))),
+    On(kSinceWindows11,
+       WithRestart(AllowedBox(L"Checkbox_Privacy_Suggestions_Pictures",
+                              {kCurrentUser, kCloudContent, L"DisableSpotlightCollectionOnDesktop"}, 1))),
     On(SinceBuild(16299), AllowedBox(L"Checkbox_Privacy_Search_Cloud",
                                      {kLocalMachine, kSearchPolicies, L"AllowCloudSearch"}, 0)),
     On(kSinceWindows10, AllowedBox(L"Checkbox_Privacy_Search_Location",
@@ -135,18 +174,23 @@ inline constexpr TPresetState kPrivacyDataDefault[] = {
     {L"Checkbox_Privacy_Data_Languages", 1},     {L"CB_Privacy_Data_Diagnostics", 0},
     {L"Checkbox_Privacy_Data_Activities", 1},    {L"Checkbox_Privacy_Data_Feedback", 1},
     {L"Checkbox_Privacy_Data_Speech", 0},        {L"Checkbox_Privacy_Data_Learning", 1},
+    {L"Checkbox_Privacy_Data_Typing", 1},        {L"Checkbox_Privacy_Data_Devices", 1},
+    {L"Checkbox_Privacy_Data_Synchronize", 1},
 };
 inline constexpr TPresetState kPrivacyProgramsDefault[] = {
-    {L"Checkbox_Privacy_Programs_Location", 1}, {L"CB_Privacy_Programs_Location", 0},
+    {L"Checkbox_Privacy_Programs_Location", 1}, {L"Checkbox_Privacy_Programs_Recording", 1},
+    {L"Checkbox_Privacy_Programs_Install", 1},  {L"CB_Privacy_Programs_Location", 0},
     {L"CB_Privacy_Programs_Camera", 0},         {L"CB_Privacy_Programs_Microphone", 0},
     {L"CB_Privacy_Programs_Account", 0},        {L"CB_Privacy_Programs_Notifications", 0},
     {L"CB_Privacy_Programs_Background", 0},
 };
 inline constexpr TPresetState kPrivacySuggestionsDefault[] = {
-    {L"Checkbox_Privacy_Suggestions_Settings", 1}, {L"Checkbox_Privacy_Suggestions_Tips", 1},
-    {L"Checkbox_Privacy_Suggestions_Welcome", 1},  {L"Checkbox_Privacy_Suggestions_Setup", 1},
-    {L"Checkbox_Privacy_Search_Cloud", 1},         {L"Checkbox_Privacy_Search_Location", 1},
-    {L"Checkbox_Privacy_Search_Cortana", 1},       {L"Checkbox_Privacy_Search_Copilot", 1},
+    {L"Checkbox_Privacy_Suggestions_Settings", 1},  {L"Checkbox_Privacy_Suggestions_Tips", 1},
+    {L"Checkbox_Privacy_Suggestions_Welcome", 1},   {L"Checkbox_Privacy_Suggestions_Setup", 1},
+    {L"Checkbox_Privacy_Suggestions_Center", 1},    {L"Checkbox_Privacy_Suggestions_LockScreen", 1},
+    {L"Checkbox_Privacy_Suggestions_Spotlight", 1}, {L"Checkbox_Privacy_Suggestions_Pictures", 1},
+    {L"Checkbox_Privacy_Search_Cloud", 1},          {L"Checkbox_Privacy_Search_Location", 1},
+    {L"Checkbox_Privacy_Search_Cortana", 1},        {L"Checkbox_Privacy_Search_Copilot", 1},
     {L"Checkbox_Privacy_Search_Recall", 1},
 };
 

@@ -1,5 +1,6 @@
 #include "settings/net/security_page.h"
 
+#include "settings/net/security_modern.h"
 #include "settings/net/security_switches.h"
 
 namespace {
@@ -27,7 +28,8 @@ TControlDesign Design() {
                                     UpDown(L"Updown_Security_Advanced_Screensaver_WaitTime",
                                            L"Edit_Security_Advanced_Screensaver_WaitTime", 1, 9999, 5),
                                     Label(L"Label_Security_Advanced_Screensaver_Seconds", L"seconds"))),
-                          Buttons(Button(L"Button_Security_Advanced_Default", L"&Default").Hidden()))));
+                          Buttons(Button(L"Button_Security_Advanced_Default", L"&Default").Hidden())),
+                    SecurityProtectionSheet()));
 }
 
 constexpr TCheckBoxRow Warning(const wchar_t* control, const wchar_t* valueName) {
@@ -58,12 +60,18 @@ constexpr TRow kAdvancedRows[] = {
                .Source = TNumberSource::Typed},
 };
 
-constexpr TLoader kLoaders[] = {kCenterRows, kAdvancedRows};
+constexpr TLoader kLoaders[] = {kCenterRows, kAdvancedRows, kProtectionRows};
 
+constexpr TNeed kNeeds[] = {kRemoteNeed};
 constexpr TLack kLacks[] = {SecurityCenterLack(kActive)};
 
-constexpr TPageDefinition kPage{
-    .Tag = 18, .Design = Design, .Loaders = kLoaders, .Presets = {}, .Lacks = kLacks, .ShowsPending = true};
+constexpr TPageDefinition kPage{.Tag = 18,
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = {},
+                                .Needs = kNeeds,
+                                .Lacks = kLacks,
+                                .ShowsPending = true};
 
 }  // namespace
 

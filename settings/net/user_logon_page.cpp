@@ -20,13 +20,16 @@ TControlDesign CommonSheet() {
                              .Checked(),
                          RadioButton(L"Radio_UserLogin_Common_LoginInterface_2k",
                                      L"Use the &classic logon box")))),
-        Group(L"GroupBox_UserLogin_Common_Set", L"Logon options",
-              CheckBox(L"Checkbox_UserLogin_Common_Set_UserName", L"Do not display the &last user name"),
-              CheckBox(L"Checkbox_UserLogin_Common_Set_PressCAD", L"&Require users to press Ctrl+Alt+Delete"),
-              CheckBox(L"Checkbox_UserLogin_Common_Set_ShowShutdown",
-                       L"Allow &shutting down without logging on"),
-              CheckBox(L"Checkbox_UserLogin_Common_Set_EndTask",
-                       L"When I log off, &end programs that do not respond")),
+        Group(
+            L"GroupBox_UserLogin_Common_Set", L"Logon options",
+            CheckBox(L"Checkbox_UserLogin_Common_Set_UserName", L"Do not display the &last user name"),
+            CheckBox(L"Checkbox_UserLogin_Common_Set_PressCAD", L"&Require users to press Ctrl+Alt+Delete"),
+            CheckBox(L"Checkbox_UserLogin_Common_Set_ShowShutdown",
+                     L"Allow &shutting down without logging on"),
+            CheckBox(L"Checkbox_UserLogin_Common_Set_EndTask",
+                     L"When I log off, &end programs that do not respond"),
+            CheckBox(L"Checkbox_UserLogin_Common_Set_LockScreen", L"Show the loc&k screen before the logon"),
+            CheckBox(L"Checkbox_UserLogin_Common_Set_Blur", L"&Blur the picture of the logon screen")),
         Buttons(Button(L"Button_UserLogin_Common_Set_Default", L"&Default").Hidden()));
 }
 
@@ -112,6 +115,11 @@ constexpr TRow kCommonRows[] = {
                  .Value = {kCurrentUser, kDesktop, L"AutoEndTasks"},
                  .Shows = {.Missing = kChecked, .When = {{1, kChecked}}, .Otherwise = kClear},
                  .Records = kOneWhenChecked},
+    On(kSinceWindows8, AllowedBox(L"Checkbox_UserLogin_Common_Set_LockScreen",
+                                  {kLocalMachine, kLockScreenPolicies, L"NoLockScreen"}, 1)),
+    On(SinceBuild(18362),
+       AllowedBox(L"Checkbox_UserLogin_Common_Set_Blur",
+                  {kLocalMachine, kWindowsPolicies, L"DisableAcrylicBackgroundOnLogon"}, 1)),
 };
 
 constexpr TTextRow TextRow(const TBoxField& field) { return {.Control = field.Edit, .Value = field.Value}; }

@@ -1,6 +1,7 @@
 #include "settings/shell/display_page.h"
 
 #include "settings/shared_rows.h"
+#include "settings/shell/display_modern.h"
 
 namespace {
 
@@ -49,6 +50,11 @@ TControlDesign AnimationSheet() {
               CheckBox(L"Checkbox_Display_Animation_DynamicElements_ComboBox", L"&Slide open combo boxes"),
               CheckBox(L"Checkbox_Display_Animation_DynamicElements_SmoothListBox",
                        L"Smooth-scroll &list boxes")),
+        Group(L"GroupBox_Display_Animation_Windows", L"Programs and taskbar",
+              CheckBox(L"Checkbox_Display_Animation_Windows_Controls", L"Animate pa&rts of windows"),
+              CheckBox(L"Checkbox_Display_Animation_Windows_Taskbar", L"Animate the tas&kbar"),
+              CheckBox(L"Checkbox_Display_Animation_Windows_Peek",
+                       L"Pre&view the desktop at the end of the taskbar")),
         Buttons(Button(L"Button_Display_Animation_Default", L"&Default"),
                 Button(L"Button_Display_Animation_HighestPerformance", L"Best &Performance")));
 }
@@ -81,8 +87,8 @@ TControlDesign FontSheet() {
 }
 
 TControlDesign Design() {
-    return NotebookPage(
-        1, PageControl(L"PageControl_Display", EffectSheet(), AnimationSheet(), MenuSheet(), FontSheet()));
+    return NotebookPage(1, PageControl(L"PageControl_Display", EffectSheet(), AnimationSheet(), MenuSheet(),
+                                       FontSheet(), DisplayColorsSheet(), DisplayWindowsSheet()));
 }
 
 // The numbers are the codes of SystemParametersInfo, SPI_GET… and SPI_SET….
@@ -130,7 +136,7 @@ constexpr TRow kRows[] = {
                  BlockParameter(0x48, 0x49, 8, 4)),  // …ANIMATION
 };
 
-constexpr TLoader kLoaders[] = {kRows};
+constexpr TLoader kLoaders[] = {kRows, kDisplayAnimationRows, kDisplayColorsRows, kDisplayWindowsRows};
 
 // Best performance leaves highlighting on, and best appearance switches it off.
 constexpr TPresetState kEffectDefault[] = {
@@ -176,6 +182,9 @@ constexpr TPresetState kAnimationDefault[] = {
     {L"Checkbox_Display_Animation_DynamicElements_ComboBox", 1},
     {L"Checkbox_Display_Animation_DynamicElements_SmoothListBox", 0},
     {L"CB_Display_Animation_MessageAndAnimation_ToolTipType", 1},
+    {L"Checkbox_Display_Animation_Windows_Controls", 1},
+    {L"Checkbox_Display_Animation_Windows_Taskbar", 1},
+    {L"Checkbox_Display_Animation_Windows_Peek", 1},
 };
 constexpr TPresetState kAnimationHighestPerformance[] = {
     {L"Checkbox_Display_Animation_MessageAndAnimation_MaxAndMin", 0},
@@ -183,6 +192,9 @@ constexpr TPresetState kAnimationHighestPerformance[] = {
     {L"Checkbox_Display_Animation_DynamicElements_ListAndTree", 0},
     {L"Checkbox_Display_Animation_DynamicElements_ComboBox", 0},
     {L"Checkbox_Display_Animation_DynamicElements_SmoothListBox", 0},
+    {L"Checkbox_Display_Animation_Windows_Controls", 0},
+    {L"Checkbox_Display_Animation_Windows_Taskbar", 0},
+    {L"Checkbox_Display_Animation_Windows_Peek", 0},
 };
 constexpr TPresetState kMenuDefault[] = {
     {L"Checkbox_Display_MenuAppearance_WindowsAndMessage_Click", 1},
@@ -205,9 +217,14 @@ constexpr TPreset kPresets[] = {
     {L"Button_Display_Animation_HighestPerformance", kAnimationHighestPerformance},
     {L"Button_Display_MenuAppearance_Default", kMenuDefault},
     {L"Button_Display_MenuAppearance_HighestPerformance", kMenuHighestPerformance},
+    {L"Button_Display_Colors_Default", kDisplayColorsDefault},
+    {L"Button_Display_Windows_Default", kDisplayWindowsDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 1, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
+constexpr TNeed kNeeds[] = {kArrangingNeed};
+
+constexpr TPageDefinition kPage{
+    .Tag = 1, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Needs = kNeeds};
 
 }  // namespace
 

@@ -30,7 +30,15 @@ TControlDesign Design() {
                                L"&Notice when a disc is inserted")),
                 Group(L"GroupBox_Drives_AutoPlay_AutoPlayInfo", L"Use AutoPlay for",
                       CheckBox(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia", L"Re&movable drives"),
-                      CheckBox(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD", L"&CD and DVD drives")))));
+                      CheckBox(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD", L"&CD and DVD drives")),
+                Group(L"GroupBox_Drives_AutoPlay_Modern", L"Media and devices",
+                      CheckBox(L"Checkbox_Drives_AutoPlay_Modern_All",
+                               L"&Use AutoPlay for all media and devices"),
+                      CheckBox(L"Checkbox_Drives_AutoPlay_Modern_Devices",
+                               L"Use AutoPlay for cameras and &telephones"),
+                      Row(Label(L"Label_Drives_AutoPlay_Modern_Commands", L"Commands in auto&run.inf:"),
+                          ComboBox(L"CB_Drives_AutoPlay_Modern_Commands",
+                                   {L"As Windows does", L"Never run", L"Run unasked"}))))));
 }
 
 constexpr TRow kCommonRows[] = {
@@ -74,6 +82,9 @@ constexpr TCheckBoxRow AutoPlay(const wchar_t* control, std::uint32_t driveType)
 constexpr TBoxFurther kCdromAutorun[] = {
     {L"1", {kLocalMachine, kCdromService, L"Autorun"}, {.Checked = Dword(1), .Clear = Dword(0)}}};
 
+/// No policy, never run, run without asking.
+constexpr TDatum kAutorunCommands[] = {kDeleteValue, Dword(1), Dword(2)};
+
 constexpr TRow kAutoPlayRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Drives_AutoPlay_MonitorMediaChanges_Enable",
                  .Value = {kLocalMachine, kExplorerPoliciesUpper, L"CDRAutoRun"},
@@ -83,6 +94,16 @@ constexpr TRow kAutoPlayRows[] = {
                  .Restart = TRestart::Windows},
     AutoPlay(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_RemovableMedia", kRemovableDrives),
     AutoPlay(L"Checkbox_Drives_AutoPlay_AutoPlayInfo_DVD", kCdDrives),
+    On(kSinceWindows8, UnlessBox(L"Checkbox_Drives_AutoPlay_Modern_All",
+                                 {kCurrentUser, kAutoPlayHandlers, L"DisableAutoplay"})),
+    On(kSinceWindows8, WithRestart(AllowedBox(L"Checkbox_Drives_AutoPlay_Modern_Devices",
+                                              UserShellPolicy(L"NoAutoplayfornonVolume"), 1))),
+    TChoiceRow{.Control = L"CB_Drives_AutoPlay_Modern_Commands",
+               .Value = ExplorerPolicy(L"NoAutorun"),
+               .Items = kAutorunCommands,
+               .Missing = 0,
+               .Restart = TRestart::Windows,
+               .Levels = kSinceWindows8},
 };
 
 constexpr TLoader kLoaders[] = {kCommonRows, kDiskSpaceRows, kAutoPlayRows};

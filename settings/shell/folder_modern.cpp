@@ -3,13 +3,14 @@
 TControlDesign FolderFilesSheet() {
     return Sheet(
         L"TabSheet_Folder_Files", L"Files",
-        Group(L"GroupBox_Folder_Files", L"What folders show",
-              CheckBox(L"Checkbox_Folder_Files_Extensions", L"Show file name &extensions"),
-              CheckBox(L"Checkbox_Folder_Files_Hidden", L"Show &hidden files and folders"),
-              CheckBox(L"Checkbox_Folder_Files_System", L"Show &protected system files"),
-              CheckBox(L"Checkbox_Folder_Files_IconsOnly", L"Always show &icons, never pictures"),
-              CheckBox(L"Checkbox_Folder_Files_NetworkThumbnails",
-                       L"Store small pictures in &network folders")),
+        Group(
+            L"GroupBox_Folder_Files", L"What folders show",
+            CheckBox(L"Checkbox_Folder_Files_Extensions", L"Show file name &extensions"),
+            CheckBox(L"Checkbox_Folder_Files_Hidden", L"Show &hidden files and folders"),
+            CheckBox(L"Checkbox_Folder_Files_System", L"Show &protected system files"),
+            CheckBox(L"Checkbox_Folder_Files_IconsOnly", L"Always show &icons, never pictures"),
+            CheckBox(L"Checkbox_Folder_Files_NetworkThumbnails", L"Store small pictures in &network folders"),
+            CheckBox(L"Checkbox_Folder_Files_OneDrive", L"Show &OneDrive beside the folders")),
         Group(L"GroupBox_Folder_Files_Delete", L"Deleting",
               CheckBox(L"Checkbox_Folder_Files_AskDelete", L"As&k before deleting"),
               CheckBox(L"Checkbox_Folder_Files_RecycleBin", L"&Move deleted files to the Recycle Bin")),

@@ -33,9 +33,11 @@ inline constexpr TRow kFolderFilesRows[] = {
 inline constexpr TDatum kFirstFolders[] = {Dword(1), Dword(2)};
 inline constexpr TDatum kRibbons[] = {kDeleteValue, Dword(1), Dword(2)};
 
+inline constexpr const wchar_t* kPinned = L"System.IsPinnedToNameSpaceTree";
+
 /// An entry of the navigation pane, by its folder.
 [[nodiscard]] constexpr TCheckBoxRow PinnedFolder(const wchar_t* control, const wchar_t* folder) {
-    return AfterExplorer(AllowedBox(control, {kCurrentUser, folder, L"System.IsPinnedToNameSpaceTree"}, 0));
+    return AfterExplorer(AllowedBox(control, {kCurrentUser, folder, kPinned}, 0));
 }
 
 inline constexpr TRow kFolderExplorerRows[] = {
@@ -83,6 +85,9 @@ inline constexpr TRow kFolderExplorerRows[] = {
     On(kSinceWindows11, YesOrNo(L"Checkbox_Folder_Explorer_Suggest", kExplorerAutoComplete, L"AutoSuggest")),
     On(kSinceWindows11,
        YesOrNo(L"Checkbox_Folder_Explorer_Append", kExplorerAutoComplete, L"Append Completion", kClear)),
+    // OneDrive writes it for itself.
+    On(kSinceWindows10, AfterExplorer(OnOffBox(L"Checkbox_Folder_Files_OneDrive",
+                                               {kCurrentUser, kOneDriveFolder, kPinned}, kClear))),
 };
 
 inline constexpr TPresetState kFolderFilesDefault[] = {

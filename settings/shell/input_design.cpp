@@ -1,6 +1,7 @@
 #include "settings/shell/input_design.h"
 
 #include "settings/coding.h"
+#include "settings/shell/input_modern.h"
 
 namespace {
 
@@ -14,7 +15,9 @@ TControlDesign SensitivitySheet() {
                          Edit(L"Edit_Use_MouseSensitivity_Drag").Width(5),
                          UpDown(L"UpDown_Use_MouseSensitivity_Drag", L"Edit_Use_MouseSensitivity_Drag", 1,
                                 100, 4),
-                         Label(L"Label_Use_MouseSensitivity_Drag_Unit", L"pixels")))),
+                         Label(L"Label_Use_MouseSensitivity_Drag_Unit", L"pixels"))),
+              CheckBox(L"Checkbox_Use_MouseSensitivity_Speed_Precision",
+                       L"M&ove farther when the mouse moves faster")),
         Group(L"GroupBox_Use_MouseSensitivity_DoubleClickError", L"Double-clicking",
               Fields(Row(Label(L"Label_Use_MouseSensitivity_DoubleClickError", L"Dou&ble-click tolerance:"),
                          Edit(L"Edit_Use_MouseSensitivity_DoubleClickError").Width(5).FilteringKeys(),
@@ -101,6 +104,6 @@ TControlDesign KeyboardSheet() {
 }  // namespace
 
 TControlDesign InputDesign() {
-    return NotebookPage(
-        4, PageControl(L"PageControl_Input", SensitivitySheet(), FunctionSheet(), KeyboardSheet()));
+    return NotebookPage(4, PageControl(L"PageControl_Input", SensitivitySheet(), FunctionSheet(),
+                                       KeyboardSheet(), InputTextSheet(), InputTouchSheet()));
 }

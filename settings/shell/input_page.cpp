@@ -3,6 +3,7 @@
 #include "settings/coding.h"
 #include "settings/shared_rows.h"
 #include "settings/shell/input_design.h"
+#include "settings/shell/input_modern.h"
 
 namespace {
 
@@ -113,7 +114,8 @@ constexpr TRow kKeyboardRows[] = {
                  .Further = kNumLockAtLogon},
 };
 
-constexpr TLoader kLoaders[] = {kSensitivityRows, kFunctionRows, kKeyboardRows};
+constexpr TLoader kLoaders[] = {
+    kSensitivityRows, kSensitivityModernRows, kFunctionRows, kKeyboardRows, kTextRows, kTouchRows};
 
 constexpr TPresetState kSensitivityDefault[] = {
     {L"TrackBar_Use_MouseSensitivity_Speed", 10},
@@ -123,6 +125,7 @@ constexpr TPresetState kSensitivityDefault[] = {
     {L"UpDown_Use_MouseSensitivity_Hover_MoveError", 4},
     {L"UpDown_Use_MouseSensitivity_Hover_Time", 400},
     {L"UpDown_Use_MouseSensitivity_Tilt_Count", 3, kSinceVista},
+    {L"Checkbox_Use_MouseSensitivity_Speed_Precision", 1},
 };
 constexpr TPresetState kFunctionDefault[] = {
     {L"Checkbox_Use_MouseFunction_ChangeKey_Change", 0},
@@ -147,6 +150,8 @@ constexpr TPreset kPresets[] = {
     {L"Button_Use_MouseSensitivity_Default", kSensitivityDefault},
     {L"Button_Use_MouseFunction_Default", kFunctionDefault},
     {L"Button_Use_Keyboard_Default", kKeyboardDefault},
+    {L"Button_Use_Text_Default", kTextDefault},
+    {L"Button_Use_Touch_Default", kTouchDefault},
 };
 
 // Windows 2000 has none of these. The policy for the Windows key came with XP and Server 2003.

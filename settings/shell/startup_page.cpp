@@ -1,6 +1,7 @@
 #include "settings/shell/startup_page.h"
 
 #include "settings/shared_rows.h"
+#include "settings/shell/startup_modern.h"
 
 namespace {
 
@@ -14,6 +15,11 @@ TControlDesign SystemSheet() {
               CheckBox(L"Checkbox_Startup_System_Defrag_Enable", L"Defragment the &boot files automatically"),
               CheckBox(L"Checkbox_Startup_System_ErrorMessage_Enable",
                        L"Start without the Windows &logo screen"),
+              CheckBox(L"Checkbox_Startup_System_Fast", L"Use &fast startup"),
+              CheckBox(L"Checkbox_Startup_System_Reopen",
+                       L"Start programs again that were &open when I logged off"),
+              CheckBox(L"Checkbox_Startup_System_Later", L"Wait before &programs of the startup list begin"),
+              CheckBox(L"Checkbox_Startup_System_Sound", L"Play the startup &sound"),
               Row(Label(L"Label_Startup_System_DelayTime_Time", L"&Wait before a disk is checked:"),
                   Edit(kDelayEdit).Width(6),
                   UpDown(L"Updown_Startup_System_DelayTime_Time", kDelayEdit, 0, 600, 10),
@@ -33,7 +39,7 @@ TControlDesign ExitSheet() {
               RadioButton(L"Radio_Startup_Exit_AutoClose_AutoClose",
                           L"Automatically &end programs that do not respond"),
               RadioButton(L"Radio_Startup_Exit_AutoClose_ShowCloseDialog", L"As&k before ending a program")),
-        Buttons(Button(L"Button_Startup_Exit_Default", L"&Default")));
+        StartupRestartGroup(), Buttons(Button(L"Button_Startup_Exit_Default", L"&Default")));
 }
 
 TControlDesign DesktopAndTaskbarSheet() {
@@ -62,12 +68,20 @@ TControlDesign ErrorSheet() {
               Label(L"Label_Startup_Error_SystemError_Type", L"When Windows &crashes:"),
               ComboBox(L"CB_Startup_Error_SystemError_Type",
                        {L"Show an error message in blue screen", L"Restart system automatically"})),
+        Group(L"GroupBox_Startup_Error_Dump", L"Memory dump",
+              Row(Label(L"Label_Startup_Error_Dump", L"&Memory dump:"),
+                  ComboBox(L"CB_Startup_Error_Dump",
+                           {L"None", L"Complete", L"Kernel", L"Small", L"Automatic"})),
+              CheckBox(L"Checkbox_Startup_Error_Overwrite", L"&Overwrite the last memory dump")),
+        Group(L"GroupBox_Startup_Error_Report", L"Programs that crash",
+              CheckBox(L"Checkbox_Startup_Error_Report", L"&Report problems to Microsoft"),
+              CheckBox(L"Checkbox_Startup_Error_Message", L"&Show a message when a program crashes")),
         Buttons(Button(L"Button_Startup_Error_Default", L"&Default")));
 }
 
 TControlDesign Design() {
     return NotebookPage(16, PageControl(L"PageControl_Startup", SystemSheet(), ExitSheet(),
-                                        DesktopAndTaskbarSheet(), ErrorSheet()));
+                                        DesktopAndTaskbarSheet(), ErrorSheet(), StartupUpdatesSheet()));
 }
 
 constexpr TRow kSystemRows[] = {
@@ -123,34 +137,47 @@ constexpr TRow kErrorRows[] = {
                .Value = {kLocalMachine, kCrashControl, L"AutoReboot"}},
 };
 
-constexpr TLoader kLoaders[] = {kSystemRows, kExitRows, kDesktopAndTaskbarRows, kErrorRows};
+constexpr TLoader kLoaders[] = {
+    kSystemRows, kStartupModernRows, kExitRows,   kRestartRows, kDesktopAndTaskbarRows,
+    kErrorRows,  kErrorModernRows,   kUpdatesRows};
 
 constexpr TPresetState kSystemDefault[] = {
-    {L"Checkbox_Startup_System_Defrag_Enable", 0},
-    {L"Updown_Startup_System_DelayTime_Time", 10},
+    {L"Checkbox_Startup_System_Defrag_Enable", 0}, {L"Updown_Startup_System_DelayTime_Time", 10},
+    {L"Checkbox_Startup_System_Fast", 1},          {L"Checkbox_Startup_System_Reopen", 0},
+    {L"Checkbox_Startup_System_Later", 1},         {L"Checkbox_Startup_System_Sound", 1},
 };
 // Not the 32000 milliseconds that an empty registry shows.
 constexpr TPresetState kExitDefault[] = {
     {L"UpDown_Startup_Exit_WaitTime_Time", 5000},
     {L"Radio_Startup_Exit_AutoClose_AutoClose", 1},
+    {L"Checkbox_Startup_Restart_Notify", 0},
+    {L"Checkbox_Startup_Restart_Soon", 0},
+    {L"Checkbox_Startup_Restart_Wait", 0},
+    {L"Checkbox_Startup_Restart_SignIn", 1},
+    {kActiveHours, 0},
 };
 constexpr TPresetState kDesktopAndTaskbarDefault[] = {
     {L"Radio_Startup_DesktopAndTaskbar_DAndTSeparateProcess_Explorer", 1},
     {L"Checkbox_Startup_DesktopAndTaskbar_AutoRestartExplorer_AutoRun", 1},
 };
 constexpr TPresetState kErrorDefault[] = {
-    {L"Checkbox_Startup_Error_Sound_beep", 1},
-    {L"Checkbox_Startup_Error_SystemError_Log", 1},
-    {L"CB_Startup_Error_SystemError_Type", 0},
+    {L"Checkbox_Startup_Error_Sound_beep", 1}, {L"Checkbox_Startup_Error_SystemError_Log", 1},
+    {L"CB_Startup_Error_SystemError_Type", 0}, {L"CB_Startup_Error_Dump", kAutomaticDump},
+    {L"Checkbox_Startup_Error_Overwrite", 1},  {L"Checkbox_Startup_Error_Report", 1},
+    {L"Checkbox_Startup_Error_Message", 1},
 };
 constexpr TPreset kPresets[] = {
     {L"Button_Startup_System_Default", kSystemDefault},
     {L"Button_Startup_Exit_Default", kExitDefault},
     {L"Button_Startup_DesktopAndTaskbar_Default", kDesktopAndTaskbarDefault},
     {L"Button_Startup_Error_Default", kErrorDefault},
+    {L"Button_Startup_Updates_Default", kUpdatesDefault},
 };
 
-constexpr TPageDefinition kPage{.Tag = 16, .Design = Design, .Loaders = kLoaders, .Presets = kPresets};
+constexpr TNeed kNeeds[] = {kHoursNeed, kBinNeed};
+
+constexpr TPageDefinition kPage{
+    .Tag = 16, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Needs = kNeeds};
 
 }  // namespace
 

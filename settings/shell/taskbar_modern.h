@@ -56,7 +56,7 @@ inline constexpr TRow kTaskbarModernRows[] = {
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Levels = SinceBuild(22631)},
     // Not documented.
-    On(kOnlyWindows10,
+    On(kSinceWindows10,
        AfterExplorer(ExplorerOption(L"Checkbox_Taskbar_Modern_LastActive", L"LastActiveClick", kClear))),
     On(kSinceWindows10, AllowedBox(L"Checkbox_Taskbar_Modern_RemoteJumpLists",
                                    {kCurrentUser, kUserShellPolicies, L"NoRemoteDestinations"}, 1)),
