@@ -202,13 +202,21 @@ class TScript {
             for (std::size_t i = 0; i < kReleaseCount; ++i) {
                 const bool isOffered =
                     std::ranges::any_of(ranges, [&](const TLine& range) { return IsIn(i, range); });
-                TScene scene(*FPage, FCovered);
-                scene.Bench().Context.Release = TRelease::At(i);
-                scene.Bench().Load();
                 SCOPED_TRACE(testing::Message() << "level " << TRelease::At(i).Level() << ", release " << i);
-                scene.Expect(control, isOffered ? L"visible" : L"hidden");
+                LoadedOn(i).Expect(control, isOffered ? L"visible" : L"hidden");
             }
         }
+    }
+
+    /// The page on a release of Windows where nothing is stored; only to be looked at.
+    TScene& LoadedOn(std::size_t release) {
+        std::unique_ptr<TScene>& scene = FLoaded[release];
+        if (scene == nullptr) {
+            scene = std::make_unique<TScene>(*FPage, FCovered);
+            scene->Bench().Context.Release = TRelease::At(release);
+            scene->Bench().Load();
+        }
+        return *scene;
     }
 
     static bool IsIn(std::size_t release, TLine range) {
@@ -304,6 +312,7 @@ class TScript {
 
     const TPageDefinition* FPage = &DesktopIcons();
     TScene::TCovered FCovered;
+    std::map<std::size_t, std::unique_ptr<TScene>> FLoaded;  ///< by the index of the release
     std::unique_ptr<TScene> FScene;
     std::map<TLine, TLine> FNames{{L"IS 0", L"0 <-> on | 1, 2 <-> off"},
                                   {L"IS 1", L"1 <-> on | 0, 2 <-> off"},
