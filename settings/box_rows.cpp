@@ -56,8 +56,10 @@ void RecordFrom(TPageContext& context, const TCheckBoxRow& row, TComponent& send
         RecordNumber(context, name + L"1", ExplorerPolicy(row.Policy), checked ? 0 : 1);
     }
     EnableAll(context, row.Enables, checked);
-    EnableAll(context, row.EnablesOnClick, checked);
-    if (row.Refreshes != nullptr) ShowDigits(context, *row.Refreshes);
+    if (row.OnClick != nullptr) {
+        EnableAll(context, row.OnClick->Enables, checked);
+        if (row.OnClick->Digits != nullptr) ShowDigits(context, *row.OnClick->Digits);
+    }
     if (row.Toggles != nullptr) {
         TControl& other = *context.Form.Find(row.Toggles);
         other.SetEnabled(!other.Enabled());

@@ -16,9 +16,9 @@ bool Concerns(const TNeed& need, const std::wstring& control) {
 
 std::wstring Words(const TPageContext& context, const TNeed& need) {
     const TControl& of = *context.Form.Find(need.Of);
-    if (const auto* list = dynamic_cast<const TComboBox*>(&of))
+    if (of.Kind() == TComponentKind::ComboBox)
         return Formatted(context.Captions[need.IsNot ? TCaption::NotWhileChosen : TCaption::OnlyWhileChosen],
-                         {list->Items()[static_cast<std::size_t>(need.State)]});
+                         {static_cast<const TComboBox&>(of).Items()[static_cast<std::size_t>(need.State)]});
     const bool mustBe = (need.State != 0) != need.IsNot;
     const bool isRadio = of.Kind() == TComponentKind::RadioButton;
     const TCaption words = mustBe    ? isRadio ? TCaption::OnlyWhileChosen : TCaption::OnlyWhileChecked
@@ -71,7 +71,8 @@ std::vector<TNeed> NeedsOf(const TRow& row) {
                     needs.push_back({.Controls = controls, .Of = kind.Control});
             };
             if constexpr (requires { kind.Enables; }) add(kind.Enables);
-            if constexpr (requires { kind.EnablesOnClick; }) add(kind.EnablesOnClick);
+            if constexpr (requires { kind.OnClick; })
+                if (kind.OnClick != nullptr) add(kind.OnClick->Enables);
             if constexpr (requires { kind.Toggles; })
                 if (kind.Toggles != nullptr) add({&kind.Toggles, 1});
             if constexpr (requires { kind.Fields; })

@@ -95,7 +95,8 @@ std::set<std::wstring> TouchedBy(const TRow& row) {
     std::visit(
         [&](const auto& kind) {
             if constexpr (requires { kind.Enables; }) std::ranges::for_each(kind.Enables, add);
-            if constexpr (requires { kind.EnablesOnClick; }) std::ranges::for_each(kind.EnablesOnClick, add);
+            if constexpr (requires { kind.OnClick; })
+                if (kind.OnClick != nullptr) std::ranges::for_each(kind.OnClick->Enables, add);
             if constexpr (requires { kind.Toggles; }) add(kind.Toggles);
             if constexpr (requires { kind.Fields; })
                 for (const TBoxField& field : kind.Fields) add(field.Edit);

@@ -68,6 +68,12 @@ struct TDigits {
     const wchar_t* Number;
 };
 
+/// What a click brings up to date besides, and the loader leaves alone.
+struct TOnClick {
+    TControlNames Enables = {};  ///< of use only while the box is checked
+    const TDigits* Digits = nullptr;
+};
+
 /// A policy of Explorer's.
 [[nodiscard]] constexpr TPlace ExplorerPolicy(const wchar_t* policy) {
     return {kCurrentUser, kExplorerPolicies, policy};
@@ -85,10 +91,9 @@ struct TCheckBoxRow {
     TRestart Restart = TRestart::None;           ///< before the change takes effect
     TLevels LoadedOn = kEveryLevel;              ///< elsewhere the box keeps its state; it records everywhere
     TControlNames Enables = {};                  ///< of use only while the box is checked
-    TControlNames EnablesOnClick = {};           ///< the same, but left alone by the loader
     /// A control that the loader enables or disables with the box. A click turns it over, whatever it was.
     const wchar_t* Toggles = nullptr;
-    const TDigits* Refreshes = nullptr;  ///< brought up to date by a click, too
+    const TOnClick* OnClick = nullptr;
     const TPlace* LoadedFrom = nullptr;  ///< what shows, where it is not `Value`
     /// A policy of Explorer's that takes away what the box stands for while it is 1: the box is clear then, and a click
     /// turns the policy off or on as well, under the suffix 1.

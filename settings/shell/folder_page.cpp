@@ -84,11 +84,13 @@ constexpr TRow kViewRows[] = {
 };
 
 constexpr TDigits kFolderCount{kCountShow, kCount};
+constexpr TOnClick kShowsFolderCount{.Digits = &kFolderCount};
 constexpr const wchar_t* kFileTipEnables[] = {L"Checkbox_Folder_List_Details_FolderTip"};
 constexpr const wchar_t* kColorButtons[] = {L"Button_Folder_List_CompressedFile_Change",
                                             L"Button_Folder_List_EncryptedFile_Change"};
 constexpr const wchar_t* kColorLabels[] = {L"Label_Folder_List_CompressedFile",
                                            L"Label_Folder_List_EncryptedFile"};
+constexpr TOnClick kEnablesColorLabels{.Enables = kColorLabels};
 constexpr TBoxFurther kEncryptedColor[] = {
     {L"1",
      {kCurrentUser, kExplorerAdvancedUpper, L"ShowEncryptCompressedColor"},
@@ -100,7 +102,7 @@ constexpr TCheckBoxRow ColorRow(TLevels levels) {
                      .Shows = {.Missing = kClear, .When = {{0, kClear}}, .Otherwise = kChecked},
                      .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                      .Enables = kColorButtons,
-                     .EnablesOnClick = kColorLabels,
+                     .OnClick = &kEnablesColorLabels,
                      .Levels = levels};
     if (levels == kSinceWindows8) row.Further = kEncryptedColor;
     return row;
@@ -112,7 +114,7 @@ constexpr TRow kListRows[] = {
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
                  .Records = {.Checked = Dword(1), .Clear = Dword(0)},
                  .Enables = kFileTipEnables,
-                 .Refreshes = &kFolderCount},
+                 .OnClick = &kShowsFolderCount},
     TCheckBoxRow{.Control = L"Checkbox_Folder_List_Details_FolderTip",
                  .Value = {kCurrentUser, kExplorerAdvancedUpper, L"FolderContentsInfoTip"},
                  .Shows = {.Missing = kChecked, .When = {{0, kClear}}, .Otherwise = kChecked},
