@@ -49,8 +49,10 @@ std::string Lengthened(const std::string& file) {
 
 class TWholeTexts : public testing::Test {
   protected:
-    void Open(const std::wstring& language, const std::string& file) {
-        Fake.Windows.SetVersion({.PlatformId = 2, .Major = 6, .Minor = 1});
+    void Open(const std::wstring& language, const std::string& file, const TVersionNumbers& version) {
+        Fake.Windows.SetVersion(version);
+        Fake.Registry.PutKey(TRootKey::LocalMachine,
+                             L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Mozilla Firefox");
         Fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Users\\Me\\AppData");
         Fake.Files.Put(kLanguageFolder + language + L".lng", {file.begin(), file.end()});
         Fake.Files.PutText(kSuiteFolder + L"Main.ini", "[Main]\nLanguage=" + ToUtf8(language) + "\n");
@@ -169,14 +171,20 @@ class TWholeTexts : public testing::Test {
     }
 
     void CheckLanguage(const std::wstring& language, const std::string& file, const std::string& name) {
-        Open(language, file);
+        CheckVersion(language, file, name + " on Windows 7, ", {.PlatformId = 2, .Major = 6, .Minor = 1});
+        CheckVersion(language, file, name + " on Windows 11, ",
+                     {.PlatformId = 2, .Major = 10, .Minor = 0, .Build = 26100});
+    }
+    void CheckVersion(const std::wstring& language, const std::string& file, const std::string& name,
+                      const TVersionNumbers& version) {
+        Open(language, file, version);
         const HWND window = HandleOf(*Window);
-        Where = name + ", " + std::to_string(Scale(96)) + " dots: ";
+        Where = name + std::to_string(Scale(96)) + " dots: ";
         CheckSheets();
         if (Scale(96) == 96) {
             // What a task bar leaves of a screen of 800 by 600.
             SetWindowPos(window, nullptr, 0, 0, 800, 570, SWP_NOZORDER | SWP_NOACTIVATE);
-            Where = name + ", 800 x 600: ";
+            Where = name + "800 x 600: ";
             CheckSheets();
         }
         DestroyWindow(window);
