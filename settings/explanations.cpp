@@ -27,8 +27,9 @@ struct TInflation : z_stream {
 
 /// The packed text; empty when the bytes are broken.
 std::string Inflated(std::span<const std::uint8_t> packed) {
-    std::string text(UnpackedSize(packed), '\0');
-    if (text.size() > kLargestSize) return {};
+    const std::size_t size = UnpackedSize(packed);
+    if (size > kLargestSize) return {};
+    std::string text(size, '\0');
     TInflation stream;
     stream.next_in = packed.data();
     stream.avail_in = static_cast<uInt>(packed.size());

@@ -66,6 +66,15 @@
     return OnOffBox(control, {kCurrentUser, kExplorerAdvanced, valueName}, missing);
 }
 
+/// An option of the user's that is kept as "yes" or "no".
+[[nodiscard]] constexpr TCheckBoxRow YesOrNo(const wchar_t* control, const wchar_t* key,
+                                             const wchar_t* valueName, TBoxState missing = kChecked) {
+    return {.Control = control,
+            .Value = {kCurrentUser, key, valueName},
+            .Shows = {.Missing = missing, .When = {{AnyCase(L"yes"), kChecked}}, .Otherwise = kClear},
+            .Records = {.Checked = Text(L"yes"), .Clear = Text(L"no")}};
+}
+
 inline constexpr TDatum kFirstNumbers[] = {Dword(0), Dword(1), Dword(2), Dword(3)};
 
 /// A list of Explorer's whose items are numbered.

@@ -225,8 +225,8 @@ TRowWords Entry(const TNumberRow& row) {
     if (row.RemovedAt) writes += L"; " + DecimalText(*row.RemovedAt) + L" removes it";
     if (row.Further) writes += L". Also " + Words(row.Further->Value);
     return {Words(row.Value),
-            From(row.LoadedFrom ? &*row.LoadedFrom : nullptr, row.Value) + L"the number" +
-                Missing(row.LoadedFrom.value_or(row.Value), row.Missing) +
+            From(row.LoadedFrom, row.Value) + L"the number" +
+                Missing(row.LoadedFrom == nullptr ? row.Value : *row.LoadedFrom, row.Missing) +
                 (row.NoNumberIsFault ? L"; no number: a fault" : L""),
             writes};
 }

@@ -215,7 +215,7 @@ struct TNumberRow {
     const wchar_t* Digits = nullptr;      ///< a label that repeats the number
     bool Restart = false;
     TLevels LoadedOn = kEveryLevel;
-    std::optional<TPlace> LoadedFrom = std::nullopt;  ///< what shows, where it is not `Value`
+    const TPlace* LoadedFrom = nullptr;  ///< what shows, where it is not `Value`
     TLevels Levels = kEveryLevel;
 };
 

@@ -93,7 +93,7 @@ void ShowDigits(const TPageContext& context, const TDigits& digits) {
 void Load(TPageContext& context, const TNumberRow& row) {
     TControl* control = context.Form.Find(row.Control);
     if (control == nullptr) return;
-    const auto value = Stored(context, row.LoadedFrom.value_or(row.Value));
+    const auto value = Stored(context, row.LoadedFrom == nullptr ? row.Value : *row.LoadedFrom);
     const auto number = value ? AsInteger(*value) : row.Missing;
     if (value && !number && row.NoNumberIsFault) throw EConvertError(AsText(*value));
     if (number) SetNumber(*control, *number);

@@ -84,15 +84,6 @@ TControlDesign Design() {
                   Buttons(Button(L"Button_IE_Advanced_Default", L"&Default")))));
 }
 
-/// An option that Internet Explorer keeps as the text "yes" or "no".
-constexpr TCheckBoxRow YesOrNo(const wchar_t* control, const wchar_t* key, const wchar_t* valueName,
-                               TBoxState missing) {
-    return {.Control = control,
-            .Value = {kCurrentUser, key, valueName},
-            .Shows = {.Missing = missing, .When = {{AnyCase(L"yes"), kChecked}}, .Otherwise = kClear},
-            .Records = {.Checked = Text(L"yes"), .Clear = Text(L"no")}};
-}
-
 /// An option that Internet Explorer keeps as 1 or 0.
 constexpr TCheckBoxRow OneOrZero(const wchar_t* control, const wchar_t* key, const wchar_t* valueName,
                                  TBoxState missing) {

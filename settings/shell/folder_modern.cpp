@@ -22,7 +22,7 @@ TControlDesign FolderExplorerSheet() {
         L"TabSheet_Folder_Explorer", L"Explorer",
         Group(L"GroupBox_Folder_Explorer", L"Window",
               Fields(Row(Label(L"Label_Folder_Explorer_LaunchTo", L"&Open Explorer with:"),
-                         ComboBox(L"CB_Folder_Explorer_LaunchTo", {L"This PC", L"Home"})),
+                         ComboBox(L"CB_Folder_Explorer_LaunchTo", {L"This PC", L"Home or Quick access"})),
                      Row(Label(L"Label_Folder_Explorer_Ribbon", L"Ri&bbon:"),
                          ComboBox(L"CB_Folder_Explorer_Ribbon",
                                   {L"As I left it", L"Always small", L"Always open"}))),
@@ -38,5 +38,8 @@ TControlDesign FolderExplorerSheet() {
               CheckBox(L"Checkbox_Folder_Explorer_Cloud", L"Show files from the c&loud in Home"),
               CheckBox(L"Checkbox_Folder_Explorer_Home", L"Show &Home"),
               CheckBox(L"Checkbox_Folder_Explorer_Gallery", L"Show &Gallery")),
+        Group(L"GroupBox_Folder_Explorer_Address", L"Address bar and Run dialog",
+              CheckBox(L"Checkbox_Folder_Explorer_Suggest", L"&Suggest addresses in a list"),
+              CheckBox(L"Checkbox_Folder_Explorer_Append", L"Comple&te addresses while I type")),
         Buttons(Button(L"Button_Folder_Explorer_Default", L"&Default")));
 }

@@ -13,22 +13,26 @@ constexpr TNumberRow Rectangle(const wchar_t* control, TPlace width, TPlace heig
 }
 
 /// What Windows tells only through functions of its own is read where it keeps it.
-constexpr TNumberRow ReadFrom(TPlace place, TNumberRow row) {
-    row.LoadedFrom = As(TCoding::Number, place);
+constexpr TNumberRow ReadFrom(const TPlace& place, TNumberRow row) {
+    row.LoadedFrom = &place;
     return row;
 }
+
+constexpr TPlace kDoubleClickWidth = As(TCoding::Number, {kCurrentUser, kMouse, L"DoubleClickWidth"});
+constexpr TPlace kDoubleClickSpeed = As(TCoding::Number, {kCurrentUser, kMouse, L"DoubleClickSpeed"});
+constexpr TPlace kDragWidth = As(TCoding::Number, {kCurrentUser, kDesktop, L"DragWidth"});
 
 constexpr TRow kSensitivityRows[] = {
     TNumberRow{.Control = L"TrackBar_Use_MouseSensitivity_Speed",
                .Value = NumberParameter(0x70, 0x71, TParameterSlot::Data)},  // …MOUSESPEED
-    ReadFrom({kCurrentUser, kMouse, L"DoubleClickWidth"},
+    ReadFrom(kDoubleClickWidth,
              Rectangle(L"Updown_Use_MouseSensitivity_DoubleClickError",
                        NumberParameter(kSystemMetric + 36, 0x1D),    // SM_CXDOUBLECLK, SPI_SETDOUBLECLKWIDTH
                        NumberParameter(kSystemMetric + 37, 0x1E))),  // SM_CYDOUBLECLK, SPI_SETDOUBLECLKHEIGHT
-    ReadFrom({kCurrentUser, kMouse, L"DoubleClickSpeed"},
+    ReadFrom(kDoubleClickSpeed,
              {.Control = L"UpDown_Use_MouseSensitivity_DoubleClickTime",
               .Value = NumberParameter(kDoubleClickTime, 0x20)}),  // SPI_SETDOUBLECLICKTIME
-    ReadFrom({kCurrentUser, kDesktop, L"DragWidth"},
+    ReadFrom(kDragWidth,
              Rectangle(L"UpDown_Use_MouseSensitivity_Drag",
                        NumberParameter(kSystemMetric + 68, 0x4C),    // SM_CXDRAG, SPI_SETDRAGWIDTH
                        NumberParameter(kSystemMetric + 69, 0x4D))),  // SM_CYDRAG, SPI_SETDRAGHEIGHT

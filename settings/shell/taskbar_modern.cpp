@@ -31,7 +31,7 @@ TControlDesign TaskbarModernSheet() {
 }
 
 TControlDesign TaskbarScreensSheet() {
-    return Sheet(L"TabSheet_Taskbar_Screens", L"Screens and Messages",
+    return Sheet(L"TabSheet_Taskbar_Screens", L"Screens",
                  Group(L"GroupBox_Taskbar_Screens", L"Several screens",
                        CheckBox(kAllScreens, L"Show the &taskbar on all screens"),
                        Fields(Row(Label(L"Label_Taskbar_Screens_Buttons", L"Show taskbar &buttons on:"),

@@ -9,13 +9,20 @@
 
 // Windows' Settings and policy templates name the values; of those marked "not documented" the settings alone.
 
+inline constexpr TLevels kFirstWindows11 = kSinceWindows11 & UntilBuild(22620);
+
+[[nodiscard]] constexpr TChoiceRow SearchList(TLevels levels, int missing) {
+    return {.Control = L"CB_Taskbar_Modern_Search",
+            .Value = {kCurrentUser, kSearch, L"SearchboxTaskbarMode"},
+            .Items = kFirstNumbers,
+            .Missing = missing,
+            .Levels = levels};
+}
+
 inline constexpr TRow kTaskbarModernRows[] = {
     ExplorerList(L"CB_Taskbar_Modern_Alignment", L"TaskbarAl", 2, 1, kSinceWindows11),
-    TChoiceRow{.Control = L"CB_Taskbar_Modern_Search",
-               .Value = {kCurrentUser, kSearch, L"SearchboxTaskbarMode"},
-               .Items = kFirstNumbers,
-               .Missing = 2,
-               .Levels = kSinceWindows10},
+    SearchList(kSinceWindows10 & ~kFirstWindows11, 2),
+    SearchList(kFirstWindows11, 1),
     On(SinceBuild(19041), AllowedBox(L"Checkbox_Taskbar_Modern_SearchHighlights",
                                      {kLocalMachine, kSearchPolicies, L"EnableDynamicContentInWSB"}, 0)),
     On(kSinceWindows10, ExplorerOption(L"Checkbox_Taskbar_Modern_TaskView", L"ShowTaskViewButton")),
@@ -88,7 +95,8 @@ inline constexpr TNeed kOtherTaskbarsNeed{
 
 inline constexpr TPresetState kTaskbarModernDefault[] = {
     {L"CB_Taskbar_Modern_Alignment", 1},
-    {L"CB_Taskbar_Modern_Search", 2},
+    {L"CB_Taskbar_Modern_Search", 2, ~kFirstWindows11},
+    {L"CB_Taskbar_Modern_Search", 1, kFirstWindows11},
     {L"Checkbox_Taskbar_Modern_SearchHighlights", 1},
     {L"Checkbox_Taskbar_Modern_TaskView", 1},
     {L"Checkbox_Taskbar_Modern_Widgets", 1},

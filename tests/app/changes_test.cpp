@@ -39,6 +39,13 @@ class TUserPeer : public TFormPeer {
 void Press(TForm& form, const wchar_t* button) { form.Find<TButton>(button)->Click(); }
 TListView& List(TForm& form, const wchar_t* name) { return *form.Find<TListView>(name); }
 
+/// The field that finds settings is not.
+bool IsOnPage(const TControl& control) {
+    const TControl* c = &control;
+    while (c != nullptr && c->Kind() != TComponentKind::NotebookPage) c = c->Parent();
+    return c != nullptr;
+}
+
 class TWorld : public TRandomSystem {
   public:
     using TRandomSystem::TRandomSystem;
@@ -59,7 +66,8 @@ class TWorld : public TRandomSystem {
         for (const auto& component : Window->Components()) {
             auto& control = static_cast<TControl&>(*component);
             const bool isIdle = StateOf(control) == TControlState() && !control.Name().ends_with(L"_Default");
-            if (!isIdle && control.Enabled() && control.Visible()) controls.push_back(&control);
+            if (!isIdle && IsOnPage(control) && control.Enabled() && control.Visible())
+                controls.push_back(&control);
         }
         for (; actions > 0; --actions) {
             TControl& control = *controls[static_cast<std::size_t>(Pick(static_cast<int>(controls.size())))];
