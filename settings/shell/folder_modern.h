@@ -7,6 +7,8 @@
 [[nodiscard]] TControlDesign FolderFilesSheet();
 [[nodiscard]] TControlDesign FolderExplorerSheet();
 
+inline constexpr const wchar_t* kPinned = L"System.IsPinnedToNameSpaceTree";
+
 inline constexpr TRow kFolderFilesRows[] = {
     TCheckBoxRow{.Control = L"Checkbox_Folder_Files_Extensions",
                  .Value = {kCurrentUser, kExplorerAdvanced, L"HideFileExt"},
@@ -28,12 +30,13 @@ inline constexpr TRow kFolderFilesRows[] = {
                  .Records = {.Checked = Dword(1), .Clear = kDeleteValue},
                  .Levels = kSinceWindows8},
     On(kSinceWindows8, AllowedBox(L"Checkbox_Folder_Files_RecycleBin", ExplorerPolicy(L"NoRecycleFiles"), 1)),
+    // OneDrive writes it for itself.
+    On(kSinceWindows10, AfterExplorer(OnOffBox(L"Checkbox_Folder_Files_OneDrive",
+                                             {kCurrentUser, kOneDriveFolder, kPinned}, kClear))),
 };
 
 inline constexpr TDatum kFirstFolders[] = {Dword(1), Dword(2)};
 inline constexpr TDatum kRibbons[] = {kDeleteValue, Dword(1), Dword(2)};
-
-inline constexpr const wchar_t* kPinned = L"System.IsPinnedToNameSpaceTree";
 
 /// An entry of the navigation pane, by its folder.
 [[nodiscard]] constexpr TCheckBoxRow PinnedFolder(const wchar_t* control, const wchar_t* folder) {
@@ -85,9 +88,6 @@ inline constexpr TRow kFolderExplorerRows[] = {
     On(kSinceWindows11, YesOrNo(L"Checkbox_Folder_Explorer_Suggest", kExplorerAutoComplete, L"AutoSuggest")),
     On(kSinceWindows11,
        YesOrNo(L"Checkbox_Folder_Explorer_Append", kExplorerAutoComplete, L"Append Completion", kClear)),
-    // OneDrive writes it for itself.
-    On(kSinceWindows10, AfterExplorer(OnOffBox(L"Checkbox_Folder_Files_OneDrive",
-                                               {kCurrentUser, kOneDriveFolder, kPinned}, kClear))),
 };
 
 inline constexpr TPresetState kFolderFilesDefault[] = {
