@@ -15,8 +15,7 @@ Images="$Root/resources/images"
 Sources="$Images/svg"
 CategorySizes=(16 20 24 32)  # 96, 120, 144 and 192 DPI; 32 at 96 DPI in the header of a page, too
 HeaderSize=48                # at 144 DPI in the header of a page; scaled down for 120 DPI
-HiddenCategories=(mail web_other)
-LoadingSizes=(32 40 48 64)
+LoadingSizes=(32 64)         # 96 and 192 DPI; scaled down for those between
 PageHeights=(100 200)        # 96 and 192 DPI; scaled down for those between
 LoadingDots=7                # also the number of frames
 
@@ -58,8 +57,7 @@ RenderCategories() {
         for size in "${CategorySizes[@]}"; do
             Render "$(SourceFor "$name" "$size")" "$size" "$Work/${name}_$size.png"
         done
-        [[ " ${HiddenCategories[*]} " == *" $name "* ]] ||
-            RenderSmall "$file" "$HeaderSize" "$Work/${name}_$HeaderSize.png"
+        RenderSmall "$file" "$HeaderSize" "$Work/${name}_$HeaderSize.png"
     done
 }
 

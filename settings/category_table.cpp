@@ -24,8 +24,8 @@ constexpr TCategoryItemRow kCommunication[] = {
     {L"Network", L"network", 7, TCaption::SystemNetwork, TCaption::AboutNetwork},
     {L"Driver", L"driver", 14, TCaption::SystemDriver, TCaption::AboutDriver},
     {L"Memory and Cache", L"memory", 15, TCaption::SystemMandC, TCaption::AboutMemory},
-    {L"Opera", L"web_other", 10, std::nullopt, {}},
-    {L"E-mail and contacts", L"mail", 11, std::nullopt, {}},
+    {L"Opera", L"", 10, std::nullopt, {}},
+    {L"E-mail and contacts", L"", 11, std::nullopt, {}},
 };
 constexpr TCategoryItemRow kManage[] = {
     {L"User Logon", L"user_logon", 13, TCaption::SecurityUserLogon, TCaption::AboutUserLogon},
