@@ -32,7 +32,7 @@ inline constexpr TRow kFolderFilesRows[] = {
     On(kSinceWindows8, AllowedBox(L"Checkbox_Folder_Files_RecycleBin", ExplorerPolicy(L"NoRecycleFiles"), 1)),
     // OneDrive writes it for itself.
     On(kSinceWindows10, AfterExplorer(OnOffBox(L"Checkbox_Folder_Files_OneDrive",
-                                             {kCurrentUser, kOneDriveFolder, kPinned}, kClear))),
+                                               {kCurrentUser, kOneDriveFolder, kPinned}, kClear))),
 };
 
 inline constexpr TDatum kFirstFolders[] = {Dword(1), Dword(2)};
