@@ -28,26 +28,27 @@ std::int32_t ReadInteger(const TExtIniFile& file, const std::wstring& section, c
     return ParseInteger(file.ReadString(section, key, L"")).value_or(0);
 }
 
-/// The section of the profile that an installation starts with, as Firefox 67 and later note it; empty when they do not.
-std::wstring ProfileOfInstallation(const TExtIniFile& profiles, const std::vector<std::wstring>& sections) {
+/// The section of the profile that an installation starts with, as Firefox 67 and later note it; nothing when they do not.
+std::optional<std::wstring> ProfileOfInstallation(const TExtIniFile& profiles,
+                                                  const std::vector<std::wstring>& sections) {
     std::unordered_map<std::wstring, std::size_t, TTextHash, TTextEqual> byPath;
     for (std::size_t i = 0; i < sections.size(); ++i)
         byPath.emplace(profiles.ReadString(sections[i], L"Path", L""), i);
     byPath.erase(L"");
-    std::wstring found;
+    std::optional<std::wstring> found;  // which may be without a name
     for (const std::wstring& section : sections) {
         if (FindText(section, L"Install") != 0) continue;
         const auto profile = byPath.find(profiles.ReadString(section, L"Default", L""));
         if (profile == byPath.end()) continue;
         if (ReadInteger(profiles, section, L"Locked") != 0) return sections[profile->second];
-        if (found.empty()) found = sections[profile->second];
+        if (!found) found = sections[profile->second];
     }
     return found;
 }
 
 std::wstring ProfileInUse(const TExtIniFile& profiles) {
     const auto sections = profiles.ReadSections();
-    if (std::wstring section = ProfileOfInstallation(profiles, sections); !section.empty()) return section;
+    if (auto section = ProfileOfInstallation(profiles, sections)) return *std::move(section);
     const auto found = std::ranges::find_if(sections, [&](const std::wstring& section) {
         return ReadInteger(profiles, section, L"Default") != 0;
     });

@@ -119,6 +119,10 @@ TEST_F(TSettings, OfLaterWindowsAreOfferedAndWrittenThere) {
     constexpr const wchar_t* kWindowsNt = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
     const TPlace version{kMachine, kWindowsNt, L"CurrentVersion"};
     const TPlace build{kMachine, kWindowsNt, L"CurrentBuildNumber"};
+    // As 32-bit programs see it.
+    constexpr const wchar_t* kWindowsNt32 = L"SOFTWARE\\Wow6432Node\\Microsoft\\Windows NT\\CurrentVersion";
+    const TPlace version32{kMachine, kWindowsNt32, L"CurrentVersion"};
+    const TPlace build32{kMachine, kWindowsNt32, L"CurrentBuildNumber"};
     const struct {
         std::optional<TStoredValue> Played;
         const wchar_t* Control;
@@ -133,12 +137,12 @@ TEST_F(TSettings, OfLaterWindowsAreOfferedAndWrittenThere) {
     for (const auto& each : cases) {
         SCOPED_TRACE(Utf8(each.Control));
         const TPlace place{kUser, kAdvanced, each.ValueName};
-        const TValueKeeper keeper{{place, version, build}};
+        const TValueKeeper keeper{{place, version, build, version32, build32}};
         Store(place, std::nullopt);
         Store(kPlayedVersion, each.Played);
         if (!each.Played) {
-            Store(version, Text(L"10.0"));
-            Store(build, Text(L"22631"));
+            for (const TPlace& view : {version, version32}) Store(view, Text(L"10.0"));
+            for (const TPlace& view : {build, build32}) Store(view, Text(L"22631"));
         }
         const TProgram program;
         const TMainWindow& window = program.Window();

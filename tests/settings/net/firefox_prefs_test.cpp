@@ -104,6 +104,9 @@ TEST_F(TFirefoxPrefsTest, AnInstallationNamesItsProfile) {
         {"[Install1]\nDefault=Profiles/gone\nLocked=1\n[Install2]\nDefault=\n[Install3]\nLocked=1\n",
          L"Profiles/1"},
         {"[4F96]\nDefault=Profiles/0\nLocked=1\n", L"Profiles/1"},
+        {"[Install1]\nDefault=Profiles/nameless\n[]\nPath=Profiles/nameless\nIsRelative=1\n[Install2]\n"
+         "Default=Profiles/0\n",
+         L"Profiles/nameless"},
     };
     for (const auto& [installs, expected] : cases) {
         for (const bool isFirst : {false, true}) {
