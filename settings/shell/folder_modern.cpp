@@ -14,6 +14,9 @@ TControlDesign FolderFilesSheet() {
         Group(L"GroupBox_Folder_Files_Delete", L"Deleting",
               CheckBox(L"Checkbox_Folder_Files_AskDelete", L"As&k before deleting"),
               CheckBox(L"Checkbox_Folder_Files_RecycleBin", L"&Move deleted files to the Recycle Bin")),
+        Group(L"GroupBox_Folder_Explorer_Address", L"Address bar and Run dialog",
+              CheckBox(L"Checkbox_Folder_Explorer_Suggest", L"&Suggest addresses in a list"),
+              CheckBox(L"Checkbox_Folder_Explorer_Append", L"Comple&te addresses while I type")),
         Buttons(Button(L"Button_Folder_Files_Default", L"&Default")));
 }
 
@@ -38,8 +41,5 @@ TControlDesign FolderExplorerSheet() {
               CheckBox(L"Checkbox_Folder_Explorer_Cloud", L"Show files from the c&loud in Home"),
               CheckBox(L"Checkbox_Folder_Explorer_Home", L"Show &Home"),
               CheckBox(L"Checkbox_Folder_Explorer_Gallery", L"Show &Gallery")),
-        Group(L"GroupBox_Folder_Explorer_Address", L"Address bar and Run dialog",
-              CheckBox(L"Checkbox_Folder_Explorer_Suggest", L"&Suggest addresses in a list"),
-              CheckBox(L"Checkbox_Folder_Explorer_Append", L"Comple&te addresses while I type")),
         Buttons(Button(L"Button_Folder_Explorer_Default", L"&Default")));
 }

@@ -98,6 +98,8 @@ inline constexpr TPresetState kFolderFilesDefault[] = {
     {L"Checkbox_Folder_Files_NetworkThumbnails", 1},
     {L"Checkbox_Folder_Files_AskDelete", 0},
     {L"Checkbox_Folder_Files_RecycleBin", 1},
+    {L"Checkbox_Folder_Explorer_Suggest", 1},
+    {L"Checkbox_Folder_Explorer_Append", 0},
 };
 inline constexpr TPresetState kFolderExplorerDefault[] = {
     {L"CB_Folder_Explorer_LaunchTo", 1},          {L"CB_Folder_Explorer_Ribbon", 0},
@@ -106,5 +108,4 @@ inline constexpr TPresetState kFolderExplorerDefault[] = {
     {L"Checkbox_Folder_Explorer_SyncNotices", 1}, {L"Checkbox_Folder_Explorer_Recent", 1},
     {L"Checkbox_Folder_Explorer_Frequent", 1},    {L"Checkbox_Folder_Explorer_Cloud", 1},
     {L"Checkbox_Folder_Explorer_Gallery", 1},     {L"Checkbox_Folder_Explorer_Home", 1},
-    {L"Checkbox_Folder_Explorer_Suggest", 1},     {L"Checkbox_Folder_Explorer_Append", 0},
 };

@@ -105,8 +105,6 @@ inline constexpr TPresetState kTaskbarModernDefault[] = {
     {L"Checkbox_Taskbar_Modern_News", 1},
     {L"Checkbox_Taskbar_Modern_Chat", 1},
     {L"Checkbox_Taskbar_Modern_People", 1},
-    {L"Checkbox_Taskbar_Modern_Badges", 1},
-    {L"Checkbox_Taskbar_Modern_Flashing", 1},
     {L"Checkbox_Taskbar_Modern_Sharing", 1},
     {L"Checkbox_Taskbar_Modern_Corner", 1},
     {L"Checkbox_Taskbar_Modern_EndTask", 0},
@@ -118,4 +116,5 @@ inline constexpr TPresetState kTaskbarScreensDefault[] = {
     {L"CB_Taskbar_Screens_Buttons", 0},          {L"CB_Taskbar_Screens_Combine", 0},
     {L"Checkbox_Taskbar_Messages_Seconds", 0},   {L"Checkbox_Taskbar_Messages_Center", 1},
     {L"Checkbox_Taskbar_Messages_Promotion", 1}, {L"Checkbox_Taskbar_Messages_MeetNow", 1},
+    {L"Checkbox_Taskbar_Modern_Badges", 1},      {L"Checkbox_Taskbar_Modern_Flashing", 1},
 };
