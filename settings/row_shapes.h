@@ -2,8 +2,9 @@
 //
 // Explorer reads its settings once. After each Apply it is told that they changed, and reads its preferences again. What
 // it has built before from a policy (menus, the notification area) it may keep until the next logon: rows of policies, and
-// those few of preferences that the taskbar reads only when it starts, are marked with Restart. This holds for the pages
-// of the Start menu and the taskbar; on the others each row has a mark of its own.
+// those few of preferences that the taskbar reads only when it starts, are marked with Restart. What Windows 7 has,
+// too, waits for Windows, whose restart has always been offered; what came later waits for Explorer where that is enough.
+// This holds for the pages of the Start menu and the taskbar; on the others each row has a mark of its own.
 #pragma once
 
 #include "settings/registry_keys.h"
@@ -107,13 +108,14 @@ template <typename T>
     return row;
 }
 
-/// The row of what waits for a restart.
+/// The row of what waits for Explorer to be started again.
 template <typename T>
 [[nodiscard]] constexpr T AfterExplorer(T row) {
     row.Restart = TRestart::Explorer;
     return row;
 }
 
+/// The row of what waits for a restart of Windows.
 template <typename T>
 [[nodiscard]] constexpr T WithRestart(T row) {
     row.Restart = TRestart::Windows;
