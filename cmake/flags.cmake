@@ -9,6 +9,9 @@ target_compile_options(quilltune_flags INTERFACE -Wall -Wextra -Werror -Wno-miss
 
 # Of the program itself, not of its tests.
 set(QUILLTUNE_STRICT_WARNINGS -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    list(APPEND QUILLTUNE_STRICT_WARNINGS -Wreserved-identifier)
+endif()
 
 if(WIN32)
     # Windows 2000 is the oldest system: its headers hide whatever came later.

@@ -11,11 +11,10 @@ Targets=("${@:2}")
 
 RequirePackages cmake ninja-build "${ClangPackages[@]}"
 Folder="$Root/build/fuzz"
-cmake -S "$Root/tests/fuzz" -B "$Folder" -G Ninja -D CMAKE_CXX_COMPILER=clang++ >&2
+{ cmake -S "$Root/tests/fuzz" -B "$Folder" -G Ninja -D CMAKE_CXX_COMPILER=clang++ && cmake --build "$Folder"; } >&2
 for Target in "${Targets[@]}"; do
-    cmake --build "$Folder" --target "${Target}_fuzz" >&2
     mkdir -p "$Folder/corpus/$Target"
     Say "Fuzzing $Target for $Seconds seconds"
-    "$Folder/${Target}_fuzz" -max_total_time="$Seconds" -max_len=4096 -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
+    "$Folder/fuzz" "$Target" -max_total_time="$Seconds" -max_len=4096 -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
         -artifact_prefix="$Folder/$Target-" "$Folder/corpus/$Target" "$Root/tests/fuzz/corpus/$Target"
 done

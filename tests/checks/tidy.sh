@@ -6,7 +6,7 @@
 # common, each half of them is looked at, down to the single file, and only this counts.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
-Groups=4
+Groups=2
 # A function's paths grow with every branch of what it calls. After this many steps of one function (its own limit is
 # 225,000) the analyzer has seen nearly every branch once and only combines them further, at twice the time.
 export PathSteps=40000
@@ -40,9 +40,15 @@ TidyGroup() {
 
 export -f Tidy TidyGroup
 
-# Prints the files, a group to a line. None comes to another that has a name in use which it defines for itself alone.
+# Prints the files, a group to a line. None comes to another that defines the same name for itself alone, or that has it in
+# use while a header declares that name outside of classes as well.
 Groups() {
-    awk -v groups=$Groups '
+    find app console settings engine platform ui base -name '*.h' -exec cat {} + | awk -v Groups=$Groups '
+        FILENAME == "-" {
+            Words = split($0, Word, /[^A-Za-z_0-9]+/)
+            if (/^[^ ]/) for (i = 1; i <= Words; i++) Known[Word[i]] = 1
+            next
+        }
         FNR == 1 { Files[++Count] = FILENAME; Own = 0; Page = FILENAME ~ /_page\.cpp$/ }
         /^namespace \{$/ { Own = !Page }
         /^}  \/\/ namespace$/ { Own = 0 }
@@ -50,10 +56,14 @@ Groups() {
             Name = substr($0, RSTART, RLENGTH)
             sub(/[^A-Za-z_0-9].*/, "", Name)
             OwnNames[Count, ++Owned[Count]] = Name
+            IsOwn[Count, Name] = 1
         }
-        { Words = split($0, Word, /[^A-Za-z_0-9]+/); for (i = 1; i <= Words; i++) Uses[Count, Word[i]] = 1; Lines[Count]++ }
+        { Words = split($0, Word, /[^A-Za-z_0-9]+/); for (i = 1; i <= Words; i++) Uses[Count, Word[i]] = 1; Lines[Count]++; All++ }
         function Clash(one, other,   i) {
-            for (i = 1; i <= Owned[one]; i++) if ((other, OwnNames[one, i]) in Uses) return 1
+            for (i = 1; i <= Owned[one]; i++) {
+                Name = OwnNames[one, i]
+                if ((other, Name) in IsOwn || Name in Known && (other, Name) in Uses) return 1
+            }
             return 0
         }
         function Fits(file, group,   i) {
@@ -62,16 +72,15 @@ Groups() {
         }
         END {
             for (file = 1; file <= Count; file++) {
-                best = 0
-                for (group = 1; group <= groups; group++)
-                    if (Fits(file, group) && (!best || Size[group] < Size[best])) best = group
-                if (!best) best = ++groups
+                best = 1
+                while (best <= groups && (Size[best] > All / Groups || !Fits(file, best))) ++best
+                if (best > groups) groups = best
                 In[file] = best
                 Size[best] += Lines[file]
                 Line[best] = Line[best] " " Files[file]
             }
             for (group = 1; group <= groups; group++) print Line[group]
-        }' "$@"
+        }' - "$@"
 }
 
 # shellcheck disable=SC2046  # many files

@@ -6,8 +6,11 @@
 #include <cstdlib>
 #include <vector>
 
-/// libFuzzer calls it with one input after the other.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+// The targets; each is called with one input after the other.
+void FuzzLanguageFile(const std::uint8_t* data, std::size_t size);
+void FuzzPrefs(const std::uint8_t* data, std::size_t size);
+void FuzzProfiles(const std::uint8_t* data, std::size_t size);
+void FuzzRegFile(const std::uint8_t* data, std::size_t size);
 
 /// Ends the run with the present input as the culprit.
 inline void Require(bool holds, const char* what) {

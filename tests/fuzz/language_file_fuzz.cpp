@@ -68,7 +68,7 @@ void RequireSame(const TExtIniFile& file, TSections sections) {
 
 }  // namespace
 
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void FuzzLanguageFile(const std::uint8_t* data, std::size_t size) {
     TFakeSystem fake;
     fake.Files.Put(kFile, {data, data + size});
     TExtIniFile file;
@@ -95,5 +95,4 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     file.EraseSection(name);
     sections.erase(LastOf(sections, name).base() - 1);
     RequireSame(file, sections);
-    return 0;
 }

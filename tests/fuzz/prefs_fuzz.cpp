@@ -177,7 +177,7 @@ void RequireHandWrittenIsKept(TFakeSystem& fake, TFirefoxPrefs& prefs, const std
 
 }  // namespace
 
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void FuzzPrefs(const std::uint8_t* data, std::size_t size) {
     TFakeSystem fake;
     fake.Files.PutText(L"C:\\Firefox\\profiles.ini", "[Profile0]\nIsRelative=1\nPath=p\n");
     fake.Files.Put(kUserFile, {data, data + size});
@@ -213,5 +213,4 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         RequireChange(prefs, name, L"");
         RequireReading(prefs, name);
     }
-    return 0;
 }

@@ -34,7 +34,7 @@ std::wstring ProfileFolder(const std::wstring& text) {
 
 }  // namespace
 
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void FuzzProfiles(const std::uint8_t* data, std::size_t size) {
     TFakeSystem fake;
     fake.Files.Put(kFolder + std::wstring(L"profiles.ini"), {data, data + size});
     const std::wstring folder = ProfileFolder(DecodeUtf8OrAnsi({data, size}, fake.Windows).Text);
@@ -46,5 +46,4 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Require((prefs.GetFirefoxPref(L"\"found\"") == L"true") == !folder.empty(),
             "its user.js is read, if there is one");
     Require(fake.Files.Replaced().empty(), "nothing is written");
-    return 0;
 }

@@ -6,14 +6,14 @@
 #include "tests/fakes/fake_windows_info.h"
 #include "tests/fuzz/fuzz.h"
 
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void FuzzRegFile(const std::uint8_t* data, std::size_t size) {
     const TFakeWindowsInfo windows;
     const auto read = ReadRegFile({data, size}, windows);
     if (const auto* error = std::get_if<TRegFileError>(&read)) {
         const auto ends = std::count(data, data + size, '\n') + std::count(data, data + size, '\r');
         Require(error->Line >= 1 && error->Line <= static_cast<std::size_t>(ends) + 1,
                 "the line is in the file");
-        return 0;
+        return;
     }
     const auto& set = std::get<TChangeSet>(read);
     // The shortest are "[HKU]" and "@=-".
@@ -23,5 +23,4 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Require(std::holds_alternative<TChangeSet>(again) && std::get<TChangeSet>(again) == set,
             "what was read is written so that it reads the same");
     Require(WriteRegFile(std::get<TChangeSet>(again)) == written, "it is written the same again");
-    return 0;
 }

@@ -107,7 +107,10 @@ class TChanges : public TProgramTest {
             DeleteFileW((HistoryFolder() + L"\\" + entry).c_str());
         DeleteFileW(HistoryFolder().c_str());
     }
-    int Pick(int count) { return static_cast<int>(FRandom() % static_cast<unsigned>(count)); }
+    int Pick(int count) {
+        if (count <= 0) throw TAutomationError(L"nothing to pick from");
+        return static_cast<int>(FRandom() % static_cast<unsigned>(count));
+    }
     template <typename T>
     const T& PickOf(const std::vector<T>& list) {
         return list[static_cast<std::size_t>(Pick(static_cast<int>(list.size())))];
@@ -183,20 +186,21 @@ class TChanges : public TProgramTest {
 
     /// What a user may do on a page.
     void ActOnPage(const TMainWindow& window, int actions) {
-        auto controls = window.Controls();
-        const auto some = [&](const auto& matches) {
-            std::vector<TNamedControl> list;
+        std::vector<std::wstring> items;
+        for (const TNamedControl& control : window.Controls())
+            if (control.Name.find(L".Items[") != std::wstring::npos && IsWindowVisible(control.Window))
+                items.push_back(control.Name);
+        window.Click(PickOf(items));
+        // A page that takes long to load answers before it is shown.
+        std::vector<TNamedControl> controls;
+        HWND page = nullptr;
+        const bool isShown = WaitUntil([&] {
+            controls = window.Controls();
             for (const TNamedControl& control : controls)
-                if (matches(control.Name) && IsWindowVisible(GetParent(control.Window)))
-                    list.push_back(control);
-            return PickOf(list);
-        };
-        window.Click(some([&](const std::wstring& name) {
-                         return name.find(L".Items[") != std::wstring::npos && window.Visible(name);
-                     }).Name);
-        controls = window.Controls();
-        const HWND page =
-            some([&](const std::wstring& name) { return name[0] <= L'9' && window.Visible(name); }).Window;
+                if (control.Name[0] <= L'9' && IsWindowVisible(control.Window)) page = control.Window;
+            return page != nullptr;
+        });
+        if (!isShown) throw TAutomationError(L"no page is shown");
         std::erase_if(controls, [=](const TNamedControl& control) {
             return !IsChild(page, control.Window) || ClassOf(control.Window) == L"Static";
         });
@@ -314,6 +318,9 @@ class TChanges : public TProgramTest {
     }
 
     std::mt19937 FRandom;
+    testing::ScopedTrace FSeed{
+        __FILE__, __LINE__,
+        testing::Message() << "--gtest_random_seed=" << testing::UnitTest::GetInstance()->random_seed()};
     TSnapshot FBegin = RegistrySnapshot();
     SC_HANDLE FServices = OpenSCManagerW(nullptr, nullptr, SC_MANAGER_ALL_ACCESS);
     std::wstring FProfile = Variable(L"APPDATA") + L"\\Mozilla\\Firefox\\p";
