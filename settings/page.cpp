@@ -27,6 +27,12 @@ void HideField(TControl& control) {
     if (label.Kind() == TComponentKind::Label) label.SetVisible(false);
 }
 
+/// Whether the control is that one or lies in it.
+bool Holds(const TControl& container, const TControl* control) {
+    while (control != nullptr && control != &container) control = control->Parent();
+    return control != nullptr;
+}
+
 /// Whether the control lies in the container and is seen wherever that is. A sheet may be out of sight for a while.
 bool IsLeftIn(const TControl& container, const TControl& control) {
     const TControl* c = &control;
@@ -158,15 +164,10 @@ void TPage::NameAsThisWindowsDoes() const {
 }
 
 bool TPage::IsOffered(const TRow& row) const {
-    const auto isHidden = [this](const TControl& control) {
-        return std::any_of(FDefinition.Offers.begin(), FDefinition.Offers.end(), [&](const TOffer& offer) {
-            return control.Name() == offer.Control && !offer.Levels.Include(FContext.Release);
-        });
-    };
-    const auto names = ControlsOf(row);
-    for (const TControl* c = FContext.Form.Find(names.front()); c != nullptr; c = c->Parent())
-        if (isHidden(*c)) return false;
-    return true;
+    const TControl* const control = FContext.Form.Find(ControlsOf(row).front());
+    return std::ranges::none_of(FDefinition.Offers, [&](const TOffer& offer) {
+        return !offer.Levels.Include(FContext.Release) && Holds(*FContext.Form.Find(offer.Control), control);
+    });
 }
 
 bool TPage::IsHeld(const std::wstring& control) const {

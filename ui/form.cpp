@@ -108,7 +108,7 @@ TForm::~TForm() {
 }
 
 void TForm::Build(TControl& parent, const TControlDesign& design) {
-    Populate(parent, {design}, FLayouts[&parent]);
+    Populate(parent, {&design, 1}, FLayouts[&parent]);
 }
 
 TControl& TForm::Create(TControl& parent, const TControlDesign& design) {
@@ -131,7 +131,7 @@ TControl& TForm::Create(TControl& parent, const TControlDesign& design) {
     return control;
 }
 
-void TForm::Populate(TControl& container, const std::vector<TControlDesign>& designs, TLayoutBox& box) {
+void TForm::Populate(TControl& container, std::span<const TControlDesign> designs, TLayoutBox& box) {
     for (const TControlDesign& design : designs) {
         TLayoutBox inner;
         inner.Kind = design.Layout;

@@ -1,6 +1,7 @@
 // A form: the window, and the owner of every component on it.
 #pragma once
 
+#include <span>
 #include <unordered_map>
 
 #include "ui/component.h"
@@ -103,7 +104,7 @@ class TForm : public TControl {
 
   private:
     TControl& Create(TControl& parent, const TControlDesign& design);
-    void Populate(TControl& container, const std::vector<TControlDesign>& designs, TLayoutBox& box);
+    void Populate(TControl& container, std::span<const TControlDesign> designs, TLayoutBox& box);
 
     std::wstring FClassName;
     std::vector<std::unique_ptr<TComponent>> FComponents;
