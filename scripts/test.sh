@@ -5,7 +5,7 @@ set -euo pipefail
 . "$(dirname "$0")/lib.sh"
 
 RequirePackages "${BuildPackages[@]}" "${WinePackages[@]}" libgtest-dev libgmock-dev zlib1g-dev nlohmann-json3-dev "${ClangPackages[@]}" \
-    clang-format clang-tidy debootstrap
+    clang-format clang-tidy lld debootstrap
 
 Passed=0
 Failed=0
