@@ -88,10 +88,7 @@ void TRadioButtonPeer::ShowTabStops() {
     if (stop == group.end()) stop = std::find_if(group.begin(), group.end(), CanBeChosen);
     for (auto button = group.begin(); button != group.end(); ++button) {
         const TWindowPeer* peer = *button == &Control() ? this : PeerOf(**button);
-        if (peer == nullptr || peer->Handle() == nullptr) continue;
-        const LONG_PTR style = GetWindowLongPtrW(peer->Handle(), GWL_STYLE);
-        SetWindowLongPtrW(peer->Handle(), GWL_STYLE,
-                          button == stop ? style | WS_TABSTOP : style & ~WS_TABSTOP);
+        if (peer != nullptr && peer->Handle() != nullptr) SetTabStop(peer->Handle(), button == stop);
     }
 }
 
