@@ -1,5 +1,7 @@
 #include "ui/win32/field_peers.h"
 
+#include <utility>
+
 #include "ui/win32/form_window.h"
 
 namespace {
@@ -190,6 +192,7 @@ void TComboBoxPeer::ShowState() {
 /// The height of a combo box window is that of its dropped list; the closed box is sized by its item height. What it
 /// uncovers is its parent's to draw: Windows closes the box without telling the windows below it.
 void TComboBoxPeer::Place(const TRect& place) {
+    if (std::exchange(FGiven, place) == place && Placed() != TRect()) return;
     constexpr int kMostItemsShown = 16;
     const int items =
         std::min(static_cast<int>(static_cast<TComboBox&>(Control()).Items().size()), kMostItemsShown);

@@ -194,6 +194,11 @@ void TFormWindow::LayOutChanged() {
     }
 }
 
+void TFormWindow::CreatePage(TControl& page) {
+    LayOutChanged();  // what is placed after it is seen is drawn twice
+    FFiller.CreatePage(page);
+}
+
 void TFormWindow::RestyleLater() {
     // Windows announces a change by several messages, some of them to the inner windows after the form.
     if (!std::exchange(FRestyles, true)) PostMessageW(Handle(), kRestyleMessage, 0, 0);

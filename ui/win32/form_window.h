@@ -77,7 +77,7 @@ class TFormWindow : public TFormPeer {
     /// See TContainerPeer.
     void CreateLate(TControl& control) { FWindow.CreateLate(control); }
     /// See TPageFiller.
-    void CreatePage(TControl& page) { FFiller.CreatePage(page); }
+    void CreatePage(TControl& page);
     /// Lets the timer tick until StopTimer; the answer identifies it.
     [[nodiscard]] unsigned StartTimer(TTimer& timer);
     void StopTimer(unsigned id);
