@@ -221,7 +221,8 @@ bool TContainerPeer::CatchUpNext() {
 UINT TContainerPeer::MoveFlags(const TRect& place) const {
     const bool stays = place.Left == Placed().Left && place.Top == Placed().Top;
     if (!stays) return SWP_NOCOPYBITS | SWP_FRAMECHANGED;
-    const bool grows = Placed() != TRect() && place.Width >= Placed().Width && place.Height >= Placed().Height;
+    const bool grows =
+        Placed() != TRect() && place.Width >= Placed().Width && place.Height >= Placed().Height;
     return grows && IsCovered() ? SWP_NOREDRAW : 0;
 }
 
