@@ -31,7 +31,9 @@ TCategoryItemPeer::TCategoryItemPeer(TFormWindow& form, TCategoryItem& item, HWN
 }
 
 void TCategoryItemPeer::OnCommand(WORD code) {
-    if (code == BN_CLICKED && Control().Enabled()) static_cast<TCategoryItem&>(Control()).Click();
+    if (code != BN_CLICKED || !Control().Enabled()) return;
+    static_cast<TCategoryItem&>(Control()).Click();
+    FForm.DrawAll();
 }
 
 void TCategoryItemPeer::ShowState() {

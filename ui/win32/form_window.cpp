@@ -222,6 +222,10 @@ void TFormWindow::Fault(std::exception_ptr fault) const {
     if (FFaultHandler) FFaultHandler(std::move(fault));
 }
 
+void TFormWindow::DrawAll() const {
+    if (Handle() != nullptr) RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
 void TFormWindow::CommitFocus() const {
     const TWindowPeer* peer = PeerOf(GetFocus());
     if (peer == nullptr || peer->Control().Kind() != TComponentKind::Edit) return;

@@ -72,6 +72,9 @@ class TFormWindow : public TFormPeer {
     /// Lays the control's container out anew once the present message is handled.
     void LayOutLater(const TControl& control);
     void Fault(std::exception_ptr fault) const;
+    /// Draws at once whatever waits for it: a user who resizes the window or goes to another page sees it whole, and not window
+    /// by window.
+    void DrawAll() const;
     /// Commits the edit that has the focus: a button can be pressed without taking the focus from it.
     void CommitFocus() const;
     /// See TContainerPeer.
