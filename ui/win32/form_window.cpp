@@ -206,6 +206,7 @@ void TFormWindow::RestyleLater() {
 
 void TFormWindow::Restyle(int dotsPerInch) {
     FRestyles = false;
+    FIsRestyling = true;
     // The former fonts live until no window has them.
     const auto former = std::exchange(FScreen, std::make_unique<TScreen>(dotsPerInch));
     for (const auto& [window, peer] : FPeers) peer->Restyle();
@@ -215,6 +216,7 @@ void TFormWindow::Restyle(int dotsPerInch) {
         if (auto* peer = dynamic_cast<TContainerPeer*>(static_cast<TControl&>(*component).Peer()))
             peer->LayOut();
     }
+    FIsRestyling = false;
     RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
@@ -223,7 +225,7 @@ void TFormWindow::Fault(std::exception_ptr fault) const {
 }
 
 void TFormWindow::DrawAll() const {
-    if (Handle() != nullptr) RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    if (Handle() != nullptr && !FIsRestyling) RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 void TFormWindow::CommitFocus() const {

@@ -136,6 +136,7 @@ class TFormWindow : public TFormPeer {
     std::unordered_map<unsigned, TTimer*> FTimers;
     HWND FNextFocus = nullptr;  ///< gets the focus when the window waits no longer for a dialog
     bool FRestyles = false;     ///< a change of the look waits
+    bool FIsRestyling = false;  ///< half of the windows have the new look
     int FLastCommandId = 100;
     unsigned FLastTimerId = 0;
     TWindow FWindow;
