@@ -225,7 +225,8 @@ void TFormWindow::Fault(std::exception_ptr fault) const {
 }
 
 void TFormWindow::DrawAll() const {
-    if (Handle() != nullptr && !FIsRestyling) RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    if (Handle() != nullptr && !FIsRestyling)
+        RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 void TFormWindow::CommitFocus() const {
