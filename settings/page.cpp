@@ -58,12 +58,16 @@ TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl&
     }
 }
 
-void TPage::Load() {
-    const TLoadingScope loading(FContext, FDefinition.ShowsPending);
-    if (FBuilt.empty()) TakeDown(*FRoot);
+void TPage::Fit() const {
     HideWhatIsNotOffered();
     HideWhatHasNoRow();
     NameAsThisWindowsDoes();
+}
+
+void TPage::Load() {
+    const TLoadingScope loading(FContext, FDefinition.ShowsPending);
+    if (FBuilt.empty()) TakeDown(*FRoot);
+    Fit();
     if (!HasAdministratorRights(FContext.System)) MarkControlsForAllUsers(FContext, FDefinition);
     ApplyLacks(FContext, FDefinition);
     if (FDefinition.Prepare != nullptr && !FDefinition.Prepare(FContext)) return;

@@ -78,6 +78,10 @@ class TPage {
     /// Whether something is pending for the control of that name.
     using TIsPending = std::function<bool(const std::wstring& control)>;
 
+    /// Hides what this Windows has no use for, and names things as it does. Load sees to it, too, but what is done before the
+    /// page has windows costs them nothing.
+    void Fit() const;
+
     /// Runs the loaders: shows the live system's state in the controls.
     void Load();
 

@@ -110,8 +110,15 @@ class PaintTest : public TPeerBench {
         }
     }
     void ExpectSizesAreDrawnRight() {
-        for (const auto& [width, height] :
-             {std::pair(700, 600), {760, 600}, {761, 640}, {460, 380}, {500, 370}, {900, 700}, {600, 400}}) {
+        for (const auto& [width, height] : {std::pair(700, 600),
+                                            {709, 607},
+                                            {700, 600},
+                                            {760, 600},
+                                            {761, 640},
+                                            {460, 380},
+                                            {500, 370},
+                                            {900, 700},
+                                            {600, 400}}) {
             Resize(width, height);
             ExpectFreshlyDrawn(testing::PrintToString(std::pair(width, height)).c_str());
         }
@@ -208,6 +215,26 @@ class TTheme {
 };
 
 TEST_F(PaintTest, EverySizeLooksFreshlyDrawn) { ExpectSizesAreDrawnRight(); }
+
+TEST_F(PaintTest, ASizeASheetAndAPageAreDrawnAtOnce) {
+    const auto waiting = [this] {
+        TNames names;
+        for (const auto& component : Form.Components()) {
+            const auto* peer = PeerOf(static_cast<TControl&>(*component));
+            if (peer != nullptr && IsWindowVisible(peer->Handle()) &&
+                GetUpdateRect(peer->Handle(), nullptr, FALSE))
+                names.push_back(component->Name());
+        }
+        return names;
+    };
+    SetWindowPos(FormWindow(), nullptr, 0, 0, 709, 607, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(waiting(), TNames());
+    Send(L"Tabs", TCM_SETCURFOCUS, 1);
+    EXPECT_EQ(waiting(), TNames({L"Tabs"}));  // which draws its tabs later
+    Get<TCategoryItem>(L"A1").OnClick = [this](TComponent&) { Get<TNotebook>(L"Notebook").ShowPage(L"2"); };
+    Send(L"A1", BM_CLICK);
+    EXPECT_EQ(waiting(), TNames());
+}
 
 TEST_F(PaintTest, MarksComeAndGoAndFollowTheirControls) {
     for (const wchar_t* name : {L"Box", L"Number"}) {

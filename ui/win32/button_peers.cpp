@@ -44,6 +44,31 @@ void TPushButtonPeer::OnCommand(WORD code) {
     static_cast<TButton&>(Control()).Click();
 }
 
+/// A user who resizes the window moves its buttons at every step.
+void TPushButtonPeer::Place(const TRect& place) {
+    const bool onlyMoves = place.Width == Placed().Width && place.Height == Placed().Height;
+    Move(place, onlyMoves && IsWhole() ? 0 : SWP_NOCOPYBITS);
+}
+
+bool TPushButtonPeer::IsWhole() const {
+    if (Control().Parent() != &FForm.Form()) return false;
+    RECT place{};
+    RECT view{};
+    RECT common{};
+    GetWindowRect(Handle(), &place);
+    GetClientRect(FForm.Handle(), &view);
+    MapWindowPoints(FForm.Handle(), nullptr, reinterpret_cast<POINT*>(&view), 2);
+    const auto lies = [&](const TControl* sibling) {
+        const TWindowPeer* peer = PeerOf(*sibling);
+        if (peer == nullptr || peer == this || !IsWindowVisible(peer->Handle())) return false;
+        RECT other{};
+        GetWindowRect(peer->Handle(), &other);
+        return IntersectRect(&common, &place, &other) != FALSE;
+    };
+    return IntersectRect(&common, &place, &view) && EqualRect(&common, &place) &&
+           std::ranges::none_of(Control().Parent()->Children(), lies);
+}
+
 TCheckBoxPeer::TCheckBoxPeer(TFormWindow& form, TCheckBox& box, HWND parent) : TWindowPeer(form, box) {
     Create(parent, WC_BUTTONW, BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP | WS_GROUP);
     Subclass();
@@ -88,10 +113,7 @@ void TRadioButtonPeer::ShowTabStops() {
     if (stop == group.end()) stop = std::find_if(group.begin(), group.end(), CanBeChosen);
     for (auto button = group.begin(); button != group.end(); ++button) {
         const TWindowPeer* peer = *button == &Control() ? this : PeerOf(**button);
-        if (peer == nullptr || peer->Handle() == nullptr) continue;
-        const LONG_PTR style = GetWindowLongPtrW(peer->Handle(), GWL_STYLE);
-        SetWindowLongPtrW(peer->Handle(), GWL_STYLE,
-                          button == stop ? style | WS_TABSTOP : style & ~WS_TABSTOP);
+        if (peer != nullptr && peer->Handle() != nullptr) SetTabStop(peer->Handle(), button == stop);
     }
 }
 

@@ -8,6 +8,11 @@ class TPushButtonPeer : public TWindowPeer {
   public:
     TPushButtonPeer(TFormWindow& form, TButton& button, HWND parent);
     void OnCommand(WORD code) override;
+    void Place(const TRect& place) override;
+
+  private:
+    /// Whether all of the window can be seen and nothing lies over it, on a ground that is everywhere the same.
+    [[nodiscard]] bool IsWhole() const;
 };
 
 class TCheckBoxPeer : public TWindowPeer {

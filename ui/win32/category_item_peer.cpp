@@ -22,11 +22,6 @@ std::vector<HWND> ItemWindows(const TControl& item) {
     return windows;
 }
 
-void SetTabStop(HWND window, bool isStop) {
-    const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE);
-    if (((style & WS_TABSTOP) != 0) != isStop) SetWindowLongPtrW(window, GWL_STYLE, style ^ WS_TABSTOP);
-}
-
 }  // namespace
 
 TCategoryItemPeer::TCategoryItemPeer(TFormWindow& form, TCategoryItem& item, HWND parent)
@@ -36,7 +31,9 @@ TCategoryItemPeer::TCategoryItemPeer(TFormWindow& form, TCategoryItem& item, HWN
 }
 
 void TCategoryItemPeer::OnCommand(WORD code) {
-    if (code == BN_CLICKED && Control().Enabled()) static_cast<TCategoryItem&>(Control()).Click();
+    if (code != BN_CLICKED || !Control().Enabled()) return;
+    static_cast<TCategoryItem&>(Control()).Click();
+    FForm.DrawAll();
 }
 
 void TCategoryItemPeer::ShowState() {

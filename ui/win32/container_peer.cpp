@@ -203,9 +203,7 @@ void TContainerPeer::CatchUp() {
 
 bool TContainerPeer::CatchUpNext() {
     if (const auto place = std::exchange(FNextPlace, std::nullopt)) {
-        // A container that only grows or shrinks keeps what it shows; what moves in it is drawn anew.
-        const bool stays = place->Left == Placed().Left && place->Top == Placed().Top;
-        Move(*place, stays ? 0 : SWP_NOCOPYBITS | SWP_FRAMECHANGED);
+        Move(*place, MoveFlags(*place));
     } else if (std::exchange(FStale, false)) {
         LayOutContent();
     } else if (!FPlaces.empty()) {
@@ -217,6 +215,15 @@ bool TContainerPeer::CatchUpNext() {
         return false;
     }
     return true;
+}
+
+/// A container that only grows or shrinks keeps what it shows; what moves in it is drawn anew.
+UINT TContainerPeer::MoveFlags(const TRect& place) const {
+    const bool stays = place.Left == Placed().Left && place.Top == Placed().Top;
+    if (!stays) return SWP_NOCOPYBITS | SWP_FRAMECHANGED;
+    const bool grows =
+        Placed() != TRect() && place.Width >= Placed().Width && place.Height >= Placed().Height;
+    return grows && IsCovered() ? SWP_NOREDRAW : 0;
 }
 
 int TContainerPeer::Margin() const { return FForm.Screen().Scale(FMargin); }
@@ -342,4 +349,10 @@ void TContainerPeer::ScrollTo(HWND inner) {
 TPlainContainerPeer::TPlainContainerPeer(TFormWindow& form, TControl& control, HWND parent, int margin)
     : TContainerPeer(form, control, margin) {
     CreateContainer(parent, kContainerClass, WS_CHILD | DS_CONTROL, 0);
+}
+
+bool TPlainContainerPeer::IsCovered() const {
+    const std::vector<TControl*>& content = Control().Children();
+    return Control().Kind() == TComponentKind::NotebookPage && content.size() == 1 &&
+           content.front()->Kind() == TComponentKind::PageControl;
 }

@@ -54,6 +54,10 @@ class TContainerPeer : public TWindowPeer {
     /// The height of the content at a width.
     [[nodiscard]] virtual int ContentHeight(int width) const;
     virtual void PlaceContent(const TRect& area);
+    /// Whether the content leaves nothing of the container to be seen, and what it gains in size is drawn with that.
+    [[nodiscard]] virtual bool IsCovered() const { return false; }
+    /// How the window is drawn when it moves to the place: flags of SetWindowPos.
+    [[nodiscard]] UINT MoveFlags(const TRect& place) const;
 
   private:
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -86,4 +90,7 @@ class TContainerPeer : public TWindowPeer {
 class TPlainContainerPeer : public TContainerPeer {
   public:
     TPlainContainerPeer(TFormWindow& form, TControl& control, HWND parent, int margin);
+
+  protected:
+    [[nodiscard]] bool IsCovered() const override;
 };

@@ -1,5 +1,7 @@
 #include "ui/win32/field_peers.h"
 
+#include <utility>
+
 #include "ui/win32/form_window.h"
 
 namespace {
@@ -167,7 +169,10 @@ LRESULT TEditPeer::OnEditMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 TComboBoxPeer::TComboBoxPeer(TFormWindow& form, TComboBox& box, HWND parent) : TWindowPeer(form, box) {
-    Create(parent, WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP);
+    // A scroll bar comes and goes several times until the list has its height, so only one that may need it has it.
+    constexpr std::size_t kSurelyShown = 8;
+    const DWORD scrolls = box.Items().size() > kSurelyShown ? WS_VSCROLL : 0;
+    Create(parent, WC_COMBOBOXW, CBS_DROPDOWNLIST | scrolls | WS_TABSTOP | WS_GROUP);
     Subclass();
     PassWheelOn();
 }
@@ -178,7 +183,7 @@ void TComboBoxPeer::OnCommand(WORD code) {
 }
 
 void TComboBoxPeer::ShowItems() {
-    Send(CB_RESETCONTENT);
+    if (Send(CB_GETCOUNT) != 0) Send(CB_RESETCONTENT);
     for (const std::wstring& item : static_cast<TComboBox&>(Control()).Items())
         Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
 }
@@ -190,6 +195,7 @@ void TComboBoxPeer::ShowState() {
 /// The height of a combo box window is that of its dropped list; the closed box is sized by its item height. What it
 /// uncovers is its parent's to draw: Windows closes the box without telling the windows below it.
 void TComboBoxPeer::Place(const TRect& place) {
+    if (std::exchange(FGiven, place) == place && Placed() != TRect()) return;
     constexpr int kMostItemsShown = 16;
     const int items =
         std::min(static_cast<int>(static_cast<TComboBox&>(Control()).Items().size()), kMostItemsShown);

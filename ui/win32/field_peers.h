@@ -42,4 +42,7 @@ class TComboBoxPeer : public TWindowPeer {
   protected:
     void ShowState() override;
     void ShowItems() override;
+
+  private:
+    TRect FGiven;  ///< the place of the closed box
 };

@@ -194,6 +194,11 @@ void TFormWindow::LayOutChanged() {
     }
 }
 
+void TFormWindow::CreatePage(TControl& page) {
+    LayOutChanged();  // what is placed after it is seen is drawn twice
+    FFiller.CreatePage(page);
+}
+
 void TFormWindow::RestyleLater() {
     // Windows announces a change by several messages, some of them to the inner windows after the form.
     if (!std::exchange(FRestyles, true)) PostMessageW(Handle(), kRestyleMessage, 0, 0);
@@ -201,6 +206,7 @@ void TFormWindow::RestyleLater() {
 
 void TFormWindow::Restyle(int dotsPerInch) {
     FRestyles = false;
+    FIsRestyling = true;
     // The former fonts live until no window has them.
     const auto former = std::exchange(FScreen, std::make_unique<TScreen>(dotsPerInch));
     for (const auto& [window, peer] : FPeers) peer->Restyle();
@@ -210,11 +216,17 @@ void TFormWindow::Restyle(int dotsPerInch) {
         if (auto* peer = dynamic_cast<TContainerPeer*>(static_cast<TControl&>(*component).Peer()))
             peer->LayOut();
     }
+    FIsRestyling = false;
     RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 void TFormWindow::Fault(std::exception_ptr fault) const {
     if (FFaultHandler) FFaultHandler(std::move(fault));
+}
+
+void TFormWindow::DrawAll() const {
+    if (Handle() != nullptr && !FIsRestyling)
+        RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 void TFormWindow::CommitFocus() const {

@@ -72,12 +72,15 @@ class TFormWindow : public TFormPeer {
     /// Lays the control's container out anew once the present message is handled.
     void LayOutLater(const TControl& control);
     void Fault(std::exception_ptr fault) const;
+    /// Draws at once whatever waits for it: a user who resizes the window or goes to another page sees it whole, and not window
+    /// by window.
+    void DrawAll() const;
     /// Commits the edit that has the focus: a button can be pressed without taking the focus from it.
     void CommitFocus() const;
     /// See TContainerPeer.
     void CreateLate(TControl& control) { FWindow.CreateLate(control); }
     /// See TPageFiller.
-    void CreatePage(TControl& page) { FFiller.CreatePage(page); }
+    void CreatePage(TControl& page);
     /// Lets the timer tick until StopTimer; the answer identifies it.
     [[nodiscard]] unsigned StartTimer(TTimer& timer);
     void StopTimer(unsigned id);
@@ -133,6 +136,7 @@ class TFormWindow : public TFormPeer {
     std::unordered_map<unsigned, TTimer*> FTimers;
     HWND FNextFocus = nullptr;  ///< gets the focus when the window waits no longer for a dialog
     bool FRestyles = false;     ///< a change of the look waits
+    bool FIsRestyling = false;  ///< half of the windows have the new look
     int FLastCommandId = 100;
     unsigned FLastTimerId = 0;
     TWindow FWindow;

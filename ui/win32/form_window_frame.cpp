@@ -97,10 +97,14 @@ void TFormWindow::TWindow::Restyle() {
 
 LRESULT TFormWindow::TWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_SIZE:
-            if (FFormWindow.FForm.OnHeight && wParam != SIZE_MINIMIZED)
+        case WM_SIZE: {
+            if (wParam == SIZE_MINIMIZED) break;
+            if (FFormWindow.FForm.OnHeight)
                 FFormWindow.FForm.OnHeight(FFormWindow.Screen().Unscale(HIWORD(lParam)));
-            break;
+            const LRESULT result = TContainerPeer::OnMessage(message, wParam, lParam);
+            FFormWindow.DrawAll();
+            return result;
+        }
         case WM_SYSCOMMAND:
             if (FMenu.Press(Handle(), wParam)) return 0;
             break;

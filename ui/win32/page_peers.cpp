@@ -81,6 +81,7 @@ LRESULT TPageControlPeer::OnNotify(NMHDR& header) {
     const std::vector<TTabSheet*> sheets = tabs.OfferedSheets();
     const auto chosen = static_cast<std::size_t>(Send(TCM_GETCURSEL));
     if (chosen < sheets.size()) tabs.SetActiveSheet(*sheets[chosen]);
+    FForm.DrawAll();
     return 0;
 }
 

@@ -16,6 +16,7 @@ class TNotebookPeer : public TContainerPeer {
   protected:
     void ShowState() override;
     void PlaceContent(const TRect& area) override;
+    [[nodiscard]] bool IsCovered() const override { return true; }
 };
 
 /// The tabs. The sheets are windows beside it that lie over its display area.

@@ -1,5 +1,7 @@
 #include "ui/win32/range_peers.h"
 
+#include <utility>
+
 #include "ui/win32/form_window.h"
 
 TTrackBarPeer::TTrackBarPeer(TFormWindow& form, TTrackBar& bar, HWND parent) : TWindowPeer(form, bar) {
@@ -25,14 +27,22 @@ TUpDownPeer::TUpDownPeer(TFormWindow& form, TUpDown& upDown, HWND parent) : TWin
     Create(parent, UPDOWN_CLASSW, UDS_ARROWKEYS);
     Subclass();
     Send(UDM_SETRANGE32, static_cast<WPARAM>(upDown.Min()), upDown.Max());
-    if (upDown.Associate() != nullptr) {
-        if (auto* edit = dynamic_cast<TWindowPeer*>(upDown.Associate()->Peer())) {
-            Send(UDM_SETBUDDY, reinterpret_cast<WPARAM>(edit->Handle()));  // for the arrow keys in the edit
-            edit->PassWheelOn();
-        }
-    }
     PassWheelOn();
     ShowState();
+}
+
+/// Every message to an edit with an up-down takes longer, and to place it takes many.
+void TUpDownPeer::Place(const TRect& place) {
+    TWindowPeer::Place(place);
+    if (!std::exchange(FIsPaired, true)) Pair();
+}
+
+void TUpDownPeer::Pair() {
+    const TEdit* associate = static_cast<TUpDown&>(Control()).Associate();
+    auto* edit = associate == nullptr ? nullptr : PeerOf(*associate);
+    if (edit == nullptr) return;
+    Send(UDM_SETBUDDY, reinterpret_cast<WPARAM>(edit->Handle()));  // for the arrow keys in the edit
+    edit->PassWheelOn();
 }
 
 LRESULT TUpDownPeer::OnNotify(NMHDR& header) {

@@ -17,9 +17,16 @@ class TUpDownPeer : public TWindowPeer {
   public:
     TUpDownPeer(TFormWindow& form, TUpDown& upDown, HWND parent);
     LRESULT OnNotify(NMHDR& header) override;
+    void Place(const TRect& place) override;
 
   protected:
     void ShowState() override;
+
+  private:
+    /// With the edit that shows its position.
+    void Pair();
+
+    bool FIsPaired = false;
 };
 
 class TTimerPeer : public TPeer {

@@ -37,6 +37,11 @@ bool AsksForKey(LPARAM lParam) {
     return message != nullptr && KeyDown(message->message, message->wParam);
 }
 
+void SetTabStop(HWND window, bool isStop) {
+    const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE);
+    if (((style & WS_TABSTOP) != 0) != isStop) SetWindowLongPtrW(window, GWL_STYLE, style ^ WS_TABSTOP);
+}
+
 TWindowPeer::~TWindowPeer() {
     const HWND handle = FHandle;
     Detach();
@@ -216,11 +221,14 @@ bool TWindowPeer::IsShown() const {
 /// ShowWindow would draw the backgrounds of all windows that come to light at once, before what is below them is hidden.
 void TWindowPeer::ShowOrHide() {
     const bool isShown = IsShown();
+    if (isShown == ((GetWindowLongW(FHandle, GWL_STYLE) & WS_VISIBLE) != 0)) return;
+    const bool wasSeen = IsWindowVisible(FHandle) != FALSE;
     SetWindowPos(FHandle, nullptr, 0, 0, 0, 0,
                  (isShown ? SWP_SHOWWINDOW : SWP_HIDEWINDOW) | SWP_DEFERERASE | SWP_NOMOVE | SWP_NOSIZE |
                      SWP_NOZORDER | SWP_NOACTIVATE);
+    if (!wasSeen) return;  // nor had it the focus
     const HWND focus = GetFocus();
-    if (!isShown && (focus == FHandle || IsChild(FHandle, focus))) SetFocus(GetParent(FHandle));
+    if (focus == FHandle || IsChild(FHandle, focus)) SetFocus(GetParent(FHandle));
 }
 
 void TWindowPeer::Update(TControlAspect aspect) {
@@ -232,7 +240,7 @@ void TWindowPeer::Update(TControlAspect aspect) {
             break;
         case TControlAspect::Enabled:
             // Windows would leave the keyboard without a focus.
-            if (!FControl.Enabled() && GetFocus() == FHandle)
+            if (!FControl.Enabled() && IsWindowVisible(FHandle) && GetFocus() == FHandle)
                 SetFocus(GetNextDlgTabItem(FForm.Handle(), FHandle, FALSE));
             EnableWindow(FHandle, FControl.Enabled());
             break;

@@ -106,6 +106,9 @@ class TWindowPeer : public TPeer {
     TRect FPlace;
 };
 
+/// Whether the Tab key stops at the window.
+void SetTabStop(HWND window, bool isStop);
+
 /// The key that the message says is pressed, if it is one that controls may take for themselves.
 [[nodiscard]] std::optional<TKey> KeyDown(UINT message, WPARAM wParam);
 /// Whether Windows asks by WM_GETDLGCODE who gets such a key.
