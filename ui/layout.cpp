@@ -191,11 +191,10 @@ TSize TLayout::Measure(const TLayoutBox& box, int width) const {
             return MeasureControl(*box.Control, width);
         case TLayoutKind::Row:
             return MeasureRow(box, width, IsFieldRow(box) ? FirstWidth(width) : TFieldWidths{});
-        case TLayoutKind::Buttons:
         case TLayoutKind::Foot:
-            return MeasureRow(box, width, {});
+        case TLayoutKind::Buttons:
         case TLayoutKind::Ends:
-            return MeasureEnds(box, width);
+            return MeasureLine(box, width);
         case TLayoutKind::Fields:
             return MeasureFields(box, width);
         case TLayoutKind::Indent: {
@@ -253,8 +252,8 @@ TSize TLayout::PartSize(const TLayoutBox& row, std::size_t index, int width,
     return size;
 }
 
-/// One line, or when that is too narrow for both ends, two.
-TSize TLayout::MeasureEnds(const TLayoutBox& box, int width) const {
+/// One line, or when that is too narrow for all, a line for each.
+TSize TLayout::MeasureLine(const TLayoutBox& box, int width) const {
     const TSize line = MeasureRow(box, kUnlimited, {});
     return line.Width <= width ? line : MeasureColumn(box, width);
 }
@@ -377,12 +376,11 @@ void TLayout::Put(const TLayoutBox& box, const TRect& area, const TPlace& place)
             PutRow(box, area, IsFieldRow(box) ? FirstWidth(area.Width) : TFieldWidths{}, place);
             return;
         case TLayoutKind::Foot:
-            PutRow(box, area, {}, place);
-            return;
         case TLayoutKind::Buttons: {
-            const int width = MeasureRow(box, area.Width, {}).Width;
-            const int left = std::max(area.Left, area.Left + area.Width - width);
-            PutRow(box, {left, area.Top, width, area.Height}, {}, place);
+            const int spare = area.Width - MeasureRow(box, kUnlimited, {}).Width;
+            if (spare < 0) return PutColumn(box, area, place);
+            const int left = area.Left + (box.Kind == TLayoutKind::Buttons ? spare : 0);
+            PutRow(box, {left, area.Top, area.Width - spare, area.Height}, {}, place);
             return;
         }
         case TLayoutKind::Ends:

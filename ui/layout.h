@@ -89,7 +89,7 @@ class TLayout {
     [[nodiscard]] TSize MeasureControl(const TControl& control, int width) const;
     [[nodiscard]] TSize MeasureColumn(const TLayoutBox& box, int width) const;
     [[nodiscard]] TSize MeasureRow(const TLayoutBox& box, int width, const TFieldWidths& widths) const;
-    [[nodiscard]] TSize MeasureEnds(const TLayoutBox& box, int width) const;
+    [[nodiscard]] TSize MeasureLine(const TLayoutBox& box, int width) const;
     [[nodiscard]] TSize MeasureFields(const TLayoutBox& box, int width) const;
     [[nodiscard]] TFieldWidths FieldWidths(const TLayoutBox& fields, int width) const;
     void Put(const TLayoutBox& box, const TRect& area, const TPlace& place) const;
