@@ -44,6 +44,7 @@ class TTextCheck {
     static constexpr int kMark = 13 + 4;    // of a check box, with the space before its text; at 96 dots
     static constexpr int kButtonFrame = 8;  // left and right of a button's text; at 96 dots
     static constexpr int kFieldMargins = 2;
+    static constexpr int kUnlimited = 1 << 20;
     static constexpr int kSlack = 3;        // Wine may make a combo box that much higher than it is told
     static constexpr int kLeastArrow = 12;  // so wide that it can be seen and hit; at 96 dots
 
@@ -65,9 +66,7 @@ class TTextCheck {
         switch (control.Kind()) {
             case TComponentKind::GroupBox:  // its controls are its neighbours
                 for (const TControl* child : control.Children()) CheckControl(*child, placed);
-                if (placed.back().Place.bottom > placed[index].Place.bottom + kSlack)
-                    Complain(control, "does not go round its controls");
-                return;
+                return CheckGroup(placed, index);
             case TComponentKind::Notebook:
                 if (const TControl* page = static_cast<const TNotebook&>(control).ActivePage()) Check(*page);
                 return;
@@ -77,6 +76,17 @@ class TTextCheck {
                 return;
             default:
                 return Check(control);
+        }
+    }
+
+    /// A group box that was placed, and its controls behind it.
+    void CheckGroup(const std::vector<TPlaced>& placed, std::size_t index) {
+        const TPlaced& group = placed[index];
+        const int title = Form.Screen().TextSize(L"0", kUnlimited).Height;
+        for (std::size_t i = index + 1; i < placed.size(); ++i) {
+            const RECT& place = placed[i].Place;
+            if (place.top < group.Place.top + title || place.bottom > group.Place.bottom + kSlack)
+                Complain(*group.Control, "does not go round " + ToUtf8(placed[i].Control->Name()));
         }
     }
 

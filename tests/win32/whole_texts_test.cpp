@@ -183,6 +183,25 @@ TEST_F(TWholeTexts, AreShownHoweverLongTheyAre) {
     DestroyWindow(window.Handle());
 }
 
+/// The bar of categories becomes as wide as they need, up to a bound.
+TEST_F(TWholeTexts, OfCategoriesAreShownUpToTheGreatestWidth) {
+    TForm form(L"Form", L"TWholeTextsForm");
+    form.Build(form,
+               CategoryBar(L"Bar", Designs(CategoryGroup(L"Group", L"Group",
+                                                         Designs(CategoryItem(L"Item", L"", 1, L""))))));
+    TFormWindow& window = Open(form);
+    TTextCheck check(window);
+    const int mostText = check.Scale(190);
+    std::wstring text = L"W";
+    for (; window.Screen().TextSize(text, mostText * 2).Width * 9 / 8 < mostText; text += L"n") {
+        form.Find(L"Item")->SetCaption(text);
+        HandleMessages();
+        check.Check(form);
+    }
+    EXPECT_GT(text.size(), 15U);
+    DestroyWindow(window.Handle());
+}
+
 /// Runs the tests above in a process of its own, which sees another resolution.
 DWORD RunAt(DWORD dots) {
     wchar_t program[MAX_PATH]{};
