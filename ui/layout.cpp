@@ -101,7 +101,7 @@ void TLayout::PutColumn(const TLayoutBox& box, const TRect& area, const TPlace& 
         if (IsAbsent(inner)) continue;
         if (std::exchange(any, true)) top += FMeasure.GapBefore(box, i);
         int height = heights[i];
-        if (StretchesInColumn(inner)) {
+        if (StretchesInColumn(inner) && shares > 0) {
             needed -= height;
             height = std::clamp(shared * inner.Share / shares, height, shared - needed);
             shared -= height;
