@@ -187,14 +187,16 @@ TEST_F(TWholeTexts, AreShownHoweverLongTheyAre) {
 TEST_F(TWholeTexts, OfCategoriesAreShownUpToTheGreatestWidth) {
     TForm form(L"Form", L"TWholeTextsForm");
     form.Build(form,
-               CategoryBar(L"Bar", Designs(CategoryGroup(L"Group", L"Group",
-                                                         Designs(CategoryItem(L"Item", L"", 1, L""))))));
+               Row(CategoryBar(L"Bar", Designs(CategoryGroup(L"Group", L"Group",
+                                                             Designs(CategoryItem(L"Item", L"", 1, L""))))),
+                   Notebook(L"Pages", {})));
     TFormWindow& window = Open(form);
     TTextCheck check(window);
     const int mostText = check.Scale(190);
     std::wstring text = L"W";
     for (; window.Screen().TextSize(text, mostText * 2).Width * 9 / 8 < mostText; text += L"n") {
         form.Find(L"Item")->SetCaption(text);
+        SendMessageW(window.Handle(), WM_SIZE, 0, 0);  // the bar gets its width with the window
         HandleMessages();
         check.Check(form);
     }
