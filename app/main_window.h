@@ -56,8 +56,8 @@ class TQuilltune_FormMain : public TForm {
     void SelectItem(TCategoryItem& item);
     void Button_ChangesClick();
     void Button_HistoryClick();
-    void OfferRestart(const TForm& asker);
-    void OfferExplorerRestart(const TForm& asker);
+    /// Asks whether to restart Windows, or Explorer, and does so.
+    void OfferRestart(const TForm& asker, TRestart restart);
     void ApplyFirefox();
     void TellFirefoxRestart(const TForm& asker);
     /// Apply is enabled exactly while something is pending.

@@ -28,11 +28,11 @@ void TQuilltune_FormMain::Button_ApplyClick() {
         [&] { record.Supplement(); },
         [&] {
             // Only for what was written: while a service is waited for, the user may have changed more.
-            if (written.RestartNeeded == TRestart::Windows) OfferRestart(*this);
+            if (written.RestartNeeded == TRestart::Windows) OfferRestart(*this, TRestart::Windows);
         },
         [&] { NotifyShell(FSystem.Shell, FContext.Release, written.AssociationsChanged); },
         [&] {
-            if (written.RestartNeeded == TRestart::Explorer) OfferExplorerRestart(*this);
+            if (written.RestartNeeded == TRestart::Explorer) OfferRestart(*this, TRestart::Explorer);
         },
         [&] { ApplyFirefox(); },
         [&] { FTwins->Written(); },
@@ -48,16 +48,17 @@ void TQuilltune_FormMain::FormComeBack() {
     FDetails->Refresh();
 }
 
-void TQuilltune_FormMain::OfferRestart(const TForm& asker) {
-    const TMessageAnswer answer = FSystem.Dialogs.Message(asker, FContext.Captions[TCaption::RestartWindows],
-                                                          TMessageButtons::YesNo, TMessageIcon::Question);
-    if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartWindows();
-}
-
-void TQuilltune_FormMain::OfferExplorerRestart(const TForm& asker) {
-    const TMessageAnswer answer = FSystem.Dialogs.Message(asker, FContext.Captions[TCaption::RestartExplorer],
-                                                          TMessageButtons::YesNo, TMessageIcon::Question);
-    if (answer == TMessageAnswer::Yes) FSystem.Shell.RestartExplorer();
+void TQuilltune_FormMain::OfferRestart(const TForm& asker, TRestart restart) {
+    const bool isOfWindows = restart == TRestart::Windows;
+    const std::wstring& question =
+        FContext.Captions[isOfWindows ? TCaption::RestartWindows : TCaption::RestartExplorer];
+    const TMessageAnswer answer =
+        FSystem.Dialogs.Message(asker, question, TMessageButtons::YesNo, TMessageIcon::Question);
+    if (answer != TMessageAnswer::Yes) return;
+    if (isOfWindows)
+        FSystem.Shell.RestartWindows();
+    else
+        FSystem.Shell.RestartExplorer();
 }
 
 void TQuilltune_FormMain::ApplyFirefox() {
@@ -170,11 +171,11 @@ void TQuilltune_FormMain::CarryOutNow(const TForm& asker, const TChangeSet& oper
             EnableApply();
         },
         [&] {
-            if (done.Written.RestartNeeded == TRestart::Windows) OfferRestart(asker);
+            if (done.Written.RestartNeeded == TRestart::Windows) OfferRestart(asker, TRestart::Windows);
         },
         [&] { NotifyShell(FSystem.Shell, FContext.Release, done.Written.AssociationsChanged); },
         [&] {
-            if (done.Written.RestartNeeded == TRestart::Explorer) OfferExplorerRestart(asker);
+            if (done.Written.RestartNeeded == TRestart::Explorer) OfferRestart(asker, TRestart::Explorer);
         },
         [&] {
             if (done.SavedPreferences) TellFirefoxRestart(asker);

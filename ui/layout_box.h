@@ -3,6 +3,7 @@
 
 #include <vector>
 
+enum class TComponentKind;
 class TControl;
 
 enum class TLayoutKind {
@@ -25,3 +26,15 @@ struct TLayoutBox {
     int Share = 1;                ///< of the height, among the boxes of a column that take what others leave
     std::vector<TLayoutBox> Boxes;
 };
+
+// What the measuring and the placing ask of a box.
+
+[[nodiscard]] bool IsKind(const TLayoutBox& box, TComponentKind kind);
+/// A control that is hidden takes no place; a timer never has one.
+[[nodiscard]] bool IsAbsent(const TLayoutBox& box);
+/// Something with a text, and the field behind it.
+[[nodiscard]] bool IsFieldRow(const TLayoutBox& box);
+/// Whether it takes the height that the others of its column leave, and that of its row.
+[[nodiscard]] bool StretchesInColumn(const TLayoutBox& box);
+/// Whether it takes the width that the others of its row leave.
+[[nodiscard]] bool StretchesInRow(const TLayoutBox& box);

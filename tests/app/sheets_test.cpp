@@ -8,6 +8,7 @@
 #include "app/main_window.h"
 #include "tests/fakes/fake_system.h"
 #include "tests/ui/fixed_metrics.h"
+#include "ui/layout.h"
 
 namespace {
 

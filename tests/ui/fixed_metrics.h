@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "ui/layout.h"
+#include "ui/layout_metrics.h"
 
 /// Letters of 6 by 13 pixels at 96 dots per inch, wrapped anywhere; `percent` makes texts longer.
 class TFixedMetrics : public TLayoutMetrics {

@@ -150,6 +150,16 @@ TEST(TLayoutTest, ButtonsAtBothEndsLeaveTheRightOnesWhereTheyAreAlone) {
     }
 }
 
+TEST(TLayoutTest, ButtonsWithoutRoomBesideOneAnotherStandBelowOneAnother) {
+    const wchar_t* caption = L"A caption that needs room";
+    for (const int width : {250, 600}) {
+        const TLaidOut laidOut({Buttons(Button(L"A", caption), Button(L"B", caption))}, {9, 9, width, 100});
+        laidOut.ExpectNoOverlap();
+        EXPECT_EQ(laidOut[L"A"].Top == laidOut[L"B"].Top, width == 600);
+        EXPECT_EQ(TLaidOut::Right(laidOut[L"B"]), 9 + width);
+    }
+}
+
 TEST(TLayoutTest, SharesAreFairAndUseTheTotalUp) {
     using TWidths = std::vector<int>;
     for (const auto& [wanted, total, shares] : {std::tuple(TWidths{50, 20, 30}, 200, TWidths{50, 20, 130}),

@@ -1,225 +1,210 @@
 // Every sheet in every language, in captions of greater length, on screens of several resolutions and in a small window: no
 // text is wider than its control, and no control reaches beyond what it lies in.
-#include <commctrl.h>
-
 #include <filesystem>
 #include <fstream>
 
 #include <gtest/gtest.h>
 
 #include "app/main_window.h"
-#include "platform/unicode.h"
 #include "tests/fakes/fake_system.h"
-#include "ui/containers.h"
-#include "ui/win32/form_window.h"
+#include "tests/win32/text_check.h"
+#include "ui/design.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
+constexpr UINT kResolutionChanged = 0x02E0;                       // WM_DPICHANGED
 constexpr const wchar_t* kDotsVariable = L"QUILLTUNE_TEST_DOTS";  // set for the runs at other resolutions
 const std::wstring kLanguageFolder = L"C:\\Program Files\\Quilltune\\Toolbox_Language\\";
 const std::wstring kSuiteFolder = L"C:\\Users\\Me\\AppData\\Vandrel\\Orbicare V4\\";
 
-/// Every text but the explanations, longer by 70 per cent.
-std::string Lengthened(const std::string& file) {
-    std::string longer;
-    for (std::size_t start = 0; start < file.size();) {
-        const std::size_t end = std::min(file.find('\n', start), file.size());
-        std::string line = file.substr(start, end - start);
-        if (line.ends_with('\r')) line.pop_back();
-        const std::size_t equals = line.find(".Caption=");
-        if (equals != std::string::npos) {
-            const std::string text = line.substr(equals + 9);
-            const std::size_t colon = text.ends_with(':') ? 1 : 0;
-            const std::size_t words = std::count(text.begin(), text.end(), ' ') + 1U;
-            line.resize(line.size() - colon);
-            for (std::size_t more = text.size() * 7 / 10, word = text.size() / words; more > 0;) {
-                const std::size_t letters = std::min(more, std::max<std::size_t>(word, 3));
-                line += ' ' + std::string(letters, 'n');
-                more -= letters;
-            }
-            line.append(colon, ':');
-        }
-        longer += line + "\r\n";
-        start = end + 1;
+/// A text that is longer by 70 per cent.
+std::wstring Lengthened(std::wstring text) {
+    const bool hasColon = text.ends_with(L':');
+    const std::size_t words = static_cast<std::size_t>(std::count(text.begin(), text.end(), L' ')) + 1;
+    const std::size_t word = std::max<std::size_t>(text.size() / words, 3);
+    std::size_t more = text.size() * 7 / 10;
+    if (hasColon) text.pop_back();
+    for (; more > 0; more -= std::min(more, word)) text += L' ' + std::wstring(std::min(more, word), L'n');
+    return hasColon ? text + L':' : text;
+}
+
+void Lengthen(const TForm& form) {
+    for (const auto& component : form.Components()) {
+        if (component->Kind() == TComponentKind::Timer) continue;
+        auto& control = static_cast<TControl&>(*component);
+        control.SetCaption(Lengthened(control.Caption()));
+        if (control.Kind() != TComponentKind::ComboBox) continue;
+        auto& box = static_cast<TComboBox&>(control);
+        for (std::size_t i = 0; i < box.Items().size(); ++i) box.SetItem(i, Lengthened(box.Items()[i]));
     }
-    return longer;
+}
+
+/// The sheets that lie in a control.
+std::vector<TControl*> SheetsIn(const TControl& container) {
+    std::vector<TControl*> sheets;
+    for (const TControl* child : container.Children()) {
+        if (child->Kind() != TComponentKind::PageControl) continue;
+        const std::vector<TTabSheet*> offered = static_cast<const TPageControl*>(child)->OfferedSheets();
+        sheets.insert(sheets.end(), offered.begin(), offered.end());
+    }
+    return sheets;
+}
+
+void HandleMessages() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
 }
 
 class TWholeTexts : public testing::Test {
   protected:
-    void Open(const std::wstring& language, const std::string& file, const TVersionNumbers& version) {
-        Fake.Windows.SetVersion(version);
-        Fake.Registry.PutKey(TRootKey::LocalMachine,
-                             L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Mozilla Firefox");
-        Fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Users\\Me\\AppData");
-        Fake.Files.Put(kLanguageFolder + language + L".lng", {file.begin(), file.end()});
-        Fake.Files.PutText(kSuiteFolder + L"Main.ini", "[Main]\nLanguage=" + ToUtf8(language) + "\n");
-        Window = std::make_unique<TQuilltune_FormMain>(Fake.System);
-        TFormWindow::Attach(*Window, GetModuleHandleW(nullptr), [](const std::exception_ptr&) {
-            ADD_FAILURE();
-        }).Show(SW_SHOW);
-        for (const wchar_t* timer : {L"Timer_Click", L"Timer_Loading"}) Window->Find<TTimer>(timer)->Tick();
+    /// The window stays hidden: its parts take their places all the same, and nothing has to be drawn.
+    static TFormWindow& Open(TForm& form) {
+        TFormWindow& window = TFormWindow::Attach(form, GetModuleHandleW(nullptr),
+                                                  [](const std::exception_ptr&) { ADD_FAILURE(); });
+        window.Show(SW_HIDE);
+        for (const auto& component : form.Components())
+            if (auto& control = static_cast<TControl&>(*component);
+                component->Kind() != TComponentKind::Timer && control.IsLate)
+                window.CreateLate(control);
+        return window;
     }
 
-    static HWND HandleOf(const TControl& control) {
-        const auto* peer = dynamic_cast<const TWindowPeer*>(control.Peer());
-        return peer == nullptr ? nullptr : peer->Handle();
+    /// As when the user moves the window to a screen of that resolution.
+    static void ComeTo(const TFormWindow& window, int dots) {
+        if (window.Screen().DotsPerInch() == dots) return;
+        const RECT place{0, 0, 1, 1};  // as small as it can be
+        SendMessageW(window.Handle(), kResolutionChanged, MAKEWPARAM(dots, dots),
+                     reinterpret_cast<LPARAM>(&place));
     }
 
-    void Complain(const TControl& control, const std::string& what) {
-        if (Told.insert({control.Name(), what}).second)
-            ADD_FAILURE() << Where << ToUtf8(control.Name()) << " \"" << ToUtf8(control.Caption())
-                          << "\": " << what;
-    }
-
-    /// The size of a text in the font of the window, wrapped at this width unless it is 0.
-    static SIZE TextSize(HWND window, const std::wstring& text, int width) {
-        const HDC dc = GetDC(window);
-        const HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
-        RECT area{0, 0, width, 0};
-        DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &area,
-                  DT_CALCRECT | (width != 0 ? DT_WORDBREAK : DT_SINGLELINE));
-        SelectObject(dc, old);
-        ReleaseDC(window, dc);
-        return {area.right, area.bottom};
-    }
-
-    static int Scale(int distance) {
-        const HDC dc = GetDC(nullptr);
-        const int dots = GetDeviceCaps(dc, LOGPIXELSY);
-        ReleaseDC(nullptr, dc);
-        return MulDiv(distance, dots, 96);
-    }
-
-    void CheckText(const TControl& control, HWND window) {
-        RECT inside{};
-        GetClientRect(window, &inside);
-        const int width = static_cast<int>(inside.right);
-        const auto fits = [&](const std::wstring& text, int beside, bool wraps) {
-            const SIZE size = TextSize(window, text, wraps ? width - beside : 0);
-            if (size.cx > width - beside)
-                Complain(control,
-                         "too narrow: " + std::to_string(size.cx) + " in " + std::to_string(width - beside));
-            if (size.cy > inside.bottom)
-                Complain(control,
-                         "too low: " + std::to_string(size.cy) + " in " + std::to_string(inside.bottom));
-        };
-        const bool wraps = (GetWindowLongW(window, GWL_STYLE) & BS_MULTILINE) != 0;
-        switch (control.Kind()) {
-            case TComponentKind::CheckBox:
-            case TComponentKind::RadioButton:
-                return fits(control.Caption(), Scale(13) + 3, wraps);
-            case TComponentKind::Button:
-                return fits(control.Caption(), Scale(8), wraps);
-            case TComponentKind::GroupBox:
-                return fits(control.Caption(), Scale(4), false);
-            case TComponentKind::CategoryItem:
-                return fits(control.Caption(), Scale(30), false);
-            case TComponentKind::Label:
-                // Those of fixed lines are cut in a way of their own.
-                if (static_cast<const TLabel&>(control).Lines == 0) fits(control.Caption(), 0, true);
-                return;
-            case TComponentKind::ComboBox:
-                for (const std::wstring& item : static_cast<const TComboBox&>(control).Items())
-                    fits(item, GetSystemMetrics(SM_CXVSCROLL) + Scale(6), false);
-                return;
-            default:
-                return;
-        }
-    }
-
-    /// Sideways always; downwards where nothing scrolls.
-    void CheckPlace(const TControl& control, HWND window) {
-        const HWND parent = GetParent(window);
-        RECT place{};
-        RECT room{};
-        GetWindowRect(window, &place);
-        GetClientRect(parent, &room);
-        MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
-        const bool scrolls = (GetWindowLongW(parent, GWL_STYLE) & WS_VSCROLL) != 0;
-        if (place.left < 0 || place.right > room.right ||
-            (!scrolls && (place.top < 0 || place.bottom > room.bottom)))
-            Complain(control, "beyond what it lies in");
-    }
-
-    void CheckShown() {
-        for (const auto& component : Window->Components()) {
-            if (component->Kind() == TComponentKind::Timer) continue;
-            const auto& control = static_cast<const TControl&>(*component);
-            const HWND window = HandleOf(control);
-            if (window == nullptr || !IsWindowVisible(window)) continue;
-            ++Checked;
-            CheckPlace(control, window);
-            CheckText(control, window);
-        }
-    }
-
-    void CheckSheets() {
-        for (const auto& component : Window->Components()) {
+    static void CheckSheets(TTextCheck& check, TForm& form) {
+        for (const auto& component : form.Components()) {
             if (component->Kind() != TComponentKind::CategoryItem) continue;
             auto& item = static_cast<TCategoryItem&>(*component);
-            if (item.Visible()) item.Click();
-        }
-        for (const auto& component : Window->Components()) {
-            if (component->Kind() != TComponentKind::TabSheet) continue;
-            auto& sheet = static_cast<TControl&>(*component);
-            Window->Reveal(sheet);
-            CheckShown();
+            if (!item.Visible()) continue;
+            item.Click();
+            HandleMessages();
+            check.Check(form);
+            for (TControl* sheet : SheetsIn(*form.Find<TNotebook>(L"Notebook_Main")->ActivePage())) {
+                form.Reveal(*sheet);
+                HandleMessages();
+                check.Check(*sheet);
+            }
         }
     }
 
-    void CheckLanguage(const std::wstring& language, const std::string& file, const std::string& name) {
-        CheckVersion(language, file, name + " on Windows 7, ", {.PlatformId = 2, .Major = 6, .Minor = 1});
-        CheckVersion(language, file, name + " on Windows 11, ",
-                     {.PlatformId = 2, .Major = 10, .Minor = 0, .Build = 26100});
-    }
-    void CheckVersion(const std::wstring& language, const std::string& file, const std::string& name,
-                      const TVersionNumbers& version) {
-        Open(language, file, version);
-        const HWND window = HandleOf(*Window);
-        Where = name + std::to_string(Scale(96)) + " dots: ";
-        CheckSheets();
-        if (Scale(96) == 96) {
+    static void CheckLanguage(const fs::path& path, const TVersionNumbers& version) {
+        const std::string language = path.stem().string();
+        std::ifstream stream(path, std::ios::binary);
+        TFakeSystem fake;
+        fake.Windows.SetVersion(version);
+        fake.Registry.PutKey(TRootKey::LocalMachine,
+                             L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Mozilla Firefox");
+        fake.Shell.PutFolder(TSpecialFolder::AppData, L"C:\\Users\\Me\\AppData");
+        fake.Files.Put(kLanguageFolder + path.filename().wstring(),
+                       {std::istreambuf_iterator<char>(stream), {}});
+        fake.Files.PutText(kSuiteFolder + L"Main.ini", "[Main]\nLanguage=" + language + "\n");
+        TQuilltune_FormMain form(fake.System);
+        TFormWindow& window = Open(form);
+        for (const wchar_t* timer : {L"Timer_Click", L"Timer_Loading"}) form.Find<TTimer>(timer)->Tick();
+        TTextCheck check(window);
+        const auto checkAt = [&](const std::string& size) {
+            check.Where =
+                language + " on Windows with kernel " + std::to_string(version.Major) + ", " + size + ": ";
+            CheckSheets(check, form);
+        };
+        const int own = window.Screen().DotsPerInch();
+        const std::vector<int> resolutions = own == 96 ? std::vector{96, 120, 144, 192} : std::vector{own};
+        for (const int dots : resolutions) {
+            ComeTo(window, dots);
+            // On a screen that is too small for the window, not everything can be.
+            check.IsTight = GetSystemMetrics(SM_CXSCREEN) < check.Scale(800);
+            checkAt(std::to_string(dots) + " dots");
+            if (dots != 96) continue;
             // What a task bar leaves of a screen of 800 by 600.
-            SetWindowPos(window, nullptr, 0, 0, 800, 570, SWP_NOZORDER | SWP_NOACTIVATE);
-            Where = name + "800 x 600: ";
-            CheckSheets();
+            SetWindowPos(window.Handle(), nullptr, 0, 0, 800, 570, SWP_NOZORDER | SWP_NOACTIVATE);
+            checkAt("800 x 600");
         }
-        DestroyWindow(window);
-        Window.reset();
-        Told.clear();
+        if (language == "English") {
+            Lengthen(form);
+            check.IsTight = true;
+            for (const int dots : resolutions) {
+                if (GetSystemMetrics(SM_CXSCREEN) < MulDiv(800, dots, 96)) continue;
+                ComeTo(window, dots);
+                checkAt("longer, " + std::to_string(dots) + " dots");
+            }
+        }
+        EXPECT_GT(check.Checked, 1000);
+        DestroyWindow(window.Handle());
     }
-
-    TFakeSystem Fake;
-    std::unique_ptr<TQuilltune_FormMain> Window;
-    std::string Where;
-    std::set<std::pair<std::wstring, std::string>> Told;
-    int Checked = 0;
 };
 
 TEST_F(TWholeTexts, AreShownInEveryLanguageAndInLongerOnes) {
-    std::vector<fs::path> files;
     wchar_t folder[MAX_PATH]{};
     GetEnvironmentVariableW(L"QUILLTUNE_DIR", folder, MAX_PATH);
-    for (const auto& entry : fs::directory_iterator(fs::path(folder) / L"Toolbox_Language"))
-        files.push_back(entry);
-    ASSERT_GE(files.size(), 2U);
-    for (const fs::path& path : files) {
-        std::ifstream stream(path, std::ios::binary);
-        const std::string file{std::istreambuf_iterator<char>(stream), {}};
-        const std::string name = path.stem().string();
-        CheckLanguage(path.stem().wstring(), file, name);
-        // On a screen that is too small for the window, not everything can be.
-        const bool isWhole = GetSystemMetrics(SM_CXSCREEN) >= Scale(800);
-        if (name == "English" && isWhole)
-            CheckLanguage(path.stem().wstring(), Lengthened(file), "longer English");
+    int languages = 0;
+    for (const auto& entry : fs::directory_iterator(fs::path(folder) / L"Toolbox_Language")) {
+        ++languages;
+        CheckLanguage(entry, {.PlatformId = 2, .Major = 6, .Minor = 1});
+        CheckLanguage(entry, {.PlatformId = 2, .Major = 10, .Minor = 0, .Build = 26100});
     }
-    EXPECT_GT(Checked, 1000);
+    EXPECT_GE(languages, 2);
 }
 
-/// Runs the test above in a process of its own, which sees another resolution.
+/// A text of any length is whole: one that just fits, one that is just too long for its line, and one that takes several.
+TEST_F(TWholeTexts, AreShownHoweverLongTheyAre) {
+    TForm form(L"Form", L"TWholeTextsForm");
+    form.ClientWidth = 330;
+    form.Build(form, Group(L"Group", L"", Indent(CheckBox(L"Box", L"")), RadioButton(L"Choice", L""),
+                           Fields(Row(Label(L"Before", L""), Edit(L"Number", L"").Width(5),
+                                      UpDown(L"Arrows", L"Number", 0, 99999, 0), Label(L"Behind", L"")),
+                                  Row(CheckBox(L"BoxBefore", L""), ComboBox(L"Short", {L"one", L"two"}))),
+                           ComboBox(L"List", {L""}), Label(L"Text", L"")));
+    form.Build(form, Ends(Row(Button(L"Note", L"")), Buttons(Button(L"Link", L""))));
+    form.Build(form, Buttons(Button(L"First", L""), Button(L"Second", L"")));
+    TFormWindow& window = Open(form);
+    TTextCheck check(window);
+    std::wstring text = L"Words";
+    for (int length = 1; length < 90; ++length) {
+        // Every step is narrow, so that each width is hit within a few pixels.
+        text += length % 6 == 0 ? L" n" : L"i";
+        for (const wchar_t* name : {L"Box", L"Choice", L"Text"}) form.Find(name)->SetCaption(text);
+        for (const wchar_t* name :
+             {L"Group", L"Before", L"Behind", L"BoxBefore", L"Note", L"Link", L"First", L"Second"})
+            form.Find(name)->SetCaption(text.substr(0, text.size() / 2));
+        form.Find<TComboBox>(L"List")->SetItem(0, text.substr(0, 60));
+        HandleMessages();
+        check.Where = std::to_string(text.size()) + " characters: ";
+        check.Check(form);
+    }
+    EXPECT_EQ(check.Checked, 89 * 15);
+    DestroyWindow(window.Handle());
+}
+
+/// The bar of categories becomes as wide as they need, up to a bound.
+TEST_F(TWholeTexts, OfCategoriesAreShownUpToTheGreatestWidth) {
+    TForm form(L"Form", L"TWholeTextsForm");
+    form.Build(form,
+               Row(CategoryBar(L"Bar", Designs(CategoryGroup(L"Group", L"Group",
+                                                             Designs(CategoryItem(L"Item", L"", 1, L""))))),
+                   Notebook(L"Pages", {})));
+    TFormWindow& window = Open(form);
+    TTextCheck check(window);
+    const int mostText = check.Scale(190);
+    std::wstring text = L"W";
+    for (; window.Screen().TextSize(text, mostText * 2).Width * 9 / 8 < mostText; text += L"n") {
+        form.Find(L"Item")->SetCaption(text);
+        SendMessageW(window.Handle(), WM_SIZE, 0, 0);  // the bar gets its width with the window
+        HandleMessages();
+        check.Check(form);
+    }
+    EXPECT_GT(text.size(), 15U);
+    DestroyWindow(window.Handle());
+}
+
+/// Runs the tests above in a process of its own, which sees another resolution.
 DWORD RunAt(DWORD dots) {
     wchar_t program[MAX_PATH]{};
     GetModuleFileNameW(nullptr, program, MAX_PATH);
@@ -241,22 +226,21 @@ DWORD RunAt(DWORD dots) {
     return status;
 }
 
-TEST_F(TWholeTexts, AreShownAtHigherResolutions) {
+TEST_F(TWholeTexts, AreShownAtAnotherResolutionOfWindows) {
     if (GetEnvironmentVariableW(kDotsVariable, nullptr, 0) != 0) {
         wchar_t dots[8]{};
         GetEnvironmentVariableW(kDotsVariable, dots, 8);
-        EXPECT_EQ(std::to_wstring(Scale(96)), dots) << "of this process";
+        EXPECT_EQ(std::to_wstring(TScreen(DotsPerInchOf(nullptr)).DotsPerInch()), dots) << "of this process";
         return;
     }
-    for (const DWORD dots : {120, 144, 192}) {
-        HKEY key{};
-        ASSERT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", 0, KEY_SET_VALUE, &key),
-                  ERROR_SUCCESS);
-        RegSetValueExW(key, L"LogPixels", 0, REG_DWORD, reinterpret_cast<const BYTE*>(&dots), sizeof dots);
-        EXPECT_EQ(RunAt(dots), 0U) << dots;
-        RegDeleteValueW(key, L"LogPixels");
-        RegCloseKey(key);
-    }
+    constexpr DWORD kDots = 144;
+    HKEY key{};
+    ASSERT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", 0, KEY_SET_VALUE, &key),
+              ERROR_SUCCESS);
+    RegSetValueExW(key, L"LogPixels", 0, REG_DWORD, reinterpret_cast<const BYTE*>(&kDots), sizeof kDots);
+    EXPECT_EQ(RunAt(kDots), 0U);
+    RegDeleteValueW(key, L"LogPixels");
+    RegCloseKey(key);
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 
 #include <unordered_map>
 
-#include "ui/layout.h"
+#include "ui/layout_metrics.h"
 
 class TScreen : public TLayoutMetrics {
   public:
