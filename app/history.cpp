@@ -68,7 +68,7 @@ std::vector<std::wstring> THistory::Entries() const {
         if (NumberOf(name) != 0) entries.push_back(std::move(name));
     }
     std::ranges::sort(entries, std::ranges::greater(), [](const std::wstring& entry) {
-        return std::pair(entry.substr(0, kStamp.size()), NumberOf(entry));
+        return std::pair(std::wstring_view(entry).substr(0, kStamp.size()), NumberOf(entry));
     });
     return entries;
 }

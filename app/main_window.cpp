@@ -137,9 +137,6 @@ void TQuilltune_FormMain::FormShow() {
             Switches.front().Caption = FContext.Captions[TCaption::DetailsShow];
             Switches.back().Caption = FContext.Captions[TCaption::About];
         },
-        [this] {
-            for (const auto& page : FPages) page->Fit();
-        },
         [&] { ReinitialiseLists(log); },
         [&] {
             log.Add(L"Rz_Com:");

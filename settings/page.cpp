@@ -49,6 +49,8 @@ TPage::TPage(const TPageDefinition& definition, TPageContext& context, TControl&
     FContext.Form.Build(container, design);
     TControl& root = *container.Children().back();
     FRoot = &root;
+    if (root.Kind() == TComponentKind::NotebookPage)
+        static_cast<TNotebookPage&>(root).OnCreate = [this](TComponent&) { Fit(); };
     Listen(root);
     for (const TLoader& loader : definition.Loaders)
         for (const TRow& row : loader) ListenToRow(row);

@@ -78,10 +78,6 @@ class TPage {
     /// Whether something is pending for the control of that name.
     using TIsPending = std::function<bool(const std::wstring& control)>;
 
-    /// Hides what this Windows has no use for, and names things as it does. Load sees to it, too, but what is done before the
-    /// page has windows costs them nothing.
-    void Fit() const;
-
     /// Runs the loaders: shows the live system's state in the controls.
     void Load();
 
@@ -108,6 +104,9 @@ class TPage {
     void RunLoaders(std::span<const TLoader> loaders, const TIsPending& isPending);
     void Listen(TControl& container);
     void ListenToRow(const TRow& row);
+    /// Hides what this Windows has no use for, and names things as it does: when the page is loaded, but also before it gets its
+    /// windows, which then costs them nothing.
+    void Fit() const;
     void HideWhatIsNotOffered() const;
     void HideWhatHasNoRow() const;
     void NameAsThisWindowsDoes() const;

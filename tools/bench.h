@@ -66,3 +66,11 @@ class TStarted {
     PROCESS_INFORMATION FProcess{};
     HWND FWindow = nullptr;
 };
+
+/// Waits until the program has no pages to create any more.
+inline void WaitSettled(const TMainWindow& window) {
+    constexpr DWORD kPause = 700;
+    std::size_t before = 0;
+    for (std::size_t now = 1; now != before; Sleep(kPause))
+        before = std::exchange(now, window.Controls().size());
+}

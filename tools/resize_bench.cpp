@@ -47,14 +47,6 @@ std::pair<double, double> Measure(HWND window, int step) {
     return {resize, Timed(window, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME)};
 }
 
-/// Waits until the program has no pages to create any more.
-void WaitSettled(const TMainWindow& window) {
-    constexpr DWORD kPause = 700;
-    std::size_t before = 0;
-    for (std::size_t now = 1; now != before; Sleep(kPause))
-        before = std::exchange(now, window.Controls().size());
-}
-
 }  // namespace
 
 int wmain(int count, wchar_t** arguments) {

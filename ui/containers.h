@@ -10,6 +10,8 @@ class TNotebookPage : public TControl {
     explicit TNotebookPage(std::wstring name) : TControl(TComponentKind::NotebookPage, std::move(name)) {
         SetVisible(false);
     }
+
+    TNotifyEvent OnCreate;  ///< before the page gets its windows
 };
 
 /// A stack of pages of which one is visible; something else chooses which.

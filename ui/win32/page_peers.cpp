@@ -27,6 +27,7 @@ void TNotebookPeer::PlaceContent(const TRect& area) {
 }
 
 void TNotebookPeer::CreatePage(TControl& page) {
+    if (const TNotifyEvent& create = static_cast<TNotebookPage&>(page).OnCreate) create(page);
     CreatePeer(FForm, page, Handle());
     RECT area{};
     GetClientRect(Handle(), &area);
