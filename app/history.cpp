@@ -67,8 +67,8 @@ std::vector<std::wstring> THistory::Entries() const {
         name.resize(name.rfind(L'.'));
         if (NumberOf(name) != 0) entries.push_back(std::move(name));
     }
-    std::ranges::sort(entries, std::ranges::greater(), [](const std::wstring& entry) {
-        return std::pair(std::wstring_view(entry).substr(0, kStamp.size()), NumberOf(entry));
+    std::ranges::sort(entries, std::ranges::greater(), [](std::wstring_view entry) {
+        return std::pair(entry.substr(0, kStamp.size()), NumberOf(entry));
     });
     return entries;
 }

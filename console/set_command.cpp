@@ -69,6 +69,13 @@ bool IsIn(TCatalogue& catalogue, const TSetting& setting, const TControlState& s
     return catalogue.PendingState(setting).State == state && !std::holds_alternative<std::monostate>(state);
 }
 
+/// Why the setting cannot be changed, in a line.
+std::wstring Refusal(const TTask& task, TCatalogue& catalogue, const TSetting& setting) {
+    if (!catalogue.PendingState(setting).IsOffered) return task.Texts(TText::NotOfferedForce, {setting.Id});
+    const std::wstring reasons = catalogue.ReasonsFor(setting);
+    return task.Texts(TText::NotEnabledForce, {setting.Id}) + (reasons.empty() ? L"" : L" ") + reasons;
+}
+
 /// Makes the changes on a catalogue that only asks.
 void Check(const TTask& task, TCatalogue& catalogue, std::vector<TPlan::TStep> waiting, TPlan& plan) {
     // A setting may wait for another one that enables it, wherever that stands on the command line.
@@ -79,12 +86,8 @@ void Check(const TTask& task, TCatalogue& catalogue, std::vector<TPlan::TStep> w
             const bool canStay = present.IsEnabled || IsIn(catalogue, setting, step.State);
             return task.Force || (present.IsOffered && canStay);
         });
-        if (next == waiting.end()) {
-            const TSetting& setting = *catalogue.Find(waiting.front().Id);
-            const bool isOffered = catalogue.PendingState(setting).IsOffered;
-            throw TWrongUsage{
-                task.Texts(isOffered ? TText::NotEnabledForce : TText::NotOfferedForce, {setting.Id})};
-        }
+        if (next == waiting.end())
+            throw TWrongUsage{Refusal(task, catalogue, *catalogue.Find(waiting.front().Id))};
         const TSetting& setting = *catalogue.Find(next->Id);
         if (!IsIn(catalogue, setting, next->State)) {
             catalogue.Change(setting, next->State);

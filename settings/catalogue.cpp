@@ -9,6 +9,7 @@
 #include "platform/text.h"
 #include "settings/category_table.h"
 #include "settings/explanations.h"
+#include "settings/needs.h"
 #include "settings/page_table.h"
 #include "settings/shell/desktop_icons.h"
 #include "settings/twin_controls.h"
@@ -259,6 +260,10 @@ TPresent TCatalogue::PendingState(const TSetting& setting) {
     return {.State = IsPressed(setting, control) ? TControlState() : page.StateOfSetting(control),
             .IsOffered = TPageModel::IsShown(control) && setting.Levels.Include(page.Context().Release),
             .IsEnabled = control.Enabled()};
+}
+
+std::wstring TCatalogue::ReasonsFor(const TSetting& setting) {
+    return ::ReasonsFor(Loaded(setting).Context(), setting.Id);
 }
 
 TPresent TCatalogue::Shown(const TSetting& setting) {

@@ -98,6 +98,8 @@ class TCatalogue {
 
     /// With what is pending, and without what is stored; a button has no state here.
     [[nodiscard]] TPresent PendingState(const TSetting& setting);
+    /// Why the setting has no effect, or cannot be changed, with what is pending: see settings/needs.h.
+    [[nodiscard]] std::wstring ReasonsFor(const TSetting& setting);
     /// Does what a user does who brings the setting into one of its states, though it be in it already, and leaves that
     /// pending.
     void Change(const TSetting& setting, const TControlState& state);

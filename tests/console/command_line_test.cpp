@@ -79,6 +79,11 @@ TEST(TCommandLine, AnswersWrongUsageInOneLineAndWritesNothing) {
         {{L"set", L"Checkbox_CommonSettings_Function_Keyboard_WinKey=off",
           L"Checkbox_Startmenu_Classic_Expand_Printers=On!"},
          "Checkbox_Startmenu_Classic_Expand_Printers"},
+        // One of the two states is not the present one.
+        {{L"set", L"Checkbox_Taskbar_Notification_Icons_Show=off",
+          L"Checkbox_Taskbar_Notification_Icons_Volume=on",
+          L"Checkbox_Taskbar_Notification_Icons_Volume=off"},
+         "only while \"Show the notification area\" is checked"},
         {{L"undo", L"0"}, "\"0\""},
         {{L"undo", L"1"}, "no entry 1"},
         {{L"apply", L"C:\\broken.reg"}, "Line 4"},
