@@ -32,8 +32,9 @@ TCategoryItemPeer::TCategoryItemPeer(TFormWindow& form, TCategoryItem& item, HWN
 
 void TCategoryItemPeer::OnCommand(WORD code) {
     if (code != BN_CLICKED || !Control().Enabled()) return;
+    TFormWindow& form = FForm;  // a page that is loaded handles messages, and the peer may be gone afterwards
     static_cast<TCategoryItem&>(Control()).Click();
-    FForm.DrawAll();
+    form.DrawAll();
 }
 
 void TCategoryItemPeer::ShowState() {
