@@ -240,8 +240,7 @@ int TContainerPeer::ContentHeight(int width) const {
 }
 
 void TContainerPeer::LayOutContent() {
-    FLayingOut = true;
-    const std::unique_ptr<bool, void (*)(bool*)> atEnd(&FLayingOut, [](bool* mark) { *mark = false; });
+    const TFlagScope layingOut(FLayingOut);
     RECT area = ContentArea();
     SetScrollRange(ContentHeight(area.right - area.left) + 2 * Margin(),
                    area.bottom - area.top + 2 * Margin());

@@ -12,6 +12,18 @@
 /// The window class of containers that have none of their own.
 inline constexpr const wchar_t* kContainerClass = L"TQuilltune_Container";
 
+/// Keeps a flag set while it lives, whatever fault ends its scope.
+class TFlagScope {
+  public:
+    explicit TFlagScope(bool& flag) : FFlag(flag) { FFlag = true; }
+    ~TFlagScope() { FFlag = false; }
+    TFlagScope(const TFlagScope&) = delete;
+    TFlagScope& operator=(const TFlagScope&) = delete;
+
+  private:
+    bool& FFlag;
+};
+
 class TContainerPeer : public TWindowPeer {
   public:
     /// `margin` is the distance between the edges and the content at 96 dots per inch.

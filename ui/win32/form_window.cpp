@@ -206,7 +206,7 @@ void TFormWindow::RestyleLater() {
 
 void TFormWindow::Restyle(int dotsPerInch) {
     FRestyles = false;
-    FIsRestyling = true;
+    const TFlagScope restyling(FIsRestyling);
     // The former fonts live until no window has them.
     const auto former = std::exchange(FScreen, std::make_unique<TScreen>(dotsPerInch));
     for (const auto& [window, peer] : FPeers) peer->Restyle();
@@ -216,7 +216,6 @@ void TFormWindow::Restyle(int dotsPerInch) {
         if (auto* peer = dynamic_cast<TContainerPeer*>(static_cast<TControl&>(*component).Peer()))
             peer->LayOut();
     }
-    FIsRestyling = false;
     RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
