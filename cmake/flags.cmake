@@ -34,6 +34,8 @@ if(WIN32)
 elseif(CMAKE_BUILD_TYPE STREQUAL "Debug")
     # Of the debugging information a report of the sanitizers shows the lines only; all of it would take longer to write.
     target_compile_options(quilltune_flags INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -g1)
+        -fsanitize=address,undefined -fsanitize-ignorelist=${CMAKE_SOURCE_DIR}/cmake/ubsan_ignore.txt
+        -fno-sanitize-recover=undefined -fno-omit-frame-pointer -g1)
+    target_compile_definitions(quilltune_flags INTERFACE _GLIBCXX_ASSERTIONS)
     target_link_options(quilltune_flags INTERFACE -fsanitize=address,undefined)
 endif()

@@ -9,12 +9,12 @@ Seconds=${1:-60}
 Targets=("${@:2}")
 [ ${#Targets[@]} -gt 0 ] || Targets=(language_file prefs profiles reg_file)
 
-RequirePackages cmake ninja-build "${ClangPackages[@]}"
+RequirePackages "${BuildPackages[@]}" "${ClangPackages[@]}"
 Folder="$Root/build/fuzz"
-{ cmake -S "$Root/tests/fuzz" -B "$Folder" -G Ninja -D CMAKE_CXX_COMPILER=clang++ && cmake --build "$Folder"; } >&2
+BuildPreset native --target fuzz
 for Target in "${Targets[@]}"; do
     mkdir -p "$Folder/corpus/$Target"
     Say "Fuzzing $Target for $Seconds seconds"
-    "$Folder/fuzz" "$Target" -max_total_time="$Seconds" -max_len=4096 -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
+    "$Root/build/native/tests/fuzz" "$Target" -max_total_time="$Seconds" -max_len=4096 -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
         -artifact_prefix="$Folder/$Target-" "$Folder/corpus/$Target" "$Root/tests/fuzz/corpus/$Target"
 done
