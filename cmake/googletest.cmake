@@ -7,7 +7,7 @@ endif()
 
 set(GOOGLETEST_SOURCE /usr/src/googletest CACHE PATH "googletest's sources")
 if(EXISTS ${GOOGLETEST_SOURCE})
-    add_library(gmock_main STATIC
+    add_library(gmock_main OBJECT
         ${GOOGLETEST_SOURCE}/googletest/src/gtest-all.cc
         ${GOOGLETEST_SOURCE}/googlemock/src/gmock-all.cc
         ${GOOGLETEST_SOURCE}/googlemock/src/gmock_main.cc)

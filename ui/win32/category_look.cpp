@@ -24,7 +24,7 @@ constexpr int kCardTint = 5;
 constexpr int kQuietShade = 40;  // of the ground in a text
 
 /// What is drawn in a colour that is nearer to its ground than this cannot be read.
-constexpr int kLeastContrast = 90;
+constexpr int kLeastItemContrast = 90;
 
 /// Window colours darker than this leave no contrast to the items' colours.
 constexpr int kLightestDark = 160;
@@ -64,7 +64,7 @@ TCategoryColors::TPanel TCategoryColors::Panel(TPanelLook look) const {
     const COLORREF text = GetSysColor(isCard ? COLOR_WINDOWTEXT : COLOR_BTNTEXT);
     if (FSystemOnly) return {ground, text, text, text, FHeaderLine, text};
     const auto readable = [&](COLORREF color) {
-        return std::abs(Lightness(color) - Lightness(ground)) >= kLeastContrast ? color : text;
+        return std::abs(Lightness(color) - Lightness(ground)) >= kLeastItemContrast ? color : text;
     };
     return {ground,
             text,

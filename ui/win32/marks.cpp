@@ -8,11 +8,12 @@
 namespace {
 
 /// Colours that differ by less are hard to tell apart.
-constexpr int kLeastContrast = 60;
+constexpr int kLeastMarkContrast = 60;
 
 COLORREF DotColor() {
     const COLORREF color = GetSysColor(COLOR_HOTLIGHT);
-    const bool stands = std::abs(Lightness(color) - Lightness(GetSysColor(COLOR_3DFACE))) >= kLeastContrast;
+    const bool stands =
+        std::abs(Lightness(color) - Lightness(GetSysColor(COLOR_3DFACE))) >= kLeastMarkContrast;
     return stands ? color : GetSysColor(COLOR_BTNTEXT);
 }
 
