@@ -18,13 +18,17 @@ RECT WorkArea(HWND owner) {
     return screen.rcWork;
 }
 
-/// Draws a window, and before that handles what was sent, for the sake of whoever waits for an answer. That may close
-/// the window.
-void DrawNow(const TWindowPeer& peer, UINT inner) {
+/// Draws a window, then those in it, and before each handles what was sent, for the sake of whoever waits for an answer.
+/// That may close the window.
+void DrawPieces(const TWindowPeer& peer) {
+    const TControl& control = peer.Control();
     MSG message;
     PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
-    if (const HWND window = peer.Handle(); window != nullptr)
-        RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | inner);
+    const HWND window = peer.Handle();
+    if (window == nullptr) return;
+    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_NOCHILDREN);
+    for (const TControl* child : control.Children())
+        if (const TWindowPeer* inner = ::PeerOf(*child)) DrawPieces(*inner);
 }
 
 }  // namespace
@@ -54,10 +58,7 @@ void TFormWindow::TWindow::Appear(int showCommand) {
     else
         ShowWindow(Handle(), showCommand);
     // At once, piece by piece: the inner windows would otherwise wait for whatever else there is to do.
-    DrawNow(*this, RDW_NOCHILDREN);
-    for (const TControl* control : Control().Children()) {
-        if (const TWindowPeer* peer = ::PeerOf(*control)) DrawNow(*peer, RDW_ALLCHILDREN);
-    }
+    DrawPieces(*this);
 }
 
 SIZE TFormWindow::TWindow::DesignedSize(const RECT& work) const {
