@@ -225,11 +225,11 @@ TEST_F(PeersTest, HiddenPagesComeIntoBeingWhileThereIsNothingElseToDo) {
 using TStartTest = TPeerBench;
 
 TEST_F(TStartTest, TimersWaitForTheFirstPageAndNotForItsDrawingAndAShownPageIsCompleteLikeWhatComesLate) {
-    const auto page = [](int tag) {
-        const auto sheet = [tag](std::wstring name) {
+    const auto page = [](int tag, int boxes = 60) {
+        const auto sheet = [tag, boxes](std::wstring name) {
             name += std::to_wstring(tag);
             TControlDesign design = Sheet(name.c_str(), L"Sheet");
-            for (int i = 0; i < 60; ++i)
+            for (int i = 0; i < boxes; ++i)
                 design.Children.push_back(CheckBox((name + std::to_wstring(i)).c_str(), L"Box"));
             design.Children.push_back(CheckBox((L"Last" + name).c_str(), L"Box"));
             return design;
@@ -241,7 +241,7 @@ TEST_F(TStartTest, TimersWaitForTheFirstPageAndNotForItsDrawingAndAShownPageIsCo
     Form.Build(Form, Edit(L"Field"));
     Form.Build(Form, Table(L"Found", {L"Column"}).Hidden().Late());
     Form.Build(Form, Card(L"Card", CardLabel(L"Said", L"Text", 1, TTextLook::Plain)).Late());
-    Form.Build(Form, Notebook(L"Notebook", {page(1), page(2), page(3)}));
+    Form.Build(Form, Notebook(L"Notebook", {page(1), page(2), page(3), page(4, 80)}));
     const auto exists = [this](const wchar_t* name) { return Form.Find(name)->Peer() != nullptr; };
     int ticks = 0;
     Get<TTimer>(L"Timer").OnTimer = [&](TComponent&) {
@@ -266,6 +266,7 @@ TEST_F(TStartTest, TimersWaitForTheFirstPageAndNotForItsDrawingAndAShownPageIsCo
     EXPECT_FALSE(exists(L"Card") || exists(L"Found"));
     static_cast<TFormWindow*>(Form.Peer())->Run();
     EXPECT_LT(ticks, 500);
+    EXPECT_TRUE(exists(L"LastB4")) << "it is larger";
 }
 
 TEST_F(PeersTest, AFaultInAHandlerIsReportedAndTheWindowLivesOn) {

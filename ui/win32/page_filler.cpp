@@ -1,5 +1,8 @@
 #include "ui/win32/page_filler.h"
 
+#include <algorithm>
+#include <functional>
+
 #include "ui/win32/form_window.h"
 #include "ui/win32/page_peers.h"
 
@@ -16,6 +19,14 @@ const TControl* PageOf(const TControl& control) {
     const TControl* page = &control;
     while (page != nullptr && page->Kind() != TComponentKind::NotebookPage) page = page->Parent();
     return page;
+}
+
+/// How many controls it is, with those on it; none at all without one.
+std::size_t SizeOf(const TControl* control) {
+    if (control == nullptr) return 0;
+    std::size_t size = 1;
+    for (const TControl* child : control->Children()) size += SizeOf(child);
+    return size;
 }
 
 }  // namespace
@@ -39,6 +50,13 @@ void TPageFiller::Start() {
     add([](const TControl& control) {
         return control.Kind() == TComponentKind::NotebookPage || control.Kind() == TComponentKind::TabSheet;
     });
+    // After what comes late and the page that is shown first the largest pages: who chooses one before its turn waits longest
+    // for these.
+    const auto first = std::ranges::find_if_not(FUnfilled, &TControl::IsLate);
+    const auto others = std::find_if(
+        first, FUnfilled.end(), [&](const TControl* control) { return PageOf(*control) != PageOf(**first); });
+    std::ranges::stable_sort(others, FUnfilled.end(), std::greater(),
+                             [](const TControl* control) { return SizeOf(PageOf(*control)); });
 }
 
 void TPageFiller::CreatePage(TControl& page) {
