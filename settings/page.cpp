@@ -114,19 +114,17 @@ void TPage::Reset(const std::set<std::wstring>& kept) {
 }
 
 void TPage::RunLoaders(std::span<const TLoader> loaders, const TIsPending& isPending) {
-    while (!loaders.empty()) {
-        const TLoader loader = loaders.front();
-        loaders = loaders.subspan(1);
+    for (; !loaders.empty(); loaders = loaders.subspan(1)) {
         try {
-            for (const TRow& row : loader)
+            for (const TRow& row : loaders.front())
                 if (IsOffered(row) && !std::ranges::any_of(ControlsOf(row), isPending))
                     LoadRow(FContext, row);
-            ApplyNeeds(FContext, FDefinition);  // a fault of the next loader changes nothing about these
         } catch (...) {
-            RunLoaders(loaders, isPending);
+            RunLoaders(loaders.subspan(1), isPending);
             throw;
         }
     }
+    ApplyNeeds(FContext, FDefinition);
 }
 
 void TPage::Changed(TComponent& sender) {
