@@ -1,4 +1,4 @@
-// Every sheet in every language, in captions of greater length, on screens of several resolutions and in a small window: no
+// Every sheet and dialog in every language, in captions of greater length, on screens of several resolutions and in a small window: no
 // text is wider than its control, and no control reaches beyond what it lies in.
 #include <filesystem>
 #include <fstream>
@@ -9,6 +9,7 @@
 #include "tests/fakes/fake_system.h"
 #include "tests/win32/text_check.h"
 #include "ui/design.h"
+#include "ui/win32/png_decoder.h"
 
 namespace {
 
@@ -57,12 +58,23 @@ void HandleMessages() {
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
 }
 
+/// Has a dialog looked at and goes on as if the user had closed it.
+class TLookedAtWindow : public TFormWindow {
+  public:
+    using TFormWindow::TFormWindow;
+    void ShowModal(TForm& dialog) override { OnDialog(dialog); }
+
+    std::function<void(TForm& dialog)> OnDialog;
+};
+
 class TWholeTexts : public testing::Test {
   protected:
     /// The window stays hidden: its parts take their places all the same, and nothing has to be drawn.
-    static TFormWindow& Open(TForm& form) {
-        TFormWindow& window = TFormWindow::Attach(form, GetModuleHandleW(nullptr),
-                                                  [](const std::exception_ptr&) { ADD_FAILURE(); });
+    static TLookedAtWindow& Open(TForm& form, HWND owner = nullptr) {
+        auto made = std::make_unique<TLookedAtWindow>(
+            form, GetModuleHandleW(nullptr), [](const std::exception_ptr&) { ADD_FAILURE(); }, owner);
+        TLookedAtWindow& window = *made;
+        form.SetPeer(std::move(made));
         window.Show(SW_HIDE);
         for (const auto& component : form.Components())
             if (auto& control = static_cast<TControl&>(*component);
@@ -85,14 +97,57 @@ class TWholeTexts : public testing::Test {
             auto& item = static_cast<TCategoryItem&>(*component);
             if (!item.Visible()) continue;
             item.Click();
-            HandleMessages();
-            check.Check(form);
-            for (TControl* sheet : SheetsIn(*form.Find<TNotebook>(L"Notebook_Main")->ActivePage())) {
-                form.Reveal(*sheet);
-                HandleMessages();
-                check.Check(*sheet);
-            }
+            CheckShown(check, form, *form.Find<TNotebook>(L"Notebook_Main")->ActivePage());
         }
+    }
+
+    static void CheckShown(TTextCheck& check, TForm& form, const TControl& page) {
+        HandleMessages();
+        check.Check(form);
+        for (TControl* sheet : SheetsIn(page)) {
+            form.Reveal(*sheet);
+            HandleMessages();
+            check.Check(*sheet);
+        }
+    }
+
+    /// Those that the main window shows, and those that they show themselves.
+    struct TDialogs {
+        std::string Where;
+        bool AreLonger = false;
+        std::set<std::wstring> Seen;
+
+        void Watch(TLookedAtWindow& window) {
+            window.OnDialog = [this, &window](TForm& dialog) { Look(dialog, window.Handle()); };
+        }
+        void Look(TForm& dialog, HWND owner) {
+            if (!Seen.insert(dialog.ClassName()).second) return;
+            TLookedAtWindow& window = Open(dialog, owner);
+            if (AreLonger) Lengthen(dialog);
+            TTextCheck check(window);
+            check.IsTight = AreLonger;
+            for (const int dots : {96, 120, 144, 192}) {
+                if (GetSystemMetrics(SM_CXSCREEN) < MulDiv(800, dots, 96)) continue;
+                ComeTo(window, dots);
+                check.Where = Where + ToUtf8(dialog.Name()) + ", " + std::to_string(dots) + " dots: ";
+                CheckShown(check, dialog, dialog);
+            }
+            EXPECT_GT(check.Checked, 0);
+            Watch(window);
+            if (auto* undo = dialog.Find<TButton>(L"Button_History_Undo")) undo->Click();
+            DestroyWindow(window.Handle());
+        }
+    };
+
+    static void CheckDialogs(TLookedAtWindow& window, TForm& form, TDialogs dialogs) {
+        dialogs.Watch(window);
+        form.Find<TButton>(L"Button_Folder_Advanced_Desktop_Set")->Click();
+        form.Switches.back().OnClick(true);
+        auto* box = form.Find<TCheckBox>(L"Checkbox_Drives_Common_NTFS_SaveLastVisitData");
+        box->SetChecked(!box->Checked());
+        for (const wchar_t* button : {L"Button_Changes", L"Button_Apply", L"Button_History"})
+            form.Find<TButton>(button)->Click();
+        EXPECT_EQ(dialogs.Seen.size(), 5U) << testing::PrintToString(dialogs.Seen);
     }
 
     static void CheckLanguage(const fs::path& path, const TVersionNumbers& version) {
@@ -107,12 +162,14 @@ class TWholeTexts : public testing::Test {
                        {std::istreambuf_iterator<char>(stream), {}});
         fake.Files.PutText(kSuiteFolder + L"Main.ini", "[Main]\nLanguage=" + language + "\n");
         TQuilltune_FormMain form(fake.System);
-        TFormWindow& window = Open(form);
+        form.Notices = PngNotices;
+        TLookedAtWindow& window = Open(form);
         for (const wchar_t* timer : {L"Timer_Click", L"Timer_Loading"}) form.Find<TTimer>(timer)->Tick();
         TTextCheck check(window);
+        const std::string where =
+            language + " on Windows with kernel " + std::to_string(version.Major) + ", ";
         const auto checkAt = [&](const std::string& size) {
-            check.Where =
-                language + " on Windows with kernel " + std::to_string(version.Major) + ", " + size + ": ";
+            check.Where = where + size + ": ";
             CheckSheets(check, form);
         };
         const int own = window.Screen().DotsPerInch();
@@ -127,7 +184,9 @@ class TWholeTexts : public testing::Test {
             SetWindowPos(window.Handle(), nullptr, 0, 0, 800, 570, SWP_NOZORDER | SWP_NOACTIVATE);
             checkAt("800 x 600");
         }
+        CheckDialogs(window, form, {.Where = where});
         if (language == "English") {
+            CheckDialogs(window, form, {.Where = where + "longer, ", .AreLonger = true});
             Lengthen(form);
             check.IsTight = true;
             for (const int dots : resolutions) {
