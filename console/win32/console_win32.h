@@ -7,12 +7,23 @@
 /// Characters on a console, UTF-8 everywhere else. What cannot be written is lost.
 class TWin32Console : public TConsole {
   public:
-    void Print(std::wstring_view line) override { Write(FOutput, line); }
-    void Complain(std::wstring_view line) override { Write(FErrors, line); }
+    void Print(std::wstring_view line) override { FOutput.Write(line); }
+    void Complain(std::wstring_view line) override { FErrors.Write(line); }
 
   private:
-    static void Write(HANDLE stream, std::wstring_view line);
+    class TStream {
+      public:
+        /// `standard` is one of STD_…_HANDLE.
+        explicit TStream(DWORD standard);
+        void Write(std::wstring_view line) const;
 
-    HANDLE FOutput = GetStdHandle(STD_OUTPUT_HANDLE);
-    HANDLE FErrors = GetStdHandle(STD_ERROR_HANDLE);
+      private:
+        void WriteCharacters(const std::wstring& text) const;
+
+        HANDLE FHandle;
+        bool FIsConsole;
+    };
+
+    TStream FOutput{STD_OUTPUT_HANDLE};
+    TStream FErrors{STD_ERROR_HANDLE};
 };
