@@ -10,6 +10,8 @@ namespace {
 
 /// A value larger than that is none of ours and is shown as one of unknown type.
 constexpr DWORD kLargestValue = 16 * 1024 * 1024;
+/// Few are larger: one question is enough.
+constexpr std::size_t kUsualValue = 256;
 /// The longest names of a key and of a value, in characters.
 constexpr DWORD kLongestKeyName = 255;
 constexpr DWORD kLongestValueName = 16383;
@@ -71,29 +73,21 @@ std::vector<std::wstring> ValueNamesOf(HKEY key) {
 
 /// The bytes of a value and its REG_… type; of a value larger than `largest` no type. False when it cannot be read.
 bool QueryValue(HKEY key, const std::wstring& name, DWORD largest, DWORD& type, TBytes& bytes) {
-    DWORD size = 0;
-    LONG error = RegQueryValueExW(key, name.c_str(), nullptr, &type, nullptr, &size);
-    while (error == ERROR_SUCCESS) {
+    bytes.resize(kUsualValue);
+    for (;;) {
+        auto size = static_cast<DWORD>(bytes.size());
+        const LONG error = RegQueryValueExW(key, name.c_str(), nullptr, &type, bytes.data(), &size);
+        if (error == ERROR_SUCCESS) {
+            bytes.resize(size);
+            return true;
+        }
+        if (error != ERROR_MORE_DATA) return false;
         if (size > largest) {
             type = REG_NONE;
             return true;
         }
-        bytes.resize(size);
-        DWORD read = size;
-        error = RegQueryValueExW(key, name.c_str(), nullptr, &type, bytes.data(), &read);
-        if (error == ERROR_SUCCESS) {
-            // Without a buffer, as for a value without bytes, only the size is answered: it may have grown.
-            if (read <= size) {
-                bytes.resize(read);
-                return true;
-            }
-            size = read;
-        } else if (error == ERROR_MORE_DATA) {
-            size = std::max(read, size + 1);
-            error = ERROR_SUCCESS;
-        }
+        bytes.resize(std::max<std::size_t>(size, bytes.size() + 1));  // it may have grown meanwhile
     }
-    return false;
 }
 
 /// Opens or creates the key and hands it to `write`, which is false when the registry refuses.

@@ -91,6 +91,8 @@ TEST_F(TRegistryContract, AnyBytesOfAnyTypeAreStored) {
         {"no type", {0, {'a', 0}}, {}},
         {"no type and no bytes", {}, {}},
         {"a type of somebody's own", {0x12345, {1, 2, 3}}, {}},
+        {"256 bytes", {3, TBytes(256, 7)}, {Binary, TBytes(256, 7)}},
+        {"257 bytes", {3, TBytes(257, 7)}, {Binary, TBytes(257, 7)}},
         {"huge text", {1, TBytes(2'000'002, 'x')}, {String, std::wstring(1'000'001, L'\x7878')}},
         {"huge bytes", {3, TBytes(3'000'000, 7)}, {Binary, TBytes(3'000'000, 7)}},
     };
