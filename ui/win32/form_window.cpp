@@ -57,6 +57,7 @@ void TFormWindow::Show(int showCommand) {
     attempt([this] {
         if (const int own = DotsPerInchOf(Handle()); own != FScreen->DotsPerInch()) Restyle(own);
     });
+    attempt([this] { FFiller.Start(); });
     attempt([this] { FWindow.Open(); });
     FWindow.Appear(showCommand);
 }

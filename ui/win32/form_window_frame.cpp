@@ -42,7 +42,6 @@ TFormWindow::TWindow::TWindow(TFormWindow& formWindow, TForm& form)
 }
 
 void TFormWindow::TWindow::Open() {
-    FFormWindow.FFiller.Start();
     CreateContent();
     TPageFiller::FillSheets(FFormWindow.FForm);
     SetWindowTextW(Handle(), WindowText().c_str());

@@ -2,7 +2,7 @@
 // that, what the form itself still lacks.
 #pragma once
 
-#include <deque>
+#include <vector>
 
 class TControl;
 class TFormWindow;
@@ -28,5 +28,5 @@ class TPageFiller {
 
     TFormWindow& FForm;
     /// What comes late, then pages and sheets that may lack content; in the order of its creation.
-    std::deque<TControl*> FUnfilled;
+    std::vector<TControl*> FUnfilled;
 };
