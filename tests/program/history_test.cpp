@@ -1,9 +1,4 @@
 // The history as the user has it: entries and files that are undone or taken, broken ones, and all of it by keyboard.
-#include <windows.h>
-#include <commctrl.h>
-
-#include <algorithm>
-
 #include <gtest/gtest.h>
 
 #include "tests/program/history_fixture.h"

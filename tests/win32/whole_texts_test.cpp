@@ -1,5 +1,5 @@
-// Every sheet and dialog in every language, in captions of greater length, on screens of several resolutions and in a small window: no
-// text is wider than its control, and no control reaches beyond what it lies in.
+// Every sheet and dialog in every language, in captions of greater length, on screens of several resolutions and in a small
+// window: no text is wider than its control, and no control reaches beyond what it lies in.
 #include <filesystem>
 #include <fstream>
 

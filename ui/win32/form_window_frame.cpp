@@ -21,13 +21,12 @@ RECT WorkArea(HWND owner) {
 /// Draws a window, then those in it, and before each handles what was sent, for the sake of whoever waits for an answer.
 /// That may close the window.
 void DrawPieces(const TWindowPeer& peer) {
-    const TControl& control = peer.Control();
     MSG message;
     PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
     const HWND window = peer.Handle();
     if (window == nullptr) return;
     RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_NOCHILDREN);
-    for (const TControl* child : control.Children())
+    for (const TControl* child : peer.Control().Children())
         if (const TWindowPeer* inner = ::PeerOf(*child)) DrawPieces(*inner);
 }
 
