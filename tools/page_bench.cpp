@@ -1,7 +1,7 @@
-// How long the pages take until they are painted when they are chosen for the first and for the second time, side by
+// How long the pages take until they are drawn when they are chosen for the first and for the second time, side by
 // side with the tabs of winecfg, a property sheet that creates each page when it is first chosen; and the most memory
-// that the program has used by then, beside notepad. One program is used as soon as it is ready, before its idle time has
-// created the pages; another one after that.
+// that the program has used by then, beside notepad. Each page is chosen in a program that has just become ready, before
+// its idle time has created the page; then each in one that has created all of them.
 //   page_bench <program> <runs>
 #include <cstdio>
 #include <cstdlib>
@@ -18,49 +18,114 @@ struct TShowings {
 };
 using TTable = std::map<std::wstring, TShowings>;
 
-/// All steps once, then all once more.
-void ShowAll(HWND window, const std::map<std::wstring, std::function<void()>>& steps, TTable& table) {
-    for (const auto& [name, step] : steps) table[name].First.push_back(Timed(window, 0, step));
-    for (const auto& [name, step] : steps) table[name].Second.push_back(Timed(window, 0, step));
+/// What can be seen of a window: lines from top to bottom, so close to each other that no control lies between them.
+class TLook {
+  public:
+    explicit TLook(HWND window) {
+        GetWindowRect(window, &FPlace);
+        BITMAPINFO format{};
+        format.bmiHeader = {sizeof format.bmiHeader, Lines(), Height(), 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        FBitmap = CreateDIBSection(FMemory, &format, DIB_RGB_COLORS, &FBits, nullptr, 0);
+        SelectObject(FMemory, FBitmap);
+        HasChanged();
+    }
+    ~TLook() {
+        DeleteDC(FMemory);
+        DeleteObject(FBitmap);
+        ReleaseDC(nullptr, FScreen);
+    }
+    TLook(const TLook&) = delete;
+    TLook& operator=(const TLook&) = delete;
+
+    /// Since the last question.
+    bool HasChanged() {
+        for (int i = 0; i < Lines(); ++i)
+            BitBlt(FMemory, i, 0, 1, Height(), FScreen, FPlace.left + i * kDistance, FPlace.top, SRCCOPY);
+        GdiFlush();
+        const auto* bits = static_cast<const DWORD*>(FBits);
+        std::vector<DWORD> now(bits, bits + Lines() * Height());
+        return std::exchange(FBefore, now) != now;
+    }
+
+  private:
+    static constexpr int kDistance = 40;
+    [[nodiscard]] int Lines() const { return (FPlace.right - FPlace.left) / kDistance; }
+    [[nodiscard]] int Height() const { return FPlace.bottom - FPlace.top; }
+
+    RECT FPlace{};
+    HDC FScreen = GetDC(nullptr);
+    HDC FMemory = CreateCompatibleDC(FScreen);
+    HBITMAP FBitmap = nullptr;
+    void* FBits = nullptr;
+    std::vector<DWORD> FBefore;
+};
+
+/// How long a message that chooses a page takes until nothing changes any more in the window that the page is part of.
+double Drawn(HWND window, HWND receiver, UINT message, WPARAM parameter) {
+    constexpr double kStill = 300;  // milliseconds, after which nothing more is to be expected
+    TLook look(window);
+    const TStopwatch watch;
+    SendNotifyMessageW(receiver, message, parameter, 0);
+    double drawn = 0;
+    while (drawn == 0 || watch.Milliseconds() < drawn + kStill) {
+        if (watch.Milliseconds() > kPatience) throw TAutomationError(L"a page did not come up");
+        if (look.HasChanged()) drawn = watch.Milliseconds();
+        Sleep(1);
+    }
+    return drawn;
 }
 
-void ShowTabs(TTable& table) {
+/// Chooses each tab twice.
+void ChooseTabs(TTable& table) {
     const TStarted peer(L"winecfg.exe", L"#32770");
     const HWND tabs = FindWindowExW(peer.Window(), nullptr, WC_TABCONTROLW, nullptr);
-    std::map<std::wstring, std::function<void()>> steps;
     // The first tab is shown, and the last but one plays a part of its own: it looks for sound cards.
-    for (const WPARAM tab : {1, 2, 3, 4, 6})
-        steps[std::to_wstring(tab)] = [=] { SendMessageW(tabs, TCM_SETCURFOCUS, tab, 0); };
-    ShowAll(peer.Window(), steps, table);
+    for (auto TShowings::*showing : {&TShowings::First, &TShowings::Second}) {
+        for (const WPARAM tab : {1, 2, 3, 4, 6})
+            (table[std::to_wstring(tab)].*showing).push_back(Drawn(tabs, tabs, TCM_SETCURFOCUS, tab));
+    }
 }
 
-/// Chooses the item of every page but the one that is shown.
-std::map<std::wstring, std::function<void()>> PageSteps(const TMainWindow& main) {
-    std::map<std::wstring, std::function<void()>> steps;
-    for (const auto& [item, name] : main.Controls()) {
-        const bool isFirst = name == L"RzGroup_CommonSettings.Items[0]";  // its page is shown
-        if (isFirst || name.find(L".Items[") == std::wstring::npos || !IsWindowVisible(item)) continue;
-        steps[name] = [window = item] { SendMessageW(window, BM_CLICK, 0, 0); };
+/// The program that is measured, ready for the user.
+class TReady : public TStarted {
+  public:
+    explicit TReady(const std::wstring& program) : TStarted(L"\"" + program + L"\"", TMainWindow::kClass) {
+        FMain.WaitReady();
     }
-    return steps;
+    [[nodiscard]] const TMainWindow& Main() const { return FMain; }
+
+    /// The items of all pages but the one that is shown.
+    [[nodiscard]] std::vector<std::wstring> Items() const {
+        std::vector<std::wstring> items;
+        for (const auto& [item, name] : FMain.Controls()) {
+            const bool isFirst = name == L"RzGroup_CommonSettings.Items[0]";  // its page is shown
+            if (!isFirst && name.find(L".Items[") != std::wstring::npos && IsWindowVisible(item))
+                items.push_back(name);
+        }
+        return items;
+    }
+
+    [[nodiscard]] double Choose(const std::wstring& item) const {
+        return Drawn(FMain.Find(L"Notebook_Main"), FMain.Find(item), BM_CLICK, 0);
+    }
+
+  private:
+    TMainWindow FMain = TMainWindow::WaitFor(Id());
+};
+
+void ChooseNewPages(const std::wstring& program, TTable& table) {
+    for (const std::wstring& item : TReady(program).Items())
+        table[item].First.push_back(TReady(program).Choose(item));
 }
 
 /// The answer is the peak of the program's memory in MB.
-double ShowPages(const std::wstring& program, TTable& table) {
-    const TStarted own(L"\"" + program + L"\"", TMainWindow::kClass);
-    const TMainWindow main = TMainWindow::WaitFor(own.Id());
-    main.WaitReady();
-    ShowAll(own.Window(), PageSteps(main), table);
+double ChooseCreatedPages(const std::wstring& program, TTable& table) {
+    const TReady own(program);
+    WaitSettled(own.Main());
+    for (auto TShowings::*showing : {&TShowings::FirstCreated, &TShowings::Second}) {
+        for (const std::wstring& item : own.Items()) (table[item].*showing).push_back(own.Choose(item));
+    }
     return own.PeakMegabytes();
-}
-
-void ShowCreatedPages(const std::wstring& program, TTable& table) {
-    const TStarted own(L"\"" + program + L"\"", TMainWindow::kClass);
-    const TMainWindow main = TMainWindow::WaitFor(own.Id());
-    main.WaitReady();
-    WaitSettled(main);
-    for (const auto& [name, step] : PageSteps(main))
-        table[name].FirstCreated.push_back(Timed(own.Window(), 0, step));
 }
 
 /// The median of all tabs.
@@ -82,9 +147,9 @@ int wmain(int count, wchar_t** arguments) {
     std::vector<double> ownMemory;
     try {
         for (int i = 0; i < runs; ++i) {
-            ShowTabs(tabs);
-            ownMemory.push_back(ShowPages(arguments[1], pages));
-            ShowCreatedPages(arguments[1], pages);
+            ChooseTabs(tabs);
+            ChooseNewPages(arguments[1], pages);
+            ownMemory.push_back(ChooseCreatedPages(arguments[1], pages));
             notepadMemory.push_back(TStarted(L"notepad.exe", L"Notepad").PeakMegabytes());
         }
     } catch (const TAutomationError& fault) {
@@ -93,14 +158,13 @@ int wmain(int count, wchar_t** arguments) {
     }
     const double first = MedianOf(tabs, &TShowings::First);
     const double second = MedianOf(tabs, &TShowings::Second);
-    std::printf("medians of %d runs\n", runs);
-    std::printf("%-32s first %7.2f ms            second %7.2f ms\n", "a tab of winecfg", first, second);
+    std::printf("medians of %d runs, in ms and beside a tab of winecfg\n", runs);
+    std::printf("%-32s first %5.1f       second %5.1f\n", "a tab of winecfg", first, second);
     for (const auto& [name, times] : pages)
-        std::printf(
-            "%-32s first %7.2f ms ratio %4.2f second %7.2f ms ratio %4.2f first, created %7.2f ms ratio "
-            "%4.2f\n",
-            Utf8(name).c_str(), Median(times.First), Median(times.First) / first, Median(times.Second),
-            Median(times.Second) / second, Median(times.FirstCreated), Median(times.FirstCreated) / first);
+        std::printf("%-32s first %5.1f %4.2f  second %5.1f %4.2f  first, created %5.1f %4.2f\n",
+                    Utf8(name).c_str(), Median(times.First), Median(times.First) / first,
+                    Median(times.Second), Median(times.Second) / second, Median(times.FirstCreated),
+                    Median(times.FirstCreated) / first);
     std::printf("peak memory      notepad %7.1f MB   Quilltune %7.1f MB   ratio %6.2f\n",
                 Median(notepadMemory), Median(ownMemory), Median(ownMemory) / Median(notepadMemory));
     return 0;

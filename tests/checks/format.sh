@@ -2,4 +2,4 @@
 # Every source file is as clang-format leaves it.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
-find app settings engine platform ui base tests tools -name '*.h' -o -name '*.cpp' | xargs clang-format --dry-run -Werror
+find console app settings engine platform ui base tests tools -name '*.h' -o -name '*.cpp' | xargs clang-format --dry-run -Werror
