@@ -167,7 +167,9 @@ void TQuilltune_FormMain::CarryOutNow(const TForm& asker, const TChangeSet& oper
         [&] { CarryOutRecorded(FSystem, operations, done); },
         [&] {
             FIsCarryingOut = false;
-            FReview->Reload(FVisitedPages);
+            std::set<std::wstring> takenBack;
+            for (const TOperation& operation : operations) takenBack.insert(operation.Setting);
+            FReview->Reload(FVisitedPages, takenBack);
             EnableApply();
         },
         [&] {

@@ -85,21 +85,22 @@ void TPendingReview::ShowMarks() {
 }
 
 void TPendingReview::TakeBack(const std::vector<std::wstring>& settings, const std::set<int>& loadedPages) {
-    for (const std::wstring& setting : Together({settings.begin(), settings.end()})) {
+    const std::set<std::wstring> takenBack = Together({settings.begin(), settings.end()});
+    for (const std::wstring& setting : takenBack) {
         FContext.Changes.RemoveSetting(setting);
         FContext.Firefox.Revert(setting);
     }
     FContext.FirefoxChanged = FContext.FirefoxChanged && !FContext.Firefox.Edited().empty();
     FTwins.Written();
-    Reload(loadedPages);
+    Reload(loadedPages, takenBack);
 }
 
-void TPendingReview::Reload(const std::set<int>& loadedPages) {
+void TPendingReview::Reload(const std::set<int>& loadedPages, const std::set<std::wstring>& takenBack) {
     const std::set<std::wstring> pending = Together(Pending());
     const auto isPending = [&](const std::wstring& control) { return pending.contains(control); };
     const auto edits = FContext.Firefox.Edited();
     for (const auto& page : FPages)
-        if (loadedPages.contains(page->Tag())) page->Reload(isPending);
+        if (loadedPages.contains(page->Tag())) page->Reload(isPending, takenBack);
     if (FContext.FirefoxChanged)
         for (const auto& edit : edits) FContext.Firefox.Change(edit.QuotedName, edit.After, edit.Setting);
     FTwins.PagesReloaded();

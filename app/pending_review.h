@@ -26,8 +26,9 @@ class TPendingReview {
     /// show what is stored there, as if it had never been changed.
     void TakeBack(const std::vector<std::wstring>& settings, const std::set<int>& loadedPages);
 
-    /// The pages that were loaded show what is stored wherever nothing is pending.
-    void Reload(const std::set<int>& loadedPages);
+    /// The pages that were loaded show what is stored wherever nothing is pending, and in any case for the settings whose
+    /// changes were taken back.
+    void Reload(const std::set<int>& loadedPages, const std::set<std::wstring>& takenBack = {});
 
   private:
     /// Whether an earlier operation stands for this one in a list.

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <map>
 
+#include "engine/reg_value.h"
 #include "platform/numeric_fields.h"
 #include "settings/rights.h"
+#include "settings/store.h"
 #include "ui/containers.h"
 #include "ui/controls.h"
 #include "ui/spoken_name.h"
@@ -31,6 +33,15 @@ void HideField(TControl& control) {
 bool Holds(const TControl& container, const TControl* control) {
     while (control != nullptr && control != &container) control = control->Parent();
     return control != nullptr;
+}
+
+std::set<std::wstring> NamesOf(const TRow& row) {
+    const auto names = ControlsOf(row);
+    return {names.begin(), names.end()};
+}
+
+bool Meet(const std::set<std::wstring>& some, const std::set<std::wstring>& others) {
+    return std::ranges::any_of(some, [&](const std::wstring& name) { return others.contains(name); });
 }
 
 /// Whether the control lies in the container and is seen wherever that is. A sheet may be out of sight for a while.
@@ -73,24 +84,58 @@ void TPage::Load() {
     if (!HasAdministratorRights(FContext.System)) MarkControlsForAllUsers(FContext, FDefinition);
     ApplyLacks(FContext, FDefinition);
     if (FDefinition.Prepare != nullptr && !FDefinition.Prepare(FContext)) return;
-    RunLoaders(FDefinition.Loaders, [](const std::wstring&) { return false; });
+    RunLoaders(FDefinition.Loaders, {});
 }
 
-void TPage::Reload(const TIsPending& isPending) {
+void TPage::Reload(const TIsPending& isPending, const std::set<std::wstring>& takenBack) {
     const TLoadingScope loading(FContext, FDefinition.ShowsPending);
-    std::set<std::wstring> kept;
-    for (const TLoader& loader : FDefinition.Loaders) {
-        for (const TRow& row : loader) {
-            const auto names = ControlsOf(row);
-            if (!std::ranges::any_of(names, isPending)) continue;
-            kept.insert(names.begin(), names.end());
-            kept.merge(TouchedBy(row));
-        }
-    }
+    const std::set<std::wstring> left = Left(isPending, takenBack);
+    std::set<std::wstring> kept = left;
+    for (const TLoader& loader : FDefinition.Loaders)
+        for (const TRow& row : loader)
+            if (left.contains(ControlsOf(row).front())) kept.merge(TouchedBy(row));
     Reset(kept);
     ApplyLacks(FContext, FDefinition);
     if (FDefinition.Prepare == nullptr || FDefinition.Prepare(FContext))
-        RunLoaders(FDefinition.Loaders, isPending);
+        RunLoaders(FDefinition.Loaders, left);
+}
+
+std::set<std::wstring> TPage::Left(const TIsPending& isPending,
+                                   const std::set<std::wstring>& takenBack) const {
+    std::set<std::wstring> shown;
+    for (const TLoader& loader : FDefinition.Loaders)
+        for (const TRow& row : loader)
+            if (LoadedOn(row).Include(FContext.Release)) shown.merge(NamesOf(row));
+    std::set<std::wstring> left;
+    for (const TLoader& loader : FDefinition.Loaders) {
+        // A command goes back with what was recorded of it, which other rows of its loader do as well.
+        const bool isTakenBack =
+            std::ranges::any_of(loader, [&](const TRow& row) { return Meet(NamesOf(row), takenBack); });
+        for (const TRow& row : loader) {
+            std::set<std::wstring> names = NamesOf(row);
+            const auto* program = std::get_if<TProgramRow>(&row);
+            const bool isUsers = (!Meet(names, shown) && !Meet(names, takenBack)) ||
+                                 (program != nullptr && !isTakenBack && IsTyped(*program));
+            if (isUsers || std::ranges::any_of(names, isPending)) left.merge(names);
+        }
+    }
+    return left;
+}
+
+bool TPage::IsTyped(const TProgramRow& row) const {
+    const std::wstring& text = FContext.Form.Find<TEdit>(row.Edit)->Text();
+    const auto shown = FCommands.find(row.Edit);
+    if (shown == FCommands.end() || shown->second == text) return false;
+    const auto stored = Stored(FContext, row.Value);
+    return !stored || AsText(*stored) != text;
+}
+
+void TPage::NoteCommands(const std::set<std::wstring>& left) {
+    for (const TLoader& loader : FDefinition.Loaders)
+        for (const TRow& row : loader)
+            if (const auto* program = std::get_if<TProgramRow>(&row);
+                program != nullptr && !left.contains(program->Button))
+                FCommands[program->Edit] = FContext.Form.Find<TEdit>(program->Edit)->Text();
 }
 
 void TPage::Reset() {
@@ -113,18 +158,18 @@ void TPage::Reset(const std::set<std::wstring>& kept) {
     }
 }
 
-void TPage::RunLoaders(std::span<const TLoader> loaders, const TIsPending& isPending) {
+void TPage::RunLoaders(std::span<const TLoader> loaders, const std::set<std::wstring>& left) {
     for (; !loaders.empty(); loaders = loaders.subspan(1)) {
         try {
             for (const TRow& row : loaders.front())
-                if (IsOffered(row) && !std::ranges::any_of(ControlsOf(row), isPending))
-                    LoadRow(FContext, row);
+                if (IsOffered(row) && !left.contains(ControlsOf(row).front())) LoadRow(FContext, row);
         } catch (...) {
-            RunLoaders(loaders.subspan(1), isPending);
+            RunLoaders(loaders.subspan(1), left);
             throw;
         }
     }
     ApplyNeeds(FContext, FDefinition);
+    NoteCommands(left);
 }
 
 void TPage::Changed(TComponent& sender) {

@@ -1,6 +1,7 @@
 // A page of settings: a form of named controls, and a catalogue that says what each control stands for.
 #pragma once
 
+#include <map>
 #include <set>
 
 #include "settings/needs.h"
@@ -83,7 +84,9 @@ class TPage {
 
     /// Shows the live system's state in the controls for which nothing is pending, as if they were loaded for the first time.
     /// Those that something pending has enabled or disabled stay so. Preferences are read again, and what was set is dropped.
-    void Reload(const TIsPending& isPending);
+    /// What no loader shows on this Windows, and what the user has typed and no row has recorded, stays as well, unless its
+    /// change is among those that were taken back.
+    void Reload(const TIsPending& isPending, const std::set<std::wstring>& takenBack);
 
     /// Brings every control into the state that it had when the page was first loaded. Before that nothing happens.
     void Reset();
@@ -100,8 +103,14 @@ class TPage {
 
     void TakeDown(const TControl& container);
     void Reset(const std::set<std::wstring>& kept);
+    /// The controls of the rows that a reload leaves alone.
+    [[nodiscard]] std::set<std::wstring> Left(const TIsPending& isPending,
+                                              const std::set<std::wstring>& takenBack) const;
+    /// Whether the row's edit holds what the user has typed, and not what is or was stored.
+    [[nodiscard]] bool IsTyped(const TProgramRow& row) const;
+    void NoteCommands(const std::set<std::wstring>& left);
     /// A fault ends its loader only.
-    void RunLoaders(std::span<const TLoader> loaders, const TIsPending& isPending);
+    void RunLoaders(std::span<const TLoader> loaders, const std::set<std::wstring>& left);
     void Listen(TControl& container);
     void ListenToRow(const TRow& row);
     /// Hides what this Windows has no use for, and names things as it does: when the page is loaded, but also before it gets its
@@ -120,4 +129,5 @@ class TPage {
     TNotifyEvent FChanged;
     const TControl* FRoot;
     std::vector<TBuilt> FBuilt;
+    std::map<std::wstring, std::wstring> FCommands;  ///< what loaders have shown in edits that do not record
 };

@@ -112,17 +112,17 @@ TLevels LevelsOf(const TRow& row) {
     return std::visit([](const auto& kind) { return kind.Levels; }, row);
 }
 
+TLevels LoadedOn(const TRow& row) {
+    return std::visit([](const auto& kind) { return kind.Levels & kind.LoadedOn; }, row);
+}
+
 TRestart RestartOf(const TRow& row) {
     return std::visit([](const auto& kind) { return kind.Restart; }, row);
 }
 
 void LoadRow(TPageContext& context, const TRow& row) {
-    if (!LevelsOf(row).Include(context.Release)) return;
-    std::visit(
-        [&](const auto& kind) {
-            if (kind.LoadedOn.Include(context.Release)) Load(context, kind);
-        },
-        row);
+    if (!LoadedOn(row).Include(context.Release)) return;
+    std::visit([&](const auto& kind) { Load(context, kind); }, row);
 }
 
 void RecordRow(TPageContext& context, const TRow& row, TComponent& sender) {

@@ -328,6 +328,9 @@ using TLoader = std::span<const TRow>;
 /// is not offered.
 [[nodiscard]] TLevels LevelsOf(const TRow& row);
 
+/// Where its loader shows something. Elsewhere its controls are the user's, who is asked for nothing but what he sets.
+[[nodiscard]] TLevels LoadedOn(const TRow& row);
+
 /// Whether Windows must restart before a change takes effect.
 [[nodiscard]] TRestart RestartOf(const TRow& row);
 

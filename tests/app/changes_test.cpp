@@ -197,6 +197,49 @@ TEST(TChanges, TakingBackLeavesWhatIsStored) {
     EXPECT_GT(some, 10);
 }
 
+TEST(TChanges, LeaveWhatNoLoaderShowsAsTheUserLeftItUntilTheyAreTakenBack) {
+    constexpr auto kTree = L"Checkbox_Folder_View_Windows_Tree";  // which Windows 7 has, but does not read
+    constexpr auto kOpen = L"Radio_FileType_OpenFile_DefaultPrograme_Open";
+    TWorld world(0);
+    const auto store = [&](const wchar_t* command) {
+        world.Fake.Registry.Put({TRootKey::ClassesRoot, L"\\Unknown\\shell\\open\\command\\", L""},
+                                {TRegDataType::String, std::wstring(command)});
+    };
+    world.Fake.Windows.SetVersion({.PlatformId = 2, .Major = 6, .Minor = 1});
+    store(L"old.exe");
+    world.Open();
+    auto& tree = *world.Window->Find<TCheckBox>(kTree);
+    auto& command = *world.Window->Find<TEdit>(L"Edit_FileType_OpenFile_DefaultPrograme_Open");
+    auto& open = *world.Window->Find<TRadioButton>(kOpen);
+    const auto takeBack = [&](const wchar_t* caption) {
+        world.Dialog(L"Button_Changes", [&](TForm& dialog) {
+            auto& list = List(dialog, L"ListView_Changes");
+            for (std::size_t i = 0; i < list.Rows().size(); ++i)
+                if (list.Rows()[i].Cells[0].find(caption) != std::wstring::npos)
+                    list.SetSelected({i}, static_cast<int>(i));
+            Press(dialog, L"Button_Changes_Revert");
+        });
+    };
+
+    tree.SetChecked(true);
+    Press(*world.Window, L"Button_Apply");
+    command.SetText(L"typed.exe");
+    world.Window->ComeBack();
+    EXPECT_TRUE(tree.Checked()) << "as it was applied";
+    EXPECT_EQ(command.Text(), L"typed.exe");
+
+    open.SetChecked(false);
+    open.SetChecked(true);
+    tree.SetChecked(false);
+    tree.SetChecked(true);
+    takeBack(L"tree");
+    EXPECT_FALSE(tree.Checked());
+    EXPECT_EQ(command.Text(), L"typed.exe") << "which Apply will write";
+    Press(*world.Window, L"Button_Apply");
+    world.Undo();
+    EXPECT_EQ(command.Text(), L"old.exe");
+}
+
 constexpr const wchar_t* kSavesAccess = L"Checkbox_Drives_Common_NTFS_SaveLastVisitData";
 const TRegistryPlace kSavesAccessValue{TRootKey::LocalMachine,
                                        L"System\\CurrentControlSet\\Control\\FileSystem",
