@@ -328,7 +328,7 @@ using TLoader = std::span<const TRow>;
 /// is not offered.
 [[nodiscard]] TLevels LevelsOf(const TRow& row);
 
-/// Where its loader shows something. Elsewhere its controls are the user's, who is asked for nothing but what he sets.
+/// Where its loader shows something. Elsewhere its controls have the state that the user gives them.
 [[nodiscard]] TLevels LoadedOn(const TRow& row);
 
 /// Whether Windows must restart before a change takes effect.
