@@ -44,8 +44,10 @@ void TQuilltune_FormMain::Button_ApplyClick() {
 
 void TQuilltune_FormMain::FormComeBack() {
     if (FIsCarryingOut || FContext.Loading || !FChanges.IsEmpty() || FContext.FirefoxChanged) return;
-    FReview->Reload(FVisitedPages);
-    FDetails->Refresh();
+    TakeAll({
+        [&] { FReview->Reload(FVisitedPages); },
+        [&] { FDetails->Refresh(); },
+    });
 }
 
 void TQuilltune_FormMain::OfferRestart(const TForm& asker, TRestart restart) {
@@ -84,8 +86,10 @@ void TQuilltune_FormMain::Button_ChangesClick() {
                                   {.Pending = [this] { return FReview->Changes(); },
                                    .TakeBack =
                                        [this](const std::vector<std::wstring>& settings) {
-                                           FReview->TakeBack(settings, FVisitedPages);
-                                           EnableApply();
+                                           TakeAll({
+                                               [&] { FReview->TakeBack(settings, FVisitedPages); },
+                                               [&] { EnableApply(); },
+                                           });
                                        },
                                    .Export = [this](const TForm& asker) { Export(asker); }});
     ShowModal(dialog);
@@ -170,8 +174,8 @@ void TQuilltune_FormMain::CarryOutNow(const TForm& asker, const TChangeSet& oper
             std::set<std::wstring> takenBack;
             for (const TOperation& operation : operations) takenBack.insert(operation.Setting);
             FReview->Reload(FVisitedPages, takenBack);
-            EnableApply();
         },
+        [&] { EnableApply(); },
         [&] {
             if (done.Written.RestartNeeded == TRestart::Windows) OfferRestart(asker, TRestart::Windows);
         },

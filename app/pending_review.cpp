@@ -1,6 +1,7 @@
 #include "app/pending_review.h"
 
 #include <algorithm>
+#include <exception>
 #include <iterator>
 
 #include "base/decimal.h"
@@ -99,9 +100,16 @@ void TPendingReview::Reload(const std::set<int>& loadedPages, const std::set<std
     const std::set<std::wstring> pending = Together(Pending());
     const auto isPending = [&](const std::wstring& control) { return pending.contains(control); };
     const auto edits = FContext.Firefox.Edited();
-    for (const auto& page : FPages)
-        if (loadedPages.contains(page->Tag())) page->Reload(isPending, takenBack);
+    std::exception_ptr fault;
+    for (const auto& page : FPages) {
+        try {
+            if (loadedPages.contains(page->Tag())) page->Reload(isPending, takenBack);
+        } catch (...) {
+            if (!fault) fault = std::current_exception();
+        }
+    }
     if (FContext.FirefoxChanged)
         for (const auto& edit : edits) FContext.Firefox.Change(edit.QuotedName, edit.After, edit.Setting);
     FTwins.PagesReloaded();
+    if (fault) std::rethrow_exception(fault);
 }

@@ -27,7 +27,7 @@ class TPendingReview {
     void TakeBack(const std::vector<std::wstring>& settings, const std::set<int>& loadedPages);
 
     /// The pages that were loaded show what is stored wherever nothing is pending, and in any case for the settings whose
-    /// changes were taken back.
+    /// changes were taken back. A page's fault is let out when all of them are done.
     void Reload(const std::set<int>& loadedPages, const std::set<std::wstring>& takenBack = {});
 
   private:

@@ -145,7 +145,7 @@ void TPage::Reset() {
 
 void TPage::TakeDown(const TControl& container) {
     for (TControl* control : container.Children()) {
-        FBuilt.push_back({control, StateOf(*control), control->Enabled()});
+        FBuilt.push_back({control, StateOf(*control), control->Enabled(), control->Visible()});
         TakeDown(*control);
     }
 }
@@ -155,6 +155,8 @@ void TPage::Reset(const std::set<std::wstring>& kept) {
         if (kept.contains(built.Control->Name())) continue;
         SetState(*built.Control, built.State);
         built.Control->SetEnabled(built.IsEnabled);
+        // What else comes and goes does so with the Windows that runs.
+        if (built.Control->Kind() == TComponentKind::Image) built.Control->SetVisible(built.IsVisible);
     }
 }
 

@@ -99,6 +99,7 @@ class TPage {
         TControl* Control;
         TControlState State;
         bool IsEnabled;
+        bool IsVisible;
     };
 
     void TakeDown(const TControl& container);

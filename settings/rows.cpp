@@ -98,6 +98,10 @@ std::set<std::wstring> TouchedBy(const TRow& row) {
             if constexpr (requires { kind.OnClick; })
                 if (kind.OnClick != nullptr) std::ranges::for_each(kind.OnClick->Enables, add);
             if constexpr (requires { kind.Toggles; }) add(kind.Toggles);
+            if constexpr (requires { kind.FirstShows; }) {
+                add(kind.FirstShows);
+                add(kind.SecondShows);
+            }
             if constexpr (requires { kind.Fields; })
                 for (const TBoxField& field : kind.Fields) add(field.Edit);
             if constexpr (requires { kind.Button; }) {

@@ -192,7 +192,7 @@ constexpr TLevelCaption kLevelCaptions[] = {
 
 /// A Windows without firewall has no group for it either.
 bool Prepare(TPageContext& context) {
-    if (!HasFirewall(context)) context.Form.Find(L"GroupBox_Net_Internet_WindowsFirewall")->SetVisible(false);
+    context.Form.Find(L"GroupBox_Net_Internet_WindowsFirewall")->SetVisible(HasFirewall(context));
     return true;
 }
 

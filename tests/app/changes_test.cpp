@@ -108,6 +108,17 @@ class TWorld : public TRandomSystem {
         return rows;
     }
 
+    /// Takes back the change of the last setting with these words in its name.
+    void TakeBack(const wchar_t* words) {
+        Dialog(L"Button_Changes", [&](TForm& dialog) {
+            auto& list = List(dialog, L"ListView_Changes");
+            for (std::size_t i = 0; i < list.Rows().size(); ++i)
+                if (list.Rows()[i].Cells[0].find(words) != std::wstring::npos)
+                    list.SetSelected({i}, static_cast<int>(i));
+            Press(dialog, L"Button_Changes_Revert");
+        });
+    }
+
     /// What the controls of the pages show.
     std::map<std::wstring, std::tuple<TControlState, bool, bool>> Shown() {
         std::map<std::wstring, std::tuple<TControlState, bool, bool>> shown;
@@ -211,15 +222,6 @@ TEST(TChanges, LeaveWhatNoLoaderShowsAsTheUserLeftItUntilTheyAreTakenBack) {
     auto& tree = *world.Window->Find<TCheckBox>(kTree);
     auto& command = *world.Window->Find<TEdit>(L"Edit_FileType_OpenFile_DefaultPrograme_Open");
     auto& open = *world.Window->Find<TRadioButton>(kOpen);
-    const auto takeBack = [&](const wchar_t* caption) {
-        world.Dialog(L"Button_Changes", [&](TForm& dialog) {
-            auto& list = List(dialog, L"ListView_Changes");
-            for (std::size_t i = 0; i < list.Rows().size(); ++i)
-                if (list.Rows()[i].Cells[0].find(caption) != std::wstring::npos)
-                    list.SetSelected({i}, static_cast<int>(i));
-            Press(dialog, L"Button_Changes_Revert");
-        });
-    };
 
     tree.SetChecked(true);
     Press(*world.Window, L"Button_Apply");
@@ -232,12 +234,43 @@ TEST(TChanges, LeaveWhatNoLoaderShowsAsTheUserLeftItUntilTheyAreTakenBack) {
     open.SetChecked(true);
     tree.SetChecked(false);
     tree.SetChecked(true);
-    takeBack(L"tree");
+    world.TakeBack(L"tree");
     EXPECT_FALSE(tree.Checked());
     EXPECT_EQ(command.Text(), L"typed.exe") << "which Apply will write";
     Press(*world.Window, L"Button_Apply");
     world.Undo();
     EXPECT_EQ(command.Text(), L"old.exe");
+}
+
+TEST(TChanges, OfPreferencesOutliveAPageThatCannotBeReadWhole) {
+    constexpr auto kBlink = L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing";
+    TWorld world(0);
+    world.Fake.Windows.SetVersion({.PlatformId = 2, .Major = 6, .Minor = 1});
+    world.Fake.Files.PutText(TWorld::kUserFile, "user_pref(\"browser.tabs.closeButtons\", \"none\");\r\n");
+    EXPECT_THROW(world.Open(), std::exception);
+    auto& tree = *world.Window->Find<TCheckBox>(L"Checkbox_Folder_View_Windows_Tree");
+    tree.SetChecked(!tree.Checked());
+    world.Window->Find<TCheckBox>(kBlink)->SetChecked(true);
+    EXPECT_THROW(world.TakeBack(L"tree"), std::exception) << "which the fault log tells";
+    EXPECT_EQ(world.PendingRows().size(), 1U);
+    EXPECT_EQ(world.Window->Find(L"Button_Changes")->Caption(), L"1 change\u2026");
+    Press(*world.Window, L"Button_Apply");
+    const auto saved = world.Fake.Files.Read(TWorld::kUserFile);
+    EXPECT_NE(std::string(saved->begin(), saved->end()).find("blink"), std::string::npos);
+}
+
+TEST(TChanges, OfALogonScreenTakeItsPictureBackWithThem) {
+    TWorld world(0);
+    world.Fake.Windows.SetVersion({.PlatformId = 2, .Major = 6, .Minor = 1});
+    world.Open();
+    const auto shown = [&](const wchar_t* which) {
+        return world.Window->Find(std::wstring(L"Image_UserLogin_Common_LoginInterface_") + which)->Visible();
+    };
+    world.Window->Find<TRadioButton>(L"Radio_UserLogin_Common_LoginInterface_2k")->SetChecked(true);
+    EXPECT_TRUE(shown(L"Info") && !shown(L"xp"));
+    world.Window->ComeBack();
+    world.TakeBack(L"");
+    EXPECT_TRUE(shown(L"xp") && !shown(L"Info"));
 }
 
 constexpr const wchar_t* kSavesAccess = L"Checkbox_Drives_Common_NTFS_SaveLastVisitData";

@@ -82,6 +82,18 @@ TEST_F(TMainWindow, ShowsWhatWasStoredMeanwhileWhenTheUserComesBack) {
     EXPECT_TRUE(Enabled(L"Button_Apply"));
 }
 
+TEST_F(TMainWindow, TheFirewallIsThereOnBothPagesOnceItsServiceAnswers) {
+    Open(5, 1);
+    Click(L"RzGroup_Communication.Items[2]");
+    for (const bool answers : {false, true}) {
+        if (answers) Fake.Services.Put(L"SharedAccess", {.State = TServiceState::Running});
+        Window->ComeBack();
+        for (const wchar_t* control : {L"ChkeckBox_CommonSettings_Security_SecuritySettings_StartWF",
+                                       L"GroupBox_Net_Internet_WindowsFirewall"})
+            EXPECT_EQ(Window->Find(control)->Visible(), answers);
+    }
+}
+
 TEST_F(TMainWindow, AFaultWhileAPageLoadsEndsItsLoaderOnly) {
     InstallFirefox(
         "user_pref(\"browser.blink_allowed\", false);"
