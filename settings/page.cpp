@@ -106,6 +106,7 @@ std::set<std::wstring> TPage::Left(const TIsPending& isPending,
     for (const TLoader& loader : FDefinition.Loaders)
         for (const TRow& row : loader)
             if (LoadedOn(row).Include(FContext.Release)) shown.merge(NamesOf(row));
+    for (const wchar_t* name : FDefinition.StartsFromOther) shown.erase(name);
     std::set<std::wstring> left;
     for (const TLoader& loader : FDefinition.Loaders) {
         // A command goes back with what was recorded of it, which other rows of its loader do as well.

@@ -57,6 +57,8 @@ struct TPageDefinition {
     std::span<const TTwin> Twins = {};
     std::span<const TNeed> Needs = {};  ///< beside those of its rows, for controls that no row enables
     std::span<const TLack> Lacks = {};
+    /// Controls that start from another setting's value: to show it again would undo to the eye what was applied.
+    TControlNames StartsFromOther = {};
     bool ShowsPending = false;     ///< its loaders show changes of other pages that are not written yet
     bool LoadsEveryVisit = false;  ///< otherwise only the first one
     /// Runs before the loaders, with the loading mark set; they do not run when it answers false.

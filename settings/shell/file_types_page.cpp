@@ -250,10 +250,18 @@ constexpr TNeed kNeeds[] = {
     {.Controls = kNoEndExeProgram, .Of = kNoEndExeRadios[kWithProgram]},
 };
 
+constexpr const wchar_t* kStartsFromOther[] = {kNoEndExeRadios[kWithDialog], kNoEndExeRadios[kWithProgram],
+                                               kOpenPicture};
+
 constexpr TOffer kOffers[] = {{L"Checkbox_FileType_MenuOperation_Drive_OpenDrive", kUntilXp}};
 
-constexpr TPageDefinition kPage{
-    .Tag = 2, .Design = Design, .Loaders = kLoaders, .Presets = kPresets, .Offers = kOffers, .Needs = kNeeds};
+constexpr TPageDefinition kPage{.Tag = 2,
+                                .Design = Design,
+                                .Loaders = kLoaders,
+                                .Presets = kPresets,
+                                .Offers = kOffers,
+                                .Needs = kNeeds,
+                                .StartsFromOther = kStartsFromOther};
 
 }  // namespace
 

@@ -223,11 +223,15 @@ TEST(TChanges, LeaveWhatNoLoaderShowsAsTheUserLeftItUntilTheyAreTakenBack) {
     auto& command = *world.Window->Find<TEdit>(L"Edit_FileType_OpenFile_DefaultPrograme_Open");
     auto& open = *world.Window->Find<TRadioButton>(kOpen);
 
+    auto& picture = *world.Window->Find<TCheckBox>(L"Checkbox_FileType_Advanced_PictureAndFax_OpenPicture");
+    const bool wasChecked = picture.Checked();  // as another setting's value says
+    picture.SetChecked(!wasChecked);
     tree.SetChecked(true);
     Press(*world.Window, L"Button_Apply");
     command.SetText(L"typed.exe");
     world.Window->ComeBack();
     EXPECT_TRUE(tree.Checked()) << "as it was applied";
+    EXPECT_NE(picture.Checked(), wasChecked);
     EXPECT_EQ(command.Text(), L"typed.exe");
 
     open.SetChecked(false);
