@@ -6,7 +6,7 @@ CacheFolder="${XDG_CACHE_HOME:-$HOME/.cache}/quilltune"
 # What each task needs, as Debian 12 package names.
 BuildPackages=(cmake ninja-build make gcc g++ g++-mingw-w64-i686-win32 g++-mingw-w64-x86-64-win32
                libz-mingw-w64-dev googletest dpkg-dev ca-certificates)
-WinePackages=(wine wine64 xvfb)
+WinePackages=(wine wine64 xvfb fonts-liberation)  # with letters as wide as those of Windows
 ClangPackages=(clang libclang-rt-14-dev)  # for tests and fuzzing
 
 Say() { printf '== %s\n' "$*" >&2; }
