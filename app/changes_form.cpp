@@ -1,5 +1,6 @@
 #include "app/changes_form.h"
 
+#include "app/take_all.h"
 #include "platform/language.h"
 #include "settings/change_words.h"
 
@@ -67,8 +68,7 @@ void TQuilltune_FormChanges::Button_Changes_RevertClick() {
     std::vector<std::wstring> settings;
     for (const std::size_t row : FList.Selected()) settings.push_back(FChanges[row].Setting);
     if (settings.empty()) return;
-    FHost.TakeBack(settings);
-    ShowChanges();
+    TakeAll({[&] { FHost.TakeBack(settings); }, [this] { ShowChanges(); }});
 }
 
 void TQuilltune_FormChanges::ChooseFocused() {

@@ -221,6 +221,10 @@ void TQuilltune_FormMain::RzGroup1Items0Click(TComponent& sender) {
     TakeAll({
         [&] { FFind->Clear(); },
         [&] { LoadPage(item.Tag()); },
+        // What was set of preferences is dropped when they are read again.
+        [&] {
+            if (FContext.FirefoxChanged) EnableApply();
+        },
         [&] { FHeader.Show(item); },
         [&] { Find<TNotebook>(L"Notebook_Main")->ShowPage(DecimalText(item.Tag())); },
         [&] {

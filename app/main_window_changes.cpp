@@ -21,6 +21,8 @@
 void TQuilltune_FormMain::Button_ApplyClick() {
     TRecordedApply record(FSystem, FReview->Operations(), &FFirefox);
     TWritten written;
+    const bool savesPreferences =
+        FContext.FirefoxChanged;  // those that are set while a service is waited for are not recorded
     TakeAll({
         [&] { FIsCarryingOut = true; },
         [&] { record.Begin(); },
@@ -34,7 +36,9 @@ void TQuilltune_FormMain::Button_ApplyClick() {
         [&] {
             if (written.RestartNeeded == TRestart::Explorer) OfferRestart(*this, TRestart::Explorer);
         },
-        [&] { ApplyFirefox(); },
+        [&] {
+            if (savesPreferences) ApplyFirefox();
+        },
         [&] { FTwins->Written(); },
         [&] { EnableApply(); },
         [&] { record.Complete(); },
@@ -107,7 +111,11 @@ void TQuilltune_FormMain::GoTo(const std::wstring& setting) {
     const TControl* page = control;
     while (page != nullptr && page->Kind() != TComponentKind::NotebookPage) page = page->Parent();
     if (page == nullptr) return;
+    FFind->Clear();
+    const bool isShown =
+        page == Find<TNotebook>(L"Notebook_Main")->ActivePage();  // and need not be read again
     for (const auto& component : Components()) {
+        if (isShown) break;
         if (component->Kind() != TComponentKind::CategoryItem) continue;
         auto& item = static_cast<TCategoryItem&>(*component);
         if (DecimalText(item.Tag()) == page->Name()) item.Click();

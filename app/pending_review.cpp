@@ -92,6 +92,7 @@ void TPendingReview::TakeBack(const std::vector<std::wstring>& settings, const s
         FContext.Firefox.Revert(setting);
     }
     FContext.FirefoxChanged = FContext.FirefoxChanged && !FContext.Firefox.Edited().empty();
+    FTwins.TakenBack(takenBack);
     FTwins.Written();
     Reload(loadedPages, takenBack);
 }

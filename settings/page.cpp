@@ -94,6 +94,10 @@ void TPage::Reload(const TIsPending& isPending, const std::set<std::wstring>& ta
     for (const TLoader& loader : FDefinition.Loaders)
         for (const TRow& row : loader)
             if (left.contains(ControlsOf(row).front())) kept.merge(TouchedBy(row));
+    for (const std::wstring& name : left)  // a number goes where its edit goes
+        if (const auto* upDown = FContext.Form.Find<TUpDown>(name);
+            upDown != nullptr && upDown->Associate() != nullptr)
+            kept.insert(upDown->Associate()->Name());
     Reset(kept);
     ApplyLacks(FContext, FDefinition);
     if (FDefinition.Prepare == nullptr || FDefinition.Prepare(FContext))
@@ -109,9 +113,13 @@ std::set<std::wstring> TPage::Left(const TIsPending& isPending,
     for (const wchar_t* name : FDefinition.StartsFromOther) shown.erase(name);
     std::set<std::wstring> left;
     for (const TLoader& loader : FDefinition.Loaders) {
-        // A command goes back with what was recorded of it, which other rows of its loader do as well.
+        // A command goes back with the last of what was recorded of it, which other rows of its loader do as well.
+        const auto isSome = [&](const auto& is) {
+            return std::ranges::any_of(loader, [&](const TRow& row) { return is(NamesOf(row)); });
+        };
         const bool isTakenBack =
-            std::ranges::any_of(loader, [&](const TRow& row) { return Meet(NamesOf(row), takenBack); });
+            isSome([&](const auto& names) { return Meet(names, takenBack); }) &&
+            !isSome([&](const auto& names) { return std::ranges::any_of(names, isPending); });
         for (const TRow& row : loader) {
             std::set<std::wstring> names = NamesOf(row);
             const auto* program = std::get_if<TProgramRow>(&row);

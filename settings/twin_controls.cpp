@@ -99,6 +99,12 @@ void TTwinControls::Written() {
     for (TPair& pair : FPairs) pair.Changed = pair.Changed && IsPending(pair);
 }
 
+void TTwinControls::TakenBack(const std::set<std::wstring>& controls) {
+    const auto isTaken = [&](const TControl* control) { return controls.contains(control->Name()); };
+    for (TPair& pair : FPairs)
+        if (std::ranges::any_of(pair.First.Controls, isTaken)) pair.Changed = false;
+}
+
 bool TTwinControls::IsPending(const TPair& pair) const {
     if (pair.Changed && pair.IsMarked != nullptr && pair.IsMarked(FContext)) return true;
     const auto recorded = [&](const auto& change) {

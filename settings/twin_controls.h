@@ -27,6 +27,8 @@ class TTwinControls {
 
     /// Forgets the changes that are not pending any more.
     void Written();
+    /// Forgets the changes of these controls, which were taken back.
+    void TakenBack(const std::set<std::wstring>& controls);
 
   private:
     /// What a page has of a setting.

@@ -53,6 +53,7 @@ void TFileRequests::Add(HWND window, std::wstring path) {
 
 bool TFileRequests::HandleMessage(HWND window, UINT message, LPARAM lParam) {
     if (message == WM_COPYDATA) {
+        if (lParam == 0) return true;
         if (std::wstring path = SentPath(*reinterpret_cast<const COPYDATASTRUCT*>(lParam)); !path.empty())
             Add(window, std::move(path));
         return true;

@@ -14,17 +14,18 @@ constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM 
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-/// Gives the file these bytes as its only content, written through to the disk. Room is made first: on a full disk
-/// nothing is lost.
-bool WriteWhole(HANDLE file, const std::vector<std::uint8_t>& bytes) {
+/// Gives the file its new size: where there is no room for it, nothing is lost yet.
+bool MakeRoom(HANDLE file, const std::vector<std::uint8_t>& bytes) {
+    return SetFilePointer(file, static_cast<LONG>(bytes.size()), nullptr, FILE_BEGIN) !=
+               INVALID_SET_FILE_POINTER &&
+           SetEndOfFile(file) && SetFilePointer(file, 0, nullptr, FILE_BEGIN) == 0;
+}
+
+/// Writes the bytes through to the disk.
+bool WriteAll(HANDLE file, const std::vector<std::uint8_t>& bytes) {
     const auto size = static_cast<DWORD>(bytes.size());
     DWORD written = 0;
-    const auto setSize = [file, size] {
-        return SetFilePointer(file, static_cast<LONG>(size), nullptr, FILE_BEGIN) !=
-                   INVALID_SET_FILE_POINTER &&
-               SetEndOfFile(file) && SetFilePointer(file, 0, nullptr, FILE_BEGIN) == 0;
-    };
-    return setSize() && WriteFile(file, bytes.data(), size, &written, nullptr) && written == size &&
+    return WriteFile(file, bytes.data(), size, &written, nullptr) && written == size &&
            FlushFileBuffers(file);
 }
 
@@ -46,7 +47,7 @@ class TNewContent {
         const TFileHandle file(
             CreateFileW(FPath.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes, nullptr));
         FExists = file.IsValid();
-        return FExists && WriteWhole(file.Get(), bytes);
+        return FExists && MakeRoom(file.Get(), bytes) && WriteAll(file.Get(), bytes);
     }
 
     /// Where nothing is.
@@ -54,6 +55,9 @@ class TNewContent {
 
     /// In a single step; ReplaceFileW would leave a moment without a file.
     [[nodiscard]] bool ReplaceTarget() { return Move(MOVEFILE_REPLACE_EXISTING); }
+
+    /// Leaves it where it is.
+    void Keep() { FExists = false; }
 
     [[nodiscard]] const std::wstring& Path() const { return FPath; }
 
@@ -100,11 +104,18 @@ std::vector<std::uint8_t> Rights(const std::wstring& path) {
     return rights;
 }
 
-/// Not in a single step, but the file stays the same one. Its new content lies beside it meanwhile.
-bool WriteInPlace(const std::wstring& path, const std::vector<std::uint8_t>& bytes) {
-    const TFileHandle file(
-        CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-    return file.IsValid() && WriteWhole(file.Get(), bytes);
+/// Not in a single step, but the file stays the same one. Its new content lies beside it meanwhile; should the writing stop
+/// half-way, another file is better than half of one, and where that cannot be the content stays where it is.
+bool WriteInPlace(const std::wstring& path, const std::vector<std::uint8_t>& bytes, TNewContent& content) {
+    {
+        const TFileHandle file(
+            CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+        if (!file.IsValid() || !MakeRoom(file.Get(), bytes)) return false;
+        if (WriteAll(file.Get(), bytes)) return true;
+    }
+    if (content.ReplaceTarget()) return true;
+    content.Keep();
+    return false;
 }
 
 TFileHandle OpenToRead(const std::wstring& path) {
@@ -184,7 +195,7 @@ bool TWin32Files::Replace(const std::wstring& path, const std::vector<std::uint8
     // Another file in its place would be one without the other names, and with what a new file gets for the rest.
     const bool canBeAnother = SameAttributes(attributes, GetFileAttributesW(content.Path().c_str())) &&
                               CanMoveAway(target) && Rights(target) == Rights(content.Path());
-    return (canBeAnother && content.ReplaceTarget()) || WriteInPlace(target, bytes);
+    return (canBeAnother && content.ReplaceTarget()) || WriteInPlace(target, bytes, content);
 }
 
 bool TWin32Files::CreateNew(const std::wstring& path, const std::vector<std::uint8_t>& bytes) {

@@ -263,6 +263,35 @@ TEST(TChanges, OfPreferencesOutliveAPageThatCannotBeReadWhole) {
     EXPECT_NE(std::string(saved->begin(), saved->end()).find("blink"), std::string::npos);
 }
 
+TEST(TChanges, StayAsTheyAreWhenAnotherOneIsTakenBack) {
+    TWorld world(0);
+    world.Fake.Windows.SetVersion({.PlatformId = 2, .Major = 6, .Minor = 1});
+    world.Fake.Files.PutText(TWorld::kUserFile, "user_pref(\"a\", 1);\r\n");
+    world.Open();
+    auto& tree = *world.Window->Find<TCheckBox>(L"Checkbox_Folder_View_Windows_Tree");
+    const auto& number = *world.Window->Find<TUpDown>(L"UpDown_Startup_Exit_WaitTime_Time");
+    auto& page = *world.Window->Find<TEdit>(L"Edit_CommonSettings_Display_FirefoxHomepage_HomePage");
+    auto& blink = *world.Window->Find<TCheckBox>(L"CheckBox_Firefox_Common_DynamicText_ProhibitFlashing");
+    tree.SetChecked(!tree.Checked());
+    TEdit& digits = *number.Associate();
+    digits.SetFocused(true);
+    digits.SetText(L"6000");
+    digits.SetFocused(false);
+    blink.SetChecked(!blink.Checked());
+    page.SetText(L"x");
+    world.TakeBack(L"tree");
+    EXPECT_EQ(number.Position(), 6000);
+    EXPECT_EQ(digits.Text(), L"6000");
+
+    // A twin is taken back for good, though other preferences stay.
+    world.TakeBack(L"ome page");
+    EXPECT_EQ(page.Text(), L"");
+    world.Window->Find<TCategoryItem>(L"RzGroup_Use.Items[1]")->Click();
+    EXPECT_EQ(world.PendingRows().size(), 1U) << "the number; preferences are read again";
+    EXPECT_EQ(world.Window->Find(L"Button_Changes")->Caption(), L"1 change\u2026");
+    EXPECT_FALSE(blink.Marked());
+}
+
 TEST(TChanges, OfALogonScreenTakeItsPictureBackWithThem) {
     TWorld world(0);
     world.Fake.Windows.SetVersion({.PlatformId = 2, .Major = 6, .Minor = 1});

@@ -141,6 +141,30 @@ TEST_F(TModal, EndsWithItsOwner) {
     EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
 
+TEST_F(TModal, EndsWithItsOwnerThatAnotherProgramCloses) {
+    HANDLE other = nullptr;
+    Open([&] {
+        const auto close = [](void* owner) -> DWORD {
+            SendMessageW(static_cast<HWND>(owner), WM_CLOSE, 0, 0);
+            return 0;
+        };
+        other = CreateThread(nullptr, 0, close, HandleOf(Form), 0, nullptr);
+    });
+    EXPECT_EQ(WaitForSingleObject(other, 5000), WAIT_OBJECT_0);
+    CloseHandle(other);
+    EXPECT_EQ(HandleOf(Dialog), nullptr);
+    MSG message;
+    EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "the program ends";
+}
+
+TEST_F(TModal, LeavesTheFocusWhereTheKeyboardGoesOn) {
+    Open([&] {
+        Form.Find(L"Opens")->SetEnabled(false);
+        Dialog.Close();
+    });
+    EXPECT_EQ(GetFocus(), Window(L"Before"));
+}
+
 TEST_F(TModal, LeavesTheEndOfTheProgramToTheOuterLoop) {
     Open([] { PostQuitMessage(7); });
     EXPECT_EQ(HandleOf(Dialog), nullptr);

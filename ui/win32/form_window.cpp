@@ -17,7 +17,10 @@ class TDisabledWindow {
     }
     ~TDisabledWindow() {
         EnableWindow(FWindow, TRUE);
-        SetFocus(FFocus);
+        // What was done in the other window may have left nothing to do there.
+        const bool takesFocus = IsWindowEnabled(FFocus) && IsWindowVisible(FFocus);
+        SetFocus(takesFocus || !IsChild(FWindow, FFocus) ? FFocus
+                                                         : GetNextDlgTabItem(FWindow, FFocus, FALSE));
     }
     TDisabledWindow(const TDisabledWindow&) = delete;
     TDisabledWindow& operator=(const TDisabledWindow&) = delete;
@@ -74,7 +77,11 @@ int TFormWindow::Run() {
         }
         FAttention.FollowPointer(message);
         if (PressFormKey(*this, message)) continue;
-        if (message.message == WM_QUIT) return static_cast<int>(message.wParam);
+        if (message.message == WM_QUIT) {
+            // The end of the program is the outer loop's affair.
+            if (FOwner != nullptr) PostQuitMessage(static_cast<int>(message.wParam));
+            return static_cast<int>(message.wParam);
+        }
         if (Handle() == nullptr || !IsDialogMessageW(Handle(), &message)) {
             TranslateMessage(&message);
             DispatchMessageW(&message);
@@ -104,11 +111,8 @@ void TFormWindow::ShowModal(TForm& dialog) {
     window.Show(SW_SHOW);
     SetFocus(GetNextDlgTabItem(window.Handle(), nullptr, FALSE));
     if (dialog.FirstFocus != nullptr) dialog.Reveal(*dialog.FirstFocus);
-    // The end of the program is the outer loop's affair.
-    if (const int exitCode = window.Run(); window.Handle() != nullptr) {
-        PostQuitMessage(exitCode);
-        DestroyWindow(window.Handle());
-    }
+    window.Run();
+    if (window.Handle() != nullptr) DestroyWindow(window.Handle());
 }
 
 void TFormWindow::Reveal(TControl& control) {

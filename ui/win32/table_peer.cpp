@@ -48,8 +48,9 @@ const std::wstring& TTablePeer::TextOf(std::size_t row, std::size_t cell) {
     if (row >= rows.size() || cell >= rows[row].Cells.size()) return kNone;
     const std::wstring& text = rows[row].Cells[cell];
     if (!FDraws) return text;
-    FDrawn = CutInside(text, [&](const std::wstring& each) { return Fits(each, cell); });
-    return FDrawn;
+    std::rotate(FDrawn.begin(), FDrawn.begin() + 1, FDrawn.end());
+    FDrawn.back() = CutInside(text, [&](const std::wstring& each) { return Fits(each, cell); });
+    return FDrawn.back();
 }
 
 bool TTablePeer::Fits(const std::wstring& text, std::size_t cell) const {

@@ -2,6 +2,8 @@
 // be long.
 #pragma once
 
+#include <array>
+
 #include "ui/win32/list_view_peer.h"
 
 class TTablePeer : public TListViewPeer {
@@ -48,5 +50,6 @@ class TTablePeer : public TListViewPeer {
     int FOpened = -1;          ///< the row that the user has opened
     bool FHasOwnWidths = false;
     bool FDraws = false;
-    std::wstring FDrawn;  ///< the text that Windows was told last to draw
+    /// The texts that Windows was told last to draw. It may look at one until it has asked for two more (NMLVDISPINFO).
+    std::array<std::wstring, 3> FDrawn;
 };
