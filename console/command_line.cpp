@@ -178,7 +178,10 @@ TExitStatus RunCommandLine(TSystem& system, const std::vector<std::wstring>& arg
     try {
         Run(task, words);
     } catch (const TWrongUsage& usage) {
-        console.Complain(L"qtune: " + usage.Message);
+        std::wstring line = usage.Message;  // what was typed may have several
+        std::ranges::replace_if(
+            line, [](wchar_t c) { return c == L'\r' || c == L'\n'; }, L' ');
+        console.Complain(L"qtune: " + line);
         return TExitStatus::WrongUsage;
     }
     return task.Status();

@@ -22,18 +22,28 @@ std::optional<TChangeSet> ReadFile(TTask& task) {
     auto content = ReadChangeFile(task.System, path, task.Captions());
     if (auto* changes = std::get_if<TChangeSet>(&content)) return std::move(*changes);
     auto& reason = std::get<std::wstring>(content);
-    if (task.System.Files.Size(path)) throw TWrongUsage{std::move(reason)};
+    if (task.System.Files.Read(path)) throw TWrongUsage{std::move(reason)};
     task.Fail(reason);
     return std::nullopt;
 }
 
+/// Places that are not as they should be.
+struct TFailed {
+    std::set<std::wstring> Places;
+    std::vector<std::wstring> Keys;  ///< and all that is in them, each with a backslash
+
+    [[nodiscard]] bool Include(const std::wstring& place) const {
+        return Places.contains(place) ||
+               std::ranges::any_of(Keys, [&](const std::wstring& key) { return place.starts_with(key); });
+    }
+};
+
 /// What the operations change, with `done` when they were carried out.
-TList Records(const std::vector<TListView::TRow>& rows, const wchar_t* now,
-              const std::set<std::wstring>* failed) {
+TList Records(const std::vector<TListView::TRow>& rows, const wchar_t* now, const TFailed* failed) {
     TList list;
     for (const TListView::TRow& row : rows) {
         TRecord record{{L"place", {row.Cells[0]}}, {now, {row.Cells[1]}}, {L"after", {row.Cells[2]}}};
-        if (failed != nullptr) record.push_back({L"done", {!failed->contains(row.Cells[0])}, false});
+        if (failed != nullptr) record.push_back({L"done", {!failed->Include(row.Cells[0])}, false});
         list.push_back({std::move(record)});
     }
     return list;
@@ -51,10 +61,14 @@ void Apply(TTask& task, const TChangeSet& operations) {
     NotifyShell(task.System.Shell, task.Release, done.Written.AssociationsChanged);
     if (done.SavedPreferences) task.Console.Complain(task.Captions()[TCaption::RestartFirefox]);
     task.Need(done.Written.RestartNeeded);
-    std::set<std::wstring> failed;
-    for (const TOperation& operation : done.Failed)
-        if (failed.insert(PlaceWords(operation.Target, task.Captions())).second)
-            FailAt(task, operation.Target);
+    TFailed failed;
+    for (const TOperation& operation : done.Failed) {
+        const std::wstring place = PlaceWords(operation.Target, task.Captions());
+        if (!failed.Places.insert(place).second) continue;
+        FailAt(task, operation.Target);
+        const auto* registry = std::get_if<TRegistryTarget>(&operation.Target);
+        if (registry != nullptr && registry->IsKey) failed.Keys.push_back(place + L'\\');
+    }
     task.Print({Records(rows, L"before", &failed)});
 }
 
@@ -126,6 +140,8 @@ void ExportFile(TTask& task) {
     for (std::size_t i = 1; i < task.Words.size(); ++i) settings.push_back(&task.Setting(task.Words[i]));
     const bool isAll = settings.empty();
     if (isAll) settings = task.Catalogue().Settings();
+    TFirefoxPrefs preferences(task.System);
+    preferences.LoadFirefoxPrefs();
     TChangeSet operations;
     std::set<std::wstring> known;
     TList list;
@@ -138,7 +154,7 @@ void ExportFile(TTask& task) {
             const std::wstring place = PlaceWords(operation.Target, task.Captions());
             if (std::holds_alternative<std::monostate>(operation.Effect) || !known.insert(place).second)
                 continue;
-            const TContent content = ContentOf(task.System, operation.Target, nullptr);
+            const TContent content = ContentOf(task.System, operation.Target, &preferences);
             list.push_back(
                 {TRecord{{L"setting", {operation.Setting}, false},
                          {L"place", {place}},

@@ -7,6 +7,8 @@
 #include "app/history.h"
 #include "console/outcome_words.h"
 #include "engine/carry_out.h"
+#include "platform/text.h"
+#include "settings/row_places.h"
 #include "settings/tell_explorer.h"
 
 namespace {
@@ -22,6 +24,8 @@ struct TPlan {
     struct TStep {
         std::wstring Id;
         TControlState State;
+        bool CanBeSet = true;  ///< otherwise the setting can only be in that state
+        bool IsStored = false;
     };
 
     TRelease Release{};
@@ -54,23 +58,52 @@ TRelease ReleaseFor(const TTask& task, const TSetting& setting) {
     return *nearest;
 }
 
+TWrongUsage WrongState(const TTask& task, const TSetting& setting, const TStates& states,
+                       const std::wstring& words) {
+    std::wstring allowed;
+    for (const std::wstring& each : AllowedWords(states)) allowed += (allowed.empty() ? L"" : L", ") + each;
+    return {task.Texts(TText::WrongState, {setting.Id, words, allowed})};
+}
+
 TControlState StateFor(const TTask& task, TCatalogue& catalogue, const TSetting& setting,
                        const std::wstring& words) {
     const TStates states = catalogue.States(setting);
     if (states.Kind == TStateKind::None) throw TWrongUsage{task.Texts(TText::WindowOnly, {setting.Id})};
     if (const auto state = ParseState(states, words)) return *state;
-    std::wstring allowed;
-    for (const std::wstring& each : AllowedWords(states)) allowed += (allowed.empty() ? L"" : L", ") + each;
-    throw TWrongUsage{task.Texts(TText::WrongState, {setting.Id, words, allowed})};
+    // What only another setting's change brings about it may be in.
+    if (states.Kind == TStateKind::On && SameText(words, WordsOf(states, false))) return false;
+    if (states.Kind == TStateKind::Item && words == WordsOf(states, TItemState{-1})) return TItemState{-1};
+    throw WrongState(task, setting, states, words);
 }
 
-/// A button is in no state: it can always be pressed.
-bool IsIn(TCatalogue& catalogue, const TSetting& setting, const TControlState& state) {
-    return catalogue.PendingState(setting).State == state && !std::holds_alternative<std::monostate>(state);
+/// Of a button that is given what it would ask for: whether that is stored. Other buttons can always be pressed.
+bool IsStored(TCatalogue& catalogue, const TSetting& setting, const TControlState& state) {
+    if (catalogue.PendingState(setting).State != TControlState() || state == TControlState()) return false;
+    const auto changes = catalogue.WouldWrite(setting, state);
+    return !changes.empty() &&
+           std::ranges::all_of(changes, [](const TChange& change) { return change.Before == change.After; });
+}
+
+TPlan::TStep StepFor(const TTask& task, TCatalogue& catalogue, const TSetting& setting,
+                     const std::wstring& words) {
+    TPlan::TStep step{setting.Id, StateFor(task, catalogue, setting, words)};
+    step.CanBeSet = catalogue.States(setting).Allow(step.State);
+    step.IsStored = IsStored(catalogue, setting, step.State);
+    return step;
+}
+
+bool IsIn(TCatalogue& catalogue, const TPlan::TStep& step) {
+    if (step.State == TControlState()) return false;
+    return step.IsStored || catalogue.PendingState(*catalogue.Find(step.Id)).State == step.State;
 }
 
 /// Why the setting cannot be changed, in a line.
-std::wstring Refusal(const TTask& task, TCatalogue& catalogue, const TSetting& setting) {
+std::wstring Refusal(const TTask& task, TCatalogue& catalogue, const TPlan::TStep& step) {
+    const TSetting& setting = *catalogue.Find(step.Id);
+    if (!step.CanBeSet) {
+        const TStates states = catalogue.States(setting);
+        return WrongState(task, setting, states, WordsOf(states, step.State)).Message;
+    }
     if (!catalogue.PendingState(setting).IsOffered) return task.Texts(TText::NotOfferedForce, {setting.Id});
     const std::wstring reasons = catalogue.ReasonsFor(setting);
     return task.Texts(TText::NotEnabledForce, {setting.Id}) + (reasons.empty() ? L"" : L" ") + reasons;
@@ -83,13 +116,13 @@ void Check(const TTask& task, TCatalogue& catalogue, std::vector<TPlan::TStep> w
         const auto next = std::ranges::find_if(waiting, [&](const TPlan::TStep& step) {
             const TSetting& setting = *catalogue.Find(step.Id);
             const TPresent present = catalogue.PendingState(setting);
-            const bool canStay = present.IsEnabled || IsIn(catalogue, setting, step.State);
-            return task.Force || (present.IsOffered && canStay);
+            const bool isIn = IsIn(catalogue, step);
+            if (!step.CanBeSet && !isIn) return false;
+            return task.Force || (present.IsOffered && (present.IsEnabled || isIn));
         });
-        if (next == waiting.end())
-            throw TWrongUsage{Refusal(task, catalogue, *catalogue.Find(waiting.front().Id))};
+        if (next == waiting.end()) throw TWrongUsage{Refusal(task, catalogue, waiting.front())};
         const TSetting& setting = *catalogue.Find(next->Id);
-        if (!IsIn(catalogue, setting, next->State)) {
+        if (!IsIn(catalogue, *next)) {
             catalogue.Change(setting, next->State);
             plan.Steps.push_back(std::move(*next));
         }
@@ -120,7 +153,10 @@ std::vector<TPlan> PlansFor(TTask& task) {
         TCatalogue catalogue(task.System, &task.Language(), release);
         std::vector<TPlan::TStep> steps;
         for (const TAssignment& each : assignments)
-            steps.push_back({each.Id, StateFor(task, catalogue, *catalogue.Find(each.Id), each.State)});
+            steps.push_back(StepFor(task, catalogue, *catalogue.Find(each.Id), each.State));
+        // A Default button may change what is stored for others.
+        if (std::ranges::count(steps, TControlState(), &TPlan::TStep::State) != 0)
+            for (TPlan::TStep& step : steps) step.IsStored = false;
         plans.push_back({.Release = release});
         Check(task, catalogue, std::move(steps), plans.back());
     }
@@ -163,8 +199,14 @@ void CarryOut(TTask& task, const TPlan& plan, TList& list) {
     NotifyShell(task.System.Shell, task.Release,
                 written.AssociationsChanged || ChangesDesktopIcons(catalogue, plan));
     Try(task, [&] {
-        if (preferences != nullptr && preferences->SaveFirefoxPrefs())
-            task.Console.Complain(task.Captions()[TCaption::RestartFirefox]);
+        if (preferences == nullptr) return;
+        if (preferences->SaveFirefoxPrefs())
+            return task.Console.Complain(task.Captions()[TCaption::RestartFirefox]);
+        // There is no profile to save to.
+        for (const TPlan::TStep& step : plan.Steps)
+            for (const TRow* row : catalogue.Find(step.Id)->Rows)
+                for (const TTarget& target : TargetsOf(*row))
+                    if (std::holds_alternative<TPreferenceTarget>(target)) FailAt(task, target);
     });
     Try(task, [&] { record.Complete(); });
     task.Need(written.RestartNeeded);

@@ -236,7 +236,10 @@ const TSetting* TCatalogue::Find(std::wstring_view id) const {
 }
 
 std::vector<const TSetting*> TCatalogue::Search(std::wstring_view text) const {
-    const std::vector<std::wstring> words = WordsIn(text);
+    std::vector<std::wstring> words = WordsIn(text);
+    for (std::wstring& word : words)  // a place is known without its root
+        if (FindText(word, L"HKEY_") == 0 && word.find(L'\\') != std::wstring::npos)
+            word.erase(0, word.find(L'\\') + 1);
     std::vector<std::pair<int, const TSetting*>> ranked;
     for (const TSetting* setting : FSettings)
         if (const auto rank = RankOf(*setting, words)) ranked.emplace_back(*rank, setting);

@@ -27,6 +27,14 @@ TControlState StateFor(const TControl& control, const TControlState& state) {
     return DecimalText(number->Number);
 }
 
+/// Presses the button even where other settings disable it: what it does, or shall do in spite of them.
+void Press(TButton& button) {
+    const bool isEnabled = button.Enabled();
+    if (!isEnabled) button.SetEnabled(true);
+    button.Click();
+    if (!isEnabled) button.SetEnabled(false);
+}
+
 }  // namespace
 
 TPageModel::TPageModel(const TPageDefinition& definition, TPageContext& context, TScratchSystem& scratch,
@@ -50,7 +58,7 @@ void TPageModel::Load() {
 
 const TScratchDialogs& TPageModel::Probe(TButton& button) {
     FScratch.Dialogs = {};
-    button.Click();
+    Press(button);
     return FScratch.Dialogs;
 }
 
@@ -142,7 +150,7 @@ void TPageModel::Change(TControl& control, const TControlState& state) {
             FScratch.Dialogs = {};
             if (const auto* color = std::get_if<TColorState>(&state)) FScratch.Dialogs.Color = color->Color;
             if (const auto* file = std::get_if<std::wstring>(&state)) FScratch.Dialogs.File = *file;
-            return static_cast<TButton&>(control).Click();
+            return Press(static_cast<TButton&>(control));
         }
         if (StateOf(control) == wanted) LeaveState(control, wanted);
         auto* edit = control.Kind() == TComponentKind::Edit ? &static_cast<TEdit&>(control) : nullptr;

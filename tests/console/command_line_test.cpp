@@ -70,6 +70,7 @@ TEST(TCommandLine, AnswersWrongUsageInOneLineAndWritesNothing) {
         {{L"get", L"NTFS_SaveShotrName"}, "Checkbox_Drives_Common_NTFS_SaveShortName"},
         {{L"get", L"NTFS_Save"}, "part of 2 settings"},
         {{L"show", L"\x1F600"}, "No setting"},
+        {{L"get", L"two\r\nlines"}, "two  lines"},
         {{L"set", kShortNames}, "ID=STATE"},
         {{L"set", L"=on"}, "No setting"},
         {{L"set", L"NTFS_SaveShortName=on", L"NTFS_SaveShortName=perhaps"}, "on, off"},
@@ -187,9 +188,10 @@ TEST(TCommandLine, ShowsWhatIsStoredAndChangesIt) {
     EXPECT_EQ(shown["state"], "off");
     EXPECT_EQ(shown["stored"][0]["content"], "0x00000001 (1)");
     EXPECT_EQ(shown["writes"][0]["after"], "0x00000000 (0)");
-    EXPECT_EQ(line.Run({L"find", L"8dot3", L"--json"}).Json()[0]["id"], ToUtf8(kShortNames));
     const std::string place =
         "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\FileSystem\\NtfsDisable8dot3NameCreation";
+    for (const std::string& words : {std::string("8dot3"), place})
+        EXPECT_EQ(line.Run({L"find", FromUtf8(words), L"--json"}).Json()[0]["id"], ToUtf8(kShortNames));
     const std::string change = place + "\t0x00000001 (1)\t0x00000000 (0)";
     const auto before = line.Snapshot(true);  // there is no history yet
     EXPECT_THAT(line.Run({L"set", L"NTFS_SaveShortName=on", L"--dry-run"}).Lines, ElementsAre(change));
@@ -208,6 +210,62 @@ TEST(TCommandLine, ShowsWhatIsStoredAndChangesIt) {
     EXPECT_EQ(line.Run({L"undo", L"2"}).Status, TExitStatus::Done);
     EXPECT_EQ(line.Run({L"undo", L"2"}).Status, TExitStatus::Restart) << "the balloon tips";
     EXPECT_EQ(line.Snapshot(), before);
+}
+
+TEST(TCommandLine, GivesAColorEvenToAButtonThatIsDisabledAndNoneTwice) {
+    constexpr auto kBox = L"Checkbox_Folder_List_EAndCFileWithColor";
+    const std::wstring button = L"Button_Folder_List_CompressedFile_Change";
+    TCommandLine line;
+    line.Fake.Registry.Put(
+        {TRootKey::CurrentUser, L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced",
+         L"ShowCompColor"},
+        {TRegDataType::Dword, 0});
+    ASSERT_THAT(line.Run({L"get", kBox}).Lines, ElementsAre("off"));
+    EXPECT_EQ(line.Run({L"set", button + L"=#102030"}).Status, TExitStatus::WrongUsage) << "it is disabled";
+    const std::vector<std::wstring> words{L"set", button + L"=#102030", kBox + std::wstring(L"=on")};
+    EXPECT_THAT(line.Run(words).Lines, SizeIs(2));
+    EXPECT_THAT(line.Run({L"get", button}).Lines, ElementsAre("#102030"));
+    EXPECT_THAT(line.Run(words).Lines, IsEmpty()) << "it is so already";
+    EXPECT_THAT(line.Run({L"set", kBox + std::wstring(L"=off")}).Lines, SizeIs(1));
+    EXPECT_THAT(line.Run({L"set", button + L"=#405060", L"--force"}).Lines, SizeIs(1));
+    EXPECT_THAT(line.Run({L"get", button}).Lines, ElementsAre("#405060"));
+}
+
+TEST(TCommandLine, TakesOfAChoiceWhatGetPrints) {
+    TCommandLine line;
+    const std::wstring on = L"Radio_Folder_List_ArrangeIcons_WithNumber=";
+    const std::wstring off = L"Radio_Folder_List_ArrangeIcons_WithLetter=";
+    EXPECT_NE(line.Run({L"set", on + L"on"}).Status, TExitStatus::WrongUsage);
+    const auto before = line.Snapshot(true);
+    EXPECT_EQ(line.Run({L"set", on + L"on", off + L"off"}).Status, TExitStatus::Done);
+    const TAnswer refused = line.Run({L"set", on + L"off"});
+    EXPECT_EQ(refused.Status, TExitStatus::WrongUsage);
+    EXPECT_THAT(refused.Messages, ElementsAre(HasSubstr("It takes: on")));
+    EXPECT_EQ(line.Snapshot(true), before);
+    EXPECT_THAT(line.Run({L"set", on + L"off", off + L"on"}).Lines, SizeIs(1));
+    EXPECT_THAT(line.Run({L"get", off.substr(0, off.size() - 1)}).Lines, ElementsAre("on"));
+}
+
+TEST(TCommandLine, NamesPreferencesAndSaysWhenTheyCannotBeSaved) {
+    TCommandLine line;
+    line.Fake.Registry.PutKey(TRootKey::LocalMachine,
+                              L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Mozilla Firefox");
+    const wchar_t* const file = L"C:\\Data\\f.reg";
+    line.Fake.Files.PutText(file, "");
+    const std::wstring autoFill = L"Checkbox_Firefox_Use_AddressBar_AutoFill";
+    for (const bool hasProfile : {true, false}) {
+        line.Fake.Files.Remove(L"C:\\Data\\Mozilla\\Firefox\\profiles.ini");
+        if (hasProfile) {
+            line.Fake.Files.PutText(L"C:\\Data\\Mozilla\\Firefox\\profiles.ini",
+                                    "[Profile0]\nIsRelative=1\nPath=p\n");
+            line.Fake.Files.PutText(TCommandLine::kUserFile,
+                                    "user_pref(\"browser.urlbar.autoFill\", true);\r\n");
+            EXPECT_EQ(line.Run({L"export", file, autoFill, L"--json"}).Json()[0]["content"], "true");
+        }
+        const TAnswer set = line.Run({L"set", autoFill + (hasProfile ? L"=off" : L"=on")});
+        EXPECT_EQ(set.Status, hasProfile ? TExitStatus::Done : TExitStatus::Failed);
+        EXPECT_THAT(set.Messages, ElementsAre(HasSubstr(hasProfile ? "Firefox" : "browser.urlbar.autoFill")));
+    }
 }
 
 TEST(TCommandLine, SaysWhenOnlyExplorerMustRestart) {
@@ -237,6 +295,8 @@ TEST(TCommandLine, NamesWhatCannotBeWrittenAndWritesTheRest) {
     line.Fake.Files.PutText(L"C:\\f.reg", "REGEDIT4\n\n[HKEY_LOCAL_MACHINE\\K]\n\"v\"=\"x\"\n");
     EXPECT_EQ(line.Run({L"apply", L"C:\\f.reg"}).Status, TExitStatus::Failed);
     EXPECT_EQ(line.Run({L"apply", L"C:\\none.reg"}).Status, TExitStatus::Failed);
+    line.Fake.Files.Lock(L"C:\\f.reg");
+    EXPECT_EQ(line.Run({L"apply", L"C:\\f.reg"}).Status, TExitStatus::Failed);
 }
 
 /// Changes settings as a user does, and says what he did as a command line does.
