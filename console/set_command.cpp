@@ -183,6 +183,17 @@ bool IsMade(const TTask& task, const TChange& change, const TPreferenceStore& pr
     return now == change.After;
 }
 
+void SavePreferences(TTask& task, const TCatalogue& catalogue, const TPlan& plan,
+                     TFirefoxPrefs& preferences) {
+    if (preferences.SaveFirefoxPrefs())
+        return task.Console.Complain(task.Captions()[TCaption::RestartFirefox]);
+    // There is no profile to save to.
+    for (const TPlan::TStep& step : plan.Steps)
+        for (const TRow* row : catalogue.Find(step.Id)->Rows)
+            for (const TTarget& target : TargetsOf(*row))
+                if (std::holds_alternative<TPreferenceTarget>(target)) FailAt(task, target);
+}
+
 /// Adds a record of each change to the list.
 void CarryOut(TTask& task, const TPlan& plan, TList& list) {
     TCatalogue catalogue(task.System, &task.Language(), plan.Release, TScratchUse::Change);
@@ -198,16 +209,7 @@ void CarryOut(TTask& task, const TPlan& plan, TList& list) {
     Try(task, [&] { record.Supplement(); });
     NotifyShell(task.System.Shell, task.Release,
                 written.AssociationsChanged || ChangesDesktopIcons(catalogue, plan));
-    Try(task, [&] {
-        if (preferences == nullptr) return;
-        if (preferences->SaveFirefoxPrefs())
-            return task.Console.Complain(task.Captions()[TCaption::RestartFirefox]);
-        // There is no profile to save to.
-        for (const TPlan::TStep& step : plan.Steps)
-            for (const TRow* row : catalogue.Find(step.Id)->Rows)
-                for (const TTarget& target : TargetsOf(*row))
-                    if (std::holds_alternative<TPreferenceTarget>(target)) FailAt(task, target);
-    });
+    if (preferences != nullptr) Try(task, [&] { SavePreferences(task, catalogue, plan, *preferences); });
     Try(task, [&] { record.Complete(); });
     task.Need(written.RestartNeeded);
 
