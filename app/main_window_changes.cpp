@@ -90,6 +90,9 @@ void TQuilltune_FormMain::Button_ChangesClick() {
                                   {.Pending = [this] { return FReview->Changes(); },
                                    .TakeBack =
                                        [this](const std::vector<std::wstring>& settings) {
+                                           // While pages are read again, messages are handled, and preferences are between
+                                           // what was and what will be.
+                                           if (FContext.Loading) return;
                                            TakeAll({
                                                [&] { FReview->TakeBack(settings, FVisitedPages); },
                                                [&] { EnableApply(); },

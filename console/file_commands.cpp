@@ -11,6 +11,7 @@
 #include "engine/registry_tree.h"
 #include "platform/text.h"
 #include "settings/change_words.h"
+#include "settings/row_places.h"
 #include "settings/tell_explorer.h"
 
 namespace {
@@ -97,8 +98,24 @@ TEffect EffectOf(const TContent& content) {
     return std::get<TPreferenceContent>(content);
 }
 
+/// Of a setting that is on or off because a key is there: the key alone, where it has no value that would bring it along.
+std::vector<TOperation> KeyAlone(const TTask& task, const TSetting& setting) {
+    for (const TRow* row : setting.Rows) {
+        const auto* key = std::get_if<TKeyRow>(row);
+        if (key == nullptr || !LevelsOf(*row).Include(task.Release)) continue;
+        auto target = std::get<TRegistryTarget>(TargetOf(key->Value));
+        const auto content = std::get<TRegistryContent>(ContentOf(task.System, target, nullptr));
+        if (content.Value) continue;
+        target.IsKey = true;
+        const TRegAction action = content.HasKey ? TRegAction::Write : TRegAction::DeleteKey;
+        return {{setting.Id, target, TRegistryEffect{action}, setting.Restart}};
+    }
+    return {};
+}
+
 /// What is stored for the setting, as changes that bring it about elsewhere.
 TChangeSet StoredFor(TTask& task, const TSetting& setting) {
+    if (auto key = KeyAlone(task, setting); !key.empty()) return key;
     const TPresent present = task.Catalogue().Present(setting);
     const bool isMissing = std::ranges::any_of(present.Stored, [](const TPresent::TStored& each) {
         const auto* content = std::get_if<TRegistryContent>(&each.Content);

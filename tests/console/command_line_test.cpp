@@ -393,6 +393,20 @@ TEST(TCommandLine, TakesTheSettingsOfOneMachineToAnother) {
     for (unsigned seed = 0; seed < 3; ++seed) {
         TCommandLine one(seed);
         TCommandLine other(seed + 100);
+        if (seed != 0)
+            for (TCommandLine* machine : {&one, &other})
+                machine->Fake.Windows.SetVersion({.PlatformId = 2, .Major = 10, .Minor = 0, .Build = 19045});
+        // Settings that are on while a key is there, whatever is in it, or while it is not.
+        const std::wstring nameSpace =
+            L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\MyComputer\\NameSpace\\";
+        const std::pair<TCommandLine*, std::wstring> keys[] = {
+            {&one, nameSpace + L"{21EC2020-3AEA-1069-A2DD-08002B30309D}"},
+            {&other, L"SYSTEM\\CurrentControlSet\\Control\\Network\\NewNetworkWindowOff"}};
+        for (const auto& [machine, key] : keys) {
+            for (TCommandLine* each : {&one, &other})
+                (void)each->Fake.Registry.DeleteKey(TRootKey::LocalMachine, key);
+            machine->Fake.Registry.PutKey(TRootKey::LocalMachine, key);
+        }
         const wchar_t* const file = L"C:\\Data\\all.reg";
         one.Fake.Files.PutText(file, "");
         EXPECT_THAT(one.Run({L"export", file}).Messages, IsEmpty());
