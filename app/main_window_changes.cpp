@@ -21,8 +21,8 @@
 void TQuilltune_FormMain::Button_ApplyClick() {
     TRecordedApply record(FSystem, FReview->Operations(), &FFirefox);
     TWritten written;
-    const bool savesPreferences =
-        FContext.FirefoxChanged;  // those that are set while a service is waited for are not recorded
+    // What is set of them while a service is waited for is not in the record.
+    const bool savesPreferences = FContext.FirefoxChanged;
     TakeAll({
         [&] { FIsCarryingOut = true; },
         [&] { record.Begin(); },

@@ -24,8 +24,8 @@ struct TPlan {
     struct TStep {
         std::wstring Id;
         TControlState State;
-        bool CanBeSet = true;  ///< otherwise the setting can only be in that state
-        bool IsStored = false;
+        bool CanBeSet = true;   ///< otherwise the setting can only be in that state
+        bool IsStored = false;  ///< of a button that is given a color or a file: that is stored already
     };
 
     TRelease Release{};
